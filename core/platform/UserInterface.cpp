@@ -1,0 +1,73 @@
+#include "platform/UserInterface.h"
+
+#include <QTextStream>
+
+namespace {
+
+// Used when nothing else is installed: says what it would show and answers the default.
+class HeadlessUserInterface final : public UserInterface
+{
+public:
+    MessageResult messageBox(const QString &text,
+                             MessageButtons buttons,
+                             MessageIcon,
+                             const QString &title) override
+    {
+        QTextStream(stderr) << title << ": " << text << Qt::endl;
+        switch (buttons) {
+        case MessageButtons::OK:
+        case MessageButtons::OKCancel:
+            return MessageResult::OK;
+        case MessageButtons::YesNo:
+        case MessageButtons::YesNoCancel:
+            return MessageResult::No;
+        }
+        return MessageResult::OK;
+    }
+    bool getOpenFilename(FileDialogRequest &) override { return false; }
+    bool getSaveFilename(FileDialogRequest &) override { return false; }
+    void showHelp(HelpCommand, const QString &, int) override {}
+    bool shellOpen(const QString &) override { return false; }
+};
+
+HeadlessUserInterface headless;
+UserInterface *installed = nullptr;
+
+} // namespace
+
+UserInterface::~UserInterface() = default;
+
+void UserInterface::addToRecentDocs(const QString &) {}
+
+UserInterface &UserInterface::current()
+{
+    return installed ? *installed : headless;
+}
+
+void UserInterface::install(UserInterface *ui)
+{
+    installed = ui;
+}
+
+QString programTitle()
+{
+    return QStringLiteral("Quorin Administrator");
+}
+
+void showWarning(const QString &text, const QString &title)
+{
+    UserInterface::current().messageBox(text, MessageButtons::OK, MessageIcon::Exclamation, title);
+}
+
+MessageResult askYesNo(const QString &text, const QString &title)
+{
+    return UserInterface::current().messageBox(text, MessageButtons::YesNo, MessageIcon::Question, title);
+}
+
+MessageResult askYesNoCancel(const QString &text, const QString &title)
+{
+    return UserInterface::current().messageBox(text,
+                                               MessageButtons::YesNoCancel,
+                                               MessageIcon::Question,
+                                               title);
+}

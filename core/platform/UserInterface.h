@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QString>
+
+enum class MessageButtons { OK, OKCancel, YesNo, YesNoCancel };
+enum class MessageIcon { None, Critical, Question, Exclamation, Information };
+enum class MessageResult { OK, Cancel, Yes, No };
+
+// The in/out values of an open or save dialog; on confirmation `folder` is `path` less `fileTitle`.
+struct FileDialogRequest
+{
+    int fileType = 1;
+    QString title;
+    QString fileTitle;
+    QString folder;
+    QString path;
+};
+
+enum class HelpCommand { Contents, Search, Topic, Context };
+
+// Everything the logic asks of a person or of the desktop. The GUI implements it with real
+// dialogs; tests with a scripted fake that records what was shown; tools with the console.
+class UserInterface
+{
+public:
+    virtual ~UserInterface();
+
+    virtual MessageResult messageBox(const QString &text,
+                                     MessageButtons buttons,
+                                     MessageIcon icon,
+                                     const QString &title)
+        = 0;
+    virtual bool getOpenFilename(FileDialogRequest &request) = 0;
+    virtual bool getSaveFilename(FileDialogRequest &request) = 0;
+    virtual void showHelp(HelpCommand command, const QString &topic, int context) = 0;
+    // Opens a document or address with the desktop's handler; false when nothing could.
+    virtual bool shellOpen(const QString &document) = 0;
+    virtual void addToRecentDocs(const QString &filename);
+
+    // The process-wide interface; a headless one (stderr, default answers) until one is installed.
+    static UserInterface &current();
+    // Not owned; pass nullptr to go back to the headless one.
+    static void install(UserInterface *ui);
+};
+
+// The program's title, carried by every message box that is given none.
+QString programTitle();
+
+// The box shapes the Parts use, each on UserInterface::current().
+void showWarning(const QString &text, const QString &title = programTitle());
+MessageResult askYesNo(const QString &text, const QString &title = programTitle());
+MessageResult askYesNoCancel(const QString &text, const QString &title = programTitle());

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+// Where tests find their data and write their files. Settings live in a temporary folder for
+// the whole run, so no test touches the user's real settings.
+namespace TestEnvironment {
+
+QString sourceDir();
+// ../shared/data beside the checkout; tests that need it skip when it is absent.
+QString sharedDataDir();
+QString sampleRulebase();
+// A fresh folder, removed at exit.
+QString makeTempDir();
+// Removes every stored setting, for tests that need a first run.
+void clearSettings();
+
+} // namespace TestEnvironment
