@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <memory>
 
 class LogFile;
@@ -12,6 +14,9 @@ extern std::shared_ptr<LogFile> gobjLogFile;
 extern std::shared_ptr<QuorinData> gobjQuorinData;
 extern std::shared_ptr<QuorinAdminData> gobjAdminData;
 extern int glGlobalObjectsUsers;
+
+// Major, minor as "00", revision as "0000": 6.2.1 gives "6.02.0001".
+QString programComponentVersion();
 
 int CreateGlobalObjects();
 void DestroyGlobalObjects();
