@@ -1,0 +1,296 @@
+#include "application/Application.h"
+
+#include "application/IMainForm.h"
+#include "platform/ErrorFrame.h"
+#include "platform/FileUtils.h"
+#include "platform/GlobalObjects.h"
+#include "platform/QuorinAdminData.h"
+#include "platform/QuorinData.h"
+#include "platform/TextUtils.h"
+#include "platform/UserInterface.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/RulebaseLoadCriteria.h"
+#include "rulebase/RulebaseManager.h"
+#include "views/IViewController.h"
+
+#include <QDir>
+
+namespace {
+
+constexpr const char *module = "Application";
+
+struct ViewInfo
+{
+    const char *toolId;
+    int helpContext;
+};
+
+const ViewInfo views[] = {
+    {"tlCodingConventions", 65},
+    {"tlNamingConventions", 66},
+    {"tlAuthorisedItems", 67},
+    {"tlCategoryView", 68},
+    {"tlSeverityView", 69},
+};
+
+const ViewInfo *findView(const QString &name)
+{
+    for (const ViewInfo &v : views) {
+        if (Text::same(name, QLatin1String(v.toolId)))
+            return &v;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+Application::Application(IMainForm *mainForm, ViewFactory viewFactory)
+    : m_mainForm(mainForm)
+    , m_viewFactory(std::move(viewFactory))
+{}
+
+Application::~Application() = default;
+
+void Application::Show()
+{
+    guardedVoid("Show", module, [this] {
+        m_mainForm->ShowSplashScreen();
+        m_mainForm->ShowWindow();
+        if (gobjAdminData && gobjAdminData->DisplayTips())
+            HelpTipOfDay();
+    });
+}
+
+void Application::NewRulebase()
+{
+    guardedVoid("NewRulebase", module, [this] {
+        if (!CheckForSave())
+            return;
+        m_rulebase = std::make_shared<Rulebase>();
+        if (!m_currentView) {
+            SwitchView(QStringLiteral("tlCodingConventions"));
+        } else {
+            m_currentView->setRulebase(m_rulebase);
+            m_currentView->Populate();
+        }
+        m_mainForm->Update();
+    });
+}
+
+bool Application::OpenRulebase(OpenMode mode, const QString &filename)
+{
+    return guarded("OpenRulebase", module, false, [&]() -> bool {
+        if (!CheckForSave())
+            return false;
+        QString name = filename;
+        if (mode == OpenMode::Ask) {
+            FileDialogRequest request;
+            request.fileType = 1;
+            request.title = QStringLiteral("Select Quorin Rulebase");
+            request.folder = gobjAdminData ? gobjAdminData->LastPath() : QString();
+            if (!UserInterface::current().getOpenFilename(request))
+                return false;
+            if (gobjAdminData)
+                gobjAdminData->setLastPath(request.folder);
+            name = request.path;
+        }
+        if (!FileUtils::FileExists(name)) {
+            if (mode == OpenMode::RecentList) {
+                if (askYesNo(QStringLiteral("Can't find the rulebase '") + name
+                             + QStringLiteral("', do you want to remove it from the most recently used list?"))
+                    == MessageResult::Yes) {
+                    m_mainForm->RemoveFromMRUList(name);
+                }
+            } else {
+                showWarning(QStringLiteral("Can't find the rulebase '") + name + QStringLiteral("'."));
+            }
+            return false;
+        }
+
+        RulebaseLoadCriteria criteria;
+        criteria.setRulebaseFile(name);
+        criteria.setLoadForEdit(true);
+        // A failed load leaves no rulebase open: the one before is gone either way.
+        m_rulebase = RulebaseManager().LoadRulebase(criteria);
+        if (!m_rulebase) {
+            showWarning(QStringLiteral("Failed to open '") + name
+                        + QStringLiteral("', it may not be a valid Quorin rulebase."));
+            return false;
+        }
+        if (!Text::same(m_currentViewName, QStringLiteral("tlCategoryView"))) {
+            SwitchView(QStringLiteral("tlCategoryView"));
+        } else if (m_currentView) {
+            m_currentView->setRulebase(m_rulebase);
+            m_currentView->Populate();
+        }
+        m_mainForm->Update();
+        return true;
+    });
+}
+
+bool Application::SaveRulebase()
+{
+    return guarded("SaveRulebase", module, false, [this]() -> bool {
+        if (!m_rulebase)
+            return false;
+        if (m_rulebase->Filename().isEmpty())
+            return SaveRulebaseAs();
+        return RulebaseManager().Save(*m_rulebase, QString());
+    });
+}
+
+bool Application::SaveRulebaseAs()
+{
+    return guarded("SaveRulebaseAs", module, false, [this]() -> bool {
+        if (!m_rulebase)
+            return false;
+        FileDialogRequest request;
+        request.fileType = 1;
+        request.title = QStringLiteral("Save Quorin Rulebase");
+        if (!m_rulebase->Filename().isEmpty()) {
+            request.fileTitle = m_rulebase->FileTitle();
+            request.folder = FileUtils::PathFromFilename(m_rulebase->Filename());
+            request.path = m_rulebase->Filename();
+        } else {
+            request.folder = QDir::currentPath() + QLatin1Char('/');
+            request.fileTitle = m_rulebase->Title().isEmpty() ? QStringLiteral("Untitled.qrb")
+                                                              : m_rulebase->Title() + QStringLiteral(".qrb");
+            request.path = request.folder + request.fileTitle;
+        }
+        if (!UserInterface::current().getSaveFilename(request))
+            return false;
+        const bool saved = RulebaseManager().Save(*m_rulebase, request.path);
+        if (saved) {
+            m_rulebase->setFilename(request.path);
+            m_mainForm->AddToMRUList(request.path);
+        }
+        return saved;
+    });
+}
+
+bool Application::CheckForSave()
+{
+    return guarded("CheckForSave", module, false, [this]() -> bool {
+        if (!m_rulebase || !m_rulebase->Dirty())
+            return true;
+        switch (askYesNoCancel(QStringLiteral("The current rulebase has changed, do you wish to save the changes?"))) {
+        case MessageResult::Yes:
+            return SaveRulebase();
+        case MessageResult::No:
+            return true;
+        default:
+            return false;
+        }
+    });
+}
+
+void Application::SwitchView(const QString &viewName)
+{
+    guardedVoid("SwitchView", module, [&] {
+        if (Text::same(viewName, m_currentViewName))
+            return;
+        const ViewInfo *info = findView(viewName);
+        if (!info)
+            return; // an unknown name leaves the current view in place
+        const QString toolId = QLatin1String(info->toolId);
+        m_mainForm->SetCurrentViewTool(toolId);
+        m_mainForm->SetHelpContext(info->helpContext);
+        if (std::unique_ptr<IViewController> view = m_viewFactory ? m_viewFactory(toolId) : nullptr)
+            m_currentView = std::move(view);
+        if (m_currentView)
+            m_currentView->setRulebase(m_rulebase);
+        m_currentViewName = toolId;
+        SetupView();
+        m_mainForm->Update();
+        if (m_currentView)
+            m_currentView->SetEnabledState();
+    });
+}
+
+void Application::SetupView()
+{
+    if (!m_currentView)
+        return;
+    m_currentView->setMainForm(m_mainForm);
+    m_currentView->Customise();
+    m_currentView->Populate();
+}
+
+void Application::TerminateApplication()
+{
+    m_currentView.reset();
+    m_rulebase.reset();
+    m_mainForm = nullptr;
+}
+
+void Application::HelpAbout()
+{
+    guardedVoid("HelpAbout", module, [this] { m_mainForm->RunAbout(); });
+}
+
+void Application::HelpContents()
+{
+    UserInterface::current().showHelp(HelpCommand::Contents, QString(), 0);
+}
+
+void Application::HelpSearch()
+{
+    UserInterface::current().showHelp(HelpCommand::Search, QString(), 0);
+}
+
+void Application::HelpTipOfDay()
+{
+    guardedVoid("HelpTipOfDay", module, [this] {
+        const int last = gobjAdminData ? gobjAdminData->LastTip() : 0;
+        const int shown = m_mainForm->RunTipOfDay(last);
+        if (gobjAdminData)
+            gobjAdminData->setLastTip(shown);
+    });
+}
+
+void Application::HelpTarnHomePage()
+{
+    if (gobjQuorinData)
+        ShellDocumentFile(gobjQuorinData->HomePageURL());
+}
+
+void Application::HelpTarnTechSupport()
+{
+    if (gobjQuorinData)
+        ShellDocumentFile(gobjQuorinData->TechSupportPageURL());
+}
+
+void Application::ShellDocumentFile(const QString &document)
+{
+    UserInterface::current().shellOpen(document);
+}
+
+// The dialogs behind these commands arrive with their own features.
+void Application::ShowCategoryList() {}
+void Application::ShowSeverityList() {}
+void Application::ShowDefaultViolations() {}
+void Application::ShowRulebasePropertiesDialog() {}
+void Application::ShowTagList(int) {}
+
+std::shared_ptr<IRule> Application::NewCodingConvention(bool &cancelled)
+{
+    cancelled = true;
+    return nullptr;
+}
+
+std::shared_ptr<IRule> Application::NewNamingConvention(bool &cancelled)
+{
+    cancelled = true;
+    return nullptr;
+}
+
+std::shared_ptr<IRule> Application::NewUnauthorisedKeyword(bool &cancelled)
+{
+    cancelled = true;
+    return nullptr;
+}
+
+void Application::AddAuthorisedItemsFromProject() {}
+void Application::NewAuthorisedComponent() {}
+void Application::NewAuthorisedReference() {}
+void Application::GenerateDocumentation() {}

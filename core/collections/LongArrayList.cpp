@@ -1,0 +1,3 @@
+#include "collections/LongArrayList.h"
+
+template class ArrayListBase<LongArrayListTraits>;

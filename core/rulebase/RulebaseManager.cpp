@@ -1,0 +1,363 @@
+#include "rulebase/RulebaseManager.h"
+
+#include "platform/ErrorFrame.h"
+#include "platform/FileUtils.h"
+#include "platform/GlobalObjects.h"
+#include "platform/QuorinData.h"
+#include "platform/QuorinError.h"
+#include "platform/TextUtils.h"
+#include "platform/UserInterface.h"
+#include "rulebase/AuthorisedComponent.h"
+#include "rulebase/AuthorisedComponents.h"
+#include "rulebase/AuthorisedReference.h"
+#include "rulebase/AuthorisedReferences.h"
+#include "rulebase/CategoryItem.h"
+#include "rulebase/CategoryList.h"
+#include "rulebase/CodingConvention.h"
+#include "rulebase/DefaultViolations.h"
+#include "rulebase/NamingConvention.h"
+#include "rulebase/PrefixSuffixItem.h"
+#include "rulebase/Report.h"
+#include "rulebase/RuleLists.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/RulebaseFileValues.h"
+#include "rulebase/RulebaseLoadCriteria.h"
+#include "rulebase/SeverityItem.h"
+#include "rulebase/TableItem.h"
+#include "rulebase/TagItem.h"
+#include "rulebase/UnauthorisedKeyword.h"
+#include "rulebase/VersionNumber.h"
+#include "rulebase/ViolationDefinition.h"
+#include "xml/TarnXMLDoc.h"
+#include "xml/TarnXMLElement.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+using namespace RulebaseFileValues;
+
+namespace {
+
+constexpr const char *module = "RulebaseManager";
+std::optional<bool> administratorOverride;
+
+QString noFilenameText()
+{
+    return QStringLiteral("No filename has been specified.");
+}
+
+// Tolerances: entries 1 to 6, "|"-joined.
+template<typename Get>
+QString joinTolerances(Get &&get)
+{
+    QStringList parts;
+    for (qint32 i = 1; i <= 6; ++i)
+        parts << QString::number(get(i));
+    return parts.join(QLatin1Char('|'));
+}
+
+// Part n goes to entry n + 1; more parts than the list can hold fail at the first beyond it.
+template<typename Set>
+void readTolerances(const QString &text, Set &&set)
+{
+    const QStringList parts = text.split(QLatin1Char('|'));
+    for (qsizetype n = 0; n < parts.size(); ++n)
+        set(qint32(n + 1), Text::valLong(parts.at(n)));
+}
+
+} // namespace
+
+bool RulebaseManager::IsQuorinAdministrator()
+{
+    if (administratorOverride)
+        return *administratorOverride;
+    if (QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName()
+        == QLatin1String("QuorinAdmin"))
+        return true;
+    return gobjQuorinData
+           && (FileUtils::FileExists(gobjQuorinData->LocalAppPath()
+                                     + QStringLiteral("QuorinAdmin.exe"))
+               || FileUtils::FileExists(gobjQuorinData->LocalAppPath()
+                                        + QStringLiteral("QuorinAdmin")));
+}
+
+void RulebaseManager::setAdministratorOverride(std::optional<bool> administrator)
+{
+    administratorOverride = administrator;
+}
+
+// ---------------------------------------------------------------- frames
+
+std::shared_ptr<Rulebase> RulebaseManager::LoadRulebase(const QString &filename)
+{
+    RulebaseLoadCriteria criteria;
+    criteria.setRulebaseFile(filename);
+    criteria.setLoadForEdit(true);
+    return LoadRulebase(criteria);
+}
+
+std::shared_ptr<Rulebase> RulebaseManager::LoadRulebase(RulebaseLoadCriteria &criteria)
+{
+    const QString filename = criteria.RulebaseFile();
+    if (filename.isEmpty())
+        throw QuorinError(ErrorNumber::NoFilename,
+                          QStringLiteral("RulebaseManager::LoadRulebase"),
+                          noFilenameText());
+
+    return guarded("LoadRulebase", module, nullptr, [&]() -> std::shared_ptr<Rulebase> {
+        auto rulebase = std::make_shared<Rulebase>();
+        TarnXMLDoc doc;
+        if (!doc.LoadFromFile(filename)) {
+            showWarning(QStringLiteral(
+                "Unable to load the rulebase because of an unexpected error during parsing."));
+            return nullptr;
+        }
+        TarnXMLElement root = doc.RootElement();
+        if (!CheckSchemaVersion(root)) {
+            showWarning(QStringLiteral(
+                "Unable to load the rulebase because it has an incorrect schema version."));
+            return nullptr;
+        }
+        rulebase->setFilename(filename);
+        const bool all = criteria.LoadForEdit();
+
+        LoadProperties(root.ElementByName(QStringLiteral("RulebaseProperties")), *rulebase);
+        LoadTags(root.ElementByName(QStringLiteral("ControlTags")), *rulebase->ControlTags(), 1);
+        LoadTags(root.ElementByName(QStringLiteral("DataTypeTags")), *rulebase->DataTypeTags(), 2);
+        LoadTags(root.ElementByName(QStringLiteral("ScopeTags")), *rulebase->ScopeTags(), 3);
+        LoadDefaultViolations(root.ElementByName(QStringLiteral("DefaultViolations")),
+                              *rulebase->DefaultViolations());
+        LoadCategoryList(root.ElementByName(QStringLiteral("CategoryList")),
+                         criteria,
+                         *rulebase->CategoryList());
+        LoadSeverityList(root.ElementByName(QStringLiteral("SeverityList")),
+                         *rulebase->SeverityList());
+
+        // The frame reads these elements itself, so a missing one fails the whole load.
+        const TarnXMLElement components = requireChild(root, "AuthorisedComponents");
+        criteria.setNumAuthComps(components.ElementCount());
+        if (criteria.AuthorisedComponents() || all)
+            LoadAuthorisedComponents(components, *rulebase->AuthorisedComponents());
+
+        const TarnXMLElement references = requireChild(root, "AuthorisedReferences");
+        criteria.setNumAuthRefs(references.ElementCount());
+        if (criteria.AuthorisedReferences() || all)
+            LoadAuthorisedReferences(references, *rulebase->AuthorisedReferences());
+
+        RuleLists &rules = *rulebase->RuleLists();
+        const TarnXMLElement keywords = requireChild(root, "UnauthorisedKeywords");
+        criteria.setNumUnauthKeywords(keywords.ElementCount());
+        if (criteria.UnauthorisedKeywords() || all)
+            LoadUnauthorisedKeywords(keywords, criteria, rules);
+
+        const TarnXMLElement rulesElement = requireChild(root, "Rules");
+        rules.setLastID(readLong(rulesElement, "LastRuleID"));
+
+        const TarnXMLElement coding = requireChild(rulesElement, "CodingConventions");
+        criteria.setNumCodingConventions(coding.ElementCount());
+        if (criteria.CodingConventions() || all)
+            LoadCodingConventions(coding, criteria, rules);
+
+        const TarnXMLElement naming = requireChild(rulesElement, "NamingConventions");
+        criteria.setNumNamingConventions(naming.ElementCount());
+        if (criteria.NamingConventions() || all)
+            LoadNamingConventions(naming, criteria, rules);
+
+        if (all)
+            LoadReport(root.ElementByName(QStringLiteral("Report")), *rulebase);
+
+        rulebase->setDirty(false);
+        return rulebase;
+    });
+}
+
+bool RulebaseManager::Save(Rulebase &rulebase, const QString &filename)
+{
+    const QString target = filename.isEmpty() ? rulebase.Filename() : filename;
+    if (target.isEmpty())
+        throw QuorinError(
+            ErrorNumber::NoFilename, QStringLiteral("RulebaseManager::Save"), noFilenameText());
+
+    return guarded("Save", module, false, [&]() -> bool {
+        TarnXMLDoc doc;
+        doc.NewDoc(QStringLiteral("Quorin_Rulebase"));
+        TarnXMLElement root = doc.RootElement();
+        root.setAttributeValueByName(QStringLiteral("SchemaVersion"), currentSchemaVersion());
+
+        // Every section element stands in every file, empty or not.
+        for (const char *name : {"RulebaseProperties",
+                                 "ControlTags",
+                                 "DataTypeTags",
+                                 "ScopeTags",
+                                 "DefaultViolations",
+                                 "CategoryList",
+                                 "SeverityList",
+                                 "AuthorisedComponents",
+                                 "AuthorisedReferences",
+                                 "UnauthorisedKeywords",
+                                 "Rules"}) {
+            root.AddElement(QLatin1String(name));
+        }
+        TarnXMLElement rulesElement = root.ElementByName(QStringLiteral("Rules"));
+        rulesElement.AddAttribute(QStringLiteral("LastRuleID"),
+                                  QString::number(rulebase.RuleLists()->LastID()));
+        rulesElement.AddElement(QStringLiteral("CodingConventions"));
+        rulesElement.AddElement(QStringLiteral("NamingConventions"));
+        root.AddElement(QStringLiteral("Report"));
+
+        auto section
+            = [&root](const char *name) { return root.ElementByName(QLatin1String(name)); };
+        SaveProperties(section("RulebaseProperties"), rulebase);
+        SaveTags(section("ControlTags"), *rulebase.ControlTags(), QStringLiteral("ControlTag"), 1);
+        SaveTags(
+            section("DataTypeTags"), *rulebase.DataTypeTags(), QStringLiteral("DataTypeTag"), 2);
+        SaveTags(section("ScopeTags"), *rulebase.ScopeTags(), QStringLiteral("ScopeTag"), 3);
+        SaveDefaultViolations(section("DefaultViolations"), *rulebase.DefaultViolations());
+        SaveCategoryList(section("CategoryList"), *rulebase.CategoryList());
+        SaveSeverityList(section("SeverityList"), *rulebase.SeverityList());
+        SaveAuthorisedComponents(section("AuthorisedComponents"), *rulebase.AuthorisedComponents());
+        SaveAuthorisedReferences(section("AuthorisedReferences"), *rulebase.AuthorisedReferences());
+        SaveUnauthorisedKeywords(section("UnauthorisedKeywords"), *rulebase.RuleLists());
+        rulesElement.setAttributeValueByName(QStringLiteral("LastRuleID"),
+                                             QString::number(rulebase.RuleLists()->LastID()));
+        SaveCodingConventions(rulesElement.ElementByName(QStringLiteral("CodingConventions")),
+                              *rulebase.RuleLists());
+        SaveNamingConventions(rulesElement.ElementByName(QStringLiteral("NamingConventions")),
+                              *rulebase.RuleLists());
+        SaveReport(section("Report"), *rulebase.Report()->Sections());
+
+        if (doc.SaveToFile(target)) {
+            rulebase.setDirty(false);
+            return true;
+        }
+        showWarning(QStringLiteral("Error during save: ")
+                    + TarnXMLDoc::SaveErrorText(doc.LastError()));
+        return false;
+    });
+}
+
+// ---------------------------------------------------------------- properties
+
+void RulebaseManager::LoadProperties(TarnXMLElement element, Rulebase &rulebase)
+{
+    guardedVoid("LoadProperties", module, [&] {
+        rulebase.setTitle(readText(element, "Name"));
+        rulebase.setVersion(readText(element, "Version"));
+        rulebase.setAutoIncrementVersion(readBool(element, "AutoIncrementVersion"));
+        rulebase.setDescription(readText(element, "Description"));
+        rulebase.setUnknownControlViolation(readBool(element, "UnknownControlViolation"));
+        rulebase.setUseCTagsAsDTTags(readBool(element, "UseCTagsAsDTTags"));
+        readTolerances(readText(element, "ToleranceCount"),
+                       [&](qint32 i, qint32 v) { rulebase.setToleranceCount(i, v); });
+        readTolerances(readText(element, "ToleranceImpact"),
+                       [&](qint32 i, qint32 v) { rulebase.setToleranceImpact(i, v); });
+        rulebase.setTolerancePercentageComments(readLong(element, "TolerancePercentageComments"));
+        rulebase.setToleranceCyclomaticComplexity(
+            readLong(element, "ToleranceCyclomaticComplexity"));
+        rulebase.setArrayTag(readText(element, "ArrayTag"));
+    });
+}
+
+void RulebaseManager::SaveProperties(TarnXMLElement element, Rulebase &rulebase)
+{
+    guardedVoid("SaveProperties", module, [&] {
+        writeText(element, "Name", rulebase.Title());
+        if (rulebase.AutoIncrementVersion()) {
+            // The new version stands from here on, even if the save fails later.
+            VersionNumber version;
+            version.setVersion(rulebase.Version());
+            version.Increment();
+            rulebase.setVersion(version.Version());
+        }
+        writeText(element, "Version", rulebase.Version());
+        writeBool(element, "AutoIncrementVersion", rulebase.AutoIncrementVersion());
+        writeText(element, "Description", rulebase.Description());
+        writeBool(element, "UnknownControlViolation", rulebase.UnknownControlViolation());
+        writeBool(element, "UseCTagsAsDTTags", rulebase.UseCTagsAsDTTags());
+        writeText(element, "ToleranceCount", joinTolerances([&](qint32 i) {
+                      return rulebase.ToleranceCount(i);
+                  }));
+        writeText(element, "ToleranceImpact", joinTolerances([&](qint32 i) {
+                      return rulebase.ToleranceImpact(i);
+                  }));
+        writeNumber(element, "TolerancePercentageComments", rulebase.TolerancePercentageComments());
+        writeNumber(
+            element, "ToleranceCyclomaticComplexity", rulebase.ToleranceCyclomaticComplexity());
+        writeText(element, "ArrayTag", rulebase.ArrayTag());
+    });
+}
+
+// ---------------------------------------------------------------- schema
+
+bool RulebaseManager::CheckSchemaVersion(TarnXMLElement root)
+{
+    return guarded("CheckSchemaVersion", module, false, [&]() -> bool {
+        QString version = readText(root, "SchemaVersion");
+        if (!Text::same(version, currentSchemaVersion()))
+            version = UpdateSchema(root, version);
+        return Text::same(version, currentSchemaVersion());
+    });
+}
+
+QString RulebaseManager::UpdateSchema(TarnXMLElement root, const QString &version)
+{
+    return guarded("UpdateSchema", module, QString(), [&]() -> QString {
+        // The attribute in the tree stays as it was; a save writes the current version anyway.
+        if (Text::same(version, QStringLiteral("6.0"))) {
+            Apply_6_1_SchemaUpdates(root);
+            Apply_6_2_SchemaUpdates(root);
+            return currentSchemaVersion();
+        }
+        if (Text::same(version, QStringLiteral("6.1"))) {
+            Apply_6_2_SchemaUpdates(root);
+            return currentSchemaVersion();
+        }
+        return QString();
+    });
+}
+
+void RulebaseManager::Apply_6_1_SchemaUpdates(TarnXMLElement root)
+{
+    guardedVoid("Apply_6_1_SchemaUpdates", module, [&] {
+        TarnXMLElement properties = requireChild(root, "RulebaseProperties");
+        properties.AddAttribute(QStringLiteral("ToleranceCount"),
+                                QStringLiteral("-1|-1|-1|-1|-1|-1"));
+        properties.AddAttribute(QStringLiteral("ToleranceImpact"),
+                                QStringLiteral("-1|-1|-1|-1|-1|-1"));
+        properties.AddAttribute(QStringLiteral("TolerancePercentageComments"),
+                                QStringLiteral("-1"));
+        properties.AddAttribute(QStringLiteral("ToleranceCyclomaticComplexity"),
+                                QStringLiteral("-1"));
+        root.AddElement(QStringLiteral("Report"));
+    });
+}
+
+void RulebaseManager::Apply_6_2_SchemaUpdates(TarnXMLElement root)
+{
+    guardedVoid("Apply_6_2_SchemaUpdates", module, [&] {
+        auto eachChild = [](const TarnXMLElement &parent, auto &&apply) {
+            const qint32 count = parent.ElementCount();
+            for (qint32 i = 0; i < count; ++i) {
+                TarnXMLElement child = parent.ElementAtPosition(i);
+                apply(child);
+            }
+        };
+        eachChild(requireChild(root, "ControlTags"), [](TarnXMLElement &tag) {
+            tag.AddAttribute(QStringLiteral("TagDescription"), QString());
+            tag.AddAttribute(QStringLiteral("TagExample"), QString());
+        });
+        eachChild(requireChild(root, "DataTypeTags"), [](TarnXMLElement &tag) {
+            tag.AddAttribute(QStringLiteral("TagExample"), QString());
+        });
+        eachChild(requireChild(root, "ScopeTags"), [](TarnXMLElement &tag) {
+            tag.AddAttribute(QStringLiteral("TagExample"), QString());
+        });
+        eachChild(requireChild(requireChild(root, "Rules"), "NamingConventions"),
+                  [](TarnXMLElement &rule) {
+                      rule.AddAttribute(QStringLiteral("ExclusionList"), QString());
+                      rule.AddAttribute(QStringLiteral("CaseSensitive"), QStringLiteral("True"));
+                  });
+        requireChild(root, "RulebaseProperties")
+            .AddAttribute(QStringLiteral("ArrayTag"), QString());
+    });
+}

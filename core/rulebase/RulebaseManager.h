@@ -1,0 +1,85 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+class AuthorisedComponents;
+class AuthorisedReferences;
+class CategoryList;
+class DefaultViolations;
+class Rulebase;
+class RulebaseLoadCriteria;
+class RuleLists;
+class TarnXMLElement;
+class TagItem;
+class ViolationDefinition;
+class IListItem;
+class SeverityItem;
+template<typename T>
+class ObjectKeyedArrayList;
+template<typename T>
+class ObjectArrayList;
+
+// Reads and writes rulebase files. It holds no state: made for one call and dropped. Each
+// section of the file has its own error frame, so a fault stops its section and no more.
+class RulebaseManager
+{
+public:
+    // Null when the file does not parse, has a schema that can't be brought up to date, or
+    // lacks the elements the frame reads itself. Raises when no file is named.
+    std::shared_ptr<Rulebase> LoadRulebase(RulebaseLoadCriteria &criteria);
+    // Everything, for editing.
+    std::shared_ptr<Rulebase> LoadRulebase(const QString &filename);
+    // An empty name means the rulebase's own. Does not change Rulebase::Filename.
+    bool Save(Rulebase &rulebase, const QString &filename);
+
+    void SaveCategoryList(TarnXMLElement element, const CategoryList &list);
+    void SaveSeverityList(TarnXMLElement element, const ObjectKeyedArrayList<SeverityItem> &list);
+
+    // Whether hidden categories load; by default only the administrator's program sees them.
+    static bool IsQuorinAdministrator();
+    static void setAdministratorOverride(std::optional<bool> administrator);
+
+    static QString currentSchemaVersion() { return QStringLiteral("6.2"); }
+
+private:
+    void LoadProperties(TarnXMLElement element, Rulebase &rulebase);
+    void SaveProperties(TarnXMLElement element, Rulebase &rulebase);
+    void LoadTags(TarnXMLElement element, ObjectKeyedArrayList<TagItem> &list, int tagType);
+    std::shared_ptr<TagItem> FindTagInList(const ObjectKeyedArrayList<TagItem> &list,
+                                           const QString &name);
+    void SaveTags(TarnXMLElement element,
+                  const ObjectKeyedArrayList<TagItem> &list,
+                  const QString &elementName,
+                  int tagType);
+    void LoadDefaultViolations(TarnXMLElement element, DefaultViolations &violations);
+    void SaveDefaultViolations(TarnXMLElement element, const DefaultViolations &violations);
+    void
+    LoadCategoryList(TarnXMLElement element, RulebaseLoadCriteria &criteria, CategoryList &list);
+    void LoadSeverityList(TarnXMLElement element, ObjectKeyedArrayList<SeverityItem> &list);
+    void LoadAuthorisedComponents(TarnXMLElement element, AuthorisedComponents &list);
+    void SaveAuthorisedComponents(TarnXMLElement element, const AuthorisedComponents &list);
+    void LoadAuthorisedReferences(TarnXMLElement element, AuthorisedReferences &list);
+    void SaveAuthorisedReferences(TarnXMLElement element, const AuthorisedReferences &list);
+    void LoadUnauthorisedKeywords(TarnXMLElement element,
+                                  RulebaseLoadCriteria &criteria,
+                                  RuleLists &rules);
+    void SaveUnauthorisedKeywords(TarnXMLElement element, const RuleLists &rules);
+    void
+    LoadCodingConventions(TarnXMLElement element, RulebaseLoadCriteria &criteria, RuleLists &rules);
+    void SaveCodingConventions(TarnXMLElement element, const RuleLists &rules);
+    void
+    LoadNamingConventions(TarnXMLElement element, RulebaseLoadCriteria &criteria, RuleLists &rules);
+    void SaveNamingConventions(TarnXMLElement element, const RuleLists &rules);
+    bool IsLoadableRule(RulebaseLoadCriteria &criteria, const TarnXMLElement &element);
+    bool CheckSchemaVersion(TarnXMLElement root);
+    void LoadViolationDefinition(const TarnXMLElement &rule, ViolationDefinition &definition);
+    void SaveViolationDefintion(TarnXMLElement rule, const ViolationDefinition &definition);
+    void LoadReport(TarnXMLElement element, Rulebase &rulebase);
+    void SaveReport(TarnXMLElement element, const ObjectArrayList<IListItem> &sections);
+    QString UpdateSchema(TarnXMLElement root, const QString &version);
+    void Apply_6_1_SchemaUpdates(TarnXMLElement root);
+    void Apply_6_2_SchemaUpdates(TarnXMLElement root);
+};

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+class QIODevice;
+class TarnXMLDocState;
+class TarnXMLElement;
+// The DOM's document, opaque outside core/xml.
+struct TarnXMLDocument;
+
+// An XML document. Loading drops whitespace-only text, comments and processing instructions, so
+// a loader sees elements only; a failed load leaves an empty document and logs the parser's
+// reason with its line and column. Saving is atomic and writes UTF-8 with no XML declaration
+// and no indentation. Element handles taken before a load or NewDoc keep the old tree.
+class TarnXMLDoc final
+{
+public:
+    TarnXMLDoc();
+    ~TarnXMLDoc();
+    TarnXMLDoc(const TarnXMLDoc &) = delete;
+    TarnXMLDoc &operator=(const TarnXMLDoc &) = delete;
+
+    TarnXMLDocument *Document() const;
+    // The code of the last failed SaveToFile; SaveErrorText gives its text.
+    qint32 LastError() const { return m_lastError; }
+    // Makes a "Root_Element" first when the document has no root.
+    TarnXMLElement RootElement();
+    // DTD validation; it binds only a document that has a DTD.
+    void setValidateWhileParsing(bool validate) { m_validateWhileParsing = validate; }
+    // Kept for the interface's sake: loads always finish before they return.
+    void setAsynchronousDownload(bool asynchronous) { m_asynchronousDownload = asynchronous; }
+    void NewDoc(const QString &rootName);
+    QString XMLString() const;
+    bool LoadFromFile(const QString &filename);
+    bool LoadFromString(const QString &xml);
+    // An empty name means the name of the last LoadFromFile.
+    bool SaveToFile(const QString &filename = QString());
+    QString TransformDocument(const TarnXMLDoc &stylesheet) const;
+
+    // The user's text for a LastError code, as a failed save reports it.
+    static QString SaveErrorText(qint32 code);
+
+private:
+    bool parseInto(QIODevice &device, const QString &filename);
+    bool parseText(const QString &text);
+    void LogParserError(qint32 code, const QString &reason, const char *function) const;
+
+    std::shared_ptr<TarnXMLDocState> m_document;
+    QString m_filename;
+    qint32 m_lastError = 0;
+    bool m_validateWhileParsing = true;
+    bool m_asynchronousDownload = false;
+};

@@ -1,0 +1,79 @@
+#include "xml/TarnXMLDocState.h"
+
+TarnXMLDocState::TarnXMLDocState(xmlDocPtr document)
+    : m_document(document)
+{
+}
+
+TarnXMLDocState::~TarnXMLDocState()
+{
+    // Retired nodes take their names from the document's dictionary: free them first.
+    for (xmlNodePtr node : m_retired)
+        xmlFreeNode(node);
+    xmlFreeDoc(m_document);
+}
+
+void TarnXMLDocState::setParseError(qint32 code, const QString &reason)
+{
+    m_parseErrorCode = code;
+    m_parseErrorReason = reason;
+}
+
+TarnXMLDocState::CachedChild *TarnXMLDocState::cachedFor(xmlNodePtr parent)
+{
+    for (CachedChild &entry : m_cache) {
+        if (entry.parent == parent)
+            return &entry;
+    }
+    return nullptr;
+}
+
+xmlNodePtr TarnXMLDocState::childAt(xmlNodePtr parent, qint32 position)
+{
+    if (position < 0 || parent == nullptr)
+        return nullptr;
+    if (position == 0)
+        return parent->children;
+    xmlNodePtr node = parent->children;
+    qint32 at = 0;
+    if (const CachedChild *entry = cachedFor(parent)) {
+        if (position >= entry->position) {
+            node = entry->child;
+            at = entry->position;
+        } else if (entry->position - position < position) {
+            node = entry->child;
+            for (at = entry->position; at > position; --at)
+                node = node->prev;
+        }
+    }
+    for (; node && at < position; ++at)
+        node = node->next;
+    if (node)
+        remember(parent, position, node);
+    return node;
+}
+
+void TarnXMLDocState::remember(xmlNodePtr parent, qint32 position, xmlNodePtr child)
+{
+    CachedChild *entry = cachedFor(parent);
+    if (entry == nullptr) {
+        entry = &m_cache.front();
+        for (CachedChild &candidate : m_cache) {
+            if (candidate.lastUse < entry->lastUse)
+                entry = &candidate;
+        }
+    }
+    *entry = {parent, child, position, ++m_uses};
+}
+
+void TarnXMLDocState::childrenChanged()
+{
+    m_cache.fill(CachedChild());
+}
+
+void TarnXMLDocState::retire(xmlNodePtr node)
+{
+    m_retired.push_back(node);
+    xmlUnlinkNode(node);
+    childrenChanged();
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+// Private to core/xml, like XmlSupport.h: public headers only forward declare TarnXMLDocState.
+
+#include <QString>
+
+#include <libxml/tree.h>
+
+#include <array>
+#include <vector>
+
+// What a TarnXMLDoc shares with every element handle on its tree: the tree itself, its last
+// parse error, and the position cache. The last owner to go frees the tree.
+class TarnXMLDocState final
+{
+public:
+    // Takes ownership of `document`.
+    explicit TarnXMLDocState(xmlDocPtr document);
+    ~TarnXMLDocState();
+    TarnXMLDocState(const TarnXMLDocState &) = delete;
+    TarnXMLDocState &operator=(const TarnXMLDocState &) = delete;
+
+    xmlDocPtr document() const { return m_document; }
+
+    // The DOM's parseError: what the last load reported; 0 and empty after a good one.
+    qint32 parseErrorCode() const { return m_parseErrorCode; }
+    const QString &parseErrorReason() const { return m_parseErrorReason; }
+    void setParseError(qint32 code, const QString &reason);
+
+    // The child at a 0-based position, or null. Loaders walk a parent's children in order while
+    // they look into each child, so the last answer for each of a few parents is kept, and the
+    // next position costs one step.
+    xmlNodePtr childAt(xmlNodePtr parent, qint32 position);
+    void remember(xmlNodePtr parent, qint32 position, xmlNodePtr child);
+    // Every change to a child list calls this.
+    void childrenChanged();
+
+    // Unlinks a node but keeps it until the tree goes, since a handle may still hold it.
+    void retire(xmlNodePtr node);
+
+private:
+    xmlDocPtr m_document;
+    qint32 m_parseErrorCode = 0;
+    QString m_parseErrorReason;
+    struct CachedChild
+    {
+        xmlNodePtr parent = nullptr;
+        xmlNodePtr child = nullptr;
+        qint32 position = 0;
+        quint64 lastUse = 0;
+    };
+    CachedChild *cachedFor(xmlNodePtr parent);
+
+    // Least recently used goes first: a walk's parent outlives the lookups inside each child.
+    std::array<CachedChild, 8> m_cache;
+    quint64 m_uses = 0;
+    std::vector<xmlNodePtr> m_retired;
+};

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include <memory>
+
+class TarnXMLDocState;
+// The DOM's node, opaque outside core/xml: callers may compare it, nothing more.
+struct TarnXMLNode;
+
+// A light handle on one node of a TarnXMLDoc's tree; it keeps the tree alive. Children are
+// addressed by 0-based position. Searches that find nothing give a null handle; every member
+// except isNull() and XMLNode() fails on a null handle with the runtime's error for a missing
+// object (QuorinError), which reaches the caller's error frame. Attribute values are escaped
+// on the way in and restored on the way out (ReplaceIllegalChars / RestoreIllegalChars).
+class TarnXMLElement final
+{
+public:
+    TarnXMLElement() = default;
+
+    bool isNull() const { return m_node == nullptr; }
+    explicit operator bool() const { return m_node != nullptr; }
+
+    // Null for a null handle.
+    TarnXMLNode *XMLNode() const { return m_node; }
+    QString XMLString() const;
+    // All child nodes, as the loaders rely on whitespace-only text having been dropped.
+    qint32 ElementCount() const;
+    // The DOM's node type: 1 element, 3 text, 4 CDATA, 8 comment...
+    qint32 ElementType() const;
+    // The base name; empty for nodes that have none, such as text.
+    QString ElementName() const;
+
+    // The plain accessors: an index or name that names no attribute fails (QuorinError).
+    qint32 AttributeCount() const;
+    QString AttributeName(qint32 index) const;
+    QString AttributeValue(qint32 index) const;
+    void setAttributeValue(qint32 index, const QString &value);
+    QString AttributeValueByName(const QString &name) const;
+    // Adds the attribute when it is absent, so assignment always works.
+    void setAttributeValueByName(const QString &name, const QString &value);
+    // Replaces an attribute of that name.
+    void AddAttribute(const QString &name, const QString &value);
+
+    // The first child from `startAt` on (from 0 when it lies outside the children) whose name
+    // matches ignoring case; `position` gets its position, or -1.
+    TarnXMLElement ElementByName(const QString &name) const;
+    TarnXMLElement ElementByName(const QString &name, qint32 &position, qint32 startAt = 0) const;
+    // All descendants of that tag name (exact case, "*" for all), in document order.
+    QList<TarnXMLElement> ElementListByName(const QString &name) const;
+    // O(1) a step when a caller walks the positions in order.
+    TarnXMLElement ElementAtPosition(qint32 position) const;
+    // The first child whose attribute holds `value` once escaped, ignoring case.
+    TarnXMLElement ElementByAttributeValue(const QString &attributeName,
+                                           const QString &value) const;
+    // -1, or any position outside the children, appends.
+    TarnXMLElement AddElement(const QString &name, qint32 position = -1);
+    bool RemoveElement(qint32 position);
+    // No matching child is a failure that the routine's frame reports.
+    bool RemoveElementByAttributeValue(const QString &attributeName, const QString &value);
+
+    // CR LF, TAB, "<" and ">" become "%CRLF%", "%TAB%", "%LT%", "%GT%"; a lone CR or LF stays.
+    static QString ReplaceIllegalChars(const QString &value);
+    // The reverse in the same order, ignoring case, so a literal "%lt%" comes back as "<".
+    static QString RestoreIllegalChars(const QString &value);
+    void RemoveAllElements();
+
+private:
+    friend class TarnXMLDoc;
+    TarnXMLElement(std::shared_ptr<TarnXMLDocState> document, TarnXMLNode *node);
+
+    // Fails the way a call on a null object does, before the member's own frame is armed.
+    void requireNode(const char *function) const;
+    void LogParserError() const;
+
+    std::shared_ptr<TarnXMLDocState> m_document;
+    TarnXMLNode *m_node = nullptr;
+};

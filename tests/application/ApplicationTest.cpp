@@ -1,0 +1,311 @@
+#include "application/Application.h"
+#include "application/IMainForm.h"
+#include "application/Startup.h"
+#include "platform/GlobalObjects.h"
+#include "platform/LogFile.h"
+#include "platform/MRUUtils.h"
+#include "platform/QuorinAdminData.h"
+#include "platform/QuorinData.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/RulebaseManager.h"
+#include "views/IViewController.h"
+
+#include "support/ScriptedUserInterface.h"
+#include "support/TestEnvironment.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Records what the Application asks of its window, in order.
+class FakeMainForm final : public IMainForm
+{
+public:
+    void Update() override { calls << QStringLiteral("Update"); }
+    void AddToMRUList(const QString &f) override { calls << QStringLiteral("AddToMRUList ") + f; }
+    void RemoveFromMRUList(const QString &f) override { calls << QStringLiteral("RemoveFromMRUList ") + f; }
+    void SetCurrentViewTool(const QString &v) override { calls << QStringLiteral("View ") + v; }
+    void SetHelpContext(int c) override { helpContext = c; }
+    void SetBusy(bool) override {}
+    void ShowSplashScreen() override { calls << QStringLiteral("Splash"); }
+    void ShowWindow() override { calls << QStringLiteral("Window"); }
+    int RunTipOfDay(int last) override
+    {
+        calls << QStringLiteral("Tip");
+        return last + 1;
+    }
+    void RunAbout() override { calls << QStringLiteral("About"); }
+
+    QStringList calls;
+    int helpContext = 0;
+};
+
+// A view that only counts what is done to it.
+class CountingView final : public IViewController
+{
+public:
+    explicit CountingView(int *populates) : m_populates(populates) {}
+    void setRulebase(std::shared_ptr<Rulebase>) override {}
+    void setMainForm(IMainForm *) override {}
+    void Customise() override {}
+    void Populate() override { ++*m_populates; }
+    void DeleteItems() override {}
+    void OpenItem() override {}
+    void SetEnabledState() override {}
+    void ResizeView() override {}
+    void AddItem(const std::shared_ptr<IRule> &) override {}
+    void CloneItems() override {}
+    int ItemsActiveState() override { return 4; }
+    void ActivateItems(bool) override {}
+    void CategoryListChanged() override {}
+    void SeverityListChanged() override {}
+
+private:
+    int *m_populates;
+};
+
+class ApplicationTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        TestEnvironment::clearSettings();
+        dir = TestEnvironment::makeTempDir() + QLatin1Char('/');
+        ASSERT_EQ(CreateGlobalObjects(), 0);
+        gobjLogFile->setLogFileName(dir + QStringLiteral("Error.log"));
+        gobjQuorinData->setLocalDataPath(dir);
+        gobjAdminData->setDisplayTips(false);
+        gobjAdminData->setFirstUse(false);
+    }
+    void TearDown() override
+    {
+        DestroyGlobalObjects();
+        TestEnvironment::clearSettings();
+    }
+
+    // A valid rulebase file of a new rulebase, saved under a name of the test's folder.
+    QString writeRulebase(const QString &name)
+    {
+        Rulebase rulebase;
+        rulebase.setTitle(QStringLiteral("Written by the test"));
+        const QString path = dir + name;
+        EXPECT_TRUE(RulebaseManager().Save(rulebase, path));
+        return path;
+    }
+
+    Application::ViewFactory countingViews()
+    {
+        return [this](const QString &) { return std::make_unique<CountingView>(&populates); };
+    }
+
+    QString dir;
+    ScriptedUserInterface ui;
+    FakeMainForm form;
+    int populates = 0;
+};
+
+} // namespace
+
+TEST_F(ApplicationTest, StartUpShowsSplashWindowTipThenOpensTheNewestRecentFile)
+{
+    const QString older = writeRulebase(QStringLiteral("older.qrb"));
+    const QString newest = writeRulebase(QStringLiteral("newest.qrb"));
+    {
+        MRUUtils mru;
+        mru.setAppName(QStringLiteral("Settings\\Rulebase"));
+        mru.Add(older);
+        mru.Add(newest);
+    }
+    gobjAdminData->setDisplayTips(true);
+    gobjAdminData->setLastTip(4);
+    gobjAdminData->setFirstUse(true);
+
+    Application app(&form, countingViews());
+    EXPECT_TRUE(RunStartup(app, QString()));
+
+    ASSERT_TRUE(app.RulebaseOpen());
+    EXPECT_EQ(app.rulebase()->Filename(), newest);
+    EXPECT_EQ(app.CurrentViewName(), QStringLiteral("tlCategoryView"));
+    EXPECT_EQ(form.helpContext, 68);
+    EXPECT_EQ(form.calls.mid(0, 4),
+              (QStringList{QStringLiteral("Splash"), QStringLiteral("Window"), QStringLiteral("Tip"),
+                           QStringLiteral("View tlCategoryView")}));
+    EXPECT_EQ(gobjAdminData->LastTip(), 5);
+    // First use shows the introduction once.
+    ASSERT_EQ(ui.helpRequests.size(), 1u);
+    EXPECT_EQ(ui.helpRequests[0].topic, QStringLiteral("::/Introduction.html"));
+    EXPECT_FALSE(gobjAdminData->FirstUse());
+    EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST_F(ApplicationTest, StartUpFallsBackToTheSampleAndAddsItToTheRecentList)
+{
+    const QString sample = writeRulebase(QStringLiteral("Sample.qrb"));
+    Application app(&form, countingViews());
+    EXPECT_TRUE(RunStartup(app, QString()));
+    EXPECT_EQ(app.rulebase()->Filename(), sample);
+    MRUUtils mru;
+    mru.setAppName(QStringLiteral("Settings\\Rulebase"));
+    EXPECT_EQ(mru.Item(1), sample);
+
+    // With nothing to open the window stands with no rulebase and no view.
+    TestEnvironment::clearSettings();
+    QFile::remove(sample);
+    FakeMainForm bare;
+    Application empty(&bare, countingViews());
+    EXPECT_FALSE(RunStartup(empty, QString()));
+    EXPECT_FALSE(empty.RulebaseOpen());
+    EXPECT_EQ(empty.CurrentView(), nullptr);
+    EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST_F(ApplicationTest, CommandLineNamesAreTakenWholeAndNeverTouchTheRecentList)
+{
+    const QString spaced = writeRulebase(QStringLiteral("My Standards.qrb"));
+    {
+        Application app(&form, countingViews());
+        EXPECT_TRUE(RunStartup(app, QLatin1Char('"') + spaced + QLatin1Char('"')));
+        EXPECT_EQ(app.rulebase()->Filename(), spaced);
+    }
+    {
+        Application app(&form, countingViews());
+        EXPECT_TRUE(RunStartup(app, spaced)); // unquoted, spaces and all
+        EXPECT_EQ(app.rulebase()->Filename(), spaced);
+    }
+    EXPECT_FALSE(form.calls.join(QLatin1Char('|')).contains(QStringLiteral("MRU")));
+
+    // A missing file gives the plain warning and no offer to touch the list.
+    Application app(&form, countingViews());
+    EXPECT_FALSE(RunStartup(app, dir + QStringLiteral("gone.qrb")));
+    EXPECT_FALSE(app.RulebaseOpen());
+    EXPECT_EQ(ui.messageTexts(),
+              QStringList{QStringLiteral("Can't find the rulebase '") + dir + QStringLiteral("gone.qrb'.")});
+    EXPECT_EQ(ui.messages[0].buttons, MessageButtons::OK);
+}
+
+TEST_F(ApplicationTest, MissingRecentFileOffersToRemoveIt)
+{
+    const QString gone = dir + QStringLiteral("gone.qrb");
+    Application app(&form, countingViews());
+    ui.answers = {MessageResult::Yes};
+    EXPECT_FALSE(app.OpenRulebase(Application::OpenMode::RecentList, gone));
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(ui.messages[0].text,
+              QStringLiteral("Can't find the rulebase '") + gone
+                  + QStringLiteral("', do you want to remove it from the most recently used list?"));
+    EXPECT_EQ(ui.messages[0].buttons, MessageButtons::YesNo);
+    EXPECT_EQ(form.calls, QStringList{QStringLiteral("RemoveFromMRUList ") + gone});
+}
+
+TEST_F(ApplicationTest, FailedLoadShowsBothWarningsAndLeavesNoRulebase)
+{
+    const QString good = writeRulebase(QStringLiteral("good.qrb"));
+    const QString bad = dir + QStringLiteral("bad.qrb");
+    {
+        QFile file(bad);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("<Quorin_Rulebase SchemaVersion=\"6.2\"><RulebaseProperties");
+    }
+    Application app(&form, countingViews());
+    ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, good));
+    EXPECT_FALSE(app.OpenRulebase(Application::OpenMode::CommandLine, bad));
+    EXPECT_FALSE(app.RulebaseOpen());
+    EXPECT_NE(app.CurrentView(), nullptr); // the view is orphaned, not told
+    EXPECT_EQ(ui.messageTexts(),
+              (QStringList{QStringLiteral("Unable to load the rulebase because of an unexpected error during parsing."),
+                           QStringLiteral("Failed to open '") + bad
+                               + QStringLiteral("', it may not be a valid Quorin rulebase.")}));
+    QFile log(dir + QStringLiteral("Error.log"));
+    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(log.readAll().contains("XML Parser Error"));
+}
+
+TEST_F(ApplicationTest, UnsavedChangesAreAskedAboutAndCancelStopsEverything)
+{
+    const QString first = writeRulebase(QStringLiteral("first.qrb"));
+    const QString second = writeRulebase(QStringLiteral("second.qrb"));
+    Application app(&form, countingViews());
+    ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, first));
+    app.rulebase()->setTitle(QStringLiteral("Changed"));
+
+    ui.answers = {MessageResult::Cancel};
+    EXPECT_FALSE(app.OpenRulebase(Application::OpenMode::Ask));
+    EXPECT_EQ(app.rulebase()->Filename(), first);
+    EXPECT_TRUE(ui.fileRequests.empty()); // no file dialog after Cancel
+    EXPECT_EQ(ui.messageTexts(),
+              QStringList{QStringLiteral("The current rulebase has changed, do you wish to save the changes?")});
+
+    // No: the change is dropped and the dialog's file opens.
+    ui.answers = {MessageResult::No};
+    ui.openAnswers = {second};
+    EXPECT_TRUE(app.OpenRulebase(Application::OpenMode::Ask));
+    EXPECT_EQ(app.rulebase()->Filename(), second);
+    EXPECT_EQ(ui.fileRequests.back().title, QStringLiteral("Select Quorin Rulebase"));
+    EXPECT_EQ(gobjAdminData->LastPath(), dir);
+
+    // Yes saves first.
+    app.rulebase()->setTitle(QStringLiteral("Saved on the way"));
+    ui.answers = {MessageResult::Yes};
+    app.NewRulebase();
+    EXPECT_EQ(RulebaseManager().LoadRulebase(second)->Title(), QStringLiteral("Saved on the way"));
+}
+
+TEST_F(ApplicationTest, NewStaysInTheCurrentViewWhileOpenGoesToTheCategoryView)
+{
+    const QString file = writeRulebase(QStringLiteral("file.qrb"));
+    Application app(&form, countingViews());
+    app.NewRulebase();
+    EXPECT_EQ(app.CurrentViewName(), QStringLiteral("tlCodingConventions"));
+    app.SwitchView(QStringLiteral("tlSeverityView"));
+    const int before = populates;
+    app.NewRulebase();
+    EXPECT_EQ(app.CurrentViewName(), QStringLiteral("tlSeverityView"));
+    EXPECT_EQ(populates, before + 1);
+    EXPECT_FALSE(app.rulebase()->Dirty());
+
+    ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, file));
+    EXPECT_EQ(app.CurrentViewName(), QStringLiteral("tlCategoryView"));
+
+    // Switching to the current view, in any case, does nothing at all.
+    const int populated = populates;
+    const qsizetype calls = form.calls.size();
+    app.SwitchView(QStringLiteral("TLCATEGORYVIEW"));
+    EXPECT_EQ(populates, populated);
+    EXPECT_EQ(form.calls.size(), calls);
+    // An unknown name leaves the view as it is.
+    app.SwitchView(QStringLiteral("tlNoSuchView"));
+    EXPECT_EQ(app.CurrentViewName(), QStringLiteral("tlCategoryView"));
+}
+
+TEST_F(ApplicationTest, SaveAsProposesTheTitleAndSetsTheNameOnlyAfterSuccess)
+{
+    Application app(&form, countingViews());
+    app.NewRulebase();
+    app.rulebase()->setTitle(QStringLiteral("Team Standards"));
+
+    ui.saveAnswers = {std::nullopt};
+    EXPECT_FALSE(app.SaveRulebase()); // no name yet: Save As, cancelled
+    EXPECT_EQ(ui.fileRequests.back().fileTitle, QStringLiteral("Team Standards.qrb"));
+    EXPECT_EQ(ui.fileRequests.back().title, QStringLiteral("Save Quorin Rulebase"));
+    EXPECT_TRUE(app.rulebase()->Filename().isEmpty());
+    EXPECT_TRUE(app.rulebase()->Dirty());
+
+    // A folder that does not exist: the save fails, nothing changes.
+    const QString nowhere = dir + QStringLiteral("missing/Team Standards.qrb");
+    ui.saveAnswers = {nowhere};
+    EXPECT_FALSE(app.SaveRulebaseAs());
+    EXPECT_EQ(ui.messageTexts().last(), QStringLiteral("Error during save: Invalid path."));
+    EXPECT_TRUE(app.rulebase()->Filename().isEmpty());
+    EXPECT_TRUE(app.rulebase()->Dirty());
+
+    const QString target = dir + QStringLiteral("Team Standards.qrb");
+    ui.saveAnswers = {target};
+    EXPECT_TRUE(app.SaveRulebaseAs());
+    EXPECT_EQ(app.rulebase()->Filename(), target);
+    EXPECT_FALSE(app.rulebase()->Dirty());
+    EXPECT_EQ(form.calls.filter(QStringLiteral("AddToMRUList")), QStringList{QStringLiteral("AddToMRUList ") + target});
+    EXPECT_TRUE(app.CheckForSave());
+}

@@ -1,0 +1,243 @@
+#include "collections/ObjectArrayList.h"
+#include "platform/QuorinError.h"
+#include "rulebase/CodingConvention.h"
+#include "rulebase/DefaultViolations.h"
+#include "rulebase/NamingConvention.h"
+#include "rulebase/PrefixSuffixItem.h"
+#include "rulebase/UnauthorisedKeyword.h"
+#include "rulebase/ViolationDefinition.h"
+
+#include <gtest/gtest.h>
+
+TEST(ViolationDefinition, OnlyTheReportedFieldsMarkItDirty)
+{
+    ViolationDefinition definition;
+    EXPECT_EQ(definition.CategoryID(), -1);
+    EXPECT_EQ(definition.Severity(), 0);
+    definition.setViolationDescription(QStringLiteral("for the author"));
+    EXPECT_FALSE(definition.Dirty());
+    definition.setImpact(definition.Impact()); // an unchanged value still counts
+    EXPECT_TRUE(definition.Dirty());
+
+    const auto copy = definition.Copy();
+    EXPECT_NE(copy.get(), &definition);
+    EXPECT_EQ(copy->ViolationDescription(), QStringLiteral("for the author"));
+    EXPECT_EQ(copy->CategoryID(), -1);
+}
+
+TEST(DefaultViolations, FiveFixedDefinitionsReachedByType)
+{
+    DefaultViolations defaults;
+    EXPECT_EQ(defaults.Count(), 5);
+    EXPECT_TRUE(defaults.Dirty()); // built through the setters
+    EXPECT_EQ(defaults.ItemByType(0), nullptr);
+    EXPECT_EQ(defaults.ItemByType(6), nullptr);
+    EXPECT_EQ(defaults.ItemByType(3)->Title(), QStringLiteral("Unauthorised Reference"));
+    EXPECT_EQ(defaults.ItemByType(1)->Description(),
+              QStringLiteral("The component '%Component.Filename%' has been detected in file "
+                             "%File.Filename% but is not an authorised component."));
+
+    const auto unknownControl = defaults.ItemByType(5);
+    EXPECT_EQ(unknownControl->Title(), QStringLiteral("Unknown Control"));
+    EXPECT_TRUE(unknownControl->Description().isEmpty());
+    EXPECT_TRUE(unknownControl->Advice().isEmpty());
+    for (qint32 type = 1; type <= 5; ++type) {
+        EXPECT_EQ(defaults.Item(type)->Severity(), 1);
+        EXPECT_EQ(defaults.Item(type)->Impact(), 900);
+        EXPECT_EQ(defaults.Item(type)->CategoryID(), -1);
+    }
+
+    defaults.setDirty(false);
+    EXPECT_FALSE(defaults.Dirty());
+    defaults.Item(4)->setAdvice(QStringLiteral("x"));
+    EXPECT_TRUE(defaults.Dirty());
+
+    // Item goes by the list's bounds: a slot up to its capacity is null, beyond it fails.
+    EXPECT_EQ(defaults.Item(6), nullptr);
+    EXPECT_THROW(defaults.Item(11), QuorinError);
+}
+
+TEST(CodingConvention, EventArrayRefusesDuplicatesAndFillsGapsFromTheEnd)
+{
+    CodingConvention rule;
+    EXPECT_EQ(rule.RuleKey(), QStringLiteral("0Key"));
+    EXPECT_EQ(rule.ParserEventList(), QString());
+    EXPECT_EQ(rule.EndEventID(), -1);
+
+    EXPECT_TRUE(rule.AddParserEventID(12));
+    rule.setDirty(false);
+    EXPECT_TRUE(rule.AddParserEventID(12));
+    EXPECT_EQ(rule.EventCount(), 1);
+    EXPECT_FALSE(rule.Dirty()); // a refused duplicate changes nothing
+    EXPECT_EQ(rule.ParserEventList(), QStringLiteral("12"));
+
+    EXPECT_TRUE(rule.RemoveParserEventID(99)); // never assigned: still marks the rule
+    EXPECT_TRUE(rule.Dirty());
+
+    rule.RemoveParserEventID(-1);
+    for (const qint32 id : {1, 2, 3})
+        rule.AddParserEventID(id);
+    rule.RemoveParserEventID(1);
+    EXPECT_EQ(rule.ParserEventList(), QStringLiteral("3|2"));
+    EXPECT_EQ(rule.ParserEventID(0), 3);
+    EXPECT_FALSE(rule.IsAssignedToEvent(1));
+    EXPECT_THROW(rule.ParserEventID(2), QuorinError);
+
+    rule.RemoveParserEventID(-1);
+    EXPECT_EQ(rule.EventCount(), 0);
+    EXPECT_EQ(rule.ParserEventList(), QString());
+}
+
+TEST(CodingConvention, EnforcementFlagsNeedAPendingViolationAndDirtyFollowsTheDefinition)
+{
+    CodingConvention rule;
+    IRule &asRule = rule;
+    asRule.setTriggered(true);
+    asRule.setCancelled(true);
+    EXPECT_FALSE(rule.Triggered());
+    EXPECT_FALSE(rule.Cancelled());
+    EXPECT_FALSE(rule.Dirty()); // the flags never touch Dirty
+
+    rule.setPendingViolation(true);
+    asRule.setTriggered(true);
+    EXPECT_TRUE(rule.Triggered());
+    rule.setEndEventID(7);
+    rule.setPendingViolation(false);
+    EXPECT_EQ(rule.EndEventID(), 7);
+    asRule.setTriggered(false); // ignored again: the old value stands
+    EXPECT_TRUE(rule.Triggered());
+
+    rule.setDirty(false);
+    rule.ViolationDefinition()->setTitle(QStringLiteral("t"));
+    EXPECT_TRUE(rule.Dirty());
+    rule.setDirty(false);
+    EXPECT_FALSE(rule.ViolationDefinition()->Dirty());
+    rule.setCategoryID(4);
+    EXPECT_EQ(rule.ViolationDefinition()->CategoryID(), 4);
+    rule.setDirty(false);
+    rule.setViolationDefinition(std::make_shared<ViolationDefinition>());
+    EXPECT_FALSE(rule.Dirty());
+    EXPECT_EQ(rule.CategoryID(), -1);
+}
+
+TEST(CodingConvention, CloneCopiesTheRuleButNeitherItsIdNorItsDefinitionObject)
+{
+    CodingConvention source;
+    source.setRuleID(5003);
+    source.setTitle(QStringLiteral("No GoTo"));
+    source.setCondition(QStringLiteral("Sub Main\nEnd Sub"));
+    source.setPendingViolation(true);
+    source.setEndEventID(9);
+    source.setTriggered(true);
+    for (const qint32 id : {5, 1, 8})
+        source.AddParserEventID(id);
+    source.ViolationDefinition()->setAdvice(QStringLiteral("Don't."));
+    source.ViolationDefinition()->setViolationDescription(QStringLiteral("why"));
+    source.setCategoryID(3);
+    source.setRuleActive(false);
+
+    const auto clone = std::dynamic_pointer_cast<CodingConvention>(source.Clone());
+    ASSERT_TRUE(clone);
+    EXPECT_EQ(clone->RuleID(), 0);
+    EXPECT_EQ(clone->Title(), QStringLiteral("Clone of No GoTo"));
+    EXPECT_EQ(clone->Clone()->Title(), QStringLiteral("Clone of Clone of No GoTo"));
+    EXPECT_EQ(clone->ParserEventList(), QStringLiteral("5|1|8"));
+    EXPECT_EQ(clone->Condition(), source.Condition());
+    EXPECT_TRUE(clone->PendingViolation());
+    EXPECT_EQ(clone->EndEventID(), 9);
+    EXPECT_FALSE(clone->RuleActive());
+    EXPECT_FALSE(clone->Triggered());
+    EXPECT_EQ(clone->CategoryID(), 3);
+    EXPECT_EQ(clone->ViolationDefinition()->ViolationDescription(), QStringLiteral("why"));
+    EXPECT_NE(clone->ViolationDefinition(), source.ViolationDefinition());
+    clone->ViolationDefinition()->setAdvice(QStringLiteral("changed"));
+    EXPECT_EQ(source.ViolationDefinition()->Advice(), QStringLiteral("Don't."));
+}
+
+TEST(UnauthorisedKeyword, StoresEnforcementFlagsAlwaysAndClonesItsEvents)
+{
+    UnauthorisedKeyword rule;
+    IRule &asRule = rule;
+    asRule.setTriggered(true);
+    EXPECT_TRUE(asRule.Triggered()); // unlike a coding convention
+    EXPECT_FALSE(asRule.PendingViolation());
+    EXPECT_EQ(asRule.RuleType(), RuleTypes::UnauthorisedKeyword);
+
+    rule.setTitle(QStringLiteral("End"));
+    rule.AddParserEventID(4);
+    rule.AddParserEventID(2);
+    rule.setCondition(QStringLiteral("\\bEnd\\b"));
+    const auto clone = std::dynamic_pointer_cast<UnauthorisedKeyword>(rule.Clone());
+    ASSERT_TRUE(clone);
+    EXPECT_EQ(clone->ParserEventList(), QStringLiteral("4|2"));
+    EXPECT_EQ(clone->Condition(), QStringLiteral("\\bEnd\\b"));
+    EXPECT_FALSE(clone->Triggered());
+    EXPECT_EQ(clone->Title(), QStringLiteral("Clone of End"));
+}
+
+TEST(NamingConvention, FourFixedItemsPerPartAndDeadEnforcementFlags)
+{
+    NamingConvention rule;
+    EXPECT_FALSE(rule.Dirty());
+    EXPECT_TRUE(rule.CaseSensitive());
+    for (const auto &items : {rule.PrefixItems(), rule.SuffixItems()}) {
+        ASSERT_EQ(items->Count(), 4);
+        for (qint32 i = 1; i <= 4; ++i) {
+            EXPECT_EQ(items->Item(i)->PSType(), 0);
+            EXPECT_TRUE(items->Item(i)->Value().isEmpty());
+        }
+    }
+
+    IRule &asRule = rule;
+    asRule.setTriggered(true);
+    asRule.setCancelled(true);
+    EXPECT_FALSE(asRule.Triggered());
+    EXPECT_FALSE(asRule.Cancelled());
+    EXPECT_FALSE(rule.Dirty());
+
+    // An item edit tells nobody; a change of the item list itself does.
+    rule.PrefixItems()->Item(1)->setValue(QStringLiteral("m_"));
+    EXPECT_FALSE(rule.Dirty());
+    rule.SuffixItems()->setItem(2, rule.SuffixItems()->Item(2));
+    EXPECT_TRUE(rule.Dirty());
+    rule.setDirty(false);
+    EXPECT_FALSE(rule.SuffixItems()->Dirty());
+    rule.setMinBodyLength(9); // above the maximum: accepted here
+    EXPECT_TRUE(rule.Dirty());
+}
+
+TEST(NamingConvention, CloneLeavesOutExclusionsAndCaseSensitivityAndOwnsItsItems)
+{
+    NamingConvention source;
+    source.setTitle(QStringLiteral("Forms"));
+    source.setCaseSensitive(false);
+    source.setExclusionList(QStringLiteral("frmMain;frmAbout"));
+    source.setObjectType(3);
+    source.setPropertyType(11);
+    source.setPropertyName(QStringLiteral("Name"));
+    source.setPrefixActive(true);
+    source.PrefixItems()->Item(1)->setPSType(2);
+    source.SuffixItems()->Item(4)->setPSType(1);
+    source.SuffixItems()->Item(4)->setValue(QStringLiteral("Form"));
+    source.setBodyPattern(QStringLiteral("[A-Z]\\w+"));
+    source.setMaxBodyLength(20);
+    source.setSuffixAdvice(QStringLiteral("End in Form"));
+
+    const auto clone = std::dynamic_pointer_cast<NamingConvention>(source.Clone());
+    ASSERT_TRUE(clone);
+    EXPECT_TRUE(clone->CaseSensitive());
+    EXPECT_TRUE(clone->ExclusionList().isEmpty());
+    EXPECT_EQ(clone->ObjectType(), 3);
+    EXPECT_EQ(clone->PropertyType(), 11);
+    EXPECT_EQ(clone->PropertyName(), QStringLiteral("Name"));
+    EXPECT_TRUE(clone->PrefixActive());
+    EXPECT_EQ(clone->PrefixItems()->Item(1)->PSType(), 2);
+    EXPECT_EQ(clone->SuffixItems()->Item(4)->Value(), QStringLiteral("Form"));
+    EXPECT_EQ(clone->BodyPattern(), source.BodyPattern());
+    EXPECT_EQ(clone->MaxBodyLength(), 20);
+    EXPECT_EQ(clone->SuffixAdvice(), QStringLiteral("End in Form"));
+
+    EXPECT_NE(clone->PrefixItems()->Item(1), source.PrefixItems()->Item(1));
+    clone->SuffixItems()->Item(4)->setValue(QStringLiteral("Dialog"));
+    EXPECT_EQ(source.SuffixItems()->Item(4)->Value(), QStringLiteral("Form"));
+}

@@ -1,0 +1,340 @@
+#include "XmlTestSupport.h"
+
+#include "platform/QuorinError.h"
+#include "xml/TarnXMLDoc.h"
+#include "xml/TarnXMLElement.h"
+
+namespace {
+
+const QString CRLF = QStringLiteral("\r\n");
+
+// A root with children named by `names`, each with an attribute Key holding its own name.
+TarnXMLElement rootWith(TarnXMLDoc &doc, const QStringList &names)
+{
+    doc.NewDoc(QStringLiteral("Root"));
+    TarnXMLElement root = doc.RootElement();
+    for (const QString &name : names)
+        root.AddElement(name).setAttributeValueByName(QStringLiteral("Key"), name);
+    return root;
+}
+
+QStringList childNames(const TarnXMLElement &element)
+{
+    QStringList names;
+    for (qint32 i = 0; i < element.ElementCount(); ++i)
+        names << element.ElementAtPosition(i).ElementName();
+    return names;
+}
+
+} // namespace
+
+using EscapingTest = XmlTest;
+
+TEST_F(EscapingTest, ReplacesTheFourSequencesAndLeavesLoneLineEnds)
+{
+    const QString value = QStringLiteral("a<b>c\td") + CRLF + QStringLiteral("e\rf\ng\r\r\n");
+    EXPECT_EQ(TarnXMLElement::ReplaceIllegalChars(value),
+              QStringLiteral("a%LT%b%GT%c%TAB%d%CRLF%e\rf\ng\r%CRLF%"));
+    EXPECT_EQ(TarnXMLElement::RestoreIllegalChars(TarnXMLElement::ReplaceIllegalChars(value)),
+              value);
+}
+
+TEST_F(EscapingTest, RestoreIgnoresCaseAndRunsInOrder)
+{
+    EXPECT_EQ(TarnXMLElement::RestoreIllegalChars(QStringLiteral("x%tab%y%Lt%%gT%%crlf%")),
+              QStringLiteral("x\ty<>") + CRLF);
+    // The "%CRLF%" is found first and takes the "%" that "%TAB%" would need.
+    EXPECT_EQ(TarnXMLElement::RestoreIllegalChars(QStringLiteral("%TAB%CRLF%")),
+              QStringLiteral("%TAB") + CRLF);
+    EXPECT_EQ(TarnXMLElement::RestoreIllegalChars(QStringLiteral("100% sure")),
+              QStringLiteral("100% sure"));
+}
+
+using AttributeTest = XmlTest;
+
+TEST_F(AttributeTest, ValuesSurviveSaveAndLoad)
+{
+    const QStringList values = {
+        QStringLiteral("a<b>c\td") + CRLF + QStringLiteral("e"),
+        QStringLiteral("&amp; & \"double\" 'single' &lt;"),
+        QStringLiteral("Grüße, 日本語, \U0001F600"),
+        QStringLiteral("lone\rCR and lone\nLF"),
+        QStringLiteral("  leading and trailing blanks  "),
+        QString(),
+    };
+    TarnXMLDoc doc;
+    TarnXMLElement root = rootWith(doc, {});
+    for (qsizetype i = 0; i < values.size(); ++i)
+        root.AddElement(QStringLiteral("Item")).AddAttribute(QStringLiteral("Value"), values[i]);
+    const QString file = path(QStringLiteral("values.qrb"));
+    ASSERT_TRUE(doc.SaveToFile(file));
+
+    TarnXMLDoc loaded;
+    ASSERT_TRUE(loaded.LoadFromFile(file));
+    const TarnXMLElement loadedRoot = loaded.RootElement();
+    ASSERT_EQ(loadedRoot.ElementCount(), values.size());
+    for (qsizetype i = 0; i < values.size(); ++i) {
+        const TarnXMLElement item = loadedRoot.ElementAtPosition(qint32(i));
+        EXPECT_EQ(item.AttributeValueByName(QStringLiteral("Value")), values[i]);
+        EXPECT_EQ(item.AttributeValue(0), values[i]);
+    }
+    // Stored escaped, non-ASCII as UTF-8 bytes.
+    const QByteArray bytes = readFile(file);
+    EXPECT_TRUE(bytes.contains("a%LT%b%GT%c%TAB%d%CRLF%e"));
+    EXPECT_TRUE(bytes.contains(QStringLiteral("Grüße").toUtf8()));
+}
+
+TEST_F(AttributeTest, LiteralEscapesComeBackAsCharacters)
+{
+    TarnXMLDoc doc;
+    TarnXMLElement root = rootWith(doc, {});
+    root.setAttributeValueByName(QStringLiteral("A"), QStringLiteral("x%tab%y %LT%"));
+    EXPECT_EQ(root.AttributeValueByName(QStringLiteral("A")), QStringLiteral("x\ty <"));
+}
+
+TEST_F(AttributeTest, ByNameGetOnAbsentAttributeFailsAndLetAddsIt)
+{
+    TarnXMLDoc doc;
+    TarnXMLElement root = rootWith(doc, {});
+    try {
+        root.AttributeValueByName(QStringLiteral("Missing"));
+        FAIL() << "no error";
+    } catch (const QuorinError &error) {
+        EXPECT_EQ(error.number(), ErrorNumber::ObjectNotSet);
+    }
+    root.setAttributeValueByName(QStringLiteral("Missing"), QStringLiteral("1"));
+    root.setAttributeValueByName(QStringLiteral("Missing"), QStringLiteral("2"));
+    EXPECT_EQ(root.AttributeCount(), 1);
+    EXPECT_EQ(root.AttributeValueByName(QStringLiteral("Missing")), QStringLiteral("2"));
+    // Attribute names keep their case.
+    EXPECT_THROW(root.AttributeValueByName(QStringLiteral("missing")), QuorinError);
+}
+
+TEST_F(AttributeTest, AddAttributeReplacesAndIndexesFollowTheOrder)
+{
+    TarnXMLDoc doc;
+    TarnXMLElement root = rootWith(doc, {});
+    root.AddAttribute(QStringLiteral("First"), QStringLiteral("1"));
+    root.AddAttribute(QStringLiteral("Second"), QStringLiteral("2"));
+    root.AddAttribute(QStringLiteral("First"), QStringLiteral("one"));
+    ASSERT_EQ(root.AttributeCount(), 2);
+    EXPECT_EQ(root.AttributeName(0), QStringLiteral("First"));
+    EXPECT_EQ(root.AttributeValue(0), QStringLiteral("one"));
+    root.setAttributeValue(1, QStringLiteral("<2>"));
+    EXPECT_EQ(root.AttributeValueByName(QStringLiteral("Second")), QStringLiteral("<2>"));
+    EXPECT_THROW(root.AttributeName(2), QuorinError);
+    EXPECT_THROW(root.AttributeValue(-1), QuorinError);
+}
+
+TEST_F(AttributeTest, InvalidNameIsReportedNotWritten)
+{
+    TarnXMLDoc doc;
+    TarnXMLElement root = rootWith(doc, {});
+    root.AddAttribute(QStringLiteral("two words"), QStringLiteral("x"));
+    EXPECT_EQ(root.AttributeCount(), 0);
+    EXPECT_EQ(logged(QStringLiteral("#Error #")).size(), 1);
+    EXPECT_EQ(logged(QStringLiteral("TarnXMLElement::AddAttribute")).size(), 1);
+}
+
+using SearchTest = XmlTest;
+
+TEST_F(SearchTest, ElementByNameIgnoresCaseAndGivesThePosition)
+{
+    TarnXMLDoc doc;
+    const TarnXMLElement root = rootWith(doc,
+                                         {QStringLiteral("A"),
+                                          QStringLiteral("Rules"),
+                                          QStringLiteral("B"),
+                                          QStringLiteral("RULES")});
+    qint32 position = 99;
+    EXPECT_EQ(root.ElementByName(QStringLiteral("rules"), position, 0)
+                  .AttributeValueByName(QStringLiteral("Key")),
+              QStringLiteral("Rules"));
+    EXPECT_EQ(position, 1);
+    // StartAt past a match finds the next one; beyond the last child searches from the start.
+    EXPECT_EQ(root.ElementByName(QStringLiteral("rules"), position, 2).ElementName(),
+              QStringLiteral("RULES"));
+    EXPECT_EQ(position, 3);
+    EXPECT_FALSE(root.ElementByName(QStringLiteral("rules"), position, 4).isNull());
+    EXPECT_EQ(position, 1);
+    EXPECT_FALSE(root.ElementByName(QStringLiteral("rules"), position, -5).isNull());
+    EXPECT_EQ(position, 1);
+    EXPECT_TRUE(root.ElementByName(QStringLiteral("Missing"), position, 0).isNull());
+    EXPECT_EQ(position, -1);
+    EXPECT_TRUE(root.ElementByName(QString(), position, 0).isNull());
+    EXPECT_EQ(position, -1);
+    EXPECT_EQ(
+        logged(QStringLiteral(
+                   "#Event #An element name must be specified.#TarnXMLElement::ElementByName"))
+            .size(),
+        1);
+}
+
+TEST_F(SearchTest, ElementByAttributeValueComparesEscapedValuesIgnoringCase)
+{
+    TarnXMLDoc doc;
+    TarnXMLElement root = rootWith(doc, {QStringLiteral("A"), QStringLiteral("B")});
+    root.ElementAtPosition(1).setAttributeValueByName(QStringLiteral("Title"),
+                                                      QStringLiteral("If <x> then"));
+    EXPECT_EQ(root.ElementByAttributeValue(QStringLiteral("Title"), QStringLiteral("IF <X> THEN"))
+                  .ElementName(),
+              QStringLiteral("B"));
+    EXPECT_TRUE(
+        root.ElementByAttributeValue(QStringLiteral("Title"), QStringLiteral("If")).isNull());
+    EXPECT_TRUE(root.ElementByAttributeValue(QString(), QStringLiteral("A")).isNull());
+    EXPECT_EQ(logged(QStringLiteral("#An attribute name must be specified.#"
+                                    "TarnXMLElement::ElementByAttributeValue"))
+                  .size(),
+              1);
+}
+
+TEST_F(SearchTest, ElementListByNameGivesDescendantsInDocumentOrder)
+{
+    TarnXMLDoc doc;
+    ASSERT_TRUE(doc.LoadFromString(
+        QStringLiteral("<R><X n='1'><X n='2'/></X><Y><X n='3'/><x n='no'/></Y></R>")));
+    const QList<TarnXMLElement> found = doc.RootElement().ElementListByName(QStringLiteral("X"));
+    QStringList numbers;
+    for (const TarnXMLElement &element : found)
+        numbers << element.AttributeValueByName(QStringLiteral("n"));
+    EXPECT_EQ(numbers, QStringList({"1", "2", "3"}));
+    EXPECT_EQ(doc.RootElement().ElementListByName(QStringLiteral("*")).size(), 5);
+    EXPECT_TRUE(doc.RootElement().ElementListByName(QString()).isEmpty());
+    EXPECT_EQ(logged(QStringLiteral("#TarnXMLElement::ElementListByName")).size(), 1);
+}
+
+using ChildListTest = XmlTest;
+
+TEST_F(ChildListTest, AddElementInsertsOrAppends)
+{
+    TarnXMLDoc doc;
+    TarnXMLElement root = rootWith(doc, {QStringLiteral("A"), QStringLiteral("B")});
+    EXPECT_FALSE(root.AddElement(QStringLiteral("End"), 99).isNull());
+    EXPECT_FALSE(root.AddElement(QStringLiteral("First"), 0).isNull());
+    EXPECT_FALSE(root.AddElement(QStringLiteral("Second"), 1).isNull());
+    EXPECT_FALSE(root.AddElement(QStringLiteral("Last"), -1).isNull());
+    EXPECT_EQ(childNames(root), QStringList({"First", "Second", "A", "B", "End", "Last"}));
+    EXPECT_TRUE(root.AddElement(QStringLiteral("1st")).isNull());
+    EXPECT_EQ(root.ElementCount(), 6);
+    EXPECT_EQ(logged(QStringLiteral("TarnXMLElement::AddElement")).size(), 1);
+}
+
+TEST_F(ChildListTest, RemovalsAndTheirFailures)
+{
+    TarnXMLDoc doc;
+    TarnXMLElement root = rootWith(
+        doc, {QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C"), QStringLiteral("D")});
+    EXPECT_TRUE(root.RemoveElement(1));
+    EXPECT_FALSE(root.RemoveElement(3));
+    EXPECT_EQ(
+        logged(QStringLiteral(
+                   "#Event #No element to remove at position 3#TarnXMLElement::RemoveElement"))
+            .size(),
+        1);
+    EXPECT_TRUE(root.RemoveElementByAttributeValue(QStringLiteral("Key"), QStringLiteral("c")));
+    EXPECT_EQ(childNames(root), QStringList({"A", "D"}));
+    // No match is an access to a missing object, reported by the routine's frame.
+    EXPECT_FALSE(root.RemoveElementByAttributeValue(QStringLiteral("Key"), QStringLiteral("Z")));
+    EXPECT_EQ(logged(QStringLiteral("#Error #91 - ")).size(), 1);
+    root.RemoveAllElements();
+    EXPECT_EQ(root.ElementCount(), 0);
+}
+
+TEST_F(ChildListTest, PositionsOutOfRangeAreLogged)
+{
+    TarnXMLDoc doc;
+    const TarnXMLElement root = rootWith(doc, {QStringLiteral("A")});
+    EXPECT_TRUE(root.ElementAtPosition(3).isNull());
+    EXPECT_TRUE(root.ElementAtPosition(-1).isNull());
+    EXPECT_EQ(
+        logged(QStringLiteral("#Event #No element at position 3#TarnXMLElement::ElementAtPosition"))
+            .size(),
+        1);
+}
+
+TEST_F(ChildListTest, WalksByPositionStayCorrectAcrossChanges)
+{
+    TarnXMLDoc doc;
+    TarnXMLElement root = rootWith(doc, {});
+    constexpr qint32 Count = 10000;
+    for (qint32 i = 0; i < Count; ++i) {
+        TarnXMLElement rule = root.AddElement(QStringLiteral("Rule"));
+        rule.AddAttribute(QStringLiteral("RuleID"), QString::number(i));
+        rule.AddElement(QStringLiteral("Items")).AddElement(QStringLiteral("Item"));
+        rule.AddElement(QStringLiteral("ViolationDefinition"));
+    }
+    ASSERT_EQ(root.ElementCount(), Count);
+    // As a loader walks: lookups inside each child between the steps of the outer walk.
+    for (qint32 i = 0; i < Count; ++i) {
+        const TarnXMLElement rule = root.ElementAtPosition(i);
+        ASSERT_EQ(rule.AttributeValue(0), QString::number(i));
+        ASSERT_FALSE(rule.ElementByName(QStringLiteral("violationdefinition")).isNull());
+        ASSERT_EQ(rule.ElementAtPosition(1).ElementName(), QStringLiteral("ViolationDefinition"));
+        ASSERT_EQ(rule.ElementAtPosition(0).ElementCount(), 1);
+    }
+    // Backwards and jumps, as cached positions must not answer for other ones.
+    EXPECT_EQ(root.ElementAtPosition(Count - 2).AttributeValue(0), QString::number(Count - 2));
+    EXPECT_EQ(root.ElementAtPosition(5).AttributeValue(0), QStringLiteral("5"));
+    EXPECT_EQ(root.ElementAtPosition(4).AttributeValue(0), QStringLiteral("4"));
+    // A change under a cached position: the old child at 5 is gone.
+    EXPECT_TRUE(root.RemoveElement(5));
+    EXPECT_EQ(root.ElementAtPosition(5).AttributeValue(0), QStringLiteral("6"));
+    root.AddElement(QStringLiteral("New"), 5);
+    EXPECT_EQ(root.ElementAtPosition(5).ElementName(), QStringLiteral("New"));
+    EXPECT_EQ(root.ElementAtPosition(6).AttributeValue(0), QStringLiteral("6"));
+    // Another parent does not borrow the cache.
+    TarnXMLElement other = root.AddElement(QStringLiteral("Other"), 0);
+    other.AddElement(QStringLiteral("Inner"));
+    EXPECT_EQ(other.ElementAtPosition(0).ElementName(), QStringLiteral("Inner"));
+    EXPECT_TRUE(other.ElementAtPosition(1).isNull());
+}
+
+using HandleTest = XmlTest;
+
+TEST_F(HandleTest, HandlesKeepTheirTreeAlive)
+{
+    TarnXMLElement kept;
+    TarnXMLElement removed;
+    {
+        TarnXMLDoc doc;
+        TarnXMLElement root = rootWith(doc, {QStringLiteral("A"), QStringLiteral("B")});
+        kept = root.ElementAtPosition(0);
+        removed = root.ElementAtPosition(1);
+        root.RemoveElement(1);
+        doc.NewDoc(QStringLiteral("Other"));
+        EXPECT_EQ(doc.RootElement().ElementName(), QStringLiteral("Other"));
+    }
+    EXPECT_EQ(kept.AttributeValueByName(QStringLiteral("Key")), QStringLiteral("A"));
+    EXPECT_EQ(removed.XMLString(), QStringLiteral("<B Key=\"B\"/>"));
+}
+
+TEST_F(HandleTest, NullHandleFailsInTheCaller)
+{
+    const TarnXMLElement null;
+    EXPECT_FALSE(null);
+    EXPECT_EQ(null.XMLNode(), nullptr);
+    try {
+        null.ElementCount();
+        FAIL() << "no error";
+    } catch (const QuorinError &error) {
+        EXPECT_EQ(error.number(), ErrorNumber::ObjectNotSet);
+        EXPECT_EQ(error.source(), QStringLiteral("TarnXMLElement::ElementCount"));
+    }
+    EXPECT_THROW(null.ElementByName(QStringLiteral("A")), QuorinError);
+    // Nothing was caught and logged on the way.
+    EXPECT_TRUE(logRecords().isEmpty());
+}
+
+TEST_F(HandleTest, NodeKindsAndNames)
+{
+    TarnXMLDoc doc;
+    ASSERT_TRUE(doc.LoadFromString(QStringLiteral("<R><E>text</E><![CDATA[ ]]></R>")));
+    const TarnXMLElement root = doc.RootElement();
+    EXPECT_EQ(root.ElementType(), 1);
+    EXPECT_EQ(root.ElementAtPosition(1).ElementType(), 4);
+    const TarnXMLElement text = root.ElementAtPosition(0).ElementAtPosition(0);
+    EXPECT_EQ(text.ElementType(), 3);
+    EXPECT_EQ(text.ElementName(), QString());
+    EXPECT_EQ(root.ElementAtPosition(0).XMLNode(),
+              root.ElementByName(QStringLiteral("e")).XMLNode());
+}

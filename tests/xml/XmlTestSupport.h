@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+inline void PrintTo(const QString &text, std::ostream *os)
+{
+    *os << '"' << text.toStdString() << '"';
+}
+
+// Installs a quiet log in a fresh folder for each test, so tests can read what was logged.
+class XmlTest : public ::testing::Test
+{
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    QString path(const QString &name) const { return m_dir + QLatin1Char('/') + name; }
+    QString writeFile(const QString &name, const QByteArray &bytes) const;
+    static QByteArray readFile(const QString &filename);
+    QStringList logRecords() const;
+    // The records whose message and place contain `fragment`.
+    QStringList logged(const QString &fragment) const { return logRecords().filter(fragment); }
+
+    QString m_dir;
+};
