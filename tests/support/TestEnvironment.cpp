@@ -48,3 +48,27 @@ void clearSettings()
 }
 
 } // namespace TestEnvironment
+
+#include <QFile>
+#include <QProcess>
+
+#include <unistd.h>
+
+namespace TestEnvironment {
+
+bool makeReadOnly(const QString &folder)
+{
+    if (::geteuid() != 0)
+        return QFile::setPermissions(folder, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+    // Root ignores permissions; the immutable flag still binds it where the file system has one.
+    return QProcess::execute(QStringLiteral("chattr"), {QStringLiteral("+i"), folder}) == 0;
+}
+
+void makeWritable(const QString &folder)
+{
+    if (::geteuid() == 0)
+        QProcess::execute(QStringLiteral("chattr"), {QStringLiteral("-i"), folder});
+    QFile::setPermissions(folder, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+}
+
+} // namespace TestEnvironment

@@ -16,3 +16,10 @@ QString makeTempDir();
 void clearSettings();
 
 } // namespace TestEnvironment
+
+namespace TestEnvironment {
+// Makes a folder refuse new files even to root (immutable flag), or to others by its mode.
+// Gives false when neither can be done here; restore with makeWritable.
+bool makeReadOnly(const QString &folder);
+void makeWritable(const QString &folder);
+} // namespace TestEnvironment

@@ -101,7 +101,10 @@ TEST_F(DocumentTest, BadFilesFailWithReasonAndPlace)
         TarnXMLDoc doc;
         EXPECT_FALSE(doc.LoadFromFile(writeFile(QString::fromLatin1(c.name), c.bytes)));
         const QStringList records = logged(QStringLiteral("#Event #XML Parser Error: Number="));
-        ASSERT_FALSE(records.isEmpty());
+        if (records.isEmpty()) {
+            ADD_FAILURE() << "nothing logged";
+            continue;
+        }
         EXPECT_TRUE(records.last().contains(QLatin1String(" Reason=")));
         EXPECT_TRUE(records.last().contains(QLatin1String(c.where)))
             << records.last().toStdString();
@@ -116,8 +119,8 @@ TEST_F(DocumentTest, BadFilesFailWithReasonAndPlace)
     EXPECT_FALSE(
         doc.LoadFromString(QStringLiteral("<!DOCTYPE R SYSTEM \"http://example.com/r.dtd\"><R/>")));
     EXPECT_EQ(::testing::internal::GetCapturedStderr(), std::string());
-    EXPECT_EQ(logged(QStringLiteral("#TarnXMLDoc::LoadFromFile")).size(), std::size(cases) + 1);
-    EXPECT_EQ(logged(QStringLiteral("#TarnXMLDoc::LoadFromString")).size(), 2);
+    EXPECT_EQ(timesLogged("#TarnXMLDoc::LoadFromFile"), std::size(cases) + 1);
+    EXPECT_EQ(timesLogged("#TarnXMLDoc::LoadFromString"), 2);
 }
 
 TEST_F(DocumentTest, ValidationBindsOnlyADocumentWithADtd)
@@ -252,5 +255,5 @@ TEST_F(TransformTest, AppliesAStyleSheetAndLogsABadOne)
     TarnXMLDoc notASheet;
     notASheet.NewDoc(QStringLiteral("Plain"));
     EXPECT_EQ(doc.TransformDocument(notASheet), QString());
-    EXPECT_EQ(logged(QStringLiteral("#TarnXMLDoc::TransformDocument")).size(), 1);
+    EXPECT_EQ(timesLogged("#TarnXMLDoc::TransformDocument"), 1);
 }

@@ -26,6 +26,10 @@ protected:
     QStringList logRecords() const;
     // The records whose message and place contain `fragment`.
     QStringList logged(const QString &fragment) const { return logRecords().filter(fragment); }
+    qsizetype timesLogged(const char *fragment) const
+    {
+        return logged(QString::fromUtf8(fragment)).size();
+    }
 
     QString m_dir;
 };

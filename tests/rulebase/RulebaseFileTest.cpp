@@ -1,0 +1,487 @@
+#include "collections/ObjectKeyedArrayList.h"
+#include "platform/GlobalObjects.h"
+#include "platform/LogFile.h"
+#include "platform/QuorinError.h"
+#include "rulebase/AuthorisedComponents.h"
+#include "rulebase/AuthorisedReference.h"
+#include "rulebase/AuthorisedReferences.h"
+#include "rulebase/CategoryItem.h"
+#include "rulebase/CategoryList.h"
+#include "rulebase/CodingConvention.h"
+#include "rulebase/NamingConvention.h"
+#include "rulebase/PrefixSuffixItem.h"
+#include "rulebase/Report.h"
+#include "rulebase/RuleLists.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/RulebaseLoadCriteria.h"
+#include "rulebase/RulebaseManager.h"
+#include "rulebase/TableItem.h"
+#include "rulebase/TagItem.h"
+#include "rulebase/UnauthorisedKeyword.h"
+#include "rulebase/ViolationDefinition.h"
+
+#include "support/RulebaseDump.h"
+#include "support/ScriptedUserInterface.h"
+#include "support/TestEnvironment.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QByteArray readBytes(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void writeBytes(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(bytes);
+}
+
+// A small file of the current schema; the rule sections are the caller's.
+QByteArray smallFile(const QByteArray &keywords, const QByteArray &coding, const QByteArray &naming,
+                     const QByteArray &report = "<Report/>")
+{
+    return "<Quorin_Rulebase SchemaVersion=\"6.2\">"
+           "<RulebaseProperties Name=\"Small\" Version=\"1.2.0003\" AutoIncrementVersion=\"False\" Description=\"\""
+           " UnknownControlViolation=\"0\" UseCTagsAsDTTags=\"-1\" ToleranceCount=\"1|2|3\" ToleranceImpact=\"-1|-1|-1|-1|-1|9\""
+           " TolerancePercentageComments=\"10\" ToleranceCyclomaticComplexity=\"15\" ArrayTag=\"a\"/>"
+           "<ControlTags><ControlTag TagName=\"vb.checkbox\" TagValue=\"ck\" TagDescription=\"d\" TagExample=\"ckA\"/></ControlTags>"
+           "<DataTypeTags/><ScopeTags/><DefaultViolations/>"
+           "<CategoryList LastID=\"4\"><CategoryItem ID=\"2\" Title=\"Naming\" Description=\"\" Hidden=\"False\"/>"
+           "<CategoryItem ID=\"4\" Title=\"Hidden one\" Description=\"\" Hidden=\"True\"/></CategoryList>"
+           "<SeverityList><SeverityItem Colour=\"3\" Description=\"extra\" Impact=\"5\" SeverityLevel=\"9\""
+           " SeverityLevelText=\"Nine\" Title=\"Ninth\"/></SeverityList>"
+           "<AuthorisedComponents/><AuthorisedReferences/>"
+           "<UnauthorisedKeywords>" + keywords + "</UnauthorisedKeywords>"
+           "<Rules LastRuleID=\"5010\"><CodingConventions>" + coding + "</CodingConventions>"
+           "<NamingConventions>" + naming + "</NamingConventions></Rules>" + report + "</Quorin_Rulebase>";
+}
+
+QByteArray codingRule(const char *id, const char *extra = "", const char *severity = "1", const char *category = "2",
+                      const char *active = "True")
+{
+    return QByteArray("<CodingConvention RuleID=\"") + id + "\" RuleActive=\"" + active
+           + "\" Title=\"T\" Description=\"\" PendingViolation=\"False\" EndEventID=\"-1\" Condition=\"\""
+             " ParserEventID=\"12|15\" " + extra + "><ViolationDefinition Name=\"\" Description=\"\" SeverityLevel=\""
+           + severity + "\" Impact=\"1\" CategoryID=\"" + category + "\" Advice=\"\"/></CodingConvention>";
+}
+
+QByteArray namingRule(const char *id, const char *prefixItems)
+{
+    return QByteArray("<NamingConvention RuleID=\"") + id
+           + "\" RuleActive=\"True\" CaseSensitive=\"False\" Title=\"N\" Description=\"\" ObjectType=\"4\" PropertyType=\"37\""
+             " PropertyName=\"Name\" Condition=\"\" ExclusionList=\" x;y \" PrefixActive=\"True\" PrefixAdvice=\"\""
+             " BodyActive=\"False\" BodyPattern=\"\" BodyMaxLength=\"0\" BodyMinLength=\"0\" BodyAdvice=\"\""
+             " SuffixActive=\"False\" SuffixAdvice=\"\"><PrefixItems>" + prefixItems
+           + "</PrefixItems><ViolationDefinition Name=\"\" Description=\"\" SeverityLevel=\"2\" Impact=\"1\" CategoryID=\"4\""
+             " Advice=\"\"/></NamingConvention>";
+}
+
+class RulebaseFileTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        dir = TestEnvironment::makeTempDir() + QLatin1Char('/');
+        auto log = std::make_shared<LogFile>();
+        log->setLogFileName(dir + QStringLiteral("Error.log"));
+        gobjLogFile = log;
+        RulebaseManager::setAdministratorOverride(true);
+    }
+    void TearDown() override
+    {
+        RulebaseManager::setAdministratorOverride(std::nullopt);
+        gobjLogFile.reset();
+    }
+
+    std::shared_ptr<Rulebase> load(const QString &path) { return RulebaseManager().LoadRulebase(path); }
+    std::shared_ptr<Rulebase> loadBytes(const QByteArray &bytes, const QString &name = QStringLiteral("file.qrb"))
+    {
+        writeBytes(dir + name, bytes);
+        return load(dir + name);
+    }
+    QString logText() const { return QString::fromUtf8(readBytes(dir + QStringLiteral("Error.log"))); }
+
+    QString dir;
+    ScriptedUserInterface ui;
+};
+
+} // namespace
+
+TEST_F(RulebaseFileTest, SampleLoadsWithoutAFaultAndRoundTripsExactly)
+{
+    const auto sample = load(TestEnvironment::sampleRulebase());
+    ASSERT_TRUE(sample);
+    EXPECT_TRUE(ui.messages.empty()) << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
+    EXPECT_FALSE(sample->Dirty());
+    EXPECT_GE(sample->CategoryList()->Count(), 8);
+    EXPECT_EQ(sample->SeverityList()->Count(), 5);
+    EXPECT_GE(sample->RuleLists()->AllConventions()->Count(), 60);
+    EXPECT_GT(sample->RuleLists()->UnauthorisedKeywords()->Count(), 0);
+    EXPECT_GT(sample->RuleLists()->CodingConventions()->Count(), 0);
+    EXPECT_GT(sample->RuleLists()->NamingConventions()->Count(), 0);
+    EXPECT_GT(sample->Report()->Sections()->Count(), 0);
+
+    // Without the version's increment, save -> load -> save gives the same bytes.
+    sample->setAutoIncrementVersion(false);
+    ASSERT_TRUE(RulebaseManager().Save(*sample, dir + QStringLiteral("a.qrb")));
+    EXPECT_FALSE(sample->Dirty());
+    const auto again = load(dir + QStringLiteral("a.qrb"));
+    ASSERT_TRUE(again);
+    EXPECT_EQ(dumpRulebase(*again).toStdString(), dumpRulebase(*sample).toStdString());
+    ASSERT_TRUE(RulebaseManager().Save(*again, dir + QStringLiteral("b.qrb")));
+    EXPECT_EQ(readBytes(dir + QStringLiteral("a.qrb")), readBytes(dir + QStringLiteral("b.qrb")));
+    EXPECT_TRUE(ui.messages.empty());
+
+    // The written form: no declaration, no white space between elements, every section present.
+    const QByteArray bytes = readBytes(dir + QStringLiteral("a.qrb"));
+    EXPECT_TRUE(bytes.startsWith("<Quorin_Rulebase SchemaVersion=\"6.2\"><RulebaseProperties "));
+    EXPECT_FALSE(bytes.contains(">\n<"));
+    EXPECT_FALSE(bytes.contains("> <"));
+}
+
+TEST_F(RulebaseFileTest, EveryFieldSurvivesIncludingTextThatNeedsEscaping)
+{
+    const QString awkward = QStringLiteral("a<b>c & \"q\" 'apos' \ttab\r\nCRLF lone\nLF lone\rCR Zürich 東京 100%");
+    Rulebase rulebase;
+    rulebase.setTitle(awkward);
+    rulebase.setDescription(awkward + awkward);
+    rulebase.setArrayTag(QStringLiteral("arr"));
+    rulebase.setUnknownControlViolation(true);
+    rulebase.setAutoIncrementVersion(false);
+    rulebase.setToleranceCount(3, 42);
+    rulebase.setToleranceImpact(6, -7);
+    rulebase.setToleranceCyclomaticComplexity(25);
+    rulebase.ControlTags()->Item(2)->setTagValue(awkward);
+    auto tag = std::make_shared<TagItem>();
+    tag->setTagName(QStringLiteral("Grid.Control"));
+    tag->setTagValue(QStringLiteral("grd"));
+    rulebase.ControlTags()->Add(tag->TagName(), tag, false, false);
+
+    auto category = std::make_shared<CategoryItem>();
+    category->setTitle(awkward);
+    rulebase.CategoryList()->Add(category, true);
+
+    auto reference = std::make_shared<AuthorisedReference>();
+    reference->setLibID(QStringLiteral("{00020430-0000-0000-C000-000000000046}"));
+    reference->setDescription(awkward);
+    reference->setVersionList(QStringLiteral("2.0; 2.1"));
+    rulebase.AuthorisedReferences()->AddReference(reference);
+
+    auto coding = std::make_shared<CodingConvention>();
+    coding->setTitle(QStringLiteral("Coding"));
+    coding->setCondition(QStringLiteral("Sub Main\r\n\tIf Quorin.ParserEvent() <> \"x\" Then\r\n\tEnd If\r\nEnd Sub"));
+    coding->AddParserEventID(15);
+    coding->AddParserEventID(12);
+    coding->setPendingViolation(true);
+    coding->setEndEventID(30);
+    coding->ViolationDefinition()->setImpact(-32768);
+    coding->ViolationDefinition()->setCategoryID(category->ID());
+    rulebase.RuleLists()->AddConvention(coding, true);
+
+    auto keyword = std::make_shared<UnauthorisedKeyword>();
+    keyword->setTitle(QStringLiteral("GoTo"));
+    keyword->setCondition(QStringLiteral("^\\s*GoTo\\b"));
+    keyword->setRuleActive(false);
+    rulebase.RuleLists()->AddConvention(keyword, true);
+
+    auto naming = std::make_shared<NamingConvention>();
+    naming->setTitle(awkward);
+    naming->setCaseSensitive(false);
+    naming->setExclusionList(QStringLiteral("Form_Load; Main"));
+    naming->setPrefixActive(true);
+    naming->PrefixItems()->Item(1)->setPSType(4);
+    naming->PrefixItems()->Item(3)->setPSType(1); // the empty second slot closes up on save
+    naming->PrefixItems()->Item(3)->setValue(QStringLiteral("[a-z]+"));
+    naming->setMaxBodyLength(32767);
+    rulebase.RuleLists()->AddConvention(naming, true);
+
+    auto table = std::make_shared<TableItem>();
+    table->setTableKey(QStringLiteral("1T"));
+    table->setTableTitle(awkward);
+    table->setTableType(3);
+    rulebase.Report()->Sections()->Add(table);
+    auto page = std::make_shared<CategoryItem>();
+    page->setID(category->ID());
+    page->setTitle(category->Title());
+    page->CategoryRules()->Add(naming);
+    page->CategoryRules()->Add(coding);
+    rulebase.Report()->Sections()->Add(page);
+
+    ASSERT_TRUE(RulebaseManager().Save(rulebase, dir + QStringLiteral("a.qrb")));
+    const auto loaded = load(dir + QStringLiteral("a.qrb"));
+    ASSERT_TRUE(loaded);
+    EXPECT_TRUE(ui.messages.empty()) << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
+
+    // The gap in the prefix items closed up; otherwise the models are equal.
+    EXPECT_EQ(loaded->RuleLists()->NamingConventions()->Item(1)->PrefixItems()->Item(2)->PSType(), 1);
+    naming->PrefixItems()->Item(2)->setPSType(1);
+    naming->PrefixItems()->Item(2)->setValue(QStringLiteral("[a-z]+"));
+    naming->PrefixItems()->Item(3)->setPSType(0);
+    naming->PrefixItems()->Item(3)->setValue(QString());
+    EXPECT_EQ(dumpRulebase(*loaded).toStdString(), dumpRulebase(rulebase).toStdString());
+
+    ASSERT_TRUE(RulebaseManager().Save(*loaded, dir + QStringLiteral("b.qrb")));
+    EXPECT_EQ(readBytes(dir + QStringLiteral("a.qrb")), readBytes(dir + QStringLiteral("b.qrb")));
+    EXPECT_TRUE(readBytes(dir + QStringLiteral("a.qrb")).contains("a%LT%b%GT%c &amp; &quot;q&quot;"));
+}
+
+TEST_F(RulebaseFileTest, LoadingKeepsFileQuirks)
+{
+    const auto rulebase = loadBytes(smallFile(
+        "", codingRule("5001") + codingRule("5002", "", "1", "2", "False"),
+        namingRule("5003", "<PrefixItem PSType=\"1\" PSValue=\"%lt%x%TAB%\"/><PrefixItem PSType=\"2\" PSValue=\"\"/>")));
+    ASSERT_TRUE(rulebase);
+    EXPECT_TRUE(ui.messages.empty()) << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
+    // Tolerance parts fill entries from 1; the rest keep -1.
+    EXPECT_EQ(rulebase->ToleranceCount(3), 3);
+    EXPECT_EQ(rulebase->ToleranceCount(4), -1);
+    EXPECT_TRUE(rulebase->UseCTagsAsDTTags()); // "-1" is a Boolean too
+    // A file's tag that differs from a default in case only updates the default.
+    EXPECT_EQ(rulebase->ControlTags()->Count(), 23);
+    EXPECT_EQ(rulebase->ControlTags()->Item(QStringLiteral("VB.CheckBox"))->TagValue(), QStringLiteral("ck"));
+    // A ninth severity joins the five defaults.
+    EXPECT_EQ(rulebase->SeverityList()->Count(), 6);
+    EXPECT_TRUE(rulebase->SeverityList()->Contains(QStringLiteral("9Key")));
+    // Rules stand in the lists of each of their events, in order; ids are kept.
+    const auto &rules = *rulebase->RuleLists();
+    EXPECT_EQ(rules.LastID(), 5010);
+    EXPECT_EQ(const_cast<RuleLists &>(rules).ParserEventCCList(12, false)->Count(), 2);
+    EXPECT_EQ(const_cast<RuleLists &>(rules).ParserEventCCList(15, false)->Count(), 2);
+    // Escapes restore whatever their case; edit loads keep the exclusion list as typed.
+    const auto naming = rules.NamingConventions()->Item(1);
+    EXPECT_EQ(naming->PrefixItems()->Item(1)->Value(), QStringLiteral("<x\t"));
+    EXPECT_EQ(naming->ExclusionList(), QStringLiteral(" x;y "));
+    EXPECT_FALSE(naming->CaseSensitive());
+    EXPECT_FALSE(rulebase->Dirty());
+}
+
+TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
+{
+    const auto rulebase = loadBytes(smallFile(
+        "", codingRule("5001") + codingRule("12x") + codingRule("5003"),
+        namingRule("5004", "<PrefixItem PSType=\"1\" PSValue=\"a\"/>")));
+    ASSERT_TRUE(rulebase); // a section's fault is its own; the load goes on
+    EXPECT_EQ(rulebase->RuleLists()->CodingConventions()->Count(), 1);
+    EXPECT_EQ(rulebase->RuleLists()->NamingConventions()->Count(), 1);
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Unexpected Error"));
+    EXPECT_EQ(ui.messages[0].text,
+              QStringLiteral("Error 13 - Type mismatch (attribute 'RuleID' of element 'CodingConvention') in function "
+                             "LoadCodingConventions module RulebaseManager"));
+    EXPECT_TRUE(logText().contains(QStringLiteral("#Error #13 - Type mismatch (attribute 'RuleID' of element "
+                                                  "'CodingConvention')#RulebaseManager::LoadCodingConventions")));
+
+    ui.messages.clear();
+    const auto overflow = loadBytes(smallFile("", codingRule("5001", "", "1", "2", "Yes"),
+                                              namingRule("5004", "<PrefixItem PSType=\"1\" PSValue=\"a\"/>"
+                                                                 "<PrefixItem PSType=\"1\" PSValue=\"a\"/><PrefixItem PSType=\"1\" PSValue=\"a\"/>"
+                                                                 "<PrefixItem PSType=\"1\" PSValue=\"a\"/><PrefixItem PSType=\"1\" PSValue=\"a\"/>")));
+    ASSERT_TRUE(overflow);
+    EXPECT_EQ(overflow->RuleLists()->AllConventions()->Count(), 0);
+    ASSERT_EQ(ui.messages.size(), 2u);
+    EXPECT_TRUE(ui.messages[0].text.startsWith(QStringLiteral("Error 13 - Type mismatch (attribute 'RuleActive'")));
+    EXPECT_TRUE(ui.messages[1].text.contains(QStringLiteral("LoadNamingConventions"))); // a fifth prefix item
+
+    ui.messages.clear();
+    QByteArray big = smallFile("", codingRule("5001"), "");
+    big.replace("Impact=\"5\"", "Impact=\"40000\"");
+    ASSERT_TRUE(loadBytes(big));
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(ui.messages[0].text,
+              QStringLiteral("Error 6 - Overflow (attribute 'Impact' of element 'SeverityItem') in function "
+                             "LoadSeverityList module RulebaseManager"));
+}
+
+TEST_F(RulebaseFileTest, FilesThatAreNotRulebasesAreRefusedWithTheirWarnings)
+{
+    const QString parsing = QStringLiteral("Unable to load the rulebase because of an unexpected error during parsing.");
+    const QString schema = QStringLiteral("Unable to load the rulebase because it has an incorrect schema version.");
+    struct Case
+    {
+        QByteArray bytes;
+        QString warning;
+    };
+    QByteArray future = smallFile("", "", "");
+    future.replace("SchemaVersion=\"6.2\"", "SchemaVersion=\"6.3\"");
+    QByteArray ancient = future;
+    ancient.replace("\"6.3\"", "\"5.0\"");
+    QByteArray unversioned = future;
+    unversioned.replace("SchemaVersion=\"6.3\"", "");
+    const Case cases[] = {
+        {QByteArray(), parsing},
+        {"this is not XML", parsing},
+        {smallFile("", "", "").left(300), parsing},
+        {"\xff\xfe<\x00Q\x00", parsing},
+        {future, schema},
+        {ancient, schema},
+        {unversioned, schema},
+    };
+    for (const Case &c : cases) {
+        ui.messages.clear();
+        EXPECT_FALSE(loadBytes(c.bytes));
+        ASSERT_FALSE(ui.messages.empty());
+        EXPECT_EQ(ui.messages.back().text, c.warning) << c.bytes.left(40).toStdString();
+    }
+    EXPECT_TRUE(logText().contains(QStringLiteral("XML Parser Error")));
+
+    // Without "Rules" the frame itself fails; without "Report" only that section does.
+    ui.messages.clear();
+    QByteArray noRules = smallFile("", "", "");
+    noRules.replace(noRules.indexOf("<Rules"), noRules.indexOf("</Rules>") + 8 - noRules.indexOf("<Rules"), "");
+    EXPECT_FALSE(loadBytes(noRules));
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_TRUE(ui.messages[0].text.endsWith(QStringLiteral("in function LoadRulebase module RulebaseManager")));
+    ui.messages.clear();
+    const auto noReport = loadBytes(smallFile("", "", "", ""));
+    ASSERT_TRUE(noReport);
+    EXPECT_EQ(noReport->Report()->Sections()->Count(), 0);
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_TRUE(ui.messages[0].text.endsWith(QStringLiteral("in function LoadReport module RulebaseManager")));
+
+    try {
+        RulebaseManager().LoadRulebase(QString());
+        FAIL() << "an empty name loaded";
+    } catch (const QuorinError &e) {
+        EXPECT_EQ(e.number(), qint32(0x80040204));
+        EXPECT_EQ(e.description(), QStringLiteral("No filename has been specified."));
+    }
+}
+
+TEST_F(RulebaseFileTest, OlderSchemasComeUpToDateInMemoryOnly)
+{
+    // 6.0: no tolerances, no report, no tag descriptions or examples, no exclusion list, no
+    // case sensitivity and no array tag.
+    const QByteArray v60 =
+        "<Quorin_Rulebase SchemaVersion=\"6.0\">"
+        "<RulebaseProperties Name=\"Old\" Version=\"2.0.0001\" AutoIncrementVersion=\"True\" Description=\"d\""
+        " UnknownControlViolation=\"False\" UseCTagsAsDTTags=\"False\"/>"
+        "<ControlTags><ControlTag TagName=\"VB.Label\" TagValue=\"lb\"/></ControlTags>"
+        "<DataTypeTags><DataTypeTag TagName=\"Long\" TagValue=\"l\"/></DataTypeTags>"
+        "<ScopeTags><ScopeTag TagName=\"Local\" TagValue=\"\"/></ScopeTags><DefaultViolations/>"
+        "<CategoryList LastID=\"0\"/><SeverityList/><AuthorisedComponents/><AuthorisedReferences/><UnauthorisedKeywords/>"
+        "<Rules LastRuleID=\"5000\"><CodingConventions/><NamingConventions>"
+        "<NamingConvention RuleID=\"5000\" RuleActive=\"True\" Title=\"N\" Description=\"\" ObjectType=\"4\""
+        " PropertyType=\"37\" PropertyName=\"Name\" Condition=\"\" PrefixActive=\"False\" PrefixAdvice=\"\""
+        " BodyActive=\"False\" BodyPattern=\"\" BodyMaxLength=\"0\" BodyMinLength=\"0\" BodyAdvice=\"\""
+        " SuffixActive=\"False\" SuffixAdvice=\"\"><ViolationDefinition Name=\"\" Description=\"\" SeverityLevel=\"3\""
+        " Impact=\"1\" CategoryID=\"-1\" Advice=\"\"/></NamingConvention></NamingConventions></Rules></Quorin_Rulebase>";
+    const auto old = loadBytes(v60, QStringLiteral("old.qrb"));
+    ASSERT_TRUE(old);
+    EXPECT_TRUE(ui.messages.empty()) << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
+    EXPECT_FALSE(old->Dirty());
+    for (qint32 i = 1; i <= 6; ++i) {
+        EXPECT_EQ(old->ToleranceCount(i), -1);
+        EXPECT_EQ(old->ToleranceImpact(i), -1);
+    }
+    EXPECT_EQ(old->TolerancePercentageComments(), -1);
+    EXPECT_EQ(old->Report()->Sections()->Count(), 0);
+    EXPECT_EQ(old->ControlTags()->Item(QStringLiteral("VB.Label"))->TagValue(), QStringLiteral("lb"));
+    const auto naming = old->RuleLists()->NamingConventions()->Item(1);
+    EXPECT_TRUE(naming->CaseSensitive());
+    EXPECT_TRUE(naming->ExclusionList().isEmpty());
+    EXPECT_EQ(readBytes(dir + QStringLiteral("old.qrb")), v60); // the file stays as it was
+
+    ASSERT_TRUE(RulebaseManager().Save(*old, QString()));
+    EXPECT_TRUE(readBytes(dir + QStringLiteral("old.qrb")).startsWith("<Quorin_Rulebase SchemaVersion=\"6.2\">"));
+    const auto saved = load(dir + QStringLiteral("old.qrb"));
+    ASSERT_TRUE(saved);
+    EXPECT_EQ(saved->Version(), QStringLiteral("2.0.0002"));
+    EXPECT_EQ(dumpRulebase(*saved).toStdString(), dumpRulebase(*old).toStdString());
+
+    // 6.1 had tolerances and a report, and keeps them.
+    QByteArray v61 = v60;
+    v61.replace("\"6.0\"", "\"6.1\"");
+    v61.replace("UseCTagsAsDTTags=\"False\"", "UseCTagsAsDTTags=\"False\" ToleranceCount=\"5|-1|-1|-1|-1|-1\""
+                                              " ToleranceImpact=\"-1|-1|-1|-1|-1|-1\" TolerancePercentageComments=\"7\""
+                                              " ToleranceCyclomaticComplexity=\"-1\"");
+    v61.replace("</Rules>", "</Rules><Report><Section SectionType=\"Table\" TableKey=\"6T\" TableText=\"\""
+                            " TableTitle=\"Severity Details\" TableType=\"5\"/></Report>");
+    const auto newer = loadBytes(v61, QStringLiteral("v61.qrb"));
+    ASSERT_TRUE(newer);
+    EXPECT_EQ(newer->ToleranceCount(1), 5);
+    EXPECT_EQ(newer->TolerancePercentageComments(), 7);
+    EXPECT_EQ(newer->Report()->Sections()->Count(), 1);
+    EXPECT_TRUE(newer->RuleLists()->NamingConventions()->Item(1)->CaseSensitive());
+    EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST_F(RulebaseFileTest, SelectiveLoadsReadOnlyWhatTheCriteriaAskFor)
+{
+    const auto all = load(TestEnvironment::sampleRulebase());
+    ASSERT_TRUE(all);
+
+    RulebaseLoadCriteria bare;
+    bare.setRulebaseFile(TestEnvironment::sampleRulebase());
+    const auto frame = RulebaseManager().LoadRulebase(bare);
+    ASSERT_TRUE(frame);
+    EXPECT_EQ(frame->Title(), all->Title());
+    EXPECT_EQ(frame->CategoryList()->Count(), all->CategoryList()->Count());
+    EXPECT_EQ(frame->RuleLists()->AllConventions()->Count(), 0);
+    EXPECT_EQ(frame->Report()->Sections()->Count(), 0);
+    EXPECT_EQ(bare.NumCodingConventions(), all->RuleLists()->CodingConventions()->Count());
+    EXPECT_EQ(bare.NumNamingConventions(), all->RuleLists()->NamingConventions()->Count());
+    EXPECT_EQ(bare.NumUnauthKeywords(), all->RuleLists()->UnauthorisedKeywords()->Count());
+    EXPECT_EQ(bare.NumAuthComps(), all->AuthorisedComponents()->Count());
+
+    // The review side: active rules of severity 1 outside hidden categories, as a non-administrator.
+    RulebaseManager::setAdministratorOverride(false);
+    RulebaseLoadCriteria review;
+    review.setRulebaseFile(TestEnvironment::sampleRulebase());
+    review.setSeverityLevel(1, true);
+    review.setCodingConventions(true);
+    review.setNamingConventions(true);
+    review.setUnauthorisedKeywords(true);
+    const auto partial = RulebaseManager().LoadRulebase(review);
+    ASSERT_TRUE(partial);
+    qint32 expected = 0;
+    const auto &rules = *all->RuleLists()->AllConventions();
+    for (qint32 i = 1; i <= rules.Count(); ++i) {
+        const auto rule = rules.Item(i);
+        const qint32 category = rule->ViolationDefinition()->CategoryID();
+        const bool hidden = all->CategoryList()->ContainsID(category)
+                            && all->CategoryList()->Item(CategoryList::CategoryIDToKey(category))->Hidden();
+        if (rule->RuleActive() && rule->ViolationDefinition()->Severity() == 1 && !hidden)
+            ++expected;
+    }
+    EXPECT_GT(expected, 0);
+    EXPECT_EQ(partial->RuleLists()->AllConventions()->Count(), expected);
+    EXPECT_LT(partial->CategoryList()->Count(), all->CategoryList()->Count());
+    EXPECT_GT(review.ExcludedCategoryIDCount(), 0);
+    const auto &naming = *partial->RuleLists()->NamingConventions();
+    for (qint32 i = 1; i <= naming.Count(); ++i) {
+        EXPECT_TRUE(naming.Item(i)->ExclusionList().startsWith(QLatin1Char(';')));
+        EXPECT_TRUE(naming.Item(i)->ExclusionList().endsWith(QLatin1Char(';')));
+    }
+}
+
+TEST_F(RulebaseFileTest, AFailedSaveLeavesTheOldFileAndTheDirtyFlag)
+{
+    const QString folder = dir + QStringLiteral("locked");
+    ASSERT_TRUE(QDir().mkpath(folder));
+    const QString path = folder + QStringLiteral("/standards.qrb");
+    auto rulebase = load(TestEnvironment::sampleRulebase());
+    ASSERT_TRUE(rulebase);
+    ASSERT_TRUE(RulebaseManager().Save(*rulebase, path));
+    const QByteArray before = readBytes(path);
+    const QString version = rulebase->Version();
+
+    rulebase->setTitle(QStringLiteral("Changed"));
+    if (!TestEnvironment::makeReadOnly(folder))
+        GTEST_SKIP() << "this file system can't make a folder read-only";
+    const bool saved = RulebaseManager().Save(*rulebase, path);
+    TestEnvironment::makeWritable(folder);
+
+    EXPECT_FALSE(saved);
+    EXPECT_EQ(ui.messageTexts(), QStringList{QStringLiteral("Error during save: Access denied.")});
+    EXPECT_EQ(readBytes(path), before);
+    EXPECT_TRUE(rulebase->Dirty());
+    EXPECT_NE(rulebase->Version(), version); // the increment stands: a retry counts twice
+}
