@@ -106,9 +106,38 @@ bool toBool(const QString &text, const QString &source)
     throw QuorinError::typeMismatch(source);
 }
 
+// Plain decimal integers are nearly every number a file holds; they skip the general parse.
+static bool parsePlainInteger(const QString &text, qint64 &out)
+{
+    const qsizetype n = text.size();
+    if (n == 0 || n > 18)
+        return false;
+    qsizetype i = 0;
+    const bool negative = text[0] == u'-';
+    if (negative && n == 1)
+        return false;
+    if (negative)
+        i = 1;
+    qint64 value = 0;
+    for (; i < n; ++i) {
+        const char16_t c = text[i].unicode();
+        if (c < u'0' || c > u'9')
+            return false;
+        value = value * 10 + (c - u'0');
+    }
+    out = negative ? -value : value;
+    return true;
+}
+
 template<typename Int>
 static Int toInt(const QString &text, const QString &source)
 {
+    qint64 plain = 0;
+    if (parsePlainInteger(text, plain)) {
+        if (plain < std::numeric_limits<Int>::min() || plain > std::numeric_limits<Int>::max())
+            throw QuorinError::overflow(source);
+        return static_cast<Int>(plain);
+    }
     double number = 0;
     if (!parseNumber(text, number))
         throw QuorinError::typeMismatch(source);

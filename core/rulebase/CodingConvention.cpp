@@ -36,14 +36,21 @@ void CodingConvention::setTriggered(bool triggered)
         m_triggered = triggered;
 }
 
+::ViolationDefinition &CodingConvention::definition() const
+{
+    if (!m_violationDefinition)
+        throw QuorinError::objectNotSet(QStringLiteral("CodingConvention::ViolationDefinition"));
+    return *m_violationDefinition;
+}
+
 qint32 CodingConvention::CategoryID() const
 {
-    return m_violationDefinition->CategoryID();
+    return definition().CategoryID();
 }
 
 void CodingConvention::setCategoryID(qint32 categoryID)
 {
-    m_violationDefinition->setCategoryID(categoryID);
+    definition().setCategoryID(categoryID);
     m_dirty = true;
 }
 
@@ -93,7 +100,7 @@ std::shared_ptr<IRule> CodingConvention::Clone() const
 {
     return guarded("Clone", module, std::shared_ptr<IRule>(), [this] {
         auto clone = std::make_shared<CodingConvention>();
-        clone->setViolationDefinition(m_violationDefinition->Copy());
+        clone->setViolationDefinition(definition().Copy());
         clone->setTitle(QStringLiteral("Clone of ") + m_title);
         clone->setCategoryID(CategoryID());
         clone->setCondition(m_condition);

@@ -60,6 +60,9 @@ public:
     bool IsAssignedToEvent(qint32 eventID) const { return m_events.Contains(eventID); }
 
 private:
+    // The definition, or the runtime's object error when it was replaced by none.
+    ::ViolationDefinition &definition() const;
+
     qint32 m_ruleID = 0;
     bool m_ruleActive = true;
     QString m_title;

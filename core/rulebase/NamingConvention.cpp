@@ -51,14 +51,21 @@ void NamingConvention::setDirty(bool dirty)
         m_violationDefinition->setDirty(dirty);
 }
 
+::ViolationDefinition &NamingConvention::definition() const
+{
+    if (!m_violationDefinition)
+        throw QuorinError::objectNotSet(QStringLiteral("NamingConvention::ViolationDefinition"));
+    return *m_violationDefinition;
+}
+
 qint32 NamingConvention::CategoryID() const
 {
-    return m_violationDefinition->CategoryID();
+    return definition().CategoryID();
 }
 
 void NamingConvention::setCategoryID(qint32 categoryID)
 {
-    m_violationDefinition->setCategoryID(categoryID);
+    definition().setCategoryID(categoryID);
     m_dirty = true;
 }
 
@@ -182,7 +189,7 @@ std::shared_ptr<IRule> NamingConvention::Clone() const
 {
     return guarded("Clone", module, std::shared_ptr<IRule>(), [this] {
         auto clone = std::make_shared<NamingConvention>();
-        clone->setViolationDefinition(m_violationDefinition->Copy());
+        clone->setViolationDefinition(definition().Copy());
         clone->setTitle(QStringLiteral("Clone of ") + m_title);
         clone->setDescription(m_description);
         clone->setCategoryID(CategoryID());

@@ -87,6 +87,9 @@ public:
     std::shared_ptr<IRule> Clone() const override;
 
 private:
+    // The definition, or the runtime's object error when it was replaced by none.
+    ::ViolationDefinition &definition() const;
+
     qint32 m_ruleID = 0;
     bool m_ruleActive = true;
     bool m_caseSensitive = true;

@@ -42,6 +42,8 @@ std::shared_ptr<Rule> removeFromList(ObjectArrayList<Rule> *list, qint32 ruleID)
     std::shared_ptr<Rule> rule;
     for (qint32 i = 1; i <= list->Count(); ++i) {
         rule = list->Item(i);
+        if (!rule)
+            throw QuorinError::objectNotSet(QStringLiteral("RuleLists"));
         if (rule->RuleID() == ruleID) {
             list->Remove(i);
             break;

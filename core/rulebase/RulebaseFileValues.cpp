@@ -29,7 +29,7 @@ auto convert(const TarnXMLElement &element, const char *attribute, Convert &&con
 QString readText(const TarnXMLElement &element, const char *attribute)
 {
     try {
-        return element.AttributeValueByName(QLatin1String(attribute));
+        return element.AttributeValueByName(QLatin1StringView(attribute));
     } catch (const QuorinError &e) {
         throw QuorinError(e.number(), e.source(), e.description() + where(element, attribute));
     }

@@ -24,14 +24,21 @@ void UnauthorisedKeyword::setDirty(bool dirty)
         m_violationDefinition->setDirty(dirty);
 }
 
+::ViolationDefinition &UnauthorisedKeyword::definition() const
+{
+    if (!m_violationDefinition)
+        throw QuorinError::objectNotSet(QStringLiteral("UnauthorisedKeyword::ViolationDefinition"));
+    return *m_violationDefinition;
+}
+
 qint32 UnauthorisedKeyword::CategoryID() const
 {
-    return m_violationDefinition->CategoryID();
+    return definition().CategoryID();
 }
 
 void UnauthorisedKeyword::setCategoryID(qint32 categoryID)
 {
-    m_violationDefinition->setCategoryID(categoryID);
+    definition().setCategoryID(categoryID);
     m_dirty = true;
 }
 
@@ -69,7 +76,7 @@ std::shared_ptr<IRule> UnauthorisedKeyword::Clone() const
 {
     return guarded("Clone", module, std::shared_ptr<IRule>(), [this] {
         auto clone = std::make_shared<UnauthorisedKeyword>();
-        clone->setViolationDefinition(m_violationDefinition->Copy());
+        clone->setViolationDefinition(definition().Copy());
         clone->setTitle(QStringLiteral("Clone of ") + m_title);
         clone->setCategoryID(CategoryID());
         clone->setCondition(m_condition);

@@ -19,7 +19,7 @@ qint16 partFromText(const QString &text, const char *member)
     return Text::toInteger(text, QStringLiteral("VersionNumber::") + QLatin1String(member));
 }
 
-// The original arithmetic is 16-bit: going past its range is an overflow, not a wrap.
+// The parts are 16-bit: going past that range is an overflow error, not a wrap.
 qint16 nextOf(qint16 part)
 {
     if (part == std::numeric_limits<qint16>::max())

@@ -291,6 +291,34 @@ void TarnXMLElement::setAttributeValue(qint32 index, const QString &value)
     storeValue(attributeAt(nodeOf(m_node), index, "TarnXMLElement::AttributeValue"), value);
 }
 
+QString TarnXMLElement::AttributeValueByName(QLatin1StringView name) const
+{
+    requireNode("AttributeValueByName");
+    const xmlNodePtr node = nodeOf(m_node);
+    if (node->type == XML_ELEMENT_NODE) {
+        auto matches = [name](xmlAttrPtr a) {
+            const char *own = reinterpret_cast<const char *>(a->name);
+            return std::strlen(own) == size_t(name.size()) && std::memcmp(own, name.data(), size_t(name.size())) == 0;
+        };
+        const auto last = static_cast<xmlAttrPtr>(m_lastAttribute);
+        // From the one after the last match to the end, then from the start up to it.
+        const xmlAttrPtr start = last && last->parent == node && last->next ? last->next : node->properties;
+        for (xmlAttrPtr a = start; a; a = a->next) {
+            if (matches(a)) {
+                m_lastAttribute = a;
+                return restoredValue(a);
+            }
+        }
+        for (xmlAttrPtr a = node->properties; a != start; a = a->next) {
+            if (matches(a)) {
+                m_lastAttribute = a;
+                return restoredValue(a);
+            }
+        }
+    }
+    throw QuorinError::objectNotSet(QStringLiteral("TarnXMLElement::AttributeValueByName"));
+}
+
 QString TarnXMLElement::AttributeValueByName(const QString &name) const
 {
     requireNode("AttributeValueByName");

@@ -38,6 +38,8 @@ public:
     QString AttributeValue(qint32 index) const;
     void setAttributeValue(qint32 index, const QString &value);
     QString AttributeValueByName(const QString &name) const;
+    // The same for an ASCII name known at compile time; loaders call it for every value they read.
+    QString AttributeValueByName(QLatin1StringView name) const;
     // Adds the attribute when it is absent, so assignment always works.
     void setAttributeValueByName(const QString &name, const QString &value);
     // Replaces an attribute of that name.
@@ -76,4 +78,7 @@ private:
 
     std::shared_ptr<TarnXMLDocState> m_document;
     TarnXMLNode *m_node = nullptr;
+    // Where the last name look-up ended: loaders read attributes in file order, so the next
+    // search starts after it and usually succeeds at once.
+    mutable void *m_lastAttribute = nullptr;
 };
