@@ -5,7 +5,7 @@ QUORIN_PACKAGES=(
   g++ cmake ninja-build ccache pkg-config
   qt6-base-dev libxml2-dev libxslt1-dev libxml2-utils
   libgtest-dev libgmock-dev libbenchmark-dev
-  fonts-dejavu-core
+  fonts-dejavu-core time bc
 )
 
 quorin_install() {
