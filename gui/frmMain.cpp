@@ -6,24 +6,45 @@
 #include "platform/QuorinAdminData.h"
 #include "platform/UserInterface.h"
 #include "rulebase/Rulebase.h"
+#include "views/CommandTable.h"
+#include "views/IViewController.h"
+#include "views/ToolDispatcher.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSplitter>
 #include <QStandardItemModel>
 #include <QStatusBar>
 #include <QTextBrowser>
+#include <QToolBar>
 #include <QTreeView>
 
 namespace {
 // Stored layouts are in twips, 15 to a pixel at 96 dpi.
 constexpr int twipsPerPixel = 15;
+
+const char *const toolbarToggles[][2] = {
+    {"tlFileToolbar", "tlbFile"},
+    {"tlViewToolbar", "tlbView"},
+    {"tlRuleToolbar", "tlbRule"},
+    {"tlToolsToolbar", "tlbTools"},
+};
+
+// The navigation bar's captions, on two lines.
+const char *const navigationCaptions[][2] = {
+    {"tlCodingConventions", "Coding\nConventions"},
+    {"tlNamingConventions", "Naming\nConventions"},
+    {"tlAuthorisedItems", "Authority\nItems"},
+    {"tlCategoryView", "Conventions\nBy Category"},
+    {"tlSeverityView", "Conventions\nBy Severity"},
+};
 } // namespace
 
 frmMain::frmMain(bool interactive, QWidget *parent)
@@ -37,12 +58,15 @@ frmMain::frmMain(bool interactive, QWidget *parent)
     m_tree = new QTreeView;
     m_tree->setObjectName(QStringLiteral("tvwMain"));
     m_tree->setHeaderHidden(true);
+    m_tree->setContextMenuPolicy(Qt::CustomContextMenu);
 
     m_list = new QTreeView;
     m_list->setObjectName(QStringLiteral("lvwMain"));
     m_list->setRootIsDecorated(false);
     m_list->setSortingEnabled(true);
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_list->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_list->installEventFilter(this);
     auto *columns = new QStandardItemModel(0, 4, m_list);
     columns->setHorizontalHeaderLabels(
         {QStringLiteral("Rule"), QStringLiteral("Title"), QStringLiteral("Category"), QStringLiteral("Impact")});
@@ -51,90 +75,223 @@ frmMain::frmMain(bool interactive, QWidget *parent)
     m_documentation = new QTextBrowser;
     m_documentation->setObjectName(QStringLiteral("txtDocumentation"));
 
-    m_rightSplitter = new QSplitter(Qt::Vertical);
-    m_rightSplitter->addWidget(m_list);
-    m_rightSplitter->addWidget(m_documentation);
-    m_rightSplitter->setStretchFactor(0, 1);
+    // Tree over documentation on the left, the list on the right.
+    m_leftSplitter = new QSplitter(Qt::Vertical);
+    m_leftSplitter->addWidget(m_tree);
+    m_leftSplitter->addWidget(m_documentation);
+    m_leftSplitter->setStretchFactor(0, 1);
+    m_leftSplitter->setChildrenCollapsible(false);
 
     m_mainSplitter = new QSplitter(Qt::Horizontal);
-    m_mainSplitter->addWidget(m_tree);
-    m_mainSplitter->addWidget(m_rightSplitter);
+    m_mainSplitter->setObjectName(QStringLiteral("picContainer"));
+    m_mainSplitter->addWidget(m_leftSplitter);
+    m_mainSplitter->addWidget(m_list);
     m_mainSplitter->setStretchFactor(1, 1);
+    m_mainSplitter->setChildrenCollapsible(false);
     setCentralWidget(m_mainSplitter);
 
     m_status = new QLabel;
+    m_status->setObjectName(QStringLiteral("lblStatus"));
+    statusBar()->setObjectName(QStringLiteral("stbMain"));
     statusBar()->addWidget(m_status, 1);
 
     createActions();
-    createMenus();
+    createBars();
+
+    connect(m_tree, &QWidget::customContextMenuRequested, this, [this](const QPoint &at) {
+        m_popups.value(QStringLiteral("mnuTreePopup"))->popup(m_tree->viewport()->mapToGlobal(at));
+    });
+    connect(m_list, &QWidget::customContextMenuRequested, this, [this](const QPoint &at) {
+        updateRuleActiveTools();
+        m_popups.value(QStringLiteral("mnuListPopup"))->popup(m_list->viewport()->mapToGlobal(at));
+    });
+    connect(m_list, &QAbstractItemView::doubleClicked, this, [this] { toolClicked(QStringLiteral("tlOpenRule")); });
 }
 
 frmMain::~frmMain() = default;
 
+QAction *frmMain::tool(const QString &toolId) const
+{
+    return m_actions.value(toolId.toLower());
+}
+
 void frmMain::createActions()
 {
-    auto make = [this](const char *id, const QString &text, QKeySequence shortcut, auto slot) {
-        auto *action = new QAction(text, this);
-        action->setObjectName(QLatin1String(id));
-        action->setShortcut(shortcut);
-        connect(action, &QAction::triggered, this, slot);
-        return action;
+    auto *views = new QActionGroup(this);
+    for (const ToolDefinition &definition : CommandTable::tools()) {
+        const QString id = QLatin1String(definition.id);
+        auto *action = new QAction(QString::fromUtf8(definition.caption), this);
+        action->setObjectName(id);
+        if (definition.toolTip)
+            action->setToolTip(QString::fromUtf8(definition.toolTip));
+        action->setCheckable(definition.checkable);
+        if (CommandTable::viewTools().contains(id))
+            views->addAction(action);
+        connect(action, &QAction::triggered, this, [this, id] { toolClicked(id); });
+        m_actions.insert(id.toLower(), action);
+    }
+    const std::pair<const char *, QKeySequence> shortcuts[] = {
+        {"tlNewRulebase", QKeySequence::New},
+        {"tlOpenRulebase", QKeySequence::Open},
+        {"tlSaveRulebase", QKeySequence::Save},
+        {"tlSaveRulebaseAs", QKeySequence::SaveAs},
+        {"tlExit", QKeySequence::Quit},
+        {"tlContents", QKeySequence::HelpContents},
+        {"tlDeleteRule", QKeySequence::Delete},
     };
-    m_newAction = make("tlNewRulebase", tr("&New Rulebase"), QKeySequence::New, [this] {
-        m_application->NewRulebase();
-    });
-    m_openAction = make("tlOpenRulebase", tr("&Open Rulebase..."), QKeySequence::Open, [this] { openWithDialog(); });
-    m_saveAction = make("tlSaveRulebase", tr("&Save Rulebase"), QKeySequence::Save, [this] {
-        m_application->SaveRulebase();
-        Update();
-    });
-    m_saveAsAction = make("tlSaveRulebaseAs", tr("Save Rulebase &As..."), QKeySequence::SaveAs, [this] {
-        m_application->SaveRulebaseAs();
-        Update();
-    });
-    m_exitAction = make("tlExit", tr("E&xit"), QKeySequence::Quit, [this] { close(); });
-    m_aboutAction = make("tlHelpAbout", tr("&About Quorin Administrator..."), QKeySequence(), [this] {
-        m_application->HelpAbout();
-    });
+    for (const auto &[id, keys] : shortcuts)
+        tool(QLatin1String(id))->setShortcut(keys);
+    tool(QStringLiteral("tlDeleteRule"))->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_list->addAction(tool(QStringLiteral("tlDeleteRule")));
+    tool(QStringLiteral("tlDocumentationConventions"))->setVisible(false); // no such view exists
 }
 
-void frmMain::createMenus()
+QMenu *frmMain::buildMenu(const BandDefinition &band, QWidget *parent)
 {
-    QMenu *file = menuBar()->addMenu(tr("&File"));
-    file->addAction(m_newAction);
-    file->addAction(m_openAction);
-    file->addAction(m_saveAction);
-    file->addAction(m_saveAsAction);
-    file->addSeparator();
-    m_recentMenu = file->addMenu(tr("Recent &Files"));
-    file->addSeparator();
-    file->addAction(m_exitAction);
-
-    QMenu *help = menuBar()->addMenu(tr("&Help"));
-    help->addAction(m_aboutAction);
+    auto *menu = new QMenu(QString::fromUtf8(band.caption), parent);
+    menu->setObjectName(QLatin1String(band.id));
+    for (const char *id : band.tools) {
+        const QString toolId = QLatin1String(id);
+        if (toolId == QLatin1String("-")) {
+            menu->addSeparator();
+        } else if (toolId == QLatin1String(CommandTable::recentFilesAnchor)) {
+            m_fileMenu = menu;
+            m_recentAnchor = menu->addSeparator();
+        } else if (QAction *action = tool(toolId)) {
+            menu->addAction(action);
+        }
+    }
+    return menu;
 }
 
-void frmMain::rebuildRecentMenu()
+void frmMain::createBars()
 {
-    m_recentMenu->clear();
+    // Pop-up bands first, so that the tools that open them can carry them as sub-menus.
+    for (const BandDefinition &band : CommandTable::bands()) {
+        if (band.kind == BandKind::Popup)
+            m_popups.insert(QLatin1String(band.id), buildMenu(band, this));
+    }
+    for (const ToolDefinition &definition : CommandTable::tools()) {
+        if (definition.opensBand)
+            tool(QLatin1String(definition.id))->setMenu(m_popups.value(QLatin1String(definition.opensBand)));
+    }
+    for (const BandDefinition &band : CommandTable::bands()) {
+        if (band.kind == BandKind::Menu) {
+            QMenu *menu = buildMenu(band, menuBar());
+            menuBar()->addMenu(menu);
+            if (menu->objectName() == QLatin1String("mnuRule"))
+                connect(menu, &QMenu::aboutToShow, this, &frmMain::updateRuleActiveTools);
+        } else if (band.kind == BandKind::Toolbar || band.kind == BandKind::NavigationBar) {
+            const bool navigation = band.kind == BandKind::NavigationBar;
+            auto *bar = new QToolBar(QString::fromUtf8(band.caption), this);
+            bar->setObjectName(QLatin1String(band.id));
+            for (const char *id : band.tools) {
+                if (QLatin1String(id) == QLatin1String("-"))
+                    bar->addSeparator();
+                else
+                    bar->addAction(tool(QLatin1String(id)));
+            }
+            if (navigation) {
+                bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+                // Tool buttons show the icon text; menus keep the one-line caption.
+                for (const auto &[id, caption] : navigationCaptions)
+                    tool(QLatin1String(id))->setIconText(QString::fromUtf8(caption));
+                addToolBar(Qt::LeftToolBarArea, bar);
+                m_navigation = bar;
+            } else {
+                bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+                addToolBar(Qt::TopToolBarArea, bar);
+            }
+        }
+    }
+    for (const auto &[toggle, band] : toolbarToggles) {
+        QToolBar *bar = findChild<QToolBar *>(QLatin1String(band));
+        m_toolbars.insert(QLatin1String(toggle), bar);
+        tool(QLatin1String(toggle))->setChecked(true);
+    }
+    tool(QStringLiteral("tlStatusBar"))->setChecked(true);
+    connect(m_fileMenu, &QMenu::aboutToShow, this, &frmMain::rebuildRecentFiles);
+}
+
+void frmMain::toolClicked(const QString &toolId)
+{
+    if (runWindowTool(toolId) || !m_application)
+        return;
+    ExecuteTool(*m_application, toolId);
+}
+
+// The tools that change the window itself rather than the document.
+bool frmMain::runWindowTool(const QString &toolId)
+{
+    const QString id = toolId.toLower();
+    if (id == QLatin1String("tlexit")) {
+        close();
+    } else if (id == QLatin1String("tlexpandall") || id == QLatin1String("tlcollapseall")) {
+        ExpandCollapseAll(id == QLatin1String("tlexpandall"));
+    } else if (QToolBar *bar = m_toolbars.value(toolId)) {
+        bar->setVisible(!bar->isVisible());
+        tool(toolId)->setChecked(bar->isVisible());
+    } else if (id == QLatin1String("tlstatusbar")) {
+        statusBar()->setVisible(!statusBar()->isVisible());
+        tool(toolId)->setChecked(statusBar()->isVisible());
+    } else if (id == QLatin1String("tlquorinbar")) {
+        m_navigation->setVisible(!m_navigation->isVisible());
+        tool(toolId)->setChecked(m_navigation->isVisible());
+        if (gobjAdminData)
+            gobjAdminData->setQuorinBarVisible(m_navigation->isVisible());
+    } else if (id == QLatin1String("tldocumentationwindow")) {
+        m_documentation->setVisible(!m_documentation->isVisible());
+        tool(toolId)->setChecked(m_documentation->isVisible());
+    } else if (const ToolDefinition *definition = CommandTable::findTool(toolId); definition && definition->opensBand) {
+        // A tool that opens a sub-menu does nothing of its own.
+    } else if (id == QLatin1String("tldocumentationconventions")) {
+        // No such view exists; the tool stays without effect.
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void frmMain::ExpandCollapseAll(bool expand)
+{
+    if (expand)
+        m_tree->expandAll();
+    else
+        m_tree->collapseAll();
+}
+
+void frmMain::rebuildRecentFiles()
+{
+    for (QAction *action : std::as_const(m_recentActions)) {
+        m_fileMenu->removeAction(action);
+        action->deleteLater();
+    }
+    m_recentActions.clear();
+    m_recentAnchor->setVisible(m_mru->Count() > 0);
+    // Inserted before the action that follows the anchor, so they stand after it, in order.
+    const QList<QAction *> all = m_fileMenu->actions();
+    const qsizetype anchor = all.indexOf(m_recentAnchor);
+    QAction *before = anchor + 1 < all.size() ? all.at(anchor + 1) : nullptr;
     for (int i = 1; i <= m_mru->Count(); ++i) {
         const QString file = m_mru->Item(i);
-        QAction *action = m_recentMenu->addAction(QStringLiteral("&%1 %2").arg(i).arg(file));
-        connect(action, &QAction::triggered, this, [this, file] { openRecent(file); });
+        auto *action = new QAction(QStringLiteral("&%1 %2").arg(i).arg(file), m_fileMenu);
+        action->setObjectName(QStringLiteral("MRU%1").arg(i));
+        connect(action, &QAction::triggered, this, [this, file] {
+            if (m_application)
+                OpenRecentFile(*m_application, file);
+        });
+        m_fileMenu->insertAction(before, action);
+        m_recentActions << action;
     }
-    m_recentMenu->setEnabled(m_mru->Count() > 0);
+    if (!m_recentActions.isEmpty())
+        m_recentActions << m_fileMenu->insertSeparator(before);
 }
 
-void frmMain::openWithDialog()
+void frmMain::updateRuleActiveTools()
 {
-    if (m_application->OpenRulebase(Application::OpenMode::Ask))
-        AddToMRUList(m_application->rulebase()->Filename());
-}
-
-void frmMain::openRecent(const QString &filename)
-{
-    if (m_application->OpenRulebase(Application::OpenMode::RecentList, filename))
-        AddToMRUList(m_application->rulebase()->Filename());
+    const int state = m_application && m_application->CurrentView() ? m_application->CurrentView()->ItemsActiveState() : 4;
+    tool(QStringLiteral("tlRuleActive"))->setVisible(state == 2 || state == 3);
+    tool(QStringLiteral("tlRuleInactive"))->setVisible(state == 1 || state == 3);
 }
 
 void frmMain::Update()
@@ -147,26 +304,38 @@ void frmMain::Update()
 void frmMain::SetEnabledState()
 {
     const bool open = m_application && m_application->RulebaseOpen();
-    m_saveAction->setEnabled(open);
-    m_saveAsAction->setEnabled(open);
+    for (const QString &id : CommandTable::rulebaseTools())
+        tool(id)->setEnabled(open);
+    const bool rows = m_list->model() && m_list->model()->rowCount() > 0;
+    tool(QStringLiteral("tlDeleteRule"))->setEnabled(rows);
+    tool(QStringLiteral("tlOpenRule"))->setEnabled(rows);
     m_mainSplitter->setVisible(open);
-    m_status->setText(open ? QString() : tr("No rulebase is open."));
+    if (!open)
+        m_navigation->setVisible(false);
+    else if (!gobjAdminData || gobjAdminData->QuorinBarVisible())
+        m_navigation->setVisible(true);
+    tool(QStringLiteral("tlQuorinBar"))->setChecked(m_navigation->isVisible());
+    m_status->setText(open ? programTitle() : tr("No rulebase selected."));
 }
 
 void frmMain::AddToMRUList(const QString &filename)
 {
     m_mru->Add(filename);
     UserInterface::current().addToRecentDocs(filename);
-    rebuildRecentMenu();
 }
 
 void frmMain::RemoveFromMRUList(const QString &filename)
 {
     m_mru->Remove(filename);
-    rebuildRecentMenu();
 }
 
-void frmMain::SetCurrentViewTool(const QString &) {}
+void frmMain::SetCurrentViewTool(const QString &viewName)
+{
+    for (const QString &id : CommandTable::viewTools())
+        tool(id)->setChecked(id.compare(viewName, Qt::CaseInsensitive) == 0);
+    if (QAction *view = tool(viewName))
+        tool(QStringLiteral("tlCurrentView"))->setIcon(view->icon());
+}
 
 void frmMain::SetBusy(bool busy)
 {
@@ -182,7 +351,6 @@ void frmMain::ShowWindow()
 {
     restoreWindowState();
     m_mru->setAppName(QStringLiteral("Settings\\Rulebase"));
-    rebuildRecentMenu();
     SetEnabledState();
     show();
 }
@@ -214,8 +382,9 @@ void frmMain::restoreWindowState()
     const int tree = data.TreeWidth() / twipsPerPixel;
     m_mainSplitter->setSizes({tree, std::max(1, width() - tree)});
     const int doc = data.DocHeight() / twipsPerPixel;
-    m_rightSplitter->setSizes({std::max(1, height() - doc), doc});
+    m_leftSplitter->setSizes({std::max(1, height() - doc), doc});
     m_documentation->setVisible(data.DocWinVisible());
+    tool(QStringLiteral("tlDocumentationWindow"))->setChecked(data.DocWinVisible());
     if (data.Maximised())
         setWindowState(windowState() | Qt::WindowMaximized);
 }
@@ -239,9 +408,31 @@ void frmMain::saveWindowState()
         data.setTreeWidth(main.at(0) * twipsPerPixel);
         data.setListLeft((main.at(0) + m_mainSplitter->handleWidth()) * twipsPerPixel);
     }
-    const QList<int> right = m_rightSplitter->sizes();
-    if (right.size() == 2 && right.at(1) > 0)
-        data.setDocHeight(right.at(1) * twipsPerPixel);
+    const QList<int> left = m_leftSplitter->sizes();
+    if (left.size() == 2 && left.at(1) > 0)
+        data.setDocHeight(left.at(1) * twipsPerPixel);
+}
+
+void frmMain::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_F1) {
+        UserInterface::current().showHelp(HelpCommand::Context, QString(), m_helpContext);
+        return;
+    }
+    QMainWindow::keyPressEvent(event);
+}
+
+bool frmMain::eventFilter(QObject *watched, QEvent *event)
+{
+    // Ctrl+A on the list selects every row.
+    if (watched == m_list && event->type() == QEvent::KeyPress) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (key->matches(QKeySequence::SelectAll)) {
+            m_list->selectAll();
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void frmMain::closeEvent(QCloseEvent *event)

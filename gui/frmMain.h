@@ -2,6 +2,7 @@
 
 #include "application/IMainForm.h"
 
+#include <QHash>
 #include <QMainWindow>
 
 #include <memory>
@@ -13,10 +14,13 @@ class QLabel;
 class QMenu;
 class QSplitter;
 class QTextBrowser;
+class QToolBar;
 class QTreeView;
+struct BandDefinition;
 
-// The main window: tree, rule list and documentation pane, with the menus of the document
-// commands. It shows what the Application and the current view tell it, and decides nothing.
+// The main window: tree, rule list and documentation pane, with the menus, toolbars and
+// navigation bar built from the command table. It shows what the Application and the current
+// view tell it, and decides nothing about rules.
 class frmMain final : public QMainWindow, public IMainForm
 {
     Q_OBJECT
@@ -27,9 +31,11 @@ public:
 
     void setApplication(Application *application) { m_application = application; }
 
-    QTreeView *tree() const { return m_tree; }
-    QTreeView *list() const { return m_list; }
-    QTextBrowser *documentation() const { return m_documentation; }
+    QTreeView *tvwMain() const { return m_tree; }
+    QTreeView *lvwMain() const { return m_list; }
+    QTextBrowser *txtDocumentation() const { return m_documentation; }
+    // The action of a tool id, or nullptr.
+    QAction *tool(const QString &toolId) const;
 
     // IMainForm
     void Update() override;
@@ -43,15 +49,21 @@ public:
     int RunTipOfDay(int lastTip) override;
     void RunAbout() override;
 
+    void ExpandCollapseAll(bool expand);
+
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void createActions();
-    void createMenus();
-    void rebuildRecentMenu();
-    void openRecent(const QString &filename);
-    void openWithDialog();
+    QMenu *buildMenu(const BandDefinition &band, QWidget *parent);
+    void createBars();
+    void toolClicked(const QString &toolId);
+    bool runWindowTool(const QString &toolId);
+    void rebuildRecentFiles();
+    void updateRuleActiveTools();
     void restoreWindowState();
     void saveWindowState();
     void SetEnabledState();
@@ -62,17 +74,16 @@ private:
     std::unique_ptr<MRUUtils> m_mru;
 
     QSplitter *m_mainSplitter = nullptr;
-    QSplitter *m_rightSplitter = nullptr;
+    QSplitter *m_leftSplitter = nullptr;
     QTreeView *m_tree = nullptr;
     QTreeView *m_list = nullptr;
     QTextBrowser *m_documentation = nullptr;
     QLabel *m_status = nullptr;
-
-    QAction *m_newAction = nullptr;
-    QAction *m_openAction = nullptr;
-    QAction *m_saveAction = nullptr;
-    QAction *m_saveAsAction = nullptr;
-    QAction *m_exitAction = nullptr;
-    QAction *m_aboutAction = nullptr;
-    QMenu *m_recentMenu = nullptr;
+    QToolBar *m_navigation = nullptr;
+    QMenu *m_fileMenu = nullptr;
+    QAction *m_recentAnchor = nullptr;
+    QList<QAction *> m_recentActions;
+    QHash<QString, QAction *> m_actions;   // by lower-case tool id
+    QHash<QString, QToolBar *> m_toolbars; // by tool id of their toggle
+    QHash<QString, QMenu *> m_popups;      // by band id
 };
