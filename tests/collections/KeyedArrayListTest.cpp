@@ -268,16 +268,67 @@ TEST(KeyedArrayList, KeyLookupsAgreeWithALinearSearchAfterRandomChanges)
         }
     }
 
-    // The fold behind the index equals case-insensitive comparison for every character.
-    for (char32_t code = 0; code < 0x10000; ++code) {
+    // The hash behind the index agrees with case-insensitive comparison for every character,
+    // in the plane of single units and beyond it (surrogate pairs): equal exactly when the
+    // comparison says equal.
+    auto fromCode = [](char32_t code) { return QString::fromUcs4(&code, 1); };
+    for (char32_t code = 0; code <= 0x10FFFF; ++code) {
         if (QChar::isSurrogate(code))
             continue;
-        const QString c{QChar(char16_t(code))};
-        for (const QString &other :
-             {c.toUpper(), c.toLower(), QString(QChar(char16_t(QChar::toTitleCase(code))))})
-            ASSERT_EQ(KeyIndex::fold(c) == KeyIndex::fold(other), Text::same(c, other))
-                << int(code);
+        const QString c = fromCode(code);
+        for (const char32_t other : {QChar::toUpper(code),
+                                     QChar::toLower(code),
+                                     QChar::toTitleCase(code),
+                                     QChar::toCaseFolded(code)}) {
+            const QString o = fromCode(other);
+            ASSERT_EQ(KeyIndex::hash(c) == KeyIndex::hash(o), Text::same(c, o)) << int(code);
+        }
     }
+}
+
+// Keys beyond ASCII: the index finds what the case-insensitive comparison calls equal, for
+// characters whose folding differs from their lower case, for surrogate pairs, and for lone
+// surrogates, which the comparison takes unit by unit.
+TEST(KeyedArrayList, KeyLookupsBeyondAsciiAgreeWithTheComparison)
+{
+    const QString lone = QString(QChar(0xDC00)) + QChar(0xD801);
+    const QStringList keys = {QStringLiteral("k"),
+                              QStringLiteral("σίσυφος"),
+                              QStringLiteral("straße"),
+                              QStringLiteral("\U00010400x"),
+                              QStringLiteral("ǆ"),
+                              QStringLiteral("İ"),
+                              QStringLiteral("@[z"),
+                              lone};
+    const QStringList probes = {QStringLiteral("\u212A"), // Kelvin sign, folds to k
+                                QStringLiteral("K"),
+                                QStringLiteral("ΣΊΣΥΦΟΣ"),
+                                QStringLiteral("ΣΊΣΥΦΟς"),
+                                QStringLiteral("STRASSE"),
+                                QStringLiteral("STRAẞE"),
+                                QStringLiteral("\U00010428X"),
+                                QStringLiteral("\U00010428x"),
+                                QStringLiteral("ǅ"),
+                                QStringLiteral("Ǆ"),
+                                QStringLiteral("i"),
+                                QStringLiteral("i̇"),
+                                QStringLiteral("`{Z"),
+                                QStringLiteral("@[Z"),
+                                QString(QChar(0xDC00)) + QChar(0xD801),
+                                QString(QChar(0xD801)) + QChar(0xDC00)};
+    ObjectKeyedArrayList<int> list;
+    for (const QString &key : keys)
+        list.Add(key, nullptr, false, true);
+    for (const QString &probe : probes) {
+        qint32 expected = -1;
+        for (qint32 i = 1; i <= list.Count() && expected == -1; ++i) {
+            if (Text::same(list.Key(i), probe))
+                expected = i;
+        }
+        EXPECT_EQ(list.FindIndexByKey(probe), expected) << qPrintable(probe);
+    }
+    EXPECT_EQ(list.FindIndexByKey(QStringLiteral("\u212A")), 1);
+    EXPECT_EQ(list.FindIndexByKey(QStringLiteral("\U00010428X")), 4);
 }
 
 TEST(KeyedArrayList, AddAndLookupStayLinearOnLargeLists)

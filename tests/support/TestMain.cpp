@@ -1,21 +1,10 @@
-#include "support/TestEnvironment.h"
+#include "support/TestMain.h"
 
 #include <QCoreApplication>
-#include <QSettings>
-#include <QStandardPaths>
 
-#include <gtest/gtest.h>
-
+// Every test executable but the GUI's, which needs a QApplication of its own.
 int main(int argc, char **argv)
 {
     QCoreApplication app(argc, argv);
-    QStandardPaths::setTestModeEnabled(true);
-    // Point both settings scopes at a folder of our own before anything reads them.
-    const QString settingsDir = TestEnvironment::makeTempDir();
-    for (auto format : {QSettings::NativeFormat, QSettings::IniFormat}) {
-        QSettings::setPath(format, QSettings::UserScope, settingsDir + QStringLiteral("/user"));
-        QSettings::setPath(format, QSettings::SystemScope, settingsDir + QStringLiteral("/system"));
-    }
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
+    return runTests(argc, argv);
 }

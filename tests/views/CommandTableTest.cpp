@@ -1,0 +1,87 @@
+#include "application/Application.h"
+#include "application/IMainForm.h"
+#include "platform/UserInterface.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/RulebaseManager.h"
+#include "views/CommandTable.h"
+#include "views/ToolDispatcher.h"
+
+#include "support/ScriptedUserInterface.h"
+#include "support/TestEnvironment.h"
+
+#include <QSet>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class RecordingForm final : public IMainForm
+{
+public:
+    void Update() override { calls << QStringLiteral("Update"); }
+    void AddToMRUList(const QString &f) override { calls << QStringLiteral("MRU ") + f; }
+    void RemoveFromMRUList(const QString &) override {}
+    void SetCurrentViewTool(const QString &v) override { calls << QStringLiteral("View ") + v; }
+    void SetHelpContext(int) override {}
+    void SetBusy(bool) override {}
+    void ShowSplashScreen() override {}
+    void ShowWindow() override {}
+    int RunTipOfDay(int last) override { return last; }
+    void RunAbout() override { calls << QStringLiteral("About"); }
+    QStringList calls;
+};
+
+} // namespace
+
+TEST(CommandTable, EveryBandNamesKnownToolsAndEverySubMenuExists)
+{
+    QSet<QString> placed;
+    for (const BandDefinition &band : CommandTable::bands()) {
+        for (const char *id : band.tools) {
+            const QString tool = QLatin1String(id);
+            if (tool == QLatin1String("-") || tool == QLatin1String(CommandTable::recentFilesAnchor))
+                continue;
+            EXPECT_NE(CommandTable::findTool(tool), nullptr) << band.id << " names " << id;
+            placed << tool.toLower();
+        }
+    }
+    for (const ToolDefinition &tool : CommandTable::tools()) {
+        if (tool.opensBand) {
+            EXPECT_NE(CommandTable::findBand(QLatin1String(tool.opensBand)), nullptr) << tool.id;
+        }
+        // Every tool can be reached somewhere, but the view that does not exist.
+        if (QLatin1String(tool.id) != QLatin1String("tlDocumentationConventions")) {
+            EXPECT_TRUE(placed.contains(QString::fromLatin1(tool.id).toLower())) << tool.id << " is on no band";
+        }
+    }
+    EXPECT_EQ(CommandTable::findTool(QStringLiteral("TLDELETERULE"))->toolbarCaption, std::string_view("&Delete Rule"));
+    EXPECT_EQ(CommandTable::findTool(QStringLiteral("nothing")), nullptr);
+}
+
+TEST(ToolDispatcher, ToolsReachTheApplicationAndWindowToolsAreLeftToTheWindow)
+{
+    ScriptedUserInterface ui;
+    RecordingForm form;
+    Application app(&form);
+
+    EXPECT_TRUE(ExecuteTool(app, QStringLiteral("tlSeverityView")));
+    EXPECT_EQ(app.CurrentViewName(), QStringLiteral("tlSeverityView"));
+    EXPECT_TRUE(ExecuteTool(app, QStringLiteral("TLABOUT")));
+    EXPECT_TRUE(form.calls.contains(QStringLiteral("About")));
+
+    for (const char *id : {"tlExit", "tlExpandAll", "tlQuorinBar", "tlDocumentationConventions", "tlNoSuchTool"})
+        EXPECT_FALSE(ExecuteTool(app, QLatin1String(id))) << id;
+
+    // An open from the dialog or the recent list puts the file at the top of the list.
+    const QString path = TestEnvironment::makeTempDir() + QStringLiteral("/r.qrb");
+    ASSERT_TRUE(RulebaseManager().Save(*std::make_shared<Rulebase>(), path));
+    ui.openAnswers = {path};
+    form.calls.clear();
+    EXPECT_TRUE(ExecuteTool(app, QStringLiteral("tlOpenRulebase")));
+    EXPECT_TRUE(form.calls.contains(QStringLiteral("MRU ") + path));
+    form.calls.clear();
+    EXPECT_TRUE(OpenRecentFile(app, path));
+    EXPECT_TRUE(form.calls.contains(QStringLiteral("MRU ") + path));
+    EXPECT_FALSE(OpenRecentFile(app, path + QStringLiteral(".gone")));
+    EXPECT_TRUE(ui.messages.back().text.startsWith(QStringLiteral("Can't find the rulebase")));
+}
