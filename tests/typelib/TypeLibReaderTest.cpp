@@ -1,0 +1,235 @@
+#include "TypeLibSamples.h"
+#include "support/TestEnvironment.h"
+
+#include "typelib/TypeLibReader.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <gtest/gtest.h>
+
+using namespace TypeLibSamples;
+
+namespace {
+
+const QString SampleGuid = QStringLiteral("{01234567-89AB-CDEF-0123-456789ABCDEF}");
+
+QString dataDir()
+{
+    return TestEnvironment::sharedDataDir() + QStringLiteral("/typelib");
+}
+
+bool haveSharedData()
+{
+    return QFileInfo::exists(dataDir() + QStringLiteral("/expected.tsv"));
+}
+
+QByteArray fileContent(const QString &name)
+{
+    QFile file(dataDir() + QLatin1Char('/') + name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QList<int> resourceIds(const QList<TypeLibInfo> &list)
+{
+    QList<int> ids;
+    for (const TypeLibInfo &info : list)
+        ids.append(info.resourceId);
+    return ids;
+}
+
+} // namespace
+
+TEST(TypeLibSharedFiles, MatchExpectedTable)
+{
+    if (!haveSharedData())
+        GTEST_SKIP() << "no shared type library data";
+    const QStringList rows = QString::fromUtf8(fileContent(QStringLiteral("expected.tsv")))
+                                 .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    ASSERT_GT(rows.size(), 1);
+    QStringList listed;
+    for (const QString &row : rows.mid(1)) {
+        const QStringList f = row.split(QLatin1Char('\t'));
+        SCOPED_TRACE(f.first().toStdString());
+        listed.append(f.first());
+        QString error;
+        const auto info
+            = TypeLibReader::readFile(dataDir() + QLatin1Char('/') + f.first(), 0, &error);
+        if (f.value(1) == QStringLiteral("none")) {
+            EXPECT_FALSE(info.has_value());
+            EXPECT_FALSE(error.isEmpty());
+            continue;
+        }
+        ASSERT_EQ(f.size(), 5);
+        ASSERT_TRUE(info.has_value()) << error.toStdString();
+        EXPECT_EQ(info->guid, f[1]);
+        EXPECT_EQ(info->majorVersion, f[2].toUShort());
+        EXPECT_EQ(info->minorVersion, f[3].toUShort());
+        EXPECT_EQ(info->helpString, f[4]);
+        EXPECT_EQ(info->version(), f[2] + QLatin1Char('.') + f[3]);
+    }
+    // Every test file is in the table.
+    const QStringList files = QDir(dataDir()).entryList(QDir::Files);
+    for (const QString &file : files) {
+        if (file != QStringLiteral("README.md") && file != QStringLiteral("expected.tsv")) {
+            EXPECT_TRUE(listed.contains(file)) << file.toStdString();
+        }
+    }
+}
+
+TEST(TypeLibSharedFiles, ResourcesAreChosenAndListedById)
+{
+    if (!haveSharedData())
+        GTEST_SKIP() << "no shared type library data";
+    const QString dll = dataDir() + QStringLiteral("/Reports.dll");
+    const QList<TypeLibInfo> all = TypeLibReader::listFile(dll);
+    ASSERT_EQ(resourceIds(all), QList<int>({1, 2}));
+    const auto mailKit = TypeLibReader::readFile(dataDir() + QStringLiteral("/MailKit.tlb"));
+    ASSERT_TRUE(mailKit.has_value());
+    EXPECT_EQ(all[1].guid, mailKit->guid);
+    EXPECT_EQ(all[1].name, mailKit->name);
+    EXPECT_EQ(TypeLibReader::readFile(dll, 2)->helpString, QStringLiteral("Mail kit"));
+    EXPECT_FALSE(TypeLibReader::readFile(dll, 3).has_value());
+
+    const auto grid = TypeLibReader::readFile(dataDir() + QStringLiteral("/GridCtl.tlb"));
+    ASSERT_TRUE(grid.has_value());
+    EXPECT_EQ(grid->name, QStringLiteral("GridCtl"));
+    EXPECT_EQ(grid->lcid, 0x409u);
+    EXPECT_EQ(grid->resourceId, 0);
+    EXPECT_EQ(TypeLibReader::listFile(dataDir() + QStringLiteral("/GridCtl.tlb")).size(), 1);
+    // A stand-alone library has no second resource.
+    EXPECT_FALSE(
+        TypeLibReader::readFile(dataDir() + QStringLiteral("/GridCtl.tlb"), 2).has_value());
+    EXPECT_TRUE(TypeLibReader::listFile(dataDir() + QStringLiteral("/NoTypeLib.dll")).isEmpty());
+    EXPECT_FALSE(TypeLibReader::readFile(dataDir() + QStringLiteral("/Missing.tlb")).has_value());
+}
+
+TEST(TypeLibFormats, MsftFieldsAndStrings)
+{
+    const auto info = TypeLibReader::readData(msft(65535, 7, "1 \x80 Caf\xE9", "Lib"));
+    ASSERT_TRUE(info.has_value());
+    EXPECT_EQ(info->guid, SampleGuid);
+    EXPECT_EQ(info->majorVersion, 65535);
+    EXPECT_EQ(info->minorVersion, 7);
+    EXPECT_EQ(info->version(), QStringLiteral("65535.7"));
+    EXPECT_EQ(info->helpString, QStringLiteral(u"1 \u20AC Caf\u00E9")); // Windows-1252
+    EXPECT_EQ(info->name, QStringLiteral("Lib"));
+    EXPECT_EQ(info->libFlags, 0x08);
+    EXPECT_EQ(info->format, TypeLibInfo::Format::Msft);
+    EXPECT_EQ(TypeLibReader::readData(msft(1, 0, "Caf\xC3\xA9", "L"))->helpString,
+              QStringLiteral(u"Caf\u00E9")); // UTF-8
+    EXPECT_EQ(TypeLibReader::readData(msft(1, 0, QByteArray(), "L"))->helpString, QString());
+
+    QByteArray noGuid = msft(1, 0, "x", "L");
+    putU32(noGuid, 0x08, 0xFFFFFFFF);
+    EXPECT_FALSE(TypeLibReader::readData(noGuid).has_value());
+    QByteArray hugeCount = msft(1, 0, "x", "L");
+    putU32(hugeCount, 0x20, 0x7FFFFFFF);
+    EXPECT_FALSE(TypeLibReader::readData(hugeCount).has_value());
+    QByteArray helpOutside = msft(1, 0, "x", "L");
+    putU32(helpOutside, 0x24, 0x7FFFFFFE);
+    QString error;
+    EXPECT_FALSE(TypeLibReader::readData(helpOutside, 0, &error).has_value());
+    EXPECT_EQ(error, QStringLiteral("The file is truncated or malformed."));
+}
+
+TEST(TypeLibFormats, SltgLibraryBlock)
+{
+    const auto info = TypeLibReader::readData(sltg(4, 2, "Old style"));
+    ASSERT_TRUE(info.has_value());
+    EXPECT_EQ(info->guid, SampleGuid);
+    EXPECT_EQ(info->version(), QStringLiteral("4.2"));
+    EXPECT_EQ(info->helpString, QStringLiteral("Old style"));
+    EXPECT_EQ(info->lcid, 0x409u);
+    EXPECT_EQ(info->format, TypeLibInfo::Format::Sltg);
+
+    QByteArray looped = sltg(4, 2, "x");
+    putU16(looped, SltgLibraryEntryNext, 1);
+    EXPECT_FALSE(TypeLibReader::readData(looped).has_value());
+    EXPECT_FALSE(TypeLibReader::readData(QByteArray("SLTG")).has_value());
+}
+
+TEST(TypeLibPeFiles, Pe32AndPe64ResourcesById)
+{
+    for (const bool pe64 : {false, true}) {
+        SCOPED_TRACE(pe64);
+        const QByteArray file = pe(pe64, {{2, msft(2, 0, "two", "A")}, {5, sltg(5, 1, "five")}});
+        EXPECT_EQ(resourceIds(TypeLibReader::listData(file)), QList<int>({2, 5}));
+        EXPECT_EQ(TypeLibReader::readData(file)->helpString, QStringLiteral("two"));
+        EXPECT_EQ(TypeLibReader::readData(file, 5)->version(), QStringLiteral("5.1"));
+        EXPECT_FALSE(TypeLibReader::readData(file, 1).has_value());
+    }
+}
+
+TEST(TypeLibPeFiles, HostileDirectoriesGiveNoLibrary)
+{
+    const QList<Resource> two = {{1, msft(1, 0, "one", "A")}, {2, msft(2, 0, "two", "B")}};
+    const QByteArray good = pe(false, two);
+    auto patched = [&](qint64 offset, quint32 value) {
+        QByteArray file = good;
+        putU32(file, offset, value);
+        return file;
+    };
+    // The type's directory is the root again; a resource's language directory is its parent.
+    EXPECT_TRUE(TypeLibReader::listData(patched(PeRootEntry + 4, 0x80000000u)).isEmpty());
+    EXPECT_EQ(resourceIds(TypeLibReader::listData(patched(PeTypeDirectory + 20, 0x80000018u))),
+              QList<int>({2}));
+    // Counts far beyond the data.
+    EXPECT_FALSE(TypeLibReader::readData(patched(PeRoot + 12, 0xFFFFFFFF)).has_value());
+    // A resource outside every section, or longer than the file, is skipped.
+    const QByteArray outside = patched(peDataEntry(2, 0), 0x9000);
+    EXPECT_EQ(resourceIds(TypeLibReader::listData(outside)), QList<int>({2}));
+    EXPECT_FALSE(TypeLibReader::readData(outside, 1).has_value());
+    EXPECT_FALSE(
+        TypeLibReader::readData(patched(peDataEntry(2, 1) + 4, 0xFFFFFFF0), 2).has_value());
+    // Headers pointing past the end.
+    EXPECT_FALSE(TypeLibReader::readData(patched(0x3C, 0xFFFFFFF0)).has_value());
+    EXPECT_FALSE(TypeLibReader::readData(good.left(PeRoot + 20)).has_value());
+}
+
+// Libraries made by the IDL compiler and linked into a DLL, when the cross tools are installed.
+TEST(TypeLibPeFiles, ToolMadeLibraries)
+{
+    const QString widl = QStandardPaths::findExecutable(QStringLiteral("i686-w64-mingw32-widl"));
+    const QString windres
+        = QStandardPaths::findExecutable(QStringLiteral("x86_64-w64-mingw32-windres"));
+    const QString ld = QStandardPaths::findExecutable(QStringLiteral("x86_64-w64-mingw32-ld"));
+    if (widl.isEmpty() || windres.isEmpty() || ld.isEmpty())
+        GTEST_SKIP() << "mingw-w64 tools not installed";
+    const QDir dir(TestEnvironment::makeTempDir());
+    auto write = [&](const char *name, const QByteArray &text) {
+        QFile file(dir.filePath(QLatin1String(name)));
+        return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+    };
+    auto run = [&](const QString &program, const QStringList &args) {
+        QProcess process;
+        process.setWorkingDirectory(dir.path());
+        process.start(program, args);
+        return process.waitForFinished(60000) && process.exitCode() == 0;
+    };
+    ASSERT_TRUE(write("a.idl",
+                      "[uuid(0A1B2C3D-4E5F-4061-8283-A4B5C6D7E8F9), version(65535.1)]\n"
+                      "library NoHelp { };\n"));
+    ASSERT_TRUE(write("b.idl",
+                      "[uuid(1A1B2C3D-4E5F-4061-8283-A4B5C6D7E8F9), version(0.9),"
+                      " helpstring(\"Caf\xE9\")]\nlibrary Latin { };\n"));
+    ASSERT_TRUE(write("r.rc", "3 TYPELIB \"a.tlb\"\n7 TYPELIB \"b.tlb\"\n"));
+    ASSERT_TRUE(run(widl, {"-t", "-o", "a.tlb", "a.idl"}));
+    ASSERT_TRUE(run(widl, {"-t", "-o", "b.tlb", "b.idl"}));
+    // windres preprocesses with a C compiler, which may be missing.
+    if (!run(windres, {"--preprocessor=cpp", "-i", "r.rc", "-o", "r.o"})
+        || !run(ld, {"--dll", "-e", "0", "-o", "r.dll", "r.o"}))
+        GTEST_SKIP() << "cannot build a DLL here";
+
+    const QList<TypeLibInfo> all = TypeLibReader::listFile(dir.filePath(QStringLiteral("r.dll")));
+    ASSERT_EQ(resourceIds(all), QList<int>({3, 7}));
+    EXPECT_EQ(all[0].guid, QStringLiteral("{0A1B2C3D-4E5F-4061-8283-A4B5C6D7E8F9}"));
+    EXPECT_EQ(all[0].version(), QStringLiteral("65535.1"));
+    EXPECT_EQ(all[0].helpString, QString());
+    EXPECT_EQ(all[0].name, QStringLiteral("NoHelp"));
+    EXPECT_EQ(all[1].version(), QStringLiteral("0.9"));
+    EXPECT_EQ(all[1].helpString, QStringLiteral(u"Caf\u00E9"));
+}
