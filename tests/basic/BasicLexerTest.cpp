@@ -1,0 +1,192 @@
+#include "BasicTestSupport.h"
+
+#include "basic/BasicLexer.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using T = BasicTokenKind;
+
+// "Kind:text" for every token but the last (EndOfText), line ends shown as "EOL".
+QStringList describe(const QString &text)
+{
+    QStringList result;
+    const auto tokens = BasicLexer::tokenize(text);
+    for (size_t i = 0; i + 1 < tokens.size(); ++i) {
+        const BasicToken &t = tokens[i];
+        static const char *const kinds[]
+            = {"Id", "Kw", "Num", "Str", "Date", "Op", "Punct", "Rem", "Cont", "EOL", "Bad", "End"};
+        QString entry = QString::fromLatin1(kinds[int(t.kind)]);
+        if (t.kind != T::LineEnd)
+            entry += QLatin1Char(':') + text.mid(t.offset, t.length);
+        result << entry;
+    }
+    return result;
+}
+
+} // namespace
+
+TEST(BasicLexer, SortsWordsNumbersStringsAndSymbols)
+{
+    EXPECT_EQ(describe(QStringLiteral("dIM s$, n% : s = UCase$(\"a\"\"b\") & 1.5E-3")),
+              (QStringList{"Kw:dIM",
+                           "Id:s$",
+                           "Punct:,",
+                           "Id:n%",
+                           "Punct::",
+                           "Id:s",
+                           "Op:=",
+                           "Id:UCase$",
+                           "Punct:(",
+                           "Str:\"a\"\"b\"",
+                           "Punct:)",
+                           "Op:&",
+                           "Num:1.5E-3"}));
+    EXPECT_EQ(describe(QStringLiteral("x = &HFF& + &O17 + 12% + 3# + .5 + 2@")),
+              (QStringList{"Id:x",
+                           "Op:=",
+                           "Num:&HFF&",
+                           "Op:+",
+                           "Num:&O17",
+                           "Op:+",
+                           "Num:12%",
+                           "Op:+",
+                           "Num:3#",
+                           "Op:+",
+                           "Num:.5",
+                           "Op:+",
+                           "Num:2@"}));
+    EXPECT_EQ(describe(QStringLiteral("d = #1/2/2000# : Print #1, a <= b <> c >= d, n:=1")),
+              (QStringList{"Id:d",
+                           "Op:=",
+                           "Date:#1/2/2000#",
+                           "Punct::",
+                           "Id:Print",
+                           "Punct:#",
+                           "Num:1",
+                           "Punct:,",
+                           "Id:a",
+                           "Op:<=",
+                           "Id:b",
+                           "Op:<>",
+                           "Id:c",
+                           "Op:>=",
+                           "Id:d",
+                           "Punct:,",
+                           "Id:n",
+                           "Punct::=",
+                           "Num:1"}));
+}
+
+TEST(BasicLexer, DateLiteralsOnlyWhereTheTextReadsAsADate)
+{
+    EXPECT_EQ(describe(QStringLiteral("d = #Jan 1, 2000# + #2000-01-02 12:30:00 PM#")),
+              (QStringList{
+                  "Id:d", "Op:=", "Date:#Jan 1, 2000#", "Op:+", "Date:#2000-01-02 12:30:00 PM#"}));
+    EXPECT_EQ(describe(QStringLiteral("Print #1, x: Print #1, y")),
+              (QStringList{"Id:Print",
+                           "Punct:#",
+                           "Num:1",
+                           "Punct:,",
+                           "Id:x",
+                           "Punct::",
+                           "Id:Print",
+                           "Punct:#",
+                           "Num:1",
+                           "Punct:,",
+                           "Id:y"}));
+}
+
+TEST(BasicLexer, MemberNamesAfterADotAreNeverKeywords)
+{
+    EXPECT_EQ(describe(QStringLiteral("rs.Type = x.End + rs!Name + a! + [My Name]")),
+              (QStringList{"Id:rs",
+                           "Punct:.",
+                           "Id:Type",
+                           "Op:=",
+                           "Id:x",
+                           "Punct:.",
+                           "Id:End",
+                           "Op:+",
+                           "Id:rs",
+                           "Punct:!",
+                           "Id:Name",
+                           "Op:+",
+                           "Id:a!",
+                           "Op:+",
+                           "Id:[My Name]"}));
+}
+
+TEST(BasicLexer, CommentsByApostropheAndByRemAtAStatementStartOnly)
+{
+    EXPECT_EQ(describe(QStringLiteral("Remark = 1 ' note\nREM all of it\nx = 1: Rem tail")),
+              (QStringList{"Id:Remark",
+                           "Op:=",
+                           "Num:1",
+                           "Rem:' note",
+                           "EOL",
+                           "Rem:REM all of it",
+                           "EOL",
+                           "Id:x",
+                           "Op:=",
+                           "Num:1",
+                           "Punct::",
+                           "Rem:Rem tail"}));
+    EXPECT_EQ(describe(QStringLiteral("If a Then Rem why")),
+              (QStringList{"Kw:If", "Id:a", "Kw:Then", "Rem:Rem why"}));
+    EXPECT_EQ(describe(QStringLiteral("10 Rem numbered\nRem = 1 + Rem")),
+              (QStringList{"Num:10", "Rem:Rem numbered", "EOL", "Rem:Rem = 1 + Rem"}));
+}
+
+TEST(BasicLexer, ContinuationJoinsLinesWithoutALineEnd)
+{
+    const QString text = QStringLiteral("x = a _\r\n    + b\r\ny = a_b");
+    EXPECT_EQ(
+        describe(text),
+        (QStringList{
+            "Id:x", "Op:=", "Id:a", "Cont:_", "Op:+", "Id:b", "EOL", "Id:y", "Op:=", "Id:a_b"}));
+    const auto tokens = BasicLexer::tokenize(text);
+    EXPECT_EQ(tokens[4].line, 2);
+    EXPECT_EQ(tokens[4].column, 5);
+    EXPECT_EQ(tokens[7].line, 3);
+
+    // A comment ending in " _" runs on over the next line.
+    EXPECT_EQ(describe(QStringLiteral("' one _\ntwo\nx")),
+              (QStringList{"Rem:' one _\ntwo", "EOL", "Id:x"}));
+}
+
+TEST(BasicLexer, PositionsCountEveryKindOfLineEnd)
+{
+    const auto tokens = BasicLexer::tokenize(QStringLiteral("a\r\n\tb\nc\rd"));
+    ASSERT_EQ(tokens.size(), 8u);
+    const int expected[][2] = {{1, 1}, {1, 2}, {2, 2}, {2, 3}, {3, 1}, {3, 2}, {4, 1}, {4, 2}};
+    for (size_t i = 0; i < tokens.size(); ++i) {
+        EXPECT_EQ(tokens[i].line, expected[i][0]) << i;
+        EXPECT_EQ(tokens[i].column, expected[i][1]) << i;
+    }
+    EXPECT_EQ(tokens.back().kind, T::EndOfText);
+}
+
+TEST(BasicLexer, FlagsUnterminatedStringsAndStrayCharacters)
+{
+    const auto tokens = BasicLexer::tokenize(QStringLiteral("s = \"open\nx ? y"));
+    EXPECT_EQ(tokens[2].kind, T::String);
+    EXPECT_FALSE(tokens[2].complete);
+    EXPECT_EQ(tokens[2].length, 5);
+    EXPECT_EQ(tokens[5].kind, T::Invalid);
+    EXPECT_EQ(tokens[5].column, 3);
+}
+
+TEST(BasicLexer, KeywordsIgnoreCase)
+{
+    EXPECT_EQ(BasicLexer::keywordFor(u"elseif"), BasicKeyword::ElseIf);
+    EXPECT_EQ(BasicLexer::keywordFor(u"WITHEVENTS"), BasicKeyword::WithEvents);
+    EXPECT_EQ(BasicLexer::keywordFor(u"AddressOf"), BasicKeyword::AddressOf);
+    EXPECT_EQ(BasicLexer::keywordFor(u"Xor"), BasicKeyword::Xor);
+    EXPECT_EQ(BasicLexer::keywordFor(u"Quorin"), BasicKeyword::None);
+    EXPECT_EQ(BasicLexer::keywordFor(u"UCase"), BasicKeyword::None);
+}

@@ -1,0 +1,327 @@
+#include "BasicTestSupport.h"
+
+namespace {
+
+QString firstError(const QStringList &lines)
+{
+    BasicSyntaxChecker checker;
+    if (checker.check(script(lines)))
+        return QStringLiteral("OK");
+    return QStringLiteral("%1:%2 %3")
+        .arg(checker.errorLine())
+        .arg(checker.errorColumn())
+        .arg(checker.errorText());
+}
+
+QStringList inMain(const QStringList &body)
+{
+    return QStringList{"Sub Main"} + body + QStringList{"End Sub"};
+}
+
+} // namespace
+
+TEST(BasicParser, AcceptsEveryConstructOfTheDialect)
+{
+    const QList<QStringList> scripts = {
+        // Declarations.
+        {"Option Explicit",
+         "Private Const LIMIT As Long = 10, NAME_ = \"x\"",
+         "Dim mCount As Integer",
+         "Public gItems() As String",
+         "Private Type Point",
+         "    X As Long",
+         "    Names(1 To 3) As String * 20",
+         "End Type",
+         "Enum Colour",
+         "    Red = 1",
+         "    Green",
+         "End Enum",
+         "Private Declare Function GetTickCount Lib \"kernel32\" () As Long",
+         "Declare Sub Sleep Lib \"kernel32\" Alias \"Sleep\" (ByVal ms As Long)",
+         "Sub Main",
+         "    Dim a, b As Long, c(1 To 5, 0 To 2) As String, d() As Integer, e As New Collection",
+         "    Static f As Variant",
+         "    Const G = 2 ^ 3",
+         "    ReDim d(10)",
+         "    ReDim Preserve d(1 To LIMIT) As Integer",
+         "    Erase c, d",
+         "End Sub",
+         "Private Function Twice(ByVal n As Long, Optional ByRef m& = 2) As Long",
+         "    Twice = n * m&",
+         "    Exit Function",
+         "End Function",
+         "Public Property Get Size() As Long",
+         "    Size = 1",
+         "End Property",
+         "Friend Property Let Size(ByVal value As Long)",
+         "End Property",
+         "Static Sub Helper(ParamArray items() As Variant)",
+         "    Exit Sub",
+         "End Sub"},
+        // Ifs in block and single-line form, nested.
+        inMain({"If a = 1 Then",
+                "    b = 1",
+                "ElseIf a = 2 Then",
+                "    b = 2",
+                "Else",
+                "    If c Then d = 1 Else d = 2: e = 3",
+                "End If",
+                "If a Then b = 1",
+                "If a Then If b Then c Else d",
+                "If a Then Else b = 2",
+                "If a Then 10",
+                "If a GoTo 10",
+                "If a Then ' block, despite the comment",
+                "End If",
+                "10 Exit Sub"}),
+        // Select Case.
+        inMain({"Select Case n",
+                "    ' comments may stand before the first Case",
+                "    Case 1, 2, 5 To 9",
+                "        x = 1",
+                "    Case Is >= 10, Is < 0: x = 2",
+                "    Case Else",
+                "        x = 3",
+                "End Select"}),
+        // Loops.
+        inMain({"For i = 1 To 10 Step 2",
+                "    For Each v In items",
+                "        If v Then Exit For",
+                "    Next",
+                "Next i",
+                "For i = 10 To 1 Step -1: For j = 1 To 2",
+                "Next j, i",
+                "Do While a < 10",
+                "    a = a + 1",
+                "    If a = 5 Then Exit Do",
+                "Loop",
+                "Do",
+                "Loop Until a > 20",
+                "Do Until a = 0: a = a - 1: Loop",
+                "Do: Loop While False",
+                "While a > 0",
+                "    a = a - 1",
+                "Wend"}),
+        // With, member access, calls with and without parentheses.
+        inMain({"With rs.Fields(\"Name\")",
+                "    .Value = .Value & \"x\"",
+                "    If .Item(1).Size > 0 Then Call .Refresh",
+                "    Foo .Value, 2",
+                "End With",
+                "Call Foo(1, 2)",
+                "Call Foo",
+                "Foo 1, , 3",
+                "Foo (1) + 2, 3",
+                "Foo(1)",
+                "Foo",
+                "obj.Method x:=1, y:=2",
+                "Debug.Print a; b;",
+                "Debug.Print",
+                "Print #1, a",
+                "Set rs = Nothing",
+                "Set obj = New Collection",
+                "Let a = 1",
+                "Me.Caption = rs!Name",
+                "Mid$(s, 1, 1) = \"x\"",
+                "x = Quorin.GetObjectProperty(\"Source\", \"Line\")",
+                "If TypeOf obj Is Collection Then Stop"}),
+        // Jumps and error handling.
+        inMain({"    On Error GoTo Handler",
+                "    On Error Resume Next",
+                "    On Error GoTo 0",
+                "    On n GoTo 100, Handler",
+                "    GoTo 100",
+                "    GoSub Sub1",
+                "100 x = 1",
+                "    Exit Sub",
+                "Sub1: x = 2",
+                "    Return",
+                "Handler:",
+                "    If Err Then Resume Next",
+                "    Resume 100",
+                "    Resume"}),
+        // Literals and operators.
+        inMain({"d = #1/2/2000# + #12:30:00 PM#",
+                "n = &HFF& + &O17 + 1.5E+3 + 2# - 3@ * 4! \\ 5% Mod 6&",
+                "s = \"say \"\"hi\"\"\" & Chr$(13) & String$(2, \"-\")",
+                "b = Not a Is Nothing And s Like \"a*\" Or x Xor y Eqv z Imp w",
+                "b = a <> b Or a <= b Or a >= b Or a < b Or a > b",
+                "b = a = Not b",
+                "x = -2 ^ -2"}),
+        // Continuation, colons, comments, case.
+        {"sub main ' lower case is fine",
+         "    dim s as string: s = \"a\" & _",
+         "        \"b\" _",
+         "        & \"c\"",
+         "    IF s = \"abc\" THEN",
+         "    REM nothing",
+         "    end if: x = 1: y = 2",
+         "END SUB"},
+        // An empty text and one made only of comments.
+        {""},
+        {"' nothing but a comment", "Rem and another"},
+    };
+    for (const QStringList &lines : scripts)
+        EXPECT_EQ(errorsOf(script(lines)), QStringList()) << script(lines).toStdString();
+}
+
+TEST(BasicParser, OperatorsBindByPrecedence)
+{
+    const auto tree = BasicSyntaxChecker::expressionTree;
+    EXPECT_EQ(tree(QStringLiteral("a Or b And Not c = d ^ -e")),
+              QStringLiteral("(a Or (b And (Not (c = (d ^ (-e))))))"));
+    EXPECT_EQ(tree(QStringLiteral("-a ^ b * c")), QStringLiteral("((-(a ^ b)) * c)"));
+    EXPECT_EQ(tree(QStringLiteral("a * b / c \\ d Mod e + f - g & h")),
+              QStringLiteral("(((((((a * b) / c) \\ d) Mod e) + f) - g) & h)"));
+    EXPECT_EQ(tree(QStringLiteral("a & b = c Like d")), QStringLiteral("(((a & b) = c) Like d)"));
+    EXPECT_EQ(tree(QStringLiteral("a Imp b Eqv c Xor d Or e")),
+              QStringLiteral("(a Imp (b Eqv (c Xor (d Or e))))"));
+    EXPECT_EQ(tree(QStringLiteral("(a Or b) And c")), QStringLiteral("((a Or b) And c)"));
+    EXPECT_EQ(tree(QStringLiteral("a - -b * c")), QStringLiteral("(a - ((-b) * c))"));
+    EXPECT_EQ(tree(QStringLiteral("x.y(1, , z:=2).w")), QStringLiteral("x.y(1, , z:=2).w"));
+    EXPECT_EQ(tree(QStringLiteral("x Is Nothing")), QStringLiteral("(x Is Nothing)"));
+    EXPECT_EQ(tree(QStringLiteral("a +")), QString());
+    EXPECT_EQ(tree(QStringLiteral("a b")), QString());
+}
+
+TEST(BasicParser, PlacesEachErrorWhereABasicIdeWould)
+{
+    struct Case
+    {
+        QStringList lines;
+        const char *expected;
+    };
+    const Case cases[] = {
+        {{"Sub Main", "  If a Then", "  x = 1", "End Sub"}, "2:3 Block If without End If"},
+        {{"Sub Main", "  For i = 1 To 2", "    If a Then", "  Next", "End Sub"},
+         "4:3 Expected: End If"},
+        {{"Sub Main", "  x = ", "End Sub"}, "2:7 Expected: expression"},
+        {{"Sub Main", "  x = (a + b", "End Sub"}, "2:13 Expected: )"},
+        {{"Sub Main", "  x = Foo(a b)", "End Sub"}, "2:13 Expected: list separator or )"},
+        {{"x = 1"}, "1:1 Invalid outside procedure"},
+        {{"Sub Main", "  Next", "End Sub"}, "2:3 Next without For"},
+        {{"Sub Main", "  Loop", "End Sub"}, "2:3 Loop without Do"},
+        {{"Sub Main", "  Wend", "End Sub"}, "2:3 Wend without While"},
+        {{"Sub Main", "  End If", "End Sub"}, "2:3 End If without block If"},
+        {{"Sub Main", "  Else", "End Sub"}, "2:3 Else without If"},
+        {{"Sub Main", "  Case 1", "End Sub"}, "2:3 Case without Select Case"},
+        {{"Sub Main", "  End Select", "End Sub"}, "2:3 End Select without Select Case"},
+        {{"Sub Main", "  End With", "End Sub"}, "2:3 End With without With"},
+        {{"Sub Main", "  Do", "End Sub"}, "2:3 Do without Loop"},
+        {{"Sub Main", "  For i = 1 To 2", "End Sub"}, "2:3 For without Next"},
+        {{"Sub Main", "  While a", "End Sub"}, "2:3 While without Wend"},
+        {{"Sub Main", "  With a", "End Sub"}, "2:3 With without End With"},
+        {{"Sub Main", "  Select Case a", "End Sub"}, "2:3 Select Case without End Select"},
+        {{"Sub Main", "  Select Case a", "    x = 1", "  Case 1", "  End Select", "End Sub"},
+         "3:5 Statements and labels invalid between Select Case and first Case"},
+        {{"Sub Main", "  If a Then", "  Else", "  Else", "  End If", "End Sub"},
+         "4:3 Else without If"},
+        {{"Sub Main", "  If a x = 1", "End Sub"}, "2:8 Expected: Then or GoTo"},
+        {{"Sub Main", "  x = 1 2", "End Sub"}, "2:9 Expected: end of statement"},
+        {{"Sub Main", "  x = 1 ' why", "  y = 1 2 ' the comment is not the fault", "End Sub"},
+         "3:9 Expected: end of statement"},
+        {{"Sub Main", "  x = ' cut short", "End Sub"}, "2:7 Expected: expression"},
+        {{"Sub Main", "  For i 1 To 2", "  Next", "End Sub"}, "2:9 Expected: ="},
+        {{"Sub Main", "  For i = 1 2", "  Next", "End Sub"}, "2:13 Expected: To"},
+        {{"Sub Main", "  For Each v items", "  Next", "End Sub"}, "2:14 Expected: In"},
+        {{"Sub Main", "  For i = 1 To 2", "  Next j", "End Sub"},
+         "3:8 Invalid Next control variable reference"},
+        {{"Sub Main", "  Select a", "  End Select", "End Sub"}, "2:10 Expected: Case"},
+        {{"Sub Main", "  Exit For", "End Sub"}, "2:3 Exit For not within For...Next"},
+        {{"Sub Main", "  Exit Do", "End Sub"}, "2:3 Exit Do not within Do...Loop"},
+        {{"Sub Main", "  Exit Function", "End Sub"},
+         "2:3 Exit Function not allowed in Sub or Property"},
+        {{"Function F", "  Exit Sub", "End Function"},
+         "2:3 Exit Sub not allowed in Function or Property"},
+        {{"Sub Main", "  Exit", "End Sub"},
+         "2:7 Expected: Do or For or Function or Property or Sub"},
+        {{"Sub Main", "  GoTo Nowhere", "End Sub"}, "2:8 Label not defined"},
+        {{"Sub Main", "L1: x = 1", "L1: x = 2", "End Sub"}, "3:1 Duplicate label"},
+        {{"Sub Main", "  Dim a", "  Dim A As Long", "End Sub"},
+         "3:7 Duplicate declaration in current scope"},
+        {{"Sub Main", "  Foo(1, 2)", "End Sub"}, "2:12 Expected: ="},
+        {{"Sub Main", "  x * 2", "End Sub"}, "2:5 Expected: ="},
+        {{"Sub Main", "  .Value = 1", "End Sub"}, "2:3 Invalid or unqualified reference"},
+        {{"Sub Main", "  Public x", "End Sub"}, "2:3 Invalid inside procedure"},
+        {{"Sub Main", "  x = 1", "Sub Other", "End Sub"}, "3:1 Expected: End Sub"},
+        {{"Function F", "End Sub"}, "2:1 Expected: End Function"},
+        {{"Sub Main", "End Sub", "Sub main", "End Sub"}, "3:5 Ambiguous name detected: main"},
+        {{"Sub Main", "  x = 1"}, "2:8 Expected: End Sub"},
+        {{"End Sub"}, "1:1 End Sub without Sub"},
+        {{"Sub Main", "  End Foo", "End Sub"},
+         "2:7 Expected: If or Select or Sub or Function or Property or Type or With or Enum or end "
+         "of statement"},
+        {{"Sub Main", "  s = \"open", "End Sub"}, "2:7 Unterminated string constant"},
+        {{"Sub Main", "  x = 1 ? 2", "End Sub"}, "2:9 Invalid character"},
+        {{"Sub Main", "  Set = 1", "End Sub"}, "2:7 Expected: identifier"},
+        {{"Sub Main", "  Const C", "End Sub"}, "2:10 Expected: ="},
+        {{"Sub Main", "  On Error x", "End Sub"}, "2:12 Expected: GoTo or Resume"},
+        {{"Sub Main", "  Then", "End Sub"}, "2:3 Syntax error"},
+        {{"Option Fast"}, "1:8 Expected: Base or Compare or Explicit or Private"},
+        {{"Sub Main", "  If a Then For i = 1 To 2: x = i", "End Sub"}, "2:13 For without Next"},
+        {{"Sub Main", "  x = Quorin.RaiseViolation(1)", "End Sub"},
+         "2:14 Wrong number of arguments or invalid property assignment"},
+    };
+    for (const Case &c : cases)
+        EXPECT_EQ(firstError(c.lines), QString::fromLatin1(c.expected))
+            << script(c.lines).toStdString();
+}
+
+TEST(BasicParser, GoesOnAtTheNextLineAndReportsEveryError)
+{
+    const QString text
+        = script({"Sub Main", "  x = ", "  y = 1", "  z = (1", "  If a Then", "  Next", "End Sub"});
+    EXPECT_EQ(errorsOf(text),
+              (QStringList{"2:7 Expected: expression",
+                           "4:9 Expected: )",
+                           "5:3 Block If without End If",
+                           "6:3 Next without For"}));
+
+    // A faulty condition keeps its block, so that End If does not fault as well.
+    EXPECT_EQ(errorsOf(script({"Sub Main", "  If a = Then", "  End If", "End Sub"})),
+              QStringList{"2:10 Expected: expression"});
+    // A mismatched closer closes what it matches and the rest reads on undisturbed.
+    EXPECT_EQ(errorsOf(script({"Sub Main",
+                               "  Do",
+                               "    For i = 1 To 2",
+                               "  Loop",
+                               "  If a Then",
+                               "  End If",
+                               "End Sub"})),
+              QStringList{"4:3 Expected: Next"});
+    EXPECT_EQ(errorsOf(script(
+                  {"Sub Main", "  For i = 1 To 2", "    For j = 1 To 2", "  Next i", "End Sub"})),
+              QStringList{"4:8 Invalid Next control variable reference"});
+}
+
+TEST(BasicParser, ContinuationsAndColonsMakeLogicalLines)
+{
+    // A continued line is one statement; an error behind it is placed on its physical line.
+    EXPECT_EQ(errorsOf(script({"Sub Main", "  x = 1 + _", "      2 +", "End Sub"})),
+              QStringList{"3:10 Expected: expression"});
+    EXPECT_EQ(
+        errorsOf(script({"Sub Main", "  If a _", "  Then x = 1 _", "  Else x = 2", "End Sub"})),
+        QStringList());
+    // Without the continuation the statement ends at the line end.
+    EXPECT_EQ(errorsOf(script({"Sub Main", "  x = 1 +", "      & 2", "End Sub"})),
+              (QStringList{"2:10 Expected: expression", "3:7 Syntax error"}));
+    // Colons separate statements, a block opened and closed on one line included; a fault
+    // skips only the rest of its own line.
+    EXPECT_EQ(errorsOf(script({"Sub Main: Dim i: For i = 1 To 2: x = i: Next: End Sub"})),
+              QStringList());
+    EXPECT_EQ(errorsOf(script({"Sub Main", "  a = 1: b = : c = 3", "  d = 4 5", "End Sub"})),
+              (QStringList{"2:14 Expected: expression", "3:9 Expected: end of statement"}));
+}
+
+TEST(BasicParser, ChecksLargeScriptsInOnePass)
+{
+    QStringList lines{"Sub Main", "  Dim total As Long"};
+    for (int i = 0; i < 2000; ++i)
+        lines << QStringLiteral("  If total Mod %1 = 0 Then total = total + Len(\"x\") Else "
+                                "total = total - 1")
+                     .arg(i + 1);
+    lines << QStringLiteral("End Sub");
+    BasicSyntaxChecker checker;
+    EXPECT_TRUE(checker.check(script(lines)));
+    EXPECT_GT(checker.tokens().size(), 40000u);
+}

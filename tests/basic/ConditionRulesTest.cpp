@@ -1,0 +1,78 @@
+#include "BasicTestSupport.h"
+
+#include "basic/ConditionRules.h"
+#include "rulebase/IRule.h"
+
+using namespace ConditionRules;
+
+namespace {
+
+const qint32 Coding = RuleTypes::CodingConvention;
+const qint32 Naming = RuleTypes::NamingConvention;
+
+} // namespace
+
+TEST(ConditionRules, OnlyTheBareSubMainLineMayStartAProcedure)
+{
+    EXPECT_FALSE(ContainsMethods(QString()));
+    EXPECT_FALSE(ContainsMethods(script({"Sub Main", "End Sub"})));
+    EXPECT_FALSE(ContainsMethods(script({"SUB MAIN", "End Sub"})));
+    EXPECT_TRUE(ContainsMethods(script({"Sub Main()", "End Sub"})));
+    EXPECT_TRUE(ContainsMethods(script({"Sub Main ", "End Sub"})));
+    EXPECT_TRUE(ContainsMethods(script({"Sub Main", "End Sub", "Function Foo", "End Function"})));
+    EXPECT_TRUE(ContainsMethods(QStringLiteral("Private Sub Foo")));
+    EXPECT_TRUE(ContainsMethods(QStringLiteral("Public Property Get X")));
+    EXPECT_TRUE(ContainsMethods(QStringLiteral("Friend Function F")));
+    EXPECT_TRUE(ContainsMethods(QStringLiteral("Property Let X(v)")));
+    // The pattern is case-sensitive and anchored at the line start.
+    EXPECT_FALSE(ContainsMethods(QStringLiteral("sub helper")));
+    EXPECT_FALSE(ContainsMethods(QStringLiteral("  Sub Helper")));
+    EXPECT_FALSE(ContainsMethods(QStringLiteral("Subtotal = 1")));
+    // Any line end splits lines, not only CR LF.
+    EXPECT_FALSE(ContainsMethods(QStringLiteral("Sub Main\nEnd Sub")));
+    EXPECT_TRUE(ContainsMethods(QStringLiteral("Sub Main\nSub Foo")));
+}
+
+TEST(ConditionRules, ANamingConditionMustApplyItsConvention)
+{
+    EXPECT_TRUE(ValidNamingConvention(QString()));
+    EXPECT_TRUE(ValidNamingConvention(QStringLiteral("' quorin.applyconvention")));
+    EXPECT_FALSE(ValidNamingConvention(script({"Sub Main", "End Sub"})));
+}
+
+TEST(ConditionRules, CheckConditionAppliesTheRulesInOrder)
+{
+    // Procedures are refused before anything else, syntax errors included.
+    auto verdict = CheckCondition(script({"Function Foo(", "End Function"}), Naming);
+    EXPECT_FALSE(verdict.passed);
+    EXPECT_FALSE(verdict.syntaxError);
+    EXPECT_EQ(verdict.message,
+              QStringLiteral("Quorin rule conditions do not support the use of Subs, Functions or "
+                             "Property procedures other than the required Sub Main."));
+
+    verdict = CheckCondition(script({"Sub Main", "  If x Then", "End Sub"}), Naming);
+    EXPECT_FALSE(verdict.passed);
+    EXPECT_EQ(verdict.message,
+              QStringLiteral("A naming convention condition, if set, must contain the line "
+                             "Quorin.ApplyConvention to notify the parser that the convention must "
+                             "be applied."));
+
+    verdict = CheckCondition(
+        script({"Sub Main", "  If x Then", "  Quorin.ApplyConvention", "End Sub"}), Naming);
+    EXPECT_FALSE(verdict.passed);
+    EXPECT_TRUE(verdict.syntaxError);
+    EXPECT_EQ(
+        verdict.message,
+        QStringLiteral("Block If without End If Please fix before trying to save the condition."));
+    EXPECT_EQ(verdict.line, 2);
+    EXPECT_EQ(verdict.column, 3);
+
+    // Coding conventions need not apply anything; an empty naming condition passes all three.
+    EXPECT_TRUE(
+        CheckCondition(script({"Sub Main", "  Call Quorin.RaiseViolation()", "End Sub"}), Coding)
+            .passed);
+    EXPECT_TRUE(CheckCondition(QString(), Naming).passed);
+    // Warnings don't stop a condition.
+    EXPECT_TRUE(
+        CheckCondition(script({"Sub Main", "  Call Quorin.Raise()", "End Sub"}), Coding).passed);
+}

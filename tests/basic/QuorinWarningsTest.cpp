@@ -1,0 +1,189 @@
+#include "BasicTestSupport.h"
+
+#include "basic/ConditionRules.h"
+#include "basic/QuorinExtension.h"
+#include "rulebase/IRule.h"
+#include "support/TestEnvironment.h"
+#include "vocabulary/ObjectCatalogue.h"
+#include "vocabulary/ParserEventCatalogue.h"
+
+#include <QFile>
+#include <QXmlStreamReader>
+
+namespace {
+
+QString inMain(const QStringList &body)
+{
+    return script(QStringList{"Sub Main"} + body + QStringList{"End Sub"});
+}
+
+struct SampleCondition
+{
+    qint32 ruleType;
+    QString title;
+    QString text;
+};
+
+// The conditions of the sample's rules, with the file's escapes restored.
+std::vector<SampleCondition> sampleConditions()
+{
+    QFile file(TestEnvironment::sampleRulebase());
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    std::vector<SampleCondition> result;
+    QXmlStreamReader xml(&file);
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        const bool coding = xml.name() == u"CodingConvention";
+        if (!coding && xml.name() != u"NamingConvention")
+            continue;
+        QString text = xml.attributes().value(QLatin1String("Condition")).toString();
+        text.replace(QLatin1String("%CRLF%"), QLatin1String("\r\n"))
+            .replace(QLatin1String("%TAB%"), QLatin1String("\t"))
+            .replace(QLatin1String("%LT%"), QLatin1String("<"))
+            .replace(QLatin1String("%GT%"), QLatin1String(">"));
+        result.push_back({coding ? RuleTypes::CodingConvention : RuleTypes::NamingConvention,
+                          xml.attributes().value(QLatin1String("Title")).toString(),
+                          text});
+    }
+    EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+    return result;
+}
+
+} // namespace
+
+TEST(QuorinWarnings, TheCallsTheEditorInsertsAreKnown)
+{
+    const QString text = inMain({"  Call Quorin.RaiseViolation()",
+                                 "  Call Quorin.CancelPendingViolation",
+                                 "  quorin.applyconvention",
+                                 "  s = Quorin.GetObjectProperty(\"Procedure\", \"CodeLineCount\")",
+                                 "  s = Quorin.GetObjectWorkField(\"Project\", \"SystemCode\")",
+                                 "  If Quorin.ParserEvent() = \"begin Procedure\" Then Exit Sub",
+                                 "  If Quorin.ParserEvent = \"Argument (Event)\" Then Exit Sub",
+                                 "  Quorin.GetObjectProperty \"Source\", \"Line\""});
+    EXPECT_EQ(errorsOf(text), QStringList());
+    EXPECT_EQ(warningsOf(text), QStringList());
+
+    QStringList names;
+    for (const QuorinMember &member : BasicSyntaxChecker::quorinMembers())
+        names << member.name.toString() + QString::number(member.argumentCount);
+    EXPECT_EQ(names,
+              (QStringList{"RaiseViolation0",
+                           "CancelPendingViolation0",
+                           "ApplyConvention0",
+                           "GetObjectProperty2",
+                           "GetObjectWorkField2",
+                           "ParserEvent0"}));
+}
+
+TEST(QuorinWarnings, AnUnknownMemberWarnsButWrongArgumentsAreErrors)
+{
+    const QString unknown = inMain({"  Call Quorin.RaiseViolaton()", "  x = Quorin.Foo.Bar"});
+    EXPECT_EQ(errorsOf(unknown), QStringList());
+    EXPECT_EQ(warningsOf(unknown),
+              (QStringList{"2:15 Unknown Quorin member: \"RaiseViolaton\"",
+                           "3:14 Unknown Quorin member: \"Foo\""}));
+
+    EXPECT_EQ(errorsOf(inMain({"  x = Quorin.GetObjectProperty(\"Source\")",
+                               "  Quorin.ApplyConvention 1",
+                               "  x = Quorin.GetObjectWorkField",
+                               "  If Quorin.ParserEvent(1) = \"x\" Then Stop"})),
+              (QStringList{"2:14 Wrong number of arguments or invalid property assignment",
+                           "3:10 Wrong number of arguments or invalid property assignment",
+                           "4:14 Wrong number of arguments or invalid property assignment",
+                           "5:13 Wrong number of arguments or invalid property assignment"}));
+}
+
+TEST(QuorinWarnings, ObjectAndPropertyNamesMustBeInTheVocabulary)
+{
+    const QString text = inMain({
+        "  a = Quorin.GetObjectProperty(\"Procdure\", \"Name\")",
+        "  a = Quorin.GetObjectProperty(\"Procedure\", \"CodLineCount\")",
+        "  a = Quorin.GetObjectProperty(\"Source\", \"Name\")",
+        "  a = Quorin.GetObjectWorkField(\"Projct\", \"Anything\")",
+        "  a = Quorin.GetObjectWorkField(\"Source\", \"Anything\")",
+        // Known names, whatever their case, specialised objects, and the design-time
+        // properties of forms and controls, which no catalogue lists.
+        "  a = Quorin.GetObjectProperty(\"procedure\", \"codelinecount\")",
+        "  a = Quorin.GetObjectProperty(\"Variable (Local)\", \"Name\")",
+        "  a = Quorin.GetObjectProperty(\"ControlProperties\", \"Caption\")",
+        "  a = Quorin.GetObjectProperty(\"LayoutProperties\", \"StartUpPosition\")",
+        "  a = Quorin.GetObjectWorkField(\"Project\", \"Whatever\")",
+        // Only literal names can be checked.
+        "  a = Quorin.GetObjectProperty(sObject, \"Nope\")",
+        "  a = Quorin.GetObjectProperty(\"File\", sProperty)",
+    });
+    EXPECT_EQ(errorsOf(text), QStringList());
+    EXPECT_EQ(warningsOf(text),
+              (QStringList{"2:32 Unknown object: \"Procdure\"",
+                           "3:45 Unknown property of object \"Procedure\": \"CodLineCount\"",
+                           "4:42 Unknown property of object \"Source\": \"Name\"",
+                           "5:33 Unknown object: \"Projct\"",
+                           "6:33 Object \"Source\" has no workfields"}));
+}
+
+TEST(QuorinWarnings, ParserEventComparisonsNameKnownEvents)
+{
+    const QString text = inMain({"  If Quorin.ParserEvent() = \"begin Prject\" Then Stop",
+                                 "  If \"Nope\" <> (Quorin.ParserEvent) Then Stop",
+                                 "  If Quorin.ParserEvent() = \"end Project\" Then Stop",
+                                 "  If Quorin.ParserEvent() & \"x\" = \"Nope\" Then Stop",
+                                 "  Select Case Quorin.ParserEvent()",
+                                 "    Case \"Variable\", \"Variabel\"",
+                                 "    Case Is = \"Nope\", \"a\" To \"z\"",
+                                 "  End Select",
+                                 "  Select Case sOther",
+                                 "    Case \"Nope\"",
+                                 "  End Select"});
+    EXPECT_EQ(errorsOf(text), QStringList());
+    EXPECT_EQ(warningsOf(text),
+              (QStringList{"2:29 Unknown parser event: \"begin Prject\"",
+                           "3:6 Unknown parser event: \"Nope\"",
+                           "7:22 Unknown parser event: \"Variabel\"",
+                           "8:15 Unknown parser event: \"Nope\""}));
+}
+
+TEST(QuorinWarnings, ACodedConditionWithoutSubMainWarns)
+{
+    EXPECT_EQ(warningsOf(QStringLiteral("Dim x")),
+              QStringList{"1:1 The condition has no Sub Main"});
+    EXPECT_EQ(warningsOf(QStringLiteral("' only a comment")), QStringList());
+    EXPECT_EQ(warningsOf(QString()), QStringList());
+}
+
+TEST(QuorinWarnings, EverySampleConditionIsCleanAndAccepted)
+{
+    const auto conditions = sampleConditions();
+    int scripts = 0;
+    for (const SampleCondition &condition : conditions) {
+        if (condition.text.isEmpty())
+            continue;
+        ++scripts;
+        SCOPED_TRACE(condition.title.toStdString());
+        EXPECT_EQ(errorsOf(condition.text), QStringList());
+        EXPECT_EQ(warningsOf(condition.text), QStringList());
+        const auto verdict = ConditionRules::CheckCondition(condition.text, condition.ruleType);
+        EXPECT_TRUE(verdict.passed) << verdict.message.toStdString();
+    }
+    EXPECT_GE(scripts, 50);
+}
+
+TEST(QuorinWarnings, TheWholeVocabularyIsAccepted)
+{
+    for (const auto &object : ObjectCatalogue::objects()) {
+        const QString name = object.name.toString();
+        EXPECT_EQ(QuorinExtension::objectWarning(name), QString()) << object.id;
+        const auto *set = ObjectCatalogue::findPropertySet(object.id);
+        for (const auto &property :
+             set ? set->rows : std::span<const ObjectCatalogue::PropertyRow>())
+            EXPECT_EQ(QuorinExtension::propertyWarning(name, property.name().toString()), QString())
+                << object.id << " " << property.id;
+    }
+    for (const auto &event : ParserEventCatalogue::events())
+        EXPECT_EQ(QuorinExtension::parserEventWarning(event.text.toString().toUpper()), QString());
+    EXPECT_NE(
+        QuorinExtension::propertyWarning(QStringLiteral("Type"), QStringLiteral("Instancing")),
+        QString());
+}
