@@ -1,0 +1,119 @@
+#include "project/modSource.h"
+
+#include "platform/ErrorFrame.h"
+#include "platform/FileUtils.h"
+#include "platform/TextUtils.h"
+
+namespace modSource {
+
+namespace {
+
+constexpr const char *C_Source = "C_Source";
+constexpr qsizetype MaxPosition = 32767;
+
+// Indentation, a numeric line label and its colon: what may stand before a statement.
+bool isLeader(QChar c)
+{
+    return c == u'\t' || c == u':' || (c >= u'0' && c <= u'9');
+}
+
+QString trimLeft(const QString &text)
+{
+    qsizetype start = 0;
+    while (start < text.size() && text[start] == u' ')
+        ++start;
+    return text.mid(start);
+}
+
+// 1-based position of the first double quote at or after `start`, 0 when there is none;
+// the position must fit the routine's 16-bit integer.
+qsizetype quoteFrom(const QString &text, qsizetype start)
+{
+    const qsizetype at = text.indexOf(QLatin1Char('"'), start - 1) + 1;
+    if (at > MaxPosition)
+        throw QuorinError::overflow(QString::fromLatin1(C_Source));
+    return at;
+}
+
+} // namespace
+
+::SourceLineType SourceLineType(const QString &line)
+{
+    return guarded("SourceLineType", C_Source, ::SourceLineType::Blank, [&] {
+        if (IsBlankLine(line))
+            return ::SourceLineType::Blank;
+        if (IsCommentOnlyLine(line))
+            return ::SourceLineType::CommentOnly;
+        const auto type
+            = HasInLineComment(line) ? ::SourceLineType::InLineComment : ::SourceLineType::Code;
+        // Tested after the comment, so a comment-only line ending in "_" doesn't continue.
+        if (Text::trimBlanks(line).endsWith(QLatin1Char('_')))
+            return ::SourceLineType::Continuation;
+        return type;
+    });
+}
+
+bool IsBlankLine(const QString &line)
+{
+    return guarded("IsBlankLine", C_Source, false, [&] {
+        QString text = Text::trimBlanks(line);
+        while (text.startsWith(QLatin1Char('\t')))
+            text = Text::trimBlanks(text.mid(1));
+        return text.isEmpty();
+    });
+}
+
+bool IsCommentOnlyLine(const QString &line)
+{
+    return guarded("IsCommentOnlyLine", C_Source, false, [&] {
+        QString text = Text::trimBlanks(line);
+        if (text.isEmpty())
+            return false;
+        while (!text.isEmpty() && isLeader(text[0]))
+            text = Text::trimBlanks(text.mid(1));
+        return text.startsWith(QLatin1String("Rem "), Qt::CaseInsensitive)
+               || text.startsWith(QLatin1Char('\''));
+    });
+}
+
+bool HasInLineComment(const QString &line)
+{
+    return guarded("HasInLineComment", C_Source, false, [&] {
+        QString text = Text::trimBlanks(line);
+        while (!text.isEmpty() && isLeader(text[0]))
+            text = trimLeft(text.mid(1));
+        text = StripQuotedText(text);
+        return text.contains(QLatin1Char('\''))
+               || text.contains(QLatin1String(": Rem "), Qt::CaseInsensitive);
+    });
+}
+
+QString RemoveQuotes(const QString &text)
+{
+    return guarded(
+        "RemoveQuotes", C_Source, QString(), [&] { return FileUtils::RemoveQuotes(text); });
+}
+
+QString StripQuotedText(const QString &text)
+{
+    return guarded("StripQuotedText", C_Source, QString(), [&] {
+        QString result = text;
+        qsizetype start = 1;
+        qsizetype q1 = 0;
+        qsizetype q2 = 0;
+        do {
+            q1 = quoteFrom(result, start);
+            q2 = q1 > 0 ? quoteFrom(result, q1 + 1) : 0;
+            if (q1 > 0 && q2 > 0) {
+                if (q2 != q1 + 1)
+                    result = result.left(q1) + result.mid(q2 - 1);
+                start = q1 + 2;
+                if (start > MaxPosition)
+                    throw QuorinError::overflow(QString::fromLatin1(C_Source));
+            }
+        } while (start <= result.size() && q1 > 0 && q2 > 0);
+        return result;
+    });
+}
+
+} // namespace modSource

@@ -1,0 +1,54 @@
+#include "ProjectTestSupport.h"
+
+#include "platform/GlobalObjects.h"
+#include "platform/LogFile.h"
+#include "support/TestEnvironment.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+void ProjectTest::SetUp()
+{
+    m_dir = TestEnvironment::makeTempDir();
+    m_logPath = TestEnvironment::makeTempDir() + QStringLiteral("/Error.log");
+    m_previousLog = gobjLogFile;
+    auto log = std::make_shared<LogFile>();
+    log->setLogFileName(m_logPath);
+    log->setQuiet(true);
+    gobjLogFile = log;
+}
+
+void ProjectTest::TearDown()
+{
+    gobjLogFile = m_previousLog;
+}
+
+QString ProjectTest::writeFile(const QString &name, const QByteArray &bytes) const
+{
+    const QString filename = path(name);
+    QDir().mkpath(QFileInfo(filename).absolutePath());
+    QFile file(filename);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(bytes);
+    return filename;
+}
+
+QStringList ProjectTest::logRecords() const
+{
+    QFile file(m_logPath);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return {};
+    return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+QString vb6DataDir()
+{
+    const QString dir = TestEnvironment::sharedDataDir() + QStringLiteral("/vb6");
+    return QFileInfo(dir).isDir() ? dir : QString();
+}
+
+QByteArray crlf(const char *text)
+{
+    return QByteArray(text).replace("\n", "\r\n");
+}

@@ -1,0 +1,317 @@
+#include "ProjectTestSupport.h"
+
+#include "collections/KeyedArrayList.h"
+#include "collections/ObjectKeyedArrayList.h"
+#include "project/SourceLineStatistics.h"
+#include "project/VirtualObject.h"
+#include "project/VirtualProject.h"
+#include "project/VirtualSourceFile.h"
+
+#include <QDirIterator>
+#include <QFile>
+#include <QRegularExpression>
+
+#include <array>
+
+namespace {
+
+class SourceFileReader : public ProjectTest
+{
+protected:
+    QString folder() const { return m_dir + QLatin1Char('/'); }
+};
+
+struct LogicalLine
+{
+    QString raw;
+    QString logical;
+    qint32 physical = 0;
+    qint32 length = 0;
+};
+
+std::vector<LogicalLine> readAll(VirtualSourceFile &file)
+{
+    std::vector<LogicalLine> lines;
+    LogicalLine line;
+    while (file.GetNextSourceLine(line.raw, line.logical, line.physical, line.length))
+        lines.push_back(line);
+    return lines;
+}
+
+// ---- Name and type from the project line ----
+
+TEST_F(SourceFileReader, NameAndTypeComeFromTheLineOrTheFile)
+{
+    writeFile(QStringLiteral("m.frm"), crlf("VERSION 5.00\nBegin VB.MDIForm   mdiMain  \nEnd\n"));
+    writeFile(QStringLiteral("n.frm"),
+              crlf("VERSION 5.00\nAttribute VB_Name = \"frmNamed\"\n"
+                   "Begin VB.Label x\n"));
+    writeFile(QStringLiteral("d.dsr"),
+              crlf("Begin {C0E45035-5775-11D0-B388-00A0C9055D8E} deMain \nEnd\n"));
+    struct Case
+    {
+        const char *line;
+        qint32 result;
+        qint32 type;
+        const char *name;
+    };
+    const Case cases[] = {
+        {"Form=m.frm", 0, SourceFileType::MDIForm, "mdiMain"}, // the file's type word wins
+        {"Form=n.frm", 0, SourceFileType::Form, "frmNamed"},   // the attribute gives no type
+        {"Designer=D.DSR", 0, SourceFileType::Designer, "deMain"},
+        {"Class=CFoo; sub\\foo.cls", 0, SourceFileType::Class, "CFoo"}, // never opened
+        {"Thing=x; y.cls", 3, 0, ""},
+        {"Module", 3, 0, ""},
+    };
+    for (const Case &c : cases) {
+        VirtualSourceFile file;
+        EXPECT_EQ(file.InitFileFromVBProjectFileLine(QLatin1String(c.line), folder()), c.result)
+            << c.line;
+        EXPECT_EQ(file.FileType(), c.type) << c.line;
+        EXPECT_EQ(file.Name(), QLatin1String(c.name)) << c.line;
+    }
+    EXPECT_TRUE(logRecords().isEmpty());
+
+    VirtualSourceFile named;
+    named.InitFileFromVBProjectFileLine(QStringLiteral("Class=CFoo; sub\\foo.cls"), folder());
+    EXPECT_EQ(named.Filename(), folder() + QStringLiteral("sub\\foo.cls"));
+    QStringList properties;
+    for (qint32 i = 1; i <= named.Properties()->Count(); ++i)
+        properties << named.Properties()->Key(i) + QLatin1Char('=')
+                          + named.Properties()->Item(i).toString();
+    EXPECT_EQ(properties.join(QLatin1Char(' ')),
+              QStringLiteral("Name=CFoo Type=Class FullFilename=sub\\foo.cls Path=sub\\ "
+                             "Filename=foo.cls Extension=.cls"));
+}
+
+TEST_F(SourceFileReader, FilesThatNameNothingKeepTheirPathAsName)
+{
+    // No ";": the whole rest is a path, and the file doesn't exist.
+    VirtualSourceFile missing;
+    EXPECT_EQ(missing.InitFileFromVBProjectFileLine(QStringLiteral("Class=CFoo"), folder()), 2);
+    EXPECT_EQ(missing.FileType(), 0);
+    EXPECT_EQ(missing.Name(), folder() + QStringLiteral("CFoo"));
+    EXPECT_EQ(missing.Properties()->Item(QStringLiteral("Type")).toString(),
+              QStringLiteral("Class"));
+    ASSERT_EQ(logRecords().size(), 1);
+    EXPECT_TRUE(logRecords().first().contains(QStringLiteral("53 - File not found")));
+
+    writeFile(QStringLiteral("plain.bas"), crlf("Option Explicit\nSub A()\nEnd Sub\n"));
+    VirtualSourceFile anonymous;
+    EXPECT_EQ(anonymous.InitFileFromVBProjectFileLine(QStringLiteral("Module=plain.bas"), folder()),
+              2);
+    EXPECT_EQ(anonymous.Name(), path(QStringLiteral("plain.bas")));
+    // An empty file fails in its first read.
+    writeFile(QStringLiteral("empty.bas"), QByteArray());
+    VirtualSourceFile empty;
+    EXPECT_EQ(empty.InitFileFromVBProjectFileLine(QStringLiteral("Module=empty.bas"), folder()), 2);
+    EXPECT_TRUE(logRecords().last().contains(QStringLiteral("62 - Input past end of file")));
+}
+
+// ---- Logical lines ----
+
+TEST_F(SourceFileReader, ContinuationsJoinIntoOneLogicalLine)
+{
+    VirtualSourceFile file;
+    file.setFilename(writeFile(QStringLiteral("a.bas"),
+                               crlf("Attribute VB_Name = \"a\"\nx = 1 + _\n    2 +   _  \n"
+                                    "\t  3 ' end\n' note _\ny = 2\n10 z = 1\n123\na = 1 ' see x_\n"
+                                    "b = 2\n")));
+    ASSERT_EQ(file.Connect(), 0);
+    EXPECT_EQ(file.Size(), QFile(file.Filename()).size());
+    const auto lines = readAll(file);
+    ASSERT_EQ(lines.size(), 7u);
+    // Trim takes blanks only: the tab of the last piece stays.
+    EXPECT_EQ(lines[1].logical, QStringLiteral("x = 1 + 2 + \t  3 ' end"));
+    EXPECT_EQ(lines[1].physical, 3);
+    EXPECT_EQ(lines[1].raw, QStringLiteral("x = 1 + _\r\n    2 +   _  \r\n\t  3 ' end"));
+    EXPECT_EQ(lines[1].length, lines[1].raw.size());
+    // A comment-only line ending in "_" doesn't continue.
+    EXPECT_EQ(lines[2].logical, QStringLiteral("' note _"));
+    EXPECT_EQ(lines[3].logical, QStringLiteral("y = 2"));
+    // Line numbers go from the logical line only.
+    EXPECT_EQ(lines[4].logical, QStringLiteral(" z = 1"));
+    EXPECT_EQ(lines[4].raw, QStringLiteral("10 z = 1"));
+    EXPECT_EQ(lines[5].logical, QString());
+    // An in-line comment ending in "_" continues, by the line rules.
+    EXPECT_EQ(lines[6].logical, QStringLiteral("a = 1 ' see x b = 2"));
+    EXPECT_EQ(lines[6].physical, 2);
+}
+
+TEST_F(SourceFileReader, HeaderAndAttributesEnableCounting)
+{
+    VirtualSourceFile file;
+    file.setFilename(writeFile(QStringLiteral("c.cls"),
+                               crlf("VERSION 1.0 CLASS\nAttribute VB_Name = \"c\"\n"
+                                    "Attribute VB_Exposed = False\nOption Explicit\n"
+                                    "Attribute X.VB_UserMemId = 0\n")));
+    ASSERT_EQ(file.Connect(), 0);
+    // Physical count and counting state after each logical line: attribute lines count for
+    // nothing, and counting starts after the name attribute, at the first other line.
+    std::vector<std::pair<qint32, bool>> seen;
+    LogicalLine line;
+    while (file.GetNextSourceLine(line.raw, line.logical, line.physical, line.length))
+        seen.emplace_back(line.physical, file.LineCountingEnabled());
+    const std::vector<std::pair<qint32, bool>> expected{
+        {1, false}, {0, false}, {0, false}, {1, true}, {0, true}};
+    EXPECT_EQ(seen, expected);
+    // At the end the arguments are left alone.
+    EXPECT_EQ(line.logical, QStringLiteral("Attribute X.VB_UserMemId = 0"));
+    file.Disconnect();
+    EXPECT_FALSE(file.LineCountingEnabled());
+
+    // Without the name attribute counting never starts.
+    VirtualSourceFile anonymous;
+    anonymous.setFilename(
+        writeFile(QStringLiteral("d.bas"), crlf("Attribute VB_Exposed = False\nx = 1\ny = 2\n")));
+    ASSERT_EQ(anonymous.Connect(), 0);
+    EXPECT_EQ(readAll(anonymous).size(), 3u);
+    EXPECT_FALSE(anonymous.LineCountingEnabled());
+}
+
+TEST_F(SourceFileReader, LineEndsAndWindows1252)
+{
+    VirtualSourceFile file;
+    file.setFilename(
+        writeFile(QStringLiteral("e.bas"), QByteArray("a = \"\x80\x97\xE9\"\nb = 1\r\rc = 2")));
+    ASSERT_EQ(file.Connect(), 0);
+    const auto lines = readAll(file);
+    ASSERT_EQ(lines.size(), 4u);
+    EXPECT_EQ(lines[0].logical, QStringLiteral("a = \"\u20AC\u2014\u00E9\""));
+    EXPECT_EQ(lines[2].logical, QString());
+    EXPECT_EQ(lines[3].logical, QStringLiteral("c = 2"));
+}
+
+TEST_F(SourceFileReader, ConnectingToAMissingFileIsLogged)
+{
+    VirtualSourceFile file;
+    file.setFilename(path(QStringLiteral("gone.bas")));
+    EXPECT_EQ(file.Connect(), 53);
+    const QStringList records = logRecords();
+    ASSERT_EQ(records.size(), 2);
+    EXPECT_TRUE(
+        records[0].contains(QStringLiteral("53 - File not found#VirtualSourceFile::ConnectFile")));
+    EXPECT_EQ(records[1],
+              QStringLiteral("Failed to open file ") + path(QStringLiteral("gone.bas"))
+                  + QStringLiteral(" - Error 53 File not found"));
+    QString raw, logical;
+    qint32 physical = 0, length = 0;
+    EXPECT_FALSE(file.GetNextSourceLine(raw, logical, physical, length));
+}
+
+// ---- Line statistics against a count of our own ----
+
+// Blank, comment-only, in-line comment, code and total lines.
+using Counts = std::array<int, 5>;
+enum { Blank, Comment, InLine, Code, Total };
+
+// A separate, plain reading of the counting rules: the header (up to the name attribute)
+// and attribute lines don't count; a line ending in "_" that is no comment joins the next;
+// comments are "'" or "Rem " after indentation, or an apostrophe outside string literals.
+Counts countIndependently(const QByteArray &bytes)
+{
+    QString text = QString::fromLatin1(bytes); // every character that matters here is ASCII
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"))
+        .replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    QStringList physical = text.split(QLatin1Char('\n'));
+    if (text.endsWith(QLatin1Char('\n')))
+        physical.removeLast();
+
+    static const QRegularExpression commentStart(QStringLiteral("^[ \\t]*('|[Rr][Ee][Mm] )"));
+    auto isComment = [](const QString &line) { return commentStart.match(line).hasMatch(); };
+    auto hasComment = [](const QString &line) {
+        bool inString = false;
+        for (qsizetype i = 0; i < line.size(); ++i) {
+            if (line[i] == u'"')
+                inString = !inString;
+            else if (!inString
+                     && (line[i] == u'\'' || line.mid(i, 6).toLower() == QLatin1String(": rem ")))
+                return true;
+        }
+        return false;
+    };
+
+    Counts counts{};
+    bool counting = false;
+    QString pending;
+    for (const QString &line : std::as_const(physical)) {
+        if (line.startsWith(QLatin1String("Attribute"), Qt::CaseInsensitive)) {
+            counting = counting
+                       || line.startsWith(QLatin1String("Attribute VB_Name"), Qt::CaseInsensitive);
+            continue;
+        }
+        if (!counting)
+            continue;
+        if (!isComment(line) && line.trimmed().endsWith(QLatin1Char('_'))) {
+            pending += line.trimmed().chopped(1) + QLatin1Char(' ');
+            continue;
+        }
+        const QString logical = pending + line;
+        pending.clear();
+        ++counts[Total];
+        if (logical.trimmed().isEmpty())
+            ++counts[Blank];
+        else if (isComment(logical))
+            ++counts[Comment];
+        else {
+            ++counts[Code];
+            if (hasComment(logical))
+                ++counts[InLine];
+        }
+    }
+    return counts;
+}
+
+Counts countedByReader(VirtualSourceFile &file)
+{
+    EXPECT_EQ(file.CountSourceLines(), 0);
+    EXPECT_TRUE(file.FileStats()->HasLSTATS());
+    const auto s = file.FileStats()->LineStats();
+    return {s->BlankLines(),
+            s->CommentOnlyLines(),
+            s->InLineCommentLines(),
+            s->CodeLines(),
+            s->TotalLines()};
+}
+
+TEST_F(SourceFileReader, LineStatisticsOfEverySharedSourceFileMatchAnIndependentCount)
+{
+    QUORIN_REQUIRE_VB6_DATA(dir);
+    int checked = 0;
+    QDirIterator it(dir, {QStringLiteral("*.vbp")}, QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        auto project = std::make_shared<VirtualProject>();
+        ASSERT_EQ(project->LoadProject(it.next()), 0);
+        for (qint32 i = 1; i <= project->SourceFiles()->Count(); ++i) {
+            const auto file = project->SourceFiles()->Item(i);
+            QFile source(file->Filename());
+            if (!source.exists())
+                continue; // the missing module of the data, on purpose
+            SCOPED_TRACE(file->Filename().toStdString());
+            ASSERT_TRUE(source.open(QIODevice::ReadOnly));
+            const Counts expected = countIndependently(source.readAll());
+            EXPECT_GT(expected[Total], 0);
+            EXPECT_EQ(countedByReader(*file), expected);
+            ++checked;
+        }
+    }
+    EXPECT_EQ(checked, 11);
+}
+
+TEST_F(SourceFileReader, LineStatisticsOfKnownFiles)
+{
+    QUORIN_REQUIRE_VB6_DATA(dir);
+    const std::pair<const char *, Counts> files[] = {
+        {"/Suite/App/modMain.bas", {9, 3, 2, 44, 56}},
+        {"/Suite/Core/cInvoice.cls", {5, 0, 0, 23, 28}}, // a member attribute inside the code
+        {"/Suite/Core/IPrintable.cls", {0, 0, 0, 3, 3}}, // no final line end
+        {"/Suite/App/frmAbout.frm", {1, 0, 0, 4, 5}},    // form header, LF line ends
+    };
+    for (const auto &[name, counts] : files) {
+        VirtualSourceFile file;
+        file.setFilename(dir + QLatin1String(name));
+        EXPECT_EQ(countedByReader(file), counts) << name;
+    }
+}
+
+} // namespace
