@@ -3,6 +3,8 @@
 #include "gui/GuiUserInterface.h"
 #include "gui/frmMain.h"
 #include "platform/GlobalObjects.h"
+#include "views/IViewController.h"
+#include "views/ViewFactory.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -42,7 +44,7 @@ int main(int argc, char *argv[])
     {
         frmMain window(interactive);
         ui.setParentWidget(&window);
-        Application application(&window);
+        Application application(&window, createView);
         window.setApplication(&application);
 
         // The command line is one file name, spaces and all.

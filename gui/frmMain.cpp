@@ -1,5 +1,8 @@
 #include "gui/frmMain.h"
 
+#include "gui/QtListControl.h"
+#include "gui/QtTreeControl.h"
+
 #include "application/Application.h"
 #include "platform/GlobalObjects.h"
 #include "platform/MRUUtils.h"
@@ -20,11 +23,11 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QSplitter>
-#include <QStandardItemModel>
 #include <QStatusBar>
 #include <QTextBrowser>
 #include <QToolBar>
 #include <QTreeView>
+#include <QVBoxLayout>
 
 namespace {
 // Stored layouts are in twips, 15 to a pixel at 96 dpi.
@@ -59,25 +62,48 @@ frmMain::frmMain(bool interactive, QWidget *parent)
     m_tree->setObjectName(QStringLiteral("tvwMain"));
     m_tree->setHeaderHidden(true);
     m_tree->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_treeControl = new QtTreeControl(m_tree);
 
     m_list = new QTreeView;
     m_list->setObjectName(QStringLiteral("lvwMain"));
-    m_list->setRootIsDecorated(false);
-    m_list->setSortingEnabled(true);
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
     m_list->installEventFilter(this);
-    auto *columns = new QStandardItemModel(0, 4, m_list);
-    columns->setHorizontalHeaderLabels(
-        {QStringLiteral("Rule"), QStringLiteral("Title"), QStringLiteral("Category"), QStringLiteral("Impact")});
-    m_list->setModel(columns);
+    m_listControl = new QtListControl(m_list);
+    m_list->viewport()->installEventFilter(this);
+
+    m_noItems = new QLabel(tr("There are no items to show in this view."), m_list->viewport());
+    m_noItems->setObjectName(QStringLiteral("lblNoItems"));
+    m_noItems->move(8, 8);
+    m_noItems->adjustSize();
+    m_noItems->hide();
+
+    m_treeTitle = new QLabel;
+    m_treeTitle->setObjectName(QStringLiteral("lblTreeTitle"));
+    m_listTitle = new QLabel;
+    m_listTitle->setObjectName(QStringLiteral("lblListTitle"));
+    for (QLabel *title : {m_treeTitle, m_listTitle}) {
+        QFont font = title->font();
+        font.setBold(true);
+        title->setFont(font);
+    }
+    // Each title stands above its control.
+    const auto titled = [](QLabel *title, QWidget *control) {
+        auto *box = new QWidget;
+        auto *layout = new QVBoxLayout(box);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSpacing(2);
+        layout->addWidget(title);
+        layout->addWidget(control, 1);
+        return box;
+    };
 
     m_documentation = new QTextBrowser;
     m_documentation->setObjectName(QStringLiteral("txtDocumentation"));
 
     // Tree over documentation on the left, the list on the right.
     m_leftSplitter = new QSplitter(Qt::Vertical);
-    m_leftSplitter->addWidget(m_tree);
+    m_leftSplitter->addWidget(titled(m_treeTitle, m_tree));
     m_leftSplitter->addWidget(m_documentation);
     m_leftSplitter->setStretchFactor(0, 1);
     m_leftSplitter->setChildrenCollapsible(false);
@@ -85,7 +111,7 @@ frmMain::frmMain(bool interactive, QWidget *parent)
     m_mainSplitter = new QSplitter(Qt::Horizontal);
     m_mainSplitter->setObjectName(QStringLiteral("picContainer"));
     m_mainSplitter->addWidget(m_leftSplitter);
-    m_mainSplitter->addWidget(m_list);
+    m_mainSplitter->addWidget(titled(m_listTitle, m_list));
     m_mainSplitter->setStretchFactor(1, 1);
     m_mainSplitter->setChildrenCollapsible(false);
     setCentralWidget(m_mainSplitter);
@@ -105,7 +131,9 @@ frmMain::frmMain(bool interactive, QWidget *parent)
         updateRuleActiveTools();
         m_popups.value(QStringLiteral("mnuListPopup"))->popup(m_list->viewport()->mapToGlobal(at));
     });
-    connect(m_list, &QAbstractItemView::doubleClicked, this, [this] { toolClicked(QStringLiteral("tlOpenRule")); });
+    connect(m_list, &QAbstractItemView::doubleClicked, this, [this] {
+        toolClicked(QStringLiteral("tlOpenRule"));
+    });
 }
 
 frmMain::~frmMain() = default;
@@ -144,6 +172,8 @@ void frmMain::createActions()
     tool(QStringLiteral("tlDeleteRule"))->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     m_list->addAction(tool(QStringLiteral("tlDeleteRule")));
     tool(QStringLiteral("tlDocumentationConventions"))->setVisible(false); // no such view exists
+    // The authority items view arrives with the import of authorised items.
+    tool(QStringLiteral("tlAuthorisedItems"))->setEnabled(false);
 }
 
 QMenu *frmMain::buildMenu(const BandDefinition &band, QWidget *parent)
@@ -173,7 +203,8 @@ void frmMain::createBars()
     }
     for (const ToolDefinition &definition : CommandTable::tools()) {
         if (definition.opensBand)
-            tool(QLatin1String(definition.id))->setMenu(m_popups.value(QLatin1String(definition.opensBand)));
+            tool(QLatin1String(definition.id))
+                ->setMenu(m_popups.value(QLatin1String(definition.opensBand)));
     }
     for (const BandDefinition &band : CommandTable::bands()) {
         if (band.kind == BandKind::Menu) {
@@ -242,7 +273,8 @@ bool frmMain::runWindowTool(const QString &toolId)
     } else if (id == QLatin1String("tldocumentationwindow")) {
         m_documentation->setVisible(!m_documentation->isVisible());
         tool(toolId)->setChecked(m_documentation->isVisible());
-    } else if (const ToolDefinition *definition = CommandTable::findTool(toolId); definition && definition->opensBand) {
+    } else if (const ToolDefinition *definition = CommandTable::findTool(toolId);
+               definition && definition->opensBand) {
         // A tool that opens a sub-menu does nothing of its own.
     } else if (id == QLatin1String("tldocumentationconventions")) {
         // No such view exists; the tool stays without effect.
@@ -289,7 +321,9 @@ void frmMain::rebuildRecentFiles()
 
 void frmMain::updateRuleActiveTools()
 {
-    const int state = m_application && m_application->CurrentView() ? m_application->CurrentView()->ItemsActiveState() : 4;
+    const int state = m_application && m_application->CurrentView()
+                          ? m_application->CurrentView()->ItemsActiveState()
+                          : 4;
     tool(QStringLiteral("tlRuleActive"))->setVisible(state == 2 || state == 3);
     tool(QStringLiteral("tlRuleInactive"))->setVisible(state == 1 || state == 3);
 }
@@ -297,7 +331,8 @@ void frmMain::updateRuleActiveTools()
 void frmMain::Update()
 {
     const std::shared_ptr<Rulebase> &rulebase = m_application ? m_application->rulebase() : nullptr;
-    setWindowTitle(rulebase ? rulebase->FileTitle() + QStringLiteral(" - ") + programTitle() : programTitle());
+    setWindowTitle(rulebase ? rulebase->FileTitle() + QStringLiteral(" - ") + programTitle()
+                            : programTitle());
     SetEnabledState();
 }
 
@@ -315,7 +350,50 @@ void frmMain::SetEnabledState()
     else if (!gobjAdminData || gobjAdminData->QuorinBarVisible())
         m_navigation->setVisible(true);
     tool(QStringLiteral("tlQuorinBar"))->setChecked(m_navigation->isVisible());
-    m_status->setText(open ? programTitle() : tr("No rulebase selected."));
+    // Once a view stands it owns the status text; the window speaks only when nothing is open.
+    if (!open)
+        m_status->setText(tr("No rulebase selected."));
+}
+
+void frmMain::setDocumentation(const QString &text)
+{
+    m_documentation->setPlainText(text);
+}
+
+TreeControl *frmMain::tree()
+{
+    return m_treeControl;
+}
+
+ListControl *frmMain::list()
+{
+    return m_listControl;
+}
+
+void frmMain::setTreeTitle(const QString &text)
+{
+    m_treeTitle->setText(text);
+}
+
+void frmMain::setListTitle(const QString &text)
+{
+    m_listTitle->setText(text);
+}
+
+void frmMain::setNoItemsVisible(bool visible)
+{
+    m_noItems->setVisible(visible);
+}
+
+void frmMain::setStatusText(const QString &text)
+{
+    m_status->setText(text);
+}
+
+void frmMain::setToolEnabled(const QString &toolId, bool enabled)
+{
+    if (QAction *action = tool(toolId))
+        action->setEnabled(enabled);
 }
 
 void frmMain::AddToMRUList(const QString &filename)
@@ -352,6 +430,8 @@ void frmMain::ShowWindow()
     restoreWindowState();
     m_mru->setAppName(QStringLiteral("Settings\\Rulebase"));
     SetEnabledState();
+    m_status->setText(m_application && m_application->RulebaseOpen() ? programTitle()
+                                                                     : tr("No rulebase selected."));
     show();
 }
 
@@ -364,10 +444,11 @@ void frmMain::RunAbout()
 {
     if (!m_interactive)
         return;
-    QMessageBox::about(this,
-                       tr("About Quorin Administrator"),
-                       tr("<h3>Quorin Administrator %1</h3><p>Rulebases for the Quorin code reviewer.</p>")
-                           .arg(programComponentVersion()));
+    QMessageBox::about(
+        this,
+        tr("About Quorin Administrator"),
+        tr("<h3>Quorin Administrator %1</h3><p>Rulebases for the Quorin code reviewer.</p>")
+            .arg(programComponentVersion()));
 }
 
 void frmMain::restoreWindowState()
@@ -424,6 +505,10 @@ void frmMain::keyPressEvent(QKeyEvent *event)
 
 bool frmMain::eventFilter(QObject *watched, QEvent *event)
 {
+    // The view lays its columns out again in the list's new width.
+    if (watched == m_list->viewport() && event->type() == QEvent::Resize && m_application
+        && m_application->CurrentView())
+        m_application->CurrentView()->ResizeView();
     // Ctrl+A on the list selects every row.
     if (watched == m_list && event->type() == QEvent::KeyPress) {
         const auto *key = static_cast<QKeyEvent *>(event);

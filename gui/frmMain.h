@@ -13,6 +13,8 @@ class QAction;
 class QLabel;
 class QMenu;
 class QSplitter;
+class QtListControl;
+class QtTreeControl;
 class QTextBrowser;
 class QToolBar;
 class QTreeView;
@@ -48,6 +50,16 @@ public:
     void ShowWindow() override;
     int RunTipOfDay(int lastTip) override;
     void RunAbout() override;
+    TreeControl *tree() override;
+    ListControl *list() override;
+    void setDocumentation(const QString &text) override;
+    void setStatusText(const QString &text) override;
+    void setTreeTitle(const QString &text) override;
+    void setListTitle(const QString &text) override;
+    // The title's picture arrives with the image lists.
+    void setListHeaderImage(const QString &) override {}
+    void setNoItemsVisible(bool visible) override;
+    void setToolEnabled(const QString &toolId, bool enabled) override;
 
     void ExpandCollapseAll(bool expand);
 
@@ -77,6 +89,11 @@ private:
     QSplitter *m_leftSplitter = nullptr;
     QTreeView *m_tree = nullptr;
     QTreeView *m_list = nullptr;
+    QtTreeControl *m_treeControl = nullptr; // owned by m_tree
+    QtListControl *m_listControl = nullptr; // owned by m_list
+    QLabel *m_treeTitle = nullptr;
+    QLabel *m_listTitle = nullptr;
+    QLabel *m_noItems = nullptr; // over the list's viewport
     QTextBrowser *m_documentation = nullptr;
     QLabel *m_status = nullptr;
     QToolBar *m_navigation = nullptr;

@@ -193,9 +193,13 @@ void Application::SwitchView(const QString &viewName)
         if (!info)
             return; // an unknown name leaves the current view in place
         const QString toolId = QLatin1String(info->toolId);
+        std::unique_ptr<IViewController> view = m_viewFactory ? m_viewFactory(toolId) : nullptr;
+        // A view that can't be made yet is treated like an unknown one: nothing changes.
+        if (m_viewFactory && !view)
+            return;
         m_mainForm->SetCurrentViewTool(toolId);
         m_mainForm->SetHelpContext(info->helpContext);
-        if (std::unique_ptr<IViewController> view = m_viewFactory ? m_viewFactory(toolId) : nullptr)
+        if (view)
             m_currentView = std::move(view);
         if (m_currentView)
             m_currentView->setRulebase(m_rulebase);

@@ -2,6 +2,9 @@
 
 #include <QString>
 
+class ListControl;
+class TreeControl;
+
 // What the Application asks of its main window. The GUI's frmMain implements it; tests use a
 // recording fake, so the start-up order and the commands run without widgets.
 class IMainForm
@@ -25,4 +28,17 @@ public:
     virtual void ShowWindow() = 0;
     virtual int RunTipOfDay(int lastTip) = 0;
     virtual void RunAbout() = 0;
+
+    // What the current view borrows. The tree and list are nullptr while the window has none.
+    virtual TreeControl *tree() = 0;
+    virtual ListControl *list() = 0;
+    virtual void setDocumentation(const QString &text) = 0;
+    virtual void setStatusText(const QString &text) = 0;
+    virtual void setTreeTitle(const QString &text) = 0;
+    virtual void setListTitle(const QString &text) = 0;
+    // The picture at the right end of the list title: an image of the tree's image list.
+    virtual void setListHeaderImage(const QString &image) = 0;
+    // "There are no items to show in this view." over the list.
+    virtual void setNoItemsVisible(bool visible) = 0;
+    virtual void setToolEnabled(const QString &toolId, bool enabled) = 0;
 };

@@ -9,7 +9,24 @@ namespace Text {
 
 bool same(const QString &a, const QString &b)
 {
-    return a.compare(b, Qt::CaseInsensitive) == 0;
+    // The comparison folds unit by unit and never matches texts of unequal length. ASCII pairs
+    // fold alone; from the first pair that is not ASCII on, it takes the rest itself.
+    const qsizetype n = a.size();
+    if (n != b.size())
+        return false;
+    const char16_t *const x = QStringView(a).utf16();
+    const char16_t *const y = QStringView(b).utf16();
+    for (qsizetype i = 0; i < n; ++i) {
+        const char16_t c = x[i];
+        const char16_t d = y[i];
+        if (c == d)
+            continue;
+        if ((c | d) >= 0x80)
+            return a.compare(b, Qt::CaseInsensitive) == 0;
+        if ((c | 0x20) != (d | 0x20) || (c | 0x20) < u'a' || (c | 0x20) > u'z')
+            return false;
+    }
+    return true;
 }
 
 double val(const QString &text)
@@ -106,27 +123,45 @@ bool toBool(const QString &text, const QString &source)
     throw QuorinError::typeMismatch(source);
 }
 
+static char32_t unitAt(QStringView text, qsizetype i)
+{
+    return text[i].unicode();
+}
+
+static char32_t unitAt(QUtf8StringView text, qsizetype i)
+{
+    return uchar(text[i]);
+}
+
 // Plain decimal integers are nearly every number a file holds; they skip the general parse.
-static bool parsePlainInteger(const QString &text, qint64 &out)
+template<typename View>
+static bool plainInteger(View text, qint64 &out)
 {
     const qsizetype n = text.size();
     if (n == 0 || n > 18)
         return false;
-    qsizetype i = 0;
-    const bool negative = text[0] == u'-';
+    const bool negative = unitAt(text, 0) == U'-';
     if (negative && n == 1)
         return false;
-    if (negative)
-        i = 1;
     qint64 value = 0;
-    for (; i < n; ++i) {
-        const char16_t c = text[i].unicode();
-        if (c < u'0' || c > u'9')
+    for (qsizetype i = negative ? 1 : 0; i < n; ++i) {
+        const char32_t c = unitAt(text, i);
+        if (c < U'0' || c > U'9')
             return false;
-        value = value * 10 + (c - u'0');
+        value = value * 10 + qint64(c - U'0');
     }
     out = negative ? -value : value;
     return true;
+}
+
+bool parsePlainInteger(QStringView text, qint64 &out)
+{
+    return plainInteger(text, out);
+}
+
+bool parsePlainInteger(QUtf8StringView text, qint64 &out)
+{
+    return plainInteger(text, out);
 }
 
 template<typename Int>

@@ -2,6 +2,8 @@
 
 #include <QString>
 #include <QStringList>
+#include <QStringView>
+#include <QUtf8StringView>
 
 // The text rules the whole program shares: case-insensitive names and keys, the leading-number
 // reading of keys ("5000Key" -> 5000), fixed number formats, and the file's value encodings.
@@ -24,6 +26,10 @@ QString fromBool(bool value);
 bool toBool(const QString &text, const QString &source);
 qint32 toLong(const QString &text, const QString &source);
 qint16 toInteger(const QString &text, const QString &source);
+// A plain decimal integer ("-12", at most 18 characters), which toLong and toInteger read without
+// the general parse; false for any other text.
+bool parsePlainInteger(QStringView text, qint64 &out);
+bool parsePlainInteger(QUtf8StringView text, qint64 &out);
 
 // Accepts "." or "," as the decimal sign whatever the locale; unreadable text gives 0.
 float stringToSingle(const QString &text);

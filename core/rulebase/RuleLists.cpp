@@ -16,20 +16,16 @@ namespace {
 
 constexpr const char *module = "RuleLists";
 
-template<typename Rule>
-using ListsByID = ObjectKeyedArrayList<ObjectArrayList<Rule>>;
-
-template<typename Rule>
-std::shared_ptr<ObjectArrayList<Rule>> listOf(ListsByID<Rule> &lists, qint32 id, bool create)
+// The list of one id; with `create` a missing one is made and kept.
+template<typename Lists>
+typename Lists::mapped_type listOf(Lists &lists, qint32 id, bool create)
 {
-    const QString key = QString::number(id);
-    const qint32 index = lists.FindIndexByKey(key);
-    if (index != -1)
-        return lists.Item(index);
+    if (const auto found = lists.constFind(id); found != lists.cend())
+        return *found;
     if (!create)
         return nullptr;
-    auto list = std::make_shared<ObjectArrayList<Rule>>();
-    lists.Add(key, list, false, true);
+    auto list = std::make_shared<typename Lists::mapped_type::element_type>();
+    lists.insert(id, list);
     return list;
 }
 

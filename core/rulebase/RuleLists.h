@@ -3,6 +3,7 @@
 #include "collections/ObjectArrayList.h"
 #include "collections/ObjectKeyedArrayList.h"
 
+#include <QHash>
 #include <QString>
 
 #include <memory>
@@ -82,12 +83,13 @@ private:
     std::shared_ptr<ObjectKeyedArrayList<CodingConvention>> m_codingConventions;
     std::shared_ptr<ObjectKeyedArrayList<UnauthorisedKeyword>> m_unauthorisedKeywords;
     std::shared_ptr<ObjectKeyedArrayList<NamingConvention>> m_namingConventions;
-    // Keyed by the event or object id in decimal.
-    std::shared_ptr<ObjectKeyedArrayList<ObjectArrayList<CodingConvention>>> m_parserEventCCLists;
-    std::shared_ptr<ObjectKeyedArrayList<ObjectArrayList<UnauthorisedKeyword>>>
-        m_parserEventUKLists;
-    std::shared_ptr<ObjectKeyedArrayList<ObjectArrayList<CodingConvention>>> m_pendingLists;
-    std::shared_ptr<ObjectKeyedArrayList<ObjectArrayList<NamingConvention>>> m_objectNCLists;
+    // The lists by event or object id.
+    template<typename Rule>
+    using ListsByID = QHash<qint32, std::shared_ptr<ObjectArrayList<Rule>>>;
+    std::shared_ptr<ListsByID<CodingConvention>> m_parserEventCCLists;
+    std::shared_ptr<ListsByID<UnauthorisedKeyword>> m_parserEventUKLists;
+    std::shared_ptr<ListsByID<CodingConvention>> m_pendingLists;
+    std::shared_ptr<ListsByID<NamingConvention>> m_objectNCLists;
     bool m_dirty = false;
     qint32 m_lastID = 4999;
 };

@@ -3,6 +3,9 @@
 #include "platform/QuorinError.h"
 #include "platform/TextUtils.h"
 
+#include <charconv>
+#include <limits>
+
 namespace RulebaseFileValues {
 
 namespace {
@@ -24,6 +27,18 @@ auto convert(const TarnXMLElement &element, const char *attribute, Convert &&con
     }
 }
 
+// A plain integer in range, read in place; false sends the caller the general way.
+template<typename Int>
+bool readPlain(const TarnXMLElement &element, const char *attribute, Int &value)
+{
+    qint64 plain = 0;
+    if (!Text::parsePlainInteger(element.AttributeUtf8ByName(QLatin1StringView(attribute)), plain)
+        || plain < std::numeric_limits<Int>::min() || plain > std::numeric_limits<Int>::max())
+        return false;
+    value = Int(plain);
+    return true;
+}
+
 } // namespace
 
 QString readText(const TarnXMLElement &element, const char *attribute)
@@ -35,25 +50,38 @@ QString readText(const TarnXMLElement &element, const char *attribute)
     }
 }
 
+// "True", "False" and plain integers, nearly every value a file holds, are read from the
+// stored text in place; anything else, a missing attribute too, goes the general way.
 bool readBool(const TarnXMLElement &element, const char *attribute)
 {
+    const QUtf8StringView stored = element.AttributeUtf8ByName(QLatin1StringView(attribute));
+    if (stored == "True")
+        return true;
+    if (stored == "False")
+        return false;
     return convert(element, attribute, [](const QString &t) { return Text::toBool(t, QString()); });
 }
 
 qint32 readLong(const TarnXMLElement &element, const char *attribute)
 {
+    qint32 value = 0;
+    if (readPlain(element, attribute, value))
+        return value;
     return convert(element, attribute, [](const QString &t) { return Text::toLong(t, QString()); });
 }
 
 qint16 readInteger(const TarnXMLElement &element, const char *attribute)
 {
+    qint16 value = 0;
+    if (readPlain(element, attribute, value))
+        return value;
     return convert(
         element, attribute, [](const QString &t) { return Text::toInteger(t, QString()); });
 }
 
 void writeText(TarnXMLElement &element, const char *attribute, const QString &value)
 {
-    element.setAttributeValueByName(QLatin1String(attribute), value);
+    element.setAttributeValueByName(QLatin1StringView(attribute), value);
 }
 
 void writeBool(TarnXMLElement &element, const char *attribute, bool value)
@@ -63,12 +91,16 @@ void writeBool(TarnXMLElement &element, const char *attribute, bool value)
 
 void writeNumber(TarnXMLElement &element, const char *attribute, qint64 value)
 {
-    writeText(element, attribute, QString::number(value));
+    // The digits QString::number gives, without a QString.
+    char digits[24];
+    const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+    element.setAttributeValueByName(QLatin1StringView(attribute),
+                                    QUtf8StringView(digits, end - digits));
 }
 
 TarnXMLElement requireChild(const TarnXMLElement &element, const char *name)
 {
-    TarnXMLElement child = element.ElementByName(QLatin1String(name));
+    TarnXMLElement child = element.ElementByName(QLatin1StringView(name));
     if (!child) {
         throw QuorinError(
             ErrorNumber::ObjectNotSet,

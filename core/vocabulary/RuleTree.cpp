@@ -46,6 +46,16 @@ void RuleTree::setExpanded(int node, bool expanded)
     at(node, "setExpanded").expanded = expanded;
 }
 
+void RuleTree::setText(int node, const QString &text)
+{
+    at(node, "setText").text = text;
+}
+
+void RuleTree::setImage(int node, const QString &image)
+{
+    at(node, "setImage").image = image;
+}
+
 const RuleTreeNode &RuleTree::node(int index) const
 {
     if (index < 1 || index > count())

@@ -32,6 +32,8 @@ public:
     addAfter(int sibling, const QString &key, const QString &text, const QString &image) override;
     void setBold(int node, bool bold) override;
     void setExpanded(int node, bool expanded) override;
+    void setText(int node, const QString &text);
+    void setImage(int node, const QString &image);
 
     int count() const { return int(m_nodes.size()); }
     // 1 to count(); anything else raises a subscript error.

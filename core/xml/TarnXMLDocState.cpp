@@ -1,5 +1,8 @@
 #include "xml/TarnXMLDocState.h"
 
+#include "xml/TarnXMLElement.h"
+#include "xml/XmlSupport.h"
+
 TarnXMLDocState::TarnXMLDocState(xmlDocPtr document)
     : m_document(document)
 {
@@ -73,7 +76,45 @@ void TarnXMLDocState::childrenChanged()
 
 void TarnXMLDocState::retire(xmlNodePtr node)
 {
-    m_retired.push_back(node);
+    // Freed at once, the memory serves what the caller builds next (a loader done with a
+    // section frees it before reading the next one).
+    const bool held = isHeld(node);
+    if (held)
+        m_retired.push_back(node);
     xmlUnlinkNode(node);
     childrenChanged();
+    if (!held)
+        xmlFreeNode(node);
+}
+
+bool TarnXMLDocState::isHeld(xmlNodePtr node) const
+{
+    for (const TarnXMLElement *handle = m_handles; handle; handle = handle->m_nextHandle) {
+        for (xmlNodePtr held = XmlSupport::nodeOf(handle->m_node); held; held = held->parent) {
+            if (held == node)
+                return true;
+        }
+    }
+    return false;
+}
+
+void TarnXMLDocState::attach(TarnXMLElement *handle) noexcept
+{
+    handle->m_previousHandle = nullptr;
+    handle->m_nextHandle = m_handles;
+    if (m_handles)
+        m_handles->m_previousHandle = handle;
+    m_handles = handle;
+}
+
+void TarnXMLDocState::detach(TarnXMLElement *handle) noexcept
+{
+    if (handle->m_previousHandle)
+        handle->m_previousHandle->m_nextHandle = handle->m_nextHandle;
+    else
+        m_handles = handle->m_nextHandle;
+    if (handle->m_nextHandle)
+        handle->m_nextHandle->m_previousHandle = handle->m_previousHandle;
+    handle->m_previousHandle = nullptr;
+    handle->m_nextHandle = nullptr;
 }

@@ -9,8 +9,10 @@
 #include <array>
 #include <vector>
 
+class TarnXMLElement;
+
 // What a TarnXMLDoc shares with every element handle on its tree: the tree itself, its last
-// parse error, and the position cache. The last owner to go frees the tree.
+// parse error, the position cache and the list of handles. The last owner to go frees the tree.
 class TarnXMLDocState final
 {
 public:
@@ -35,8 +37,13 @@ public:
     // Every change to a child list calls this.
     void childrenChanged();
 
-    // Unlinks a node but keeps it until the tree goes, since a handle may still hold it.
+    // Unlinks a node and frees it, unless a handle holds it or a node below it: then it stays
+    // until the tree goes, and the handle stays valid.
     void retire(xmlNodePtr node);
+
+    // Every handle on the tree enters itself on creation and leaves on destruction.
+    void attach(TarnXMLElement *handle) noexcept;
+    void detach(TarnXMLElement *handle) noexcept;
 
 private:
     xmlDocPtr m_document;
@@ -50,9 +57,12 @@ private:
         quint64 lastUse = 0;
     };
     CachedChild *cachedFor(xmlNodePtr parent);
+    bool isHeld(xmlNodePtr node) const;
 
     // Least recently used goes first: a walk's parent outlives the lookups inside each child.
     std::array<CachedChild, 8> m_cache;
     quint64 m_uses = 0;
     std::vector<xmlNodePtr> m_retired;
+    // The first of the handles, linked through their own members: no allocation per handle.
+    TarnXMLElement *m_handles = nullptr;
 };

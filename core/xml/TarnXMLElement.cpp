@@ -7,8 +7,11 @@
 #include "xml/XmlSupport.h"
 
 #include <QByteArray>
+#include <QVarLengthArray>
 
+#include <algorithm>
 #include <cstring>
+#include <utility>
 #include <vector>
 
 using namespace XmlSupport;
@@ -17,89 +20,191 @@ namespace {
 
 constexpr char Module[] = "TarnXMLElement";
 
+char16_t unitOf(QChar c)
+{
+    return c.unicode();
+}
+
+char16_t unitOf(char c)
+{
+    return uchar(c);
+}
+
+template<typename Char>
+bool needsEscape(Char c)
+{
+    // CR, TAB, '<' and '>' as bits: one test per character.
+    constexpr quint64 Escaped = (1ull << '\r') | (1ull << '\t') | (1ull << '<') | (1ull << '>');
+    const char16_t u = unitOf(c);
+    return u < 64 && (Escaped >> u) & 1;
+}
+
+void appendAscii(QString &out, QLatin1StringView text)
+{
+    out.append(text);
+}
+
+template<typename Bytes>
+void appendAscii(Bytes &out, QLatin1StringView text)
+{
+    out.append(text.data(), text.size());
+}
+
+// ReplaceIllegalChars on text of either width. One pass gives what the four replacements in
+// turn give: no replacement text holds a character that another one looks for. UTF-8 escapes
+// as the text it encodes, since the escaped characters are ASCII, which UTF-8 keeps as it is
+// and never uses within the encoding of another character.
+template<typename Out, typename Char>
+void appendEscaped(Out &out, const Char *p, const Char *const end)
+{
+    while (p != end) {
+        const Char *const run = std::find_if(p, end, needsEscape<Char>);
+        out.append(p, run - p);
+        if (run == end)
+            return;
+        p = run;
+        switch (unitOf(*p)) {
+        case u'\r':
+            if (p + 1 != end && unitOf(p[1]) == u'\n') {
+                appendAscii(out, QLatin1StringView("%CRLF%"));
+                ++p;
+            } else {
+                out.append(p, 1);
+            }
+            break;
+        case u'\t':
+            appendAscii(out, QLatin1StringView("%TAB%"));
+            break;
+        case u'<':
+            appendAscii(out, QLatin1StringView("%LT%"));
+            break;
+        default:
+            appendAscii(out, QLatin1StringView("%GT%"));
+        }
+        ++p;
+    }
+}
+
 QString replaceText(const QString &value)
 {
     const QChar *const begin = value.constData();
     const QChar *const end = begin + value.size();
-    const QChar *p = begin;
-    while (p != end && *p != u'\r' && *p != u'\t' && *p != u'<' && *p != u'>')
-        ++p;
-    if (p == end)
+    if (std::none_of(begin, end, needsEscape<QChar>))
         return value;
-    // One pass gives what the four replacements in turn give: no replacement text holds a
-    // character that another one looks for.
     QString escaped;
     escaped.reserve(value.size() + 16);
-    escaped.append(begin, p - begin);
-    for (; p != end; ++p) {
-        switch (p->unicode()) {
-        case u'\r':
-            if (p + 1 != end && p[1] == u'\n') {
-                escaped += QLatin1String("%CRLF%");
-                ++p;
-            } else {
-                escaped += *p;
-            }
-            break;
-        case u'\t':
-            escaped += QLatin1String("%TAB%");
-            break;
-        case u'<':
-            escaped += QLatin1String("%LT%");
-            break;
-        case u'>':
-            escaped += QLatin1String("%GT%");
-            break;
-        default:
-            escaped += *p;
-        }
-    }
+    appendEscaped(escaped, begin, end);
     return escaped;
 }
+
+// A value as the tree stores it: escaped, in UTF-8, ending in a NUL. Text that needs no
+// escape is used as converted.
+class StoredValue final
+{
+public:
+    explicit StoredValue(const QString &value)
+        : m_utf8(value.toUtf8())
+        , m_data(m_utf8.constData())
+    {
+        if (std::any_of(m_utf8.cbegin(), m_utf8.cend(), needsEscape<char>))
+            escape(m_utf8);
+    }
+    explicit StoredValue(QUtf8StringView value) { escape(value); }
+
+    const char *data() const { return m_data; }
+
+private:
+    void escape(QUtf8StringView utf8)
+    {
+        appendEscaped(m_escaped, utf8.data(), utf8.data() + utf8.size());
+        m_escaped.append('\0');
+        m_data = m_escaped.constData();
+    }
+
+    QByteArray m_utf8;
+    QVarLengthArray<char, 64> m_escaped;
+    const char *m_data = nullptr;
+};
 
 // The four escapes in the order the restore applies them.
 struct Escape
 {
-    const char *text;
+    const char *text; // upper case; matched ignoring case
     qsizetype length;
-    const char *replacement;
+    const char16_t *replacement;
 };
 constexpr Escape Escapes[] = {
-    {"%CRLF%", 6, "\r\n"},
-    {"%TAB%", 5, "\t"},
-    {"%LT%", 4, "<"},
-    {"%GT%", 4, ">"},
+    {"%CRLF%", 6, u"\r\n"},
+    {"%TAB%", 5, u"\t"},
+    {"%LT%", 4, u"<"},
+    {"%GT%", 4, u">"},
 };
 
-const Escape *escapeAt(const char *p, const char *end)
+const Escape *escapeAt(const QChar *p, const QChar *end)
 {
-    for (const Escape &escape : Escapes) {
-        if (end - p >= escape.length && qstrnicmp(p, escape.text, escape.length) == 0)
-            return &escape;
+    // Each escape has a letter of its own after the '%': at most one can match.
+    if (end - p < 4)
+        return nullptr;
+    const Escape *escape;
+    switch (p[1].unicode() | 0x20) {
+    case u'c':
+        escape = &Escapes[0];
+        break;
+    case u't':
+        escape = &Escapes[1];
+        break;
+    case u'l':
+        escape = &Escapes[2];
+        break;
+    case u'g':
+        escape = &Escapes[3];
+        break;
+    default:
+        return nullptr;
     }
-    return nullptr;
+    if (end - p < escape->length)
+        return nullptr;
+    // ASCII folding is enough: no other character folds to a letter of an escape.
+    for (qsizetype i = 0; i < escape->length; ++i) {
+        const char16_t c = p[i].unicode();
+        const char e = escape->text[i];
+        if (c != char16_t(e) && !(e >= 'A' && e <= 'Z' && c == char16_t(e | 0x20)))
+            return nullptr;
+    }
+    return escape;
 }
 
-// Restores UTF-8 text in one pass, which gives what the four passes in turn give unless two
-// escapes share a '%' ("%TAB%CRLF%"): then it gives false.
-bool restoreInOnePass(const char *p, const char *end, QByteArray &restored)
+// Restores the text in place in one pass, which gives what the four passes in turn give
+// unless two escapes share a '%' ("%TAB%CRLF%"): then it gives false and leaves the text
+// undefined. Every replacement is shorter than its escape, so the text only shrinks.
+bool restoreInOnePass(QString &text)
 {
-    restored.reserve(end - p);
-    const char *run = p;
-    while ((p = static_cast<const char *>(std::memchr(p, '%', size_t(end - p))))) {
-        const Escape *escape = escapeAt(p, end);
-        if (escape == nullptr) {
-            ++p;
-            continue;
+    const qsizetype first = text.indexOf(u'%');
+    if (first < 0)
+        return true;
+    QChar *const begin = text.data();
+    const QChar *const end = begin + text.size();
+    const QChar *p = begin + first;
+    QChar *out = begin + first;
+    while (p != end) {
+        // `p` is at a '%'.
+        if (const Escape *escape = escapeAt(p, end)) {
+            const QChar *last = p + escape->length - 1;
+            if (escapeAt(last, end))
+                return false;
+            for (const char16_t *r = escape->replacement; *r; ++r)
+                *out++ = QChar(*r);
+            p = last + 1;
+        } else {
+            *out++ = *p++;
         }
-        const char *last = p + escape->length - 1;
-        if (escapeAt(last, end))
-            return false;
-        restored.append(run, p - run).append(escape->replacement);
-        p = last + 1;
-        run = p;
+        const qsizetype run = p == end || *p == u'%' ? 0 : QStringView(p, end).indexOf(u'%');
+        const QChar *next = run < 0 ? end : p + run;
+        std::memmove(out, p, size_t(next - p) * sizeof(QChar));
+        out += next - p;
+        p = next;
     }
-    restored.append(run, end - run);
+    text.truncate(out - begin);
     return true;
 }
 
@@ -107,27 +212,27 @@ QString restoreInPasses(const QString &value)
 {
     QString restored = value;
     for (const Escape &escape : Escapes)
-        restored.replace(
-            QLatin1String(escape.text), QLatin1String(escape.replacement), Qt::CaseInsensitive);
+        restored.replace(QLatin1String(escape.text),
+                         QString::fromUtf16(escape.replacement),
+                         Qt::CaseInsensitive);
     return restored;
-}
-
-QString restoreUtf8(const char *text, qsizetype size)
-{
-    if (!std::memchr(text, '%', size_t(size)))
-        return QString::fromUtf8(text, size);
-    QByteArray restored;
-    if (restoreInOnePass(text, text + size, restored))
-        return QString::fromUtf8(restored);
-    return restoreInPasses(QString::fromUtf8(text, size));
 }
 
 QString restoreText(const QString &value)
 {
-    if (!value.contains(u'%'))
-        return value;
-    const QByteArray utf8 = value.toUtf8();
-    return restoreUtf8(utf8.constData(), utf8.size());
+    QString restored = value;
+    if (restoreInOnePass(restored))
+        return restored;
+    return restoreInPasses(value);
+}
+
+// One conversion, and no restore pass without a '%'.
+QString restoreUtf8(const char *text, qsizetype size)
+{
+    QString restored = QString::fromUtf8(text, size);
+    if (!std::memchr(text, '%', size_t(size)) || restoreInOnePass(restored))
+        return restored;
+    return restoreInPasses(QString::fromUtf8(text, size));
 }
 
 // The attribute's text as stored, that is escaped. Parsed values are one text node.
@@ -166,6 +271,37 @@ xmlAttrPtr attributeNamed(xmlNodePtr node, const QString &name)
     return nullptr;
 }
 
+// By exact name, starting after `lastMatch`, the previous match, which it then holds; null when none
+// matches. Loaders read attributes in file order, so the search usually succeeds at once.
+xmlAttrPtr attributeNamed(xmlNodePtr node, QLatin1StringView name, void *&lastMatch)
+{
+    if (node->type != XML_ELEMENT_NODE)
+        return nullptr;
+    // strncmp stops at the end of a shorter name, so own[size] is inside it when reached.
+    auto matches = [name](xmlAttrPtr a) {
+        const char *own = reinterpret_cast<const char *>(a->name);
+        return std::strncmp(own, name.data(), size_t(name.size())) == 0
+               && own[name.size()] == '\0';
+    };
+    const auto last = static_cast<xmlAttrPtr>(lastMatch);
+    // From the one after the last match to the end, then from the start up to it.
+    const xmlAttrPtr start = last && last->parent == node && last->next ? last->next
+                                                                          : node->properties;
+    for (xmlAttrPtr a = start; a; a = a->next) {
+        if (matches(a)) {
+            lastMatch = a;
+            return a;
+        }
+    }
+    for (xmlAttrPtr a = node->properties; a != start; a = a->next) {
+        if (matches(a)) {
+            lastMatch = a;
+            return a;
+        }
+    }
+    return nullptr;
+}
+
 xmlAttrPtr attributeAt(xmlNodePtr node, qint32 index, const char *source)
 {
     xmlAttrPtr attribute
@@ -177,12 +313,27 @@ xmlAttrPtr attributeAt(xmlNodePtr node, qint32 index, const char *source)
     return attribute;
 }
 
-void storeValue(xmlAttrPtr attribute, const QString &value)
+void storeStored(xmlAttrPtr attribute, const char *stored)
 {
-    const QByteArray utf8 = replaceText(value).toUtf8();
     // Sets the text as it stands: the DOM, not the caller, escapes entities.
-    if (!xmlSetNsProp(attribute->parent, attribute->ns, attribute->name, xmlText(utf8)))
+    if (!xmlSetNsProp(attribute->parent, attribute->ns, attribute->name, xmlText(stored)))
         throw std::bad_alloc();
+}
+
+template<typename Value>
+void storeValue(xmlAttrPtr attribute, const Value &value)
+{
+    storeStored(attribute, StoredValue(value).data());
+}
+
+QString textOf(const QString &value)
+{
+    return value;
+}
+
+QString textOf(QUtf8StringView value)
+{
+    return value.toString();
 }
 
 // The DOM's getElementsByTagName: qualified name, exact case, "*" for any.
@@ -201,6 +352,62 @@ TarnXMLElement::TarnXMLElement(std::shared_ptr<TarnXMLDocState> document, TarnXM
     : m_document(std::move(document))
     , m_node(node)
 {
+    attach();
+}
+
+TarnXMLElement::TarnXMLElement(const TarnXMLElement &other)
+    : m_document(other.m_document)
+    , m_node(other.m_node)
+    , m_lastAttribute(other.m_lastAttribute)
+{
+    attach();
+}
+
+TarnXMLElement::TarnXMLElement(TarnXMLElement &&other) noexcept
+{
+    *this = std::move(other);
+}
+
+TarnXMLElement &TarnXMLElement::operator=(const TarnXMLElement &other)
+{
+    if (this != &other) {
+        detach();
+        m_document = other.m_document;
+        m_node = other.m_node;
+        m_lastAttribute = other.m_lastAttribute;
+        attach();
+    }
+    return *this;
+}
+
+TarnXMLElement &TarnXMLElement::operator=(TarnXMLElement &&other) noexcept
+{
+    if (this != &other) {
+        detach();
+        other.detach();
+        m_document = std::move(other.m_document);
+        m_node = std::exchange(other.m_node, nullptr);
+        m_lastAttribute = std::exchange(other.m_lastAttribute, nullptr);
+        attach();
+    }
+    return *this;
+}
+
+TarnXMLElement::~TarnXMLElement()
+{
+    detach();
+}
+
+void TarnXMLElement::attach()
+{
+    if (m_document && m_node)
+        m_document->attach(this);
+}
+
+void TarnXMLElement::detach()
+{
+    if (m_document && m_node)
+        m_document->detach(this);
 }
 
 void TarnXMLElement::requireNode(const char *function) const
@@ -294,29 +501,22 @@ void TarnXMLElement::setAttributeValue(qint32 index, const QString &value)
 QString TarnXMLElement::AttributeValueByName(QLatin1StringView name) const
 {
     requireNode("AttributeValueByName");
-    const xmlNodePtr node = nodeOf(m_node);
-    if (node->type == XML_ELEMENT_NODE) {
-        auto matches = [name](xmlAttrPtr a) {
-            const char *own = reinterpret_cast<const char *>(a->name);
-            return std::strlen(own) == size_t(name.size()) && std::memcmp(own, name.data(), size_t(name.size())) == 0;
-        };
-        const auto last = static_cast<xmlAttrPtr>(m_lastAttribute);
-        // From the one after the last match to the end, then from the start up to it.
-        const xmlAttrPtr start = last && last->parent == node && last->next ? last->next : node->properties;
-        for (xmlAttrPtr a = start; a; a = a->next) {
-            if (matches(a)) {
-                m_lastAttribute = a;
-                return restoredValue(a);
-            }
-        }
-        for (xmlAttrPtr a = node->properties; a != start; a = a->next) {
-            if (matches(a)) {
-                m_lastAttribute = a;
-                return restoredValue(a);
-            }
-        }
-    }
+    if (const xmlAttrPtr attribute = attributeNamed(nodeOf(m_node), name, m_lastAttribute))
+        return restoredValue(attribute);
     throw QuorinError::objectNotSet(QStringLiteral("TarnXMLElement::AttributeValueByName"));
+}
+
+QUtf8StringView TarnXMLElement::AttributeUtf8ByName(QLatin1StringView name) const
+{
+    const xmlAttrPtr attribute = m_node ? attributeNamed(nodeOf(m_node), name, m_lastAttribute)
+                                        : nullptr;
+    const xmlNodePtr text = attribute ? attribute->children : nullptr;
+    if (text == nullptr || text->next || text->type != XML_TEXT_NODE || text->content == nullptr)
+        return {};
+    const QUtf8StringView value(reinterpret_cast<const char *>(text->content));
+    if (std::memchr(value.data(), '%', size_t(value.size())))
+        return {};
+    return value;
 }
 
 QString TarnXMLElement::AttributeValueByName(const QString &name) const
@@ -337,30 +537,70 @@ void TarnXMLElement::setAttributeValueByName(const QString &name, const QString 
         AddAttribute(name, value);
 }
 
+void TarnXMLElement::setAttributeValueByName(QLatin1StringView name, const QString &value)
+{
+    setByName(name, value);
+}
+
+void TarnXMLElement::setAttributeValueByName(QLatin1StringView name, QUtf8StringView value)
+{
+    setByName(name, value);
+}
+
+template<typename Value>
+void TarnXMLElement::setByName(QLatin1StringView name, const Value &value)
+{
+    // The form that takes QStrings decides for names outside ASCII.
+    if (std::any_of(name.begin(), name.end(), [](char c) { return uchar(c) >= 0x80; })) {
+        setAttributeValueByName(QString(name), textOf(value));
+        return;
+    }
+    requireNode("AttributeValueByName");
+    const xmlNodePtr node = nodeOf(m_node);
+    // The first of that name, as the general form finds it: an ASCII name is its own UTF-8.
+    for (xmlAttrPtr attribute = node->type == XML_ELEMENT_NODE ? node->properties : nullptr;
+         attribute;
+         attribute = attribute->next) {
+        const char *own = reinterpret_cast<const char *>(attribute->name);
+        if (std::strncmp(own, name.data(), size_t(name.size())) == 0 && own[name.size()] == '\0') {
+            storeValue(attribute, value);
+            return;
+        }
+    }
+    guardedVoid("AddAttribute", Module, [&] {
+        QVarLengthArray<char, 64> utf8Name(name.begin(), name.end());
+        utf8Name.append('\0');
+        addAttribute(name, utf8Name.constData(), StoredValue(value).data(), true);
+    });
+}
+
 void TarnXMLElement::AddAttribute(const QString &name, const QString &value)
 {
     requireNode("AddAttribute");
     guardedVoid("AddAttribute", Module, [&] {
         const QByteArray utf8Name = name.toUtf8();
-        requireValidName(name, utf8Name, "TarnXMLElement::AddAttribute");
-        const QByteArray utf8Value = replaceText(value).toUtf8();
-        const xmlNodePtr node = nodeOf(m_node);
-        const xmlAttrPtr attribute = node->type == XML_ELEMENT_NODE
-                                         ? xmlSetProp(node, xmlText(utf8Name), xmlText(utf8Value))
-                                         : nullptr;
-        if (attribute == nullptr || m_document->parseErrorCode() != 0)
-            LogParserError();
+        addAttribute(name, utf8Name.constData(), StoredValue(value).data(), false);
     });
 }
 
-TarnXMLElement TarnXMLElement::ElementByName(const QString &name) const
+void TarnXMLElement::addAttribute(QAnyStringView name,
+                                  const char *utf8Name,
+                                  const char *stored,
+                                  bool absent)
 {
-    qint32 position;
-    return ElementByName(name, position, 0);
+    requireValidName(name, utf8Name, "TarnXMLElement::AddAttribute");
+    const xmlNodePtr node = nodeOf(m_node);
+    xmlAttrPtr attribute = nullptr;
+    // Setting replaces an attribute of that name; with none there, it is plain adding.
+    if (node->type == XML_ELEMENT_NODE)
+        attribute = absent ? xmlNewProp(node, xmlText(utf8Name), xmlText(stored))
+                           : xmlSetProp(node, xmlText(utf8Name), xmlText(stored));
+    if (attribute == nullptr || m_document->parseErrorCode() != 0)
+        LogParserError();
 }
 
-TarnXMLElement
-TarnXMLElement::ElementByName(const QString &name, qint32 &position, qint32 startAt) const
+template<typename Name>
+TarnXMLElement TarnXMLElement::childNamed(Name name, qint32 &position, qint32 startAt) const
 {
     requireNode("ElementByName");
     position = -1;
@@ -387,6 +627,24 @@ TarnXMLElement::ElementByName(const QString &name, qint32 &position, qint32 star
         }
         return TarnXMLElement();
     });
+}
+
+TarnXMLElement TarnXMLElement::ElementByName(const QString &name) const
+{
+    qint32 position;
+    return childNamed(QStringView(name), position, 0);
+}
+
+TarnXMLElement TarnXMLElement::ElementByName(QLatin1StringView name) const
+{
+    qint32 position;
+    return childNamed(name, position, 0);
+}
+
+TarnXMLElement
+TarnXMLElement::ElementByName(const QString &name, qint32 &position, qint32 startAt) const
+{
+    return childNamed(QStringView(name), position, startAt);
 }
 
 QList<TarnXMLElement> TarnXMLElement::ElementListByName(const QString &name) const
@@ -460,7 +718,7 @@ TarnXMLElement TarnXMLElement::AddElement(const QString &name, qint32 position)
     requireNode("AddElement");
     return guarded("AddElement", Module, TarnXMLElement(), [&] {
         const QByteArray utf8 = name.toUtf8();
-        requireValidName(name, utf8, "TarnXMLElement::AddElement");
+        requireValidName(name, utf8.constData(), "TarnXMLElement::AddElement");
         const xmlNodePtr parent = nodeOf(m_node);
         if (parent->type != XML_ELEMENT_NODE)
             throw QuorinError(DomFailure,

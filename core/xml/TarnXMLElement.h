@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QList>
+#include <QAnyStringView>
 #include <QString>
+#include <QUtf8StringView>
 
 #include <memory>
 
@@ -18,6 +20,11 @@ class TarnXMLElement final
 {
 public:
     TarnXMLElement() = default;
+    TarnXMLElement(const TarnXMLElement &other);
+    TarnXMLElement(TarnXMLElement &&other) noexcept;
+    TarnXMLElement &operator=(const TarnXMLElement &other);
+    TarnXMLElement &operator=(TarnXMLElement &&other) noexcept;
+    ~TarnXMLElement();
 
     bool isNull() const { return m_node == nullptr; }
     explicit operator bool() const { return m_node != nullptr; }
@@ -40,14 +47,24 @@ public:
     QString AttributeValueByName(const QString &name) const;
     // The same for an ASCII name known at compile time; loaders call it for every value they read.
     QString AttributeValueByName(QLatin1StringView name) const;
+    // That value as UTF-8 viewed in place, for readers that parse it without a QString; valid
+    // until the attribute changes. Null when it can't be had so (no such attribute, a value to
+    // restore, a null handle): the caller then asks AttributeValueByName.
+    QUtf8StringView AttributeUtf8ByName(QLatin1StringView name) const;
     // Adds the attribute when it is absent, so assignment always works.
     void setAttributeValueByName(const QString &name, const QString &value);
+    // The same for a name known at compile time; savers call it for every value they write.
+    void setAttributeValueByName(QLatin1StringView name, const QString &value);
+    // And for a value in UTF-8, such as the digits of a number, without making a QString of it.
+    void setAttributeValueByName(QLatin1StringView name, QUtf8StringView value);
     // Replaces an attribute of that name.
     void AddAttribute(const QString &name, const QString &value);
 
     // The first child from `startAt` on (from 0 when it lies outside the children) whose name
     // matches ignoring case; `position` gets its position, or -1.
     TarnXMLElement ElementByName(const QString &name) const;
+    // The same for a name known at compile time, without making a QString of it.
+    TarnXMLElement ElementByName(QLatin1StringView name) const;
     TarnXMLElement ElementByName(const QString &name, qint32 &position, qint32 startAt = 0) const;
     // All descendants of that tag name (exact case, "*" for all), in document order.
     QList<TarnXMLElement> ElementListByName(const QString &name) const;
@@ -58,6 +75,8 @@ public:
                                            const QString &value) const;
     // -1, or any position outside the children, appends.
     TarnXMLElement AddElement(const QString &name, qint32 position = -1);
+    // Removed nodes that no handle holds, themselves or below them, are freed at once; those
+    // that a handle holds stay valid until the tree goes.
     bool RemoveElement(qint32 position);
     // No matching child is a failure that the routine's frame reports.
     bool RemoveElementByAttributeValue(const QString &attributeName, const QString &value);
@@ -70,15 +89,30 @@ public:
 
 private:
     friend class TarnXMLDoc;
+    friend class TarnXMLDocState;
     TarnXMLElement(std::shared_ptr<TarnXMLDocState> document, TarnXMLNode *node);
+    // Enters the handle in its document's list, or takes it out.
+    void attach();
+    void detach();
 
     // Fails the way a call on a null object does, before the member's own frame is armed.
     void requireNode(const char *function) const;
+    // ElementByName for either form of name.
+    template<typename Name>
+    TarnXMLElement childNamed(Name name, qint32 &position, qint32 startAt) const;
     void LogParserError() const;
+    template<typename Value>
+    void setByName(QLatin1StringView name, const Value &value);
+    // AddAttribute's body, inside the caller's frame: the name in UTF-8 and the value as stored
+    // (escaped UTF-8), each ending in a NUL. `absent` says that no attribute has the name.
+    void addAttribute(QAnyStringView name, const char *utf8Name, const char *stored, bool absent);
 
     std::shared_ptr<TarnXMLDocState> m_document;
     TarnXMLNode *m_node = nullptr;
     // Where the last name look-up ended: loaders read attributes in file order, so the next
     // search starts after it and usually succeeds at once.
     mutable void *m_lastAttribute = nullptr;
+    // The document lists every handle on its tree, through these links.
+    TarnXMLElement *m_previousHandle = nullptr;
+    TarnXMLElement *m_nextHandle = nullptr;
 };

@@ -36,16 +36,26 @@ void logParserError(qint32 code, const QString &reason, const char *function, co
              module);
 }
 
-bool sameName(const xmlChar *utf8, const QString &name, Qt::CaseSensitivity cs)
+static char16_t unitAt(QStringView name, qsizetype i)
 {
-    const QChar *ours = name.constData();
+    return name[i].unicode();
+}
+
+static char16_t unitAt(QLatin1StringView name, qsizetype i)
+{
+    return uchar(name[i].toLatin1());
+}
+
+template<typename Name>
+static bool sameNameAs(const xmlChar *utf8, Name name, Qt::CaseSensitivity cs)
+{
     const qsizetype size = name.size();
     qsizetype i = 0;
     for (; utf8[i]; ++i) {
         const uchar c = utf8[i];
         if (i >= size)
             return false;
-        const char16_t u = ours[i].unicode();
+        const char16_t u = unitAt(name, i);
         // Outside ASCII, case folding needs the full rules.
         if (c >= 0x80 || u >= 0x80)
             return QString::compare(fromXml(utf8), name, cs) == 0;
@@ -58,12 +68,33 @@ bool sameName(const xmlChar *utf8, const QString &name, Qt::CaseSensitivity cs)
     return i == size;
 }
 
+bool sameName(const xmlChar *utf8, QStringView name, Qt::CaseSensitivity cs)
+{
+    return sameNameAs(utf8, name, cs);
+}
+
+bool sameName(const xmlChar *utf8, QLatin1StringView name, Qt::CaseSensitivity cs)
+{
+    return sameNameAs(utf8, name, cs);
+}
+
+// The library's output goes straight into the text it gives back, with no copy of its own.
+// No exception may cross the library: a failure to grow is its write error.
+static int appendOutput(void *context, const char *buffer, int length)
+{
+    try {
+        static_cast<QByteArray *>(context)->append(buffer, length);
+    } catch (const std::bad_alloc &) {
+        return -1;
+    }
+    return length;
+}
+
 QByteArray serialise(xmlDocPtr document, xmlNodePtr node, const char *source)
 {
     ErrorCapture capture;
-    std::unique_ptr<xmlBuffer, decltype(&xmlBufferFree)> buffer(xmlBufferCreate(), xmlBufferFree);
-    xmlSaveCtxtPtr context
-        = buffer ? xmlSaveToBuffer(buffer.get(), "UTF-8", XML_SAVE_NO_DECL) : nullptr;
+    QByteArray text;
+    xmlSaveCtxtPtr context = xmlSaveToIO(appendOutput, nullptr, &text, "UTF-8", XML_SAVE_NO_DECL);
     if (context == nullptr)
         throw std::bad_alloc();
     const long written = node ? xmlSaveTree(context, node) : xmlSaveDoc(context, document);
@@ -71,20 +102,19 @@ QByteArray serialise(xmlDocPtr document, xmlNodePtr node, const char *source)
         throw QuorinError(DomFailure,
                           QString::fromLatin1(source),
                           capture.reason(QStringLiteral("The document could not be written.")));
-    qsizetype size = xmlBufferLength(buffer.get());
-    const char *content = reinterpret_cast<const char *>(xmlBufferContent(buffer.get()));
     // The library ends the document with a line break; the file holds the tree alone.
-    if (node == nullptr && size > 0 && content[size - 1] == '\n')
-        --size;
-    return QByteArray(content, size);
+    if (node == nullptr && text.endsWith('\n'))
+        text.chop(1);
+    return text;
 }
 
-void requireValidName(const QString &name, const QByteArray &utf8, const char *source)
+void requireValidName(QAnyStringView name, const char *utf8, const char *source)
 {
     if (name.isEmpty() || xmlValidateName(xmlText(utf8), 0) != 0)
         throw QuorinError(DomFailure,
                           QString::fromLatin1(source),
-                          QStringLiteral("Invalid XML name: '") + name + QLatin1Char('\''));
+                          QStringLiteral("Invalid XML name: '") + name.toString()
+                              + QLatin1Char('\''));
 }
 
 // The thread's handler, for reports raised without a parser context.

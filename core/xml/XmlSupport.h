@@ -2,6 +2,7 @@
 
 // Private to core/xml, like TarnXMLDocState.h: the only headers that name libxml2 types.
 
+#include <QAnyStringView>
 #include <QString>
 
 #include <libxml/parser.h>
@@ -34,9 +35,13 @@ inline QString fromXml(const xmlChar *text)
 {
     return QString::fromUtf8(reinterpret_cast<const char *>(text));
 }
+inline const xmlChar *xmlText(const char *utf8)
+{
+    return reinterpret_cast<const xmlChar *>(utf8);
+}
 inline const xmlChar *xmlText(const QByteArray &utf8)
 {
-    return reinterpret_cast<const xmlChar *>(utf8.constData());
+    return xmlText(utf8.constData());
 }
 
 // UTF-8 text of the whole document (node null) or of one node, with no declaration and no
@@ -45,10 +50,12 @@ QByteArray serialise(xmlDocPtr document, xmlNodePtr node, const char *source);
 
 // Compares a name held by libxml2 with ours without converting either when both are ASCII,
 // which every name of a rulebase is.
-bool sameName(const xmlChar *utf8, const QString &name, Qt::CaseSensitivity cs);
+bool sameName(const xmlChar *utf8, QStringView name, Qt::CaseSensitivity cs);
+bool sameName(const xmlChar *utf8, QLatin1StringView name, Qt::CaseSensitivity cs);
 
-// Throws QuorinError when `name` can't name an element or attribute, as the DOM refuses one.
-void requireValidName(const QString &name, const QByteArray &utf8, const char *source);
+// Throws QuorinError when `name` can't name an element or attribute, as the DOM refuses one;
+// `utf8` is the name in UTF-8, ending in a NUL.
+void requireValidName(QAnyStringView name, const char *utf8, const char *source);
 
 // Collects the library's error reports for the length of one operation instead of letting them
 // reach stderr. A parser context reports to it directly; the thread's own handlers, installed

@@ -2,6 +2,7 @@
 #include "platform/GlobalObjects.h"
 #include "platform/LogFile.h"
 #include "platform/QuorinError.h"
+#include "platform/TextUtils.h"
 #include "rulebase/AuthorisedComponents.h"
 #include "rulebase/AuthorisedReference.h"
 #include "rulebase/AuthorisedReferences.h"
@@ -13,12 +14,15 @@
 #include "rulebase/Report.h"
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
+#include "rulebase/RulebaseFileValues.h"
 #include "rulebase/RulebaseLoadCriteria.h"
 #include "rulebase/RulebaseManager.h"
 #include "rulebase/TableItem.h"
 #include "rulebase/TagItem.h"
 #include "rulebase/UnauthorisedKeyword.h"
 #include "rulebase/ViolationDefinition.h"
+#include "xml/TarnXMLDoc.h"
+#include "xml/TarnXMLElement.h"
 
 #include "support/RulebaseDump.h"
 #include "support/ScriptedUserInterface.h"
@@ -484,4 +488,64 @@ TEST_F(RulebaseFileTest, AFailedSaveLeavesTheOldFileAndTheDirtyFlag)
     EXPECT_EQ(readBytes(path), before);
     EXPECT_TRUE(rulebase->Dirty());
     EXPECT_NE(rulebase->Version(), version); // the increment stands: a retry counts twice
+}
+
+// Numbers and Booleans are read in place when plain: whatever the text, the result, or the error
+// with its attribute, is what the general conversion of the restored text gives.
+TEST(RulebaseFileValuesTest, ReadsInPlaceAgreeWithTheGeneralConversions)
+{
+    const QStringList texts = {
+        QStringLiteral("0"),          QStringLiteral("-0"),          QStringLiteral("7"),
+        QStringLiteral("-7"),         QStringLiteral("007"),         QStringLiteral("2147483647"),
+        QStringLiteral("2147483648"), QStringLiteral("-2147483648"), QStringLiteral("-2147483649"),
+        QStringLiteral("32767"),      QStringLiteral("32768"),       QStringLiteral("-32768"),
+        QStringLiteral("-32769"),     QStringLiteral("999999999999999999"),
+        QStringLiteral("9999999999999999999"),                       QStringLiteral(""),
+        QStringLiteral("-"),          QStringLiteral(" 5"),          QStringLiteral("5 "),
+        QStringLiteral("+5"),         QStringLiteral("4.5"),         QStringLiteral("5.5"),
+        QStringLiteral("1e3"),        QStringLiteral("0x10"),        QStringLiteral("１２"),
+        QStringLiteral("True"),       QStringLiteral("False"),       QStringLiteral("true"),
+        QStringLiteral("FALSE"),      QStringLiteral(" True"),       QStringLiteral("Yes"),
+        QStringLiteral("%TAB%1"),     QStringLiteral("1%TAB%"),      QStringLiteral("%"),
+    };
+    QString xml = QStringLiteral("<Root>");
+    for (const QString &text : texts)
+        xml += QStringLiteral("<Item V=\"") + text + QStringLiteral("\"/>");
+    xml += QStringLiteral("<Item/></Root>");
+    TarnXMLDoc doc;
+    ASSERT_TRUE(doc.LoadFromString(xml));
+    const TarnXMLElement root = doc.RootElement();
+
+    // The outcome of a read as text: the value, or the error's number and description.
+    auto outcome = [](auto &&read) {
+        try {
+            return QString::number(qint64(read()));
+        } catch (const QuorinError &error) {
+            return QStringLiteral("error %1: %2").arg(error.number()).arg(error.description());
+        }
+    };
+    const QString where = QStringLiteral(" (attribute 'V' of element 'Item')");
+    auto general = [&](const TarnXMLElement &item, auto &&convert) {
+        return outcome([&] {
+            const QString text = RulebaseFileValues::readText(item, "V");
+            try {
+                return convert(text);
+            } catch (const QuorinError &error) {
+                throw QuorinError(error.number(), error.source(), error.description() + where);
+            }
+        });
+    };
+    for (qint32 i = 0; i < root.ElementCount(); ++i) {
+        const TarnXMLElement item = root.ElementAtPosition(i);
+        const QString text = i < texts.size() ? texts[i] : QStringLiteral("(none)");
+        EXPECT_EQ(outcome([&] { return RulebaseFileValues::readLong(item, "V"); }),
+                  general(item, [](const QString &t) { return Text::toLong(t, QString()); }))
+            << qPrintable(text);
+        EXPECT_EQ(outcome([&] { return RulebaseFileValues::readInteger(item, "V"); }),
+                  general(item, [](const QString &t) { return Text::toInteger(t, QString()); }))
+            << qPrintable(text);
+        EXPECT_EQ(outcome([&] { return RulebaseFileValues::readBool(item, "V"); }),
+                  general(item, [](const QString &t) { return Text::toBool(t, QString()); }))
+            << qPrintable(text);
+    }
 }

@@ -28,6 +28,15 @@ public:
     void ShowWindow() override {}
     int RunTipOfDay(int last) override { return last; }
     void RunAbout() override { calls << QStringLiteral("About"); }
+    TreeControl *tree() override { return nullptr; }
+    ListControl *list() override { return nullptr; }
+    void setDocumentation(const QString &) override {}
+    void setStatusText(const QString &) override {}
+    void setTreeTitle(const QString &) override {}
+    void setListTitle(const QString &) override {}
+    void setListHeaderImage(const QString &) override {}
+    void setNoItemsVisible(bool) override {}
+    void setToolEnabled(const QString &, bool) override {}
     QStringList calls;
 };
 

@@ -4,6 +4,10 @@
 #include "xml/TarnXMLDoc.h"
 #include "xml/TarnXMLElement.h"
 
+#include <random>
+#include <utility>
+#include <vector>
+
 namespace {
 
 const QString CRLF = QStringLiteral("\r\n");
@@ -86,6 +90,129 @@ TEST_F(AttributeTest, ValuesSurviveSaveAndLoad)
     const QByteArray bytes = readFile(file);
     EXPECT_TRUE(bytes.contains("a%LT%b%GT%c%TAB%d%CRLF%e"));
     EXPECT_TRUE(bytes.contains(QStringLiteral("Grüße").toUtf8()));
+}
+
+// Whatever the stored text, every way of reading it gives what the four restores in turn give,
+// and the in-place view is the same text, or null when there is anything to restore.
+TEST_F(AttributeTest, EveryReadingOfAStoredValueAgrees)
+{
+    const QStringList pieces = {QStringLiteral("%"),
+                                QStringLiteral("%CRLF%"),
+                                QStringLiteral("%crlf%"),
+                                QStringLiteral("%TAB%"),
+                                QStringLiteral("%Tab"),
+                                QStringLiteral("%LT%"),
+                                QStringLiteral("%gt%"),
+                                QStringLiteral("CRLF"),
+                                QStringLiteral("TAB%"),
+                                QStringLiteral("G"),
+                                QStringLiteral("x"),
+                                QStringLiteral("é"),
+                                QStringLiteral("€"),
+                                QStringLiteral("\U00010400"),
+                                QStringLiteral("&"),
+                                QStringLiteral("\""),
+                                QStringLiteral("12")};
+    auto restoredInTurn = [](QString text) {
+        const std::pair<const char *, QString> restores[] = {{"%CRLF%", CRLF},
+                                                             {"%TAB%", QStringLiteral("\t")},
+                                                             {"%LT%", QStringLiteral("<")},
+                                                             {"%GT%", QStringLiteral(">")}};
+        for (const auto &[escape, replacement] : restores)
+            text.replace(QLatin1String(escape), replacement, Qt::CaseInsensitive);
+        return text;
+    };
+    auto xmlEscaped = [](QString text) {
+        return text.replace(QLatin1Char('&'), QStringLiteral("&amp;"))
+            .replace(QLatin1Char('"'), QStringLiteral("&quot;"));
+    };
+    std::mt19937 random(7u);
+    QStringList stored;
+    QString xml = QStringLiteral("<Root>");
+    for (int i = 0; i < 2000; ++i) {
+        QString text;
+        for (int n = int(random() % 8); n > 0; --n)
+            text += pieces[qsizetype(random() % unsigned(pieces.size()))];
+        stored << text;
+        xml += QStringLiteral("<Item A=\"") + xmlEscaped(text) + QStringLiteral("\"/>");
+    }
+    xml += QStringLiteral("</Root>");
+    TarnXMLDoc doc;
+    ASSERT_TRUE(doc.LoadFromString(xml));
+    const TarnXMLElement root = doc.RootElement();
+    for (qint32 i = 0; i < stored.size(); ++i) {
+        const TarnXMLElement item = root.ElementAtPosition(i);
+        const QString expected = restoredInTurn(stored[i]);
+        ASSERT_EQ(item.AttributeValueByName(QLatin1StringView("A")), expected) << i;
+        ASSERT_EQ(item.AttributeValueByName(QStringLiteral("A")), expected) << i;
+        ASSERT_EQ(TarnXMLElement::RestoreIllegalChars(stored[i]), expected) << i;
+        const QUtf8StringView view = item.AttributeUtf8ByName(QLatin1StringView("A"));
+        if (stored[i].contains(QLatin1Char('%')))
+            ASSERT_TRUE(view.isNull()) << i;
+        else
+            ASSERT_EQ(QByteArray(view.data(), view.size()), expected.toUtf8()) << i;
+    }
+    EXPECT_TRUE(root.AttributeUtf8ByName(QLatin1StringView("A")).isNull());
+    EXPECT_TRUE(TarnXMLElement().AttributeUtf8ByName(QLatin1StringView("A")).isNull());
+}
+
+// Every way of writing a value stores the same text: ReplaceIllegalChars of it, in UTF-8.
+TEST_F(AttributeTest, EveryWayOfWritingAValueStoresTheSameText)
+{
+    const QStringList pieces = {QStringLiteral("\r\n"),
+                                QStringLiteral("\r"),
+                                QStringLiteral("\n"),
+                                QStringLiteral("\t"),
+                                QStringLiteral("<"),
+                                QStringLiteral(">"),
+                                QStringLiteral("%"),
+                                QStringLiteral("&"),
+                                QStringLiteral("\""),
+                                QStringLiteral("é"),
+                                QStringLiteral("日本"),
+                                QStringLiteral("\U0001F600"),
+                                QStringLiteral("x"),
+                                QStringLiteral("42")};
+    std::mt19937 random(11u);
+    TarnXMLDoc doc;
+    TarnXMLElement root = rootWith(doc, {});
+    for (int i = 0; i < 500; ++i) {
+        QString value;
+        for (int n = int(random() % 8); n > 0; --n)
+            value += pieces[qsizetype(random() % unsigned(pieces.size()))];
+        TarnXMLElement byName = root.AddElement(QStringLiteral("E"));
+        byName.setAttributeValueByName(QStringLiteral("V"), value);
+        TarnXMLElement byLatin1 = root.AddElement(QStringLiteral("E"));
+        byLatin1.setAttributeValueByName(QLatin1StringView("V"), value);
+        TarnXMLElement byUtf8 = root.AddElement(QStringLiteral("E"));
+        const QByteArray utf8 = value.toUtf8();
+        byUtf8.setAttributeValueByName(QLatin1StringView("V"), QUtf8StringView(utf8));
+        TarnXMLElement added = root.AddElement(QStringLiteral("E"));
+        added.AddAttribute(QStringLiteral("V"), value);
+        TarnXMLElement replaced = root.AddElement(QStringLiteral("E"));
+        replaced.AddAttribute(QStringLiteral("V"), QStringLiteral("old"));
+        replaced.setAttributeValueByName(QLatin1StringView("V"), QUtf8StringView(utf8));
+        TarnXMLElement byIndex = root.AddElement(QStringLiteral("E"));
+        byIndex.AddAttribute(QStringLiteral("V"), QStringLiteral("old"));
+        byIndex.setAttributeValue(0, value);
+
+        const QString stored = TarnXMLElement::ReplaceIllegalChars(value);
+        QString xml = stored;
+        xml.replace(QLatin1Char('&'), QStringLiteral("&amp;"))
+            .replace(QLatin1Char('"'), QStringLiteral("&quot;"))
+            .replace(QLatin1Char('\r'), QStringLiteral("&#13;"))
+            .replace(QLatin1Char('\n'), QStringLiteral("&#10;"));
+        xml = QStringLiteral("<E V=\"") + xml + QStringLiteral("\"/>");
+        for (const TarnXMLElement &element : {byName, byLatin1, byUtf8, added, replaced, byIndex}) {
+            ASSERT_EQ(element.AttributeCount(), 1) << i;
+            ASSERT_EQ(element.XMLString(), xml) << i;
+            ASSERT_EQ(element.AttributeValue(0), TarnXMLElement::RestoreIllegalChars(stored)) << i;
+        }
+        ASSERT_EQ(root.ElementByAttributeValue(QStringLiteral("V"), value).XMLNode(),
+                  byName.XMLNode())
+            << i;
+        root.RemoveAllElements();
+    }
 }
 
 TEST_F(AttributeTest, ByNameGetOnAbsentAttributeFailsAndLetAddsIt)
@@ -292,6 +419,46 @@ TEST_F(HandleTest, HandlesKeepTheirTreeAlive)
     }
     EXPECT_EQ(kept.AttributeValueByName(QStringLiteral("Key")), QStringLiteral("A"));
     EXPECT_EQ(removed.XMLString(), QStringLiteral("<B Key=\"B\"/>"));
+}
+
+// Removal frees what no handle holds; a handle on a removed node, or on any node below one,
+// keeps it whole, however the handle was copied, moved or stored.
+TEST_F(HandleTest, RemovedNodesStayWholeWhileAHandleHoldsThemOrANodeBelow)
+{
+    TarnXMLDoc doc;
+    TarnXMLElement root = rootWith(doc, {});
+    std::vector<TarnXMLElement> held;
+    QStringList expected;
+    for (int i = 0; i < 60; ++i) {
+        TarnXMLElement child = root.AddElement(QStringLiteral("Child"));
+        child.setAttributeValueByName(QLatin1StringView("Key"), QString::number(i));
+        TarnXMLElement below = child.AddElement(QStringLiteral("Below"));
+        below.setAttributeValueByName(QLatin1StringView("Key"), QStringLiteral("b%1").arg(i));
+        if (i % 3 == 0) {
+            held.push_back(below);
+            expected << QStringLiteral("b%1").arg(i);
+        } else if (i % 3 == 1) {
+            held.push_back(std::move(child));
+            expected << QString::number(i);
+        }
+    }
+    TarnXMLElement assigned;
+    assigned = held[0];
+    TarnXMLElement moved = std::move(held[1]);
+    held[1] = moved;
+    moved = assigned;
+    root.RemoveAllElements();
+    EXPECT_EQ(root.ElementCount(), 0);
+    ASSERT_EQ(held.size(), size_t(expected.size()));
+    for (size_t i = 0; i < held.size(); ++i)
+        EXPECT_EQ(held[i].AttributeValueByName(QLatin1StringView("Key")), expected[qsizetype(i)]);
+    EXPECT_EQ(held[1].ElementAtPosition(0).AttributeValueByName(QStringLiteral("Key")),
+              QStringLiteral("b1"));
+    EXPECT_EQ(moved.AttributeValueByName(QStringLiteral("Key")), QStringLiteral("b0"));
+    // What comes after the removal builds on a sound tree.
+    root.AddElement(QStringLiteral("After")).setAttributeValueByName(QLatin1StringView("Key"),
+                                                                     QStringLiteral("x"));
+    EXPECT_EQ(root.XMLString(), QStringLiteral("<Root><After Key=\"x\"/></Root>"));
 }
 
 TEST_F(HandleTest, NullHandleFailsInTheCaller)

@@ -1,0 +1,26 @@
+#include "views/IRuleEditorLauncher.h"
+
+namespace {
+
+class CancellingLauncher final : public IRuleEditorLauncher
+{
+public:
+    bool EditRule(const std::shared_ptr<IRule> &) override { return false; }
+    bool EditCategory(const std::shared_ptr<CategoryItem> &) override { return false; }
+    bool EditSeverity(const std::shared_ptr<SeverityItem> &) override { return false; }
+};
+
+CancellingLauncher cancelling;
+IRuleEditorLauncher *installed = nullptr;
+
+} // namespace
+
+IRuleEditorLauncher &IRuleEditorLauncher::current()
+{
+    return installed ? *installed : cancelling;
+}
+
+void IRuleEditorLauncher::install(IRuleEditorLauncher *launcher)
+{
+    installed = launcher;
+}

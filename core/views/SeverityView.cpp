@@ -1,0 +1,195 @@
+#include "views/SeverityView.h"
+
+#include "application/IMainForm.h"
+#include "collections/KeyedListErrors.h"
+#include "platform/ErrorFrame.h"
+#include "platform/TextUtils.h"
+#include "rulebase/IRule.h"
+#include "rulebase/RuleLists.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/SeverityItem.h"
+#include "rulebase/ViolationDefinition.h"
+#include "views/IRuleEditorLauncher.h"
+
+namespace {
+const QString rootKey = QStringLiteral("Severity");
+}
+
+SeverityView::SeverityView()
+    : RuleViewBase(Shape{
+        "SeverityView",
+        QStringLiteral(" Conventions by Severity"),
+        QStringLiteral(" Severity"),
+        QStringLiteral("This will permanently delete the selected convention(s) from the "
+                       "rulebase, are you sure you wish to continue?"),
+        {QStringLiteral("tlCodingConvention"),
+         QStringLiteral("tlNamingConvention"),
+         QStringLiteral("tlUnauthorisedKeyword")},
+        {QStringLiteral("tlCloneRule"),
+         QStringLiteral("tlCodingConvention"),
+         QStringLiteral("tlNamingConvention"),
+         QStringLiteral("tlUnauthorisedKeyword")},
+        SortSettings::Severities,
+    })
+{
+}
+
+modViewCommon::RuleByKey SeverityView::ViewRules() const
+{
+    return modViewCommon::rulesOf(ruleLists().AllConventions());
+}
+
+void SeverityView::SetupTreeview()
+{
+    m_tvwTree->clear();
+    m_tvwTree->setImageList(QStringLiteral("ilsSeverity"));
+    const int root = m_tvwTree->addChild(0, rootKey, rootKey, rootKey);
+    m_tvwTree->setExpanded(root, true);
+    if (!m_rulebase)
+        return;
+    const auto severities = m_rulebase->SeverityList();
+    for (qint32 i = 1; i <= severities->Count(); ++i) {
+        const std::shared_ptr<SeverityItem> severity = severities->Item(i);
+        m_tvwTree->addChild(
+            root, severity->Key(), severity->Title(), QString::number(severity->Colour()));
+    }
+}
+
+void SeverityView::PopulateList(qint32 severityLevel)
+{
+    m_lvwList->clear();
+    const auto all = ruleLists().AllConventions();
+    for (qint32 i = 1; i <= all->Count(); ++i) {
+        const std::shared_ptr<IRule> rule = all->Item(i);
+        if (severityLevel == 0 || rule->ViolationDefinition()->Severity() == severityLevel)
+            AddRow(*rule);
+    }
+    RefreshView();
+}
+
+void SeverityView::ResetAllNodes()
+{
+    ResetSeverityNode();
+    for (int node = 1; node <= m_tvwTree->count(); ++node)
+        ResetNode(m_tvwTree->key(node));
+}
+
+void SeverityView::ResetSeverityNode()
+{
+    const int node = m_tvwTree->find(rootKey);
+    if (m_rulebase && node != 0)
+        SetNodeCount(node, rootKey, ruleLists().AllConventions()->Count());
+}
+
+void SeverityView::ResetNode(const QString &key)
+{
+    if (Text::same(key, rootKey)) {
+        ResetSeverityNode();
+        return;
+    }
+    const int node = m_tvwTree->find(key);
+    if (!m_rulebase || node == 0)
+        return;
+    const std::shared_ptr<SeverityItem> severity = m_rulebase->SeverityList()->Item(key);
+    const qint32 level = Text::valLong(key);
+    const auto all = ruleLists().AllConventions();
+    qint32 count = 0;
+    for (qint32 i = 1; i <= all->Count(); ++i) {
+        if (all->Item(i)->ViolationDefinition()->Severity() == level)
+            ++count;
+    }
+    SetNodeCount(node, severity->Title(), count);
+}
+
+QString SeverityView::NodeDocumentation(int node) const
+{
+    const QString key = m_tvwTree->key(node);
+    if (Text::same(key, rootKey))
+        return QStringLiteral("Arrange conventions by severity.");
+    const std::shared_ptr<SeverityItem> severity = m_rulebase->SeverityList()->Item(key);
+    return QStringLiteral("Severity: ") + severity->Title() + QStringLiteral("\r\n\r\n")
+           + severity->Description();
+}
+
+void SeverityView::AddItem(const std::shared_ptr<IRule> &item)
+{
+    guardedVoid("IViewController_AddItem", module(), [&] {
+        if (!item || !hasControls() || !m_rulebase)
+            return;
+        const qint32 level = SelectedNodeValue();
+        if (level == 0 || item->ViolationDefinition()->Severity() == level)
+            AddRow(*item);
+        RefreshView();
+    });
+}
+
+void SeverityView::SeverityListChanged()
+{
+    guardedVoid("IViewController_SeverityListChanged", module(), [this] {
+        if (!hasControls() || !m_rulebase)
+            return;
+        const int selected = m_tvwTree->selectedItem();
+        const QString key = selected != 0 ? m_tvwTree->key(selected) : QString();
+        SetupTreeview();
+        // No fallback: a node that has gone is an error.
+        const int node = m_tvwTree->find(key);
+        if (node == 0)
+            KeyedListErrors::raiseNoSuchItem("Nodes");
+        m_tvwTree->setSelectedItem(node);
+        NodeClick(node);
+        modViewCommon::UpdateSeverities(ViewRules(), *m_lvwList, *m_rulebase->SeverityList());
+    });
+}
+
+void SeverityView::OpenItem()
+{
+    RunOpenItem([this] {
+        const QString key = m_lvwList->key(m_lvwList->selectedItem());
+        const std::shared_ptr<IRule> rule = ruleLists().AllConventions()->Item(key);
+        switch (rule->RuleType()) {
+        case RuleTypes::CodingConvention:
+        case RuleTypes::UnauthorisedKeyword:
+        case RuleTypes::NamingConvention:
+            break;
+        default:
+            return;
+        }
+        if (!IRuleEditorLauncher::current().EditRule(rule))
+            return;
+        UpdateConvention(m_lvwList->find(key), *rule);
+        SetDocumentationWindowText(*rule);
+    });
+}
+
+void SeverityView::UpdateConvention(int row, const IRule &rule)
+{
+    if (rule.ViolationDefinition()->Severity() == SelectedNodeValue()
+        || m_tvwTree->selectedItem() == 1) {
+        UpdateRow(rule, row);
+    } else {
+        m_lvwList->remove(rule.RuleKey());
+    }
+    RefreshView();
+}
+
+void SeverityView::DblClick()
+{
+    guardedVoid("m_tvwTree_DblClick", module(), [this] {
+        if (!hasControls() || !m_rulebase)
+            return;
+        const int node = m_tvwTree->selectedItem();
+        if (node <= 1)
+            return;
+        const QString key = m_tvwTree->key(node);
+        const std::shared_ptr<SeverityItem> severity = m_rulebase->SeverityList()->Item(key);
+        if (!IRuleEditorLauncher::current().EditSeverity(severity))
+            return;
+        ResetNode(key);
+        m_tvwTree->setImage(node, QString::number(severity->Colour()));
+        m_frmMain->setListTitle(QStringLiteral(" Severity [") + severity->Title()
+                                + QStringLiteral("]"));
+        for (int row = 1; row <= m_lvwList->count(); ++row)
+            m_lvwList->setSmallIcon(row, severity->Colour());
+        SetDocumentationWindowText(node);
+    });
+}

@@ -1,0 +1,473 @@
+#include "gui/QtListControl.h"
+
+#include "collections/KeyedListErrors.h"
+#include "platform/QuorinError.h"
+#include "views/modViewCommon.h"
+
+#include <QColor>
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QTreeView>
+
+#include <algorithm>
+#include <numeric>
+
+namespace {
+
+QString sourceOf(const char *member)
+{
+    return QStringLiteral("QtListControl::") + QString::fromLatin1(member);
+}
+
+Qt::Alignment alignmentOf(ColumnAlignment alignment)
+{
+    switch (alignment) {
+    case ColumnAlignment::Right:
+        return Qt::AlignRight | Qt::AlignVCenter;
+    case ColumnAlignment::Center:
+        return Qt::AlignHCenter | Qt::AlignVCenter;
+    case ColumnAlignment::Left:
+        break;
+    }
+    return Qt::AlignLeft | Qt::AlignVCenter;
+}
+
+} // namespace
+
+QtListControl::QtListControl(QTreeView *view)
+    : QAbstractTableModel(view)
+    , m_view(view)
+{
+    // The list sorts itself, so that row numbers stay the order shown.
+    m_view->setSortingEnabled(false);
+    m_view->setModel(this);
+    m_view->setRootIsDecorated(false);
+    m_view->setUniformRowHeights(true);
+    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_view->header()->setSectionsClickable(true);
+    m_view->viewport()->setMouseTracking(true);
+    m_view->viewport()->installEventFilter(this);
+    connect(m_view->selectionModel(),
+            &QItemSelectionModel::currentChanged,
+            this,
+            [this](const QModelIndex &current) { currentChanged(current); });
+    connect(m_view, &QAbstractItemView::clicked, this, &QtListControl::clicked);
+    connect(m_view->header(), &QHeaderView::sectionClicked, this, &QtListControl::headerClicked);
+}
+
+QColor QtListControl::colourOf(qint32 rgb)
+{
+    return QColor(rgb & 0xFF, (rgb >> 8) & 0xFF, (rgb >> 16) & 0xFF);
+}
+
+int QtListControl::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : count();
+}
+
+int QtListControl::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : columnCount();
+}
+
+QVariant QtListControl::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    const Row &row = m_rows[std::size_t(index.row())];
+    const int column = index.column();
+    const std::size_t sub = std::size_t(column - 1);
+    switch (role) {
+    case Qt::DisplayRole:
+        if (column == 0)
+            return row.text;
+        return sub < row.subItems.size() ? row.subItems[sub].text : QString();
+    case Qt::ForegroundRole: {
+        const qint32 colour = column == 0                 ? row.foreColor
+                              : sub < row.subItems.size() ? row.subItems[sub].foreColor
+                                                          : m_foreColor;
+        // The list's own colour is the palette's, so that it follows the theme.
+        return colour == m_foreColor ? QVariant() : QVariant(colourOf(colour));
+    }
+    case Qt::TextAlignmentRole:
+        return QVariant::fromValue(alignmentOf(m_columns[std::size_t(column)].alignment));
+    case Qt::UserRole:
+        return row.key;
+    default:
+        return {};
+    }
+}
+
+QVariant QtListControl::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+        return {};
+    if (role == Qt::DisplayRole)
+        return m_columns[std::size_t(section)].header;
+    if (role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(alignmentOf(m_columns[std::size_t(section)].alignment));
+    return {};
+}
+
+void QtListControl::clear()
+{
+    m_quiet = true;
+    beginResetModel();
+    m_rows.clear();
+    m_positions.clear();
+    endResetModel();
+    m_quiet = false;
+    m_reportedByPress = 0;
+}
+
+int QtListControl::add(const QString &key, const QString &text, int smallIcon)
+{
+    const QString folded = key.toCaseFolded();
+    if (m_positions.contains(folded))
+        throw QuorinError(ErrorNumber::DuplicateKey,
+                          sourceOf("add"),
+                          QStringLiteral("Key is not unique in collection"));
+    const int row = count();
+    beginInsertRows(QModelIndex(), row, row);
+    m_rows.push_back(Row{key, text, smallIcon, m_foreColor, {}});
+    m_positions.insert(folded, row + 1);
+    endInsertRows();
+    return row + 1;
+}
+
+void QtListControl::remove(const QString &key)
+{
+    const int row = find(key);
+    if (row == 0)
+        KeyedListErrors::raiseNoSuchItem("Remove");
+    m_quiet = true;
+    beginRemoveRows(QModelIndex(), row - 1, row - 1);
+    m_rows.erase(m_rows.begin() + (row - 1));
+    m_positions.remove(key.toCaseFolded());
+    rehash(row);
+    endRemoveRows();
+    m_quiet = false;
+}
+
+int QtListControl::find(const QString &key) const
+{
+    return m_positions.value(key.toCaseFolded(), 0);
+}
+
+void QtListControl::setText(int row, const QString &text)
+{
+    at(row).text = text;
+    cellChanged(row, 0, Qt::DisplayRole);
+}
+
+void QtListControl::setSmallIcon(int row, int icon)
+{
+    at(row).smallIcon = icon;
+}
+
+bool QtListControl::selected(int row) const
+{
+    at(row);
+    return m_view->selectionModel()->isRowSelected(row - 1, QModelIndex());
+}
+
+void QtListControl::setSelected(int row, bool selected)
+{
+    // Asked on every row added: nothing to do is the common case, and costs nothing.
+    if (this->selected(row) == selected)
+        return;
+    const auto flags = (selected ? QItemSelectionModel::Select : QItemSelectionModel::Deselect)
+                       | QItemSelectionModel::Rows;
+    m_quiet = true;
+    m_view->selectionModel()->select(index(row - 1, 0), flags);
+    m_quiet = false;
+}
+
+void QtListControl::setForeColor(int row, qint32 colour)
+{
+    at(row).foreColor = colour;
+    cellChanged(row, 0, Qt::ForegroundRole);
+}
+
+QString QtListControl::subItemText(int row, int subItem) const
+{
+    const Row &r = at(row);
+    if (subItem < 1)
+        throw QuorinError::subscriptOutOfRange(sourceOf("ListSubItems"));
+    return std::size_t(subItem) <= r.subItems.size() ? r.subItems[std::size_t(subItem - 1)].text
+                                                     : QString();
+}
+
+void QtListControl::setSubItemText(int row, int subItem, const QString &text)
+{
+    Row &r = at(row);
+    if (subItem < 1)
+        throw QuorinError::subscriptOutOfRange(sourceOf("ListSubItems"));
+    if (std::size_t(subItem) > r.subItems.size())
+        r.subItems.resize(std::size_t(subItem), SubItem{QString(), m_foreColor});
+    r.subItems[std::size_t(subItem - 1)].text = text;
+    cellChanged(row, subItem, Qt::DisplayRole);
+}
+
+qint32 QtListControl::subItemForeColor(int row, int subItem) const
+{
+    const Row &r = at(row);
+    if (subItem < 1 || std::size_t(subItem) > r.subItems.size())
+        throw QuorinError::subscriptOutOfRange(sourceOf("ListSubItems"));
+    return r.subItems[std::size_t(subItem - 1)].foreColor;
+}
+
+void QtListControl::setSubItemForeColor(int row, int subItem, qint32 colour)
+{
+    Row &r = at(row);
+    if (subItem < 1 || std::size_t(subItem) > r.subItems.size())
+        throw QuorinError::subscriptOutOfRange(sourceOf("ListSubItems"));
+    r.subItems[std::size_t(subItem - 1)].foreColor = colour;
+    cellChanged(row, subItem, Qt::ForegroundRole);
+}
+
+void QtListControl::clearColumns()
+{
+    if (m_columns.empty())
+        return;
+    beginRemoveColumns(QModelIndex(), 0, columnCount() - 1);
+    m_columns.clear();
+    endRemoveColumns();
+}
+
+int QtListControl::addColumn(const QString &header, ColumnAlignment alignment, int width)
+{
+    const int column = columnCount();
+    beginInsertColumns(QModelIndex(), column, column);
+    m_columns.push_back(Column{header, alignment, QString()});
+    endInsertColumns();
+    if (width > 0)
+        m_view->header()->resizeSection(column, width);
+    return column + 1;
+}
+
+int QtListControl::columnWidth(int column) const
+{
+    columnAt(column);
+    return m_view->header()->sectionSize(column - 1);
+}
+
+void QtListControl::setColumnWidth(int column, int width)
+{
+    columnAt(column);
+    m_view->header()->resizeSection(column - 1, width);
+}
+
+void QtListControl::setColumnAlignment(int column, ColumnAlignment alignment)
+{
+    columnAt(column).alignment = alignment;
+    emit headerDataChanged(Qt::Horizontal, column - 1, column - 1);
+    if (count() > 0)
+        emit dataChanged(
+            index(0, column - 1), index(count() - 1, column - 1), {Qt::TextAlignmentRole});
+}
+
+void QtListControl::setColumnIcon(int column, const QString &icon)
+{
+    columnAt(column).icon = icon;
+    showSortIndicator();
+}
+
+// The sort images are the header's own sort indicator.
+void QtListControl::showSortIndicator()
+{
+    QHeaderView *header = m_view->header();
+    for (int column = 1; column <= columnCount(); ++column) {
+        const QString &icon = m_columns[std::size_t(column - 1)].icon;
+        const bool ascending
+            = icon.compare(QLatin1String("SortAscending"), Qt::CaseInsensitive) == 0;
+        if (ascending || icon.compare(QLatin1String("SortDescending"), Qt::CaseInsensitive) == 0) {
+            header->setSortIndicator(column - 1,
+                                     ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
+            header->setSortIndicatorShown(true);
+            return;
+        }
+    }
+    header->setSortIndicatorShown(false);
+}
+
+int QtListControl::width() const
+{
+    return m_view->viewport()->width();
+}
+
+void QtListControl::setSortKey(int column)
+{
+    m_sortKey = column;
+    sortRows();
+}
+
+void QtListControl::setSortOrder(int order)
+{
+    m_sortOrder = order;
+    sortRows();
+}
+
+void QtListControl::setSorted(bool sorted)
+{
+    m_sorted = sorted;
+    sortRows();
+}
+
+QString QtListControl::sortText(const Row &row) const
+{
+    if (m_sortKey == 0)
+        return row.text;
+    const std::size_t sub = std::size_t(m_sortKey - 1);
+    return sub < row.subItems.size() ? row.subItems[sub].text : QString();
+}
+
+void QtListControl::sortRows()
+{
+    if (!m_sorted || m_rows.empty())
+        return;
+    // By text ignoring case, stable so that equal texts keep their order.
+    std::vector<int> order(m_rows.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::vector<QString> texts;
+    texts.reserve(m_rows.size());
+    for (const Row &row : m_rows)
+        texts.push_back(sortText(row));
+    std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
+        const int c
+            = QString::compare(texts[std::size_t(a)], texts[std::size_t(b)], Qt::CaseInsensitive);
+        return m_sortOrder == 1 ? c > 0 : c < 0;
+    });
+
+    emit layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
+    std::vector<int> newRowOf(m_rows.size());
+    std::vector<Row> rows;
+    rows.reserve(m_rows.size());
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        newRowOf[std::size_t(order[i])] = int(i);
+        rows.push_back(std::move(m_rows[std::size_t(order[i])]));
+    }
+    m_rows = std::move(rows);
+    rehash(1);
+    // Selection and current row follow their rows.
+    const QModelIndexList before = persistentIndexList();
+    QModelIndexList after;
+    after.reserve(before.size());
+    for (const QModelIndex &index : before)
+        after << this->index(newRowOf[std::size_t(index.row())], index.column());
+    changePersistentIndexList(before, after);
+    emit layoutChanged({}, QAbstractItemModel::VerticalSortHint);
+}
+
+void QtListControl::rehash(int fromRow)
+{
+    for (int i = fromRow; i <= count(); ++i)
+        m_positions.insert(m_rows[std::size_t(i - 1)].key.toCaseFolded(), i);
+}
+
+int QtListControl::selectedItem() const
+{
+    const QModelIndex current = m_view->currentIndex();
+    return current.isValid() ? current.row() + 1 : 0;
+}
+
+void QtListControl::setSelectedItem(int row)
+{
+    m_quiet = true;
+    if (row == 0) {
+        m_view->selectionModel()->setCurrentIndex(QModelIndex(), QItemSelectionModel::NoUpdate);
+    } else {
+        at(row);
+        m_view->selectionModel()->setCurrentIndex(
+            index(row - 1, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    }
+    m_quiet = false;
+}
+
+int QtListControl::hitTest(int x, int y) const
+{
+    const QModelIndex index = m_view->indexAt(QPoint(x, y));
+    return index.isValid() ? index.row() + 1 : 0;
+}
+
+void QtListControl::setToolTipText(const QString &text)
+{
+    m_toolTip = text;
+    m_view->viewport()->setToolTip(text);
+}
+
+bool QtListControl::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_view->viewport()) {
+        if (event->type() == QEvent::MouseButtonPress) {
+            // A press starts afresh: a click on the current row still reports it.
+            m_reportedByPress = 0;
+        } else if (event->type() == QEvent::MouseMove && m_events) {
+            const QPoint at = static_cast<QMouseEvent *>(event)->position().toPoint();
+            m_events->MouseMove(at.x(), at.y());
+        }
+    }
+    return QAbstractTableModel::eventFilter(watched, event);
+}
+
+QtListControl::Row &QtListControl::at(int row)
+{
+    if (row < 1 || row > count())
+        throw QuorinError::subscriptOutOfRange(sourceOf("ListItem"));
+    return m_rows[std::size_t(row - 1)];
+}
+
+const QtListControl::Row &QtListControl::at(int row) const
+{
+    if (row < 1 || row > count())
+        throw QuorinError::subscriptOutOfRange(sourceOf("ListItem"));
+    return m_rows[std::size_t(row - 1)];
+}
+
+QtListControl::Column &QtListControl::columnAt(int column)
+{
+    if (column < 1 || column > columnCount())
+        throw QuorinError::subscriptOutOfRange(sourceOf("ColumnHeaders"));
+    return m_columns[std::size_t(column - 1)];
+}
+
+const QtListControl::Column &QtListControl::columnAt(int column) const
+{
+    if (column < 1 || column > columnCount())
+        throw QuorinError::subscriptOutOfRange(sourceOf("ColumnHeaders"));
+    return m_columns[std::size_t(column - 1)];
+}
+
+// Sub-items beyond the last column are kept but not shown.
+void QtListControl::cellChanged(int row, int column, int role)
+{
+    if (column < columnCount()) {
+        const QModelIndex cell = index(row - 1, column);
+        emit dataChanged(cell, cell, {role});
+    }
+}
+
+void QtListControl::currentChanged(const QModelIndex &current)
+{
+    if (m_quiet)
+        return;
+    const int row = current.isValid() ? current.row() + 1 : 0;
+    m_reportedByPress = row;
+    if (row != 0 && m_events)
+        m_events->ItemClick(row);
+}
+
+void QtListControl::clicked(const QModelIndex &index)
+{
+    const int row = index.row() + 1;
+    if (index.isValid() && row != m_reportedByPress && m_events)
+        m_events->ItemClick(row);
+}
+
+void QtListControl::headerClicked(int section)
+{
+    const int column = section + 1;
+    modViewCommon::SortListByColumn(*this, column);
+    if (m_events)
+        m_events->ColumnClick(column);
+}

@@ -1,0 +1,395 @@
+#include "application/Application.h"
+#include "application/Startup.h"
+#include "gui/QtListControl.h"
+#include "gui/QtTreeControl.h"
+#include "gui/frmMain.h"
+#include "platform/GlobalObjects.h"
+#include "platform/QuorinAdminData.h"
+#include "platform/QuorinError.h"
+#include "platform/TextUtils.h"
+#include "rulebase/CategoryList.h"
+#include "rulebase/IRule.h"
+#include "rulebase/RuleLists.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/ViolationDefinition.h"
+#include "views/IViewController.h"
+#include "views/ListControl.h"
+#include "views/TreeControl.h"
+#include "views/ViewFactory.h"
+
+#include "support/ScriptedUserInterface.h"
+#include "support/TestEnvironment.h"
+
+#include <QAbstractItemModelTester>
+#include <QApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QTreeView>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Collects what QAbstractItemModelTester reports, so that a broken model fails the test.
+class ModelWarnings
+{
+public:
+    ModelWarnings() { s_previous = qInstallMessageHandler(&ModelWarnings::handle); }
+    ~ModelWarnings()
+    {
+        qInstallMessageHandler(s_previous);
+        s_messages.clear();
+    }
+    static const QStringList &messages() { return s_messages; }
+
+private:
+    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &message)
+    {
+        if (type != QtDebugMsg && context.category
+            && QLatin1String(context.category) == QLatin1String("qt.modeltest"))
+            s_messages << message;
+    }
+    static inline QtMessageHandler s_previous = nullptr;
+    static inline QStringList s_messages;
+};
+
+struct TreeEvents final : TreeControlEvents
+{
+    void NodeClick(int node) override { clicks << node; }
+    void Collapse(int node) override { collapses << node; }
+    void DblClick() override { ++doubleClicks; }
+    QList<int> clicks;
+    QList<int> collapses;
+    int doubleClicks = 0;
+};
+
+struct ListEvents final : ListControlEvents
+{
+    void ItemClick(int row) override { clicks << row; }
+    void ColumnClick(int column) override { columns << column; }
+    void MouseMove(int x, int y) override { moves << QPoint(x, y); }
+    QList<int> clicks;
+    QList<int> columns;
+    QList<QPoint> moves;
+};
+
+QStringList listTexts(const ListControl &list)
+{
+    QStringList texts;
+    for (int row = 1; row <= list.count(); ++row)
+        texts << list.text(row);
+    return texts;
+}
+
+} // namespace
+
+TEST(QtTreeControl, KeepsNodesInOrderAndPassesTheModelTester)
+{
+    ModelWarnings warnings;
+    QTreeView view;
+    view.resize(300, 400);
+    auto *tree = new QtTreeControl(&view);
+    QAbstractItemModelTester tester(tree, QAbstractItemModelTester::FailureReportingMode::Warning);
+    TreeEvents events;
+    tree->setEventSink(&events);
+    view.show();
+
+    const int root = tree->addChild(
+        0, QStringLiteral("Root"), QStringLiteral("Root"), QStringLiteral("Category"));
+    tree->setExpanded(root, true);
+    const int b = tree->addChild(
+        root, QStringLiteral("B"), QStringLiteral("Bee"), QStringLiteral("Folder"));
+    const int d = tree->addChild(root, QStringLiteral("D"), QStringLiteral("Dee"), QString());
+    const int c = tree->addAfter(b, QStringLiteral("C"), QStringLiteral("Cee"), QString());
+    const int e = tree->addChild(d, QStringLiteral("E"), QStringLiteral("Eee"), QString());
+    EXPECT_EQ((QList<int>{root, b, d, c, e}), (QList<int>{1, 2, 3, 4, 5}));
+    EXPECT_EQ(tree->count(), 5);
+    EXPECT_EQ(tree->find(QStringLiteral("c")), c);
+    EXPECT_EQ(tree->find(QStringLiteral("none")), 0);
+    EXPECT_THROW(tree->addChild(root, QStringLiteral("b"), QString(), QString()), QuorinError);
+    EXPECT_EQ(tree->count(), 5);
+
+    // Siblings in the order shown: the node added after B stands before D.
+    EXPECT_EQ(tree->rowCount(tree->indexOf(root)), 3);
+    EXPECT_EQ(tree->indexOf(c).row(), 1);
+    EXPECT_EQ(tree->next(b), c);
+    EXPECT_EQ(tree->previous(d), c);
+    EXPECT_EQ(tree->next(d), 0);
+    EXPECT_EQ(tree->firstSibling(d), b);
+    EXPECT_EQ(tree->parent(e), d);
+    EXPECT_EQ(tree->parent(root), 0);
+
+    tree->setText(c, QStringLiteral("Cee (3)"));
+    tree->setBold(c, true);
+    EXPECT_EQ(tree->indexOf(c).data().toString(), QStringLiteral("Cee (3)"));
+    EXPECT_TRUE(tree->indexOf(c).data(Qt::FontRole).value<QFont>().bold());
+    EXPECT_FALSE(tree->indexOf(d).data(Qt::FontRole).value<QFont>().bold());
+    EXPECT_FALSE(tree->indexOf(b).data(Qt::DecorationRole).value<QIcon>().isNull());
+    EXPECT_TRUE(tree->indexOf(c).data(Qt::DecorationRole).value<QIcon>().isNull());
+
+    // Expansion is the view's, and the window's own changes raise no events.
+    EXPECT_TRUE(tree->expanded(root));
+    EXPECT_TRUE(view.isExpanded(tree->indexOf(root)));
+    EXPECT_FALSE(tree->expanded(d));
+    tree->ensureVisible(e);
+    EXPECT_TRUE(tree->expanded(d));
+    tree->setSelectedItem(c);
+    EXPECT_EQ(tree->selectedItem(), c);
+    EXPECT_EQ(view.currentIndex(), tree->indexOf(c));
+    EXPECT_TRUE(events.clicks.isEmpty());
+    tree->setExpanded(d, false);
+    EXPECT_TRUE(events.collapses.isEmpty());
+
+    // What the user does reaches the view.
+    view.selectionModel()->setCurrentIndex(tree->indexOf(d), QItemSelectionModel::ClearAndSelect);
+    EXPECT_EQ(events.clicks, QList<int>{d});
+    EXPECT_EQ(tree->selectedItem(), d);
+    view.collapse(tree->indexOf(root));
+    EXPECT_EQ(events.collapses, QList<int>{root});
+    view.expand(tree->indexOf(root));
+    emit view.doubleClicked(tree->indexOf(b));
+    EXPECT_EQ(events.doubleClicks, 1);
+
+    const QRect bRect = view.visualRect(tree->indexOf(b));
+    EXPECT_EQ(tree->hitTest(bRect.center().x(), bRect.center().y()), b);
+    EXPECT_EQ(tree->hitTest(5, view.viewport()->height() - 2), 0);
+
+    tree->clear();
+    EXPECT_EQ(tree->count(), 0);
+    EXPECT_EQ(tree->rowCount(), 0);
+    EXPECT_EQ(tree->selectedItem(), 0);
+    EXPECT_EQ(tree->addChild(0, QStringLiteral("B"), QStringLiteral("Again"), QString()), 1);
+    EXPECT_THROW(tree->text(2), QuorinError);
+    EXPECT_EQ(events.clicks, QList<int>{d});
+
+    EXPECT_TRUE(warnings.messages().isEmpty())
+        << warnings.messages().join(QLatin1Char('\n')).toStdString();
+}
+
+TEST(QtListControl, AddsSortsAndSelectsRowsAndPassesTheModelTester)
+{
+    ModelWarnings warnings;
+    QTreeView view;
+    view.resize(500, 300);
+    auto *list = new QtListControl(&view);
+    QAbstractItemModelTester tester(list, QAbstractItemModelTester::FailureReportingMode::Warning);
+    ListEvents events;
+    list->setEventSink(&events);
+    view.show();
+
+    list->addColumn(QStringLiteral("Rule"), ColumnAlignment::Left, 60);
+    list->addColumn(QStringLiteral("Title"), ColumnAlignment::Left, 200);
+    list->addColumn(QStringLiteral("Impact"), ColumnAlignment::Right, 80);
+    EXPECT_EQ(list->columnCount(), 3);
+    EXPECT_EQ(list->columnHeader(2), QStringLiteral("Title"));
+    EXPECT_EQ(list->headerData(2, Qt::Horizontal, Qt::DisplayRole).toString(),
+              QStringLiteral("Impact"));
+    EXPECT_EQ(list->columnWidth(2), 200);
+    list->setColumnWidth(1, 70);
+    EXPECT_EQ(view.header()->sectionSize(0), 70);
+    EXPECT_EQ(list->width(), view.viewport()->width());
+
+    const QStringList keys
+        = {QStringLiteral("5003Key"), QStringLiteral("5001Key"), QStringLiteral("5002Key")};
+    const QStringList titles
+        = {QStringLiteral("beta"), QStringLiteral("Gamma"), QStringLiteral("alpha")};
+    for (int i = 0; i < 3; ++i) {
+        const int row = list->add(keys[i], keys[i].left(4), i + 1);
+        EXPECT_EQ(row, i + 1);
+        list->setSubItemText(row, 1, titles[i]);
+        list->setSubItemText(row, 2, QString::number(10 * (i + 1)));
+        list->setSelected(row, false);
+    }
+    EXPECT_THROW(list->add(QStringLiteral("5001KEY"), QString(), 0), QuorinError);
+    EXPECT_EQ(list->count(), 3);
+    EXPECT_EQ(list->find(QStringLiteral("5002key")), 3);
+    EXPECT_EQ(list->index(2, 1).data().toString(), QStringLiteral("alpha"));
+    EXPECT_EQ(list->index(2, 0).data(Qt::UserRole).toString(), QStringLiteral("5002Key"));
+    EXPECT_EQ(list->index(0, 2).data(Qt::TextAlignmentRole).value<Qt::Alignment>()
+                  & Qt::AlignHorizontal_Mask,
+              Qt::AlignRight);
+    EXPECT_EQ(list->subItemText(1, 5), QString());
+
+    // Red is the low byte; the list's own colour leaves the palette alone.
+    list->setForeColor(2, 255);
+    list->setSubItemForeColor(2, 1, 0xFF0000);
+    EXPECT_EQ(list->foreColor(2), 255);
+    EXPECT_EQ(list->index(1, 0).data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::red));
+    EXPECT_EQ(list->index(1, 1).data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::blue));
+    EXPECT_FALSE(list->index(0, 0).data(Qt::ForegroundRole).isValid());
+
+    list->setSelected(3, true);
+    list->setSelectedItem(2);
+    EXPECT_TRUE(list->selected(3));
+    EXPECT_TRUE(list->selected(2));
+    EXPECT_FALSE(list->selected(1));
+    EXPECT_EQ(list->selectedItem(), 2);
+    EXPECT_TRUE(events.clicks.isEmpty());
+
+    // Sorting reorders the rows themselves; keys, selection and the current row follow.
+    list->setSortKey(1);
+    list->setSortOrder(0);
+    EXPECT_EQ(
+        listTexts(*list),
+        (QStringList{QStringLiteral("5003"), QStringLiteral("5001"), QStringLiteral("5002")}));
+    list->setSorted(true);
+    EXPECT_EQ(
+        listTexts(*list),
+        (QStringList{QStringLiteral("5002"), QStringLiteral("5003"), QStringLiteral("5001")}));
+    EXPECT_EQ(list->find(QStringLiteral("5001Key")), 3);
+    EXPECT_EQ(list->index(2, 0).data(Qt::UserRole).toString(), QStringLiteral("5001Key"));
+    EXPECT_EQ(list->selectedItem(), 3);
+    EXPECT_TRUE(list->selected(3));
+    EXPECT_TRUE(list->selected(1));
+    EXPECT_FALSE(list->selected(2));
+    EXPECT_EQ(list->foreColor(3), 255);
+
+    // A header click: the same column again reverses the order, and the view is told after.
+    emit view.header()->sectionClicked(1);
+    EXPECT_EQ(list->sortOrder(), 1);
+    EXPECT_EQ(
+        listTexts(*list),
+        (QStringList{QStringLiteral("5001"), QStringLiteral("5003"), QStringLiteral("5002")}));
+    EXPECT_EQ(events.columns, QList<int>{2});
+    EXPECT_EQ(list->columnIcon(2), QStringLiteral("SortDescending"));
+    EXPECT_TRUE(view.header()->isSortIndicatorShown());
+    EXPECT_EQ(view.header()->sortIndicatorSection(), 1);
+    EXPECT_EQ(view.header()->sortIndicatorOrder(), Qt::DescendingOrder);
+    emit view.header()->sectionClicked(0);
+    EXPECT_EQ(list->sortKey(), 0);
+    EXPECT_EQ(
+        listTexts(*list),
+        (QStringList{QStringLiteral("5001"), QStringLiteral("5002"), QStringLiteral("5003")}));
+
+    // The user's moves reach the view: a change of current row, the mouse over the rows.
+    view.selectionModel()->setCurrentIndex(
+        list->index(1, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    EXPECT_EQ(events.clicks, QList<int>{2});
+    const QRect second = view.visualRect(list->index(1, 0));
+    EXPECT_EQ(list->hitTest(second.center().x(), second.center().y()), 2);
+    EXPECT_EQ(list->hitTest(5, view.viewport()->height() - 2), 0);
+    QMouseEvent move(QEvent::MouseMove,
+                     QPointF(second.center()),
+                     view.viewport()->mapToGlobal(QPointF(second.center())),
+                     Qt::NoButton,
+                     Qt::NoButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(view.viewport(), &move);
+    ASSERT_FALSE(events.moves.isEmpty());
+    EXPECT_EQ(events.moves.last(), second.center());
+    list->setToolTipText(QStringLiteral("Inactive"));
+    EXPECT_EQ(view.viewport()->toolTip(), QStringLiteral("Inactive"));
+
+    list->remove(QStringLiteral("5002KEY"));
+    EXPECT_EQ(listTexts(*list), (QStringList{QStringLiteral("5001"), QStringLiteral("5003")}));
+    EXPECT_EQ(list->find(QStringLiteral("5003Key")), 2);
+    EXPECT_THROW(list->remove(QStringLiteral("5002Key")), QuorinError);
+
+    list->clear();
+    list->clearColumns();
+    EXPECT_EQ(list->rowCount(), 0);
+    EXPECT_EQ(list->columnCount(), 0);
+    EXPECT_EQ(list->find(QStringLiteral("5001Key")), 0);
+
+    EXPECT_TRUE(warnings.messages().isEmpty())
+        << warnings.messages().join(QLatin1Char('\n')).toStdString();
+}
+
+TEST(QtListControl, FillsTenThousandRowsInOrder)
+{
+    QTreeView view;
+    auto *list = new QtListControl(&view);
+    list->addColumn(QStringLiteral("Rule"), ColumnAlignment::Left, 60);
+    list->addColumn(QStringLiteral("Title"), ColumnAlignment::Left, 200);
+    view.show();
+    for (int i = 1; i <= 10000; ++i) {
+        const QString key = QString::number(i) + QStringLiteral("Key");
+        const int row = list->add(key, QString::number(i), 1);
+        list->setSubItemText(row, 1, QStringLiteral("Rule %1").arg(i));
+        list->setSelected(row, false);
+        list->setForeColor(row, i % 2 ? 255 : 0);
+    }
+    EXPECT_EQ(list->rowCount(), 10000);
+    EXPECT_EQ(list->find(QStringLiteral("9999key")), 9999);
+    EXPECT_EQ(list->index(9998, 1).data().toString(), QStringLiteral("Rule 9999"));
+    EXPECT_EQ(list->index(9998, 0).data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::red));
+}
+
+TEST(MainWindow, ShowsTheCategoryViewInTheRealTreeAndList)
+{
+    TestEnvironment::clearSettings();
+    ScriptedUserInterface ui;
+    ASSERT_EQ(CreateGlobalObjects(), 0);
+    gobjAdminData->setFirstUse(false);
+    gobjAdminData->setDisplayTips(false);
+    {
+        frmMain window(false);
+        Application app(&window, createView);
+        window.setApplication(&app);
+        window.ShowWindow();
+        ASSERT_TRUE(RunStartup(app, TestEnvironment::sampleRulebase()));
+        ASSERT_EQ(app.CurrentViewName(), QStringLiteral("tlCategoryView"));
+        ASSERT_NE(window.tree(), nullptr);
+        ASSERT_NE(window.list(), nullptr);
+
+        // The tree: the root, each category, and "Unallocated", in the real view.
+        const std::shared_ptr<Rulebase> rulebase = app.rulebase();
+        const int categories = rulebase->CategoryList()->Count();
+        QTreeView *tvw = window.tvwMain();
+        EXPECT_EQ(window.tree()->count(), categories + 2);
+        ASSERT_EQ(tvw->model()->rowCount(), 1);
+        const QModelIndex root = tvw->model()->index(0, 0);
+        EXPECT_EQ(tvw->model()->rowCount(root), categories + 1);
+        EXPECT_TRUE(tvw->isExpanded(root));
+        EXPECT_TRUE(root.data().toString().startsWith(QStringLiteral("Category")));
+        EXPECT_EQ(tvw->currentIndex(), root);
+        EXPECT_EQ(window.findChild<QLabel *>(QStringLiteral("lblTreeTitle"))->text(),
+                  QStringLiteral(" Conventions by Category"));
+        EXPECT_TRUE(window.findChild<QLabel *>(QStringLiteral("lblListTitle"))
+                        ->text()
+                        .contains(QStringLiteral("All Items")));
+
+        // The list: every convention, with the inactive ones in red.
+        const auto all = rulebase->RuleLists()->AllConventions();
+        QTreeView *lvw = window.lvwMain();
+        QAbstractItemModel *rows = lvw->model();
+        ASSERT_EQ(rows->rowCount(), all->Count());
+        EXPECT_EQ(window.list()->count(), all->Count());
+        EXPECT_EQ(rows->columnCount(), 4);
+        EXPECT_EQ(rows->headerData(1, Qt::Horizontal).toString(), QStringLiteral("Title"));
+        int inactive = 0;
+        for (qint32 i = 1; i <= all->Count(); ++i) {
+            const std::shared_ptr<IRule> rule = all->Item(i);
+            const int row = window.list()->find(rule->RuleKey());
+            ASSERT_NE(row, 0) << rule->RuleKey().toStdString();
+            const QModelIndex cell = rows->index(row - 1, 0);
+            EXPECT_EQ(cell.data(Qt::UserRole).toString(), rule->RuleKey());
+            EXPECT_EQ(rows->index(row - 1, 1).data().toString(), rule->Title());
+            if (!rule->RuleActive()) {
+                ++inactive;
+                EXPECT_EQ(cell.data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::red));
+            } else {
+                EXPECT_FALSE(cell.data(Qt::ForegroundRole).isValid());
+            }
+        }
+        EXPECT_GT(inactive, 0);
+        EXPECT_FALSE(window.findChild<QLabel *>(QStringLiteral("lblNoItems"))->isVisibleTo(lvw));
+
+        // A click on a category shows only its rules; an empty one says so over the list.
+        const QModelIndex first = tvw->model()->index(0, 0, root);
+        tvw->selectionModel()->setCurrentIndex(first, QItemSelectionModel::ClearAndSelect);
+        const qint32 categoryID = Text::valLong(window.tree()->key(QtTreeControl::nodeOf(first)));
+        ASSERT_GT(categoryID, 0);
+        int expected = 0;
+        for (qint32 i = 1; i <= all->Count(); ++i)
+            expected += all->Item(i)->ViolationDefinition()->CategoryID() == categoryID ? 1 : 0;
+        EXPECT_EQ(rows->rowCount(), expected);
+        EXPECT_EQ(window.findChild<QLabel *>(QStringLiteral("lblNoItems"))->isVisibleTo(lvw),
+                  expected == 0);
+
+        EXPECT_TRUE(window.close());
+        EXPECT_TRUE(ui.messages.empty());
+    }
+    DestroyGlobalObjects();
+}

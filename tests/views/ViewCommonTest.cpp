@@ -1,0 +1,331 @@
+#include "ViewTestSupport.h"
+
+#include "rulebase/CategoryItem.h"
+#include "rulebase/CategoryList.h"
+#include "rulebase/CodingConvention.h"
+#include "rulebase/RuleLists.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/SeverityItem.h"
+#include "rulebase/ViolationDefinition.h"
+#include "views/ComboControl.h"
+#include "views/MemoryListControl.h"
+#include "views/MemoryTreeControl.h"
+#include "views/modUIListUtils.h"
+#include "views/modViewCommon.h"
+#include "vocabulary/ObjectTreeHelper.h"
+
+#include "support/ScriptedUserInterface.h"
+
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+using namespace modViewCommon;
+
+namespace {
+
+// Every coding convention of the sample, as rows.
+struct SampleList
+{
+    SampleList()
+        : rulebase(ViewTest::loadSample())
+    {
+        const auto all = rulebase->RuleLists()->CodingConventions();
+        for (qint32 i = 1; i <= all->Count(); ++i)
+            AddRuleToList(
+                *all->Item(i), list, *rulebase->CategoryList(), *rulebase->SeverityList());
+    }
+    RuleByKey rules() const { return rulesOf(rulebase->RuleLists()->CodingConventions()); }
+
+    std::shared_ptr<Rulebase> rulebase;
+    MemoryListControl list;
+};
+
+class RecordingCombo final : public ComboControl
+{
+public:
+    void clear() override { entries.clear(); }
+    void addItem(const QString &text, qint32 itemData) override
+    {
+        entries << text + QLatin1Char('=') + QString::number(itemData);
+    }
+    QStringList entries{QStringLiteral("stale")};
+};
+
+} // namespace
+
+TEST(MemoryControls, ListFindsByKeySortsByColumnTextAndKeepsTheCurrentRowThroughMoves)
+{
+    MemoryListControl list;
+    for (const char *key : {"3Key", "1Key", "2Key"})
+        list.add(QLatin1String(key), QLatin1String(key).left(1), 0);
+    list.setSubItemText(1, 2, QStringLiteral("b"));
+    list.setSubItemText(2, 2, QStringLiteral("C"));
+    list.setSubItemText(3, 2, QStringLiteral("a"));
+    EXPECT_EQ(list.subItemText(1, 1), QString()); // filled in between
+    EXPECT_THROW(list.add(QStringLiteral("1KEY"), QStringLiteral("x"), 0), QuorinError);
+
+    list.setSelectedItem(list.find(QStringLiteral("1key")));
+    list.setSortKey(2);
+    list.setSorted(true);
+    EXPECT_EQ(list.key(1), QStringLiteral("2Key")); // "a" < "b" < "C", ignoring case
+    EXPECT_EQ(list.key(3), QStringLiteral("1Key"));
+    EXPECT_EQ(list.selectedItem(), 3);
+    list.setSortOrder(1);
+    EXPECT_EQ(list.key(1), QStringLiteral("1Key"));
+    EXPECT_EQ(list.find(QStringLiteral("2Key")), 3);
+
+    list.remove(QStringLiteral("3Key"));
+    EXPECT_EQ(list.count(), 2);
+    EXPECT_EQ(list.find(QStringLiteral("2Key")), 2);
+    EXPECT_THROW(list.remove(QStringLiteral("3Key")), QuorinError);
+    EXPECT_THROW(list.text(3), QuorinError);
+}
+
+TEST(MemoryControls, HeaderClickReversesTheSameColumnAndStartsAnotherAscending)
+{
+    MemoryListControl list;
+    for (const char *header : {"Rule", "Title", "Category", "Impact"})
+        list.addColumn(QLatin1String(header), ColumnAlignment::Left, 10);
+    list.setColumnAlignment(4, ColumnAlignment::Right);
+    SortListByColumn(list, 1);
+    EXPECT_EQ(list.sortOrder(), 1);
+    EXPECT_EQ(list.columnIcon(1), QStringLiteral("SortDescending"));
+    SortListByColumn(list, 4);
+    EXPECT_EQ(list.sortKey(), 3);
+    EXPECT_EQ(list.sortOrder(), 0);
+    EXPECT_EQ(list.columnIcon(1), QString());
+    EXPECT_EQ(list.columnIcon(4), QStringLiteral("SortAscending"));
+    EXPECT_EQ(list.columnAlignment(4), ColumnAlignment::Right);
+    EXPECT_TRUE(list.sorted());
+}
+
+TEST(MemoryControls, RuleTreesFillATreeControlDirectly)
+{
+    MemoryTreeControl tree;
+    ObjectTreeHelper().PopulateCodingConventionsTree(tree, false);
+    ASSERT_EQ(tree.count(), 38);
+    const int beginProject = tree.find(QStringLiteral("1Key"));
+    const int endProject = tree.find(QStringLiteral("37Key"));
+    EXPECT_EQ(tree.parent(beginProject), 1);
+    EXPECT_EQ(tree.next(beginProject), endProject);
+    EXPECT_EQ(tree.previous(endProject), beginProject);
+    EXPECT_EQ(tree.firstSibling(endProject), beginProject);
+    EXPECT_EQ(tree.next(endProject), 0);
+    const int lineLabel = tree.find(QStringLiteral("32Key"));
+    tree.ensureVisible(lineLabel);
+    EXPECT_TRUE(tree.expanded(tree.parent(lineLabel)));
+}
+
+TEST(ViewCommon, RowsShowIdTitleCategoryAndImpactWithTheSeverityColourAndInactiveInRed)
+{
+    SampleList sample;
+    const auto all = sample.rulebase->RuleLists()->CodingConventions();
+    ASSERT_EQ(sample.list.count(), all->Count());
+    const CategoryList &categories = *sample.rulebase->CategoryList();
+    int inactive = 0;
+    for (qint32 i = 1; i <= all->Count(); ++i) {
+        const auto rule = all->Item(i);
+        const int row = sample.list.find(rule->RuleKey());
+        ASSERT_NE(row, 0);
+        const auto definition = rule->ViolationDefinition();
+        QString id = QString::number(rule->RuleID()).rightJustified(4, QLatin1Char('0'));
+        if (rule->PendingViolation())
+            id += QLatin1Char('p');
+        EXPECT_EQ(sample.list.text(row), id);
+        EXPECT_EQ(sample.list.subItemText(row, 1), rule->Title());
+        EXPECT_EQ(sample.list.subItemText(row, 2),
+                  categories.ContainsID(definition->CategoryID())
+                      ? categories.Item(QString::number(definition->CategoryID()) + "K")->Title()
+                      : QString());
+        EXPECT_EQ(sample.list.subItemText(row, 3), QString::number(definition->Impact()));
+        EXPECT_EQ(sample.list.smallIcon(row),
+                  sample.rulebase->SeverityList()
+                      ->Item(QString::number(definition->Severity()) + "Key")
+                      ->Colour());
+        const qint32 colour = rule->RuleActive() ? sample.list.foreColor() : 255;
+        EXPECT_EQ(sample.list.foreColor(row), colour);
+        EXPECT_EQ(sample.list.subItemForeColor(row, 2), colour);
+        EXPECT_EQ(sample.list.subItemForeColor(row, 3), sample.list.foreColor()); // Impact stays
+        EXPECT_FALSE(sample.list.selected(row));
+        inactive += rule->RuleActive() ? 0 : 1;
+    }
+    EXPECT_GT(inactive, 0);
+}
+
+TEST(ViewCommon, PendingAndUnknownCategoryShowInTheRowAndUpdateRewritesItInPlace)
+{
+    SampleList sample;
+    const auto rule = sample.rulebase->RuleLists()->CodingConventions()->Item(1);
+    rule->setRuleID(12);
+    rule->setPendingViolation(true);
+    rule->ViolationDefinition()->setCategoryID(9999);
+    MemoryListControl list;
+    AddRuleToList(*rule, list, *sample.rulebase->CategoryList(), *sample.rulebase->SeverityList());
+    EXPECT_EQ(list.key(1), QStringLiteral("12Key"));
+    EXPECT_EQ(list.text(1), QStringLiteral("0012p"));
+    EXPECT_EQ(list.subItemText(1, 2), QString());
+
+    rule->setPendingViolation(false);
+    rule->setRuleActive(false);
+    UpdateRuleInList(
+        *rule, 1, list, *sample.rulebase->CategoryList(), *sample.rulebase->SeverityList());
+    EXPECT_EQ(list.text(1), QStringLiteral("0012"));
+    EXPECT_EQ(list.key(1), QStringLiteral("12Key"));
+    EXPECT_EQ(list.foreColor(1), 255);
+
+    // A rule of an unknown severity gets no row, and the failure stays inside.
+    rule->ViolationDefinition()->setSeverity(77);
+    AddRuleToList(*rule, list, *sample.rulebase->CategoryList(), *sample.rulebase->SeverityList());
+    EXPECT_EQ(list.count(), 1);
+}
+
+TEST(ViewCommon, ActiveStateFollowsTheSelectedRowsAndActivateTouchesOnlyThem)
+{
+    SampleList sample;
+    MemoryListControl &list = sample.list;
+    EXPECT_EQ(GetItemsActiveState(sample.rules(), list), 1); // nothing selected
+    ActivateRules(false, sample.rules(), list);              // changes nothing
+    const auto rules = sample.rules();
+    int active = 0, inactive = 0;
+    for (int row = 1; row <= list.count() && (active == 0 || inactive == 0); ++row) {
+        const bool isActive = rules(list.key(row))->RuleActive();
+        if ((isActive && active == 0) || (!isActive && inactive == 0)) {
+            list.setSelected(row, true);
+            ++(isActive ? active : inactive);
+        }
+    }
+    ASSERT_EQ(active + inactive, 2);
+    EXPECT_EQ(GetItemsActiveState(rules, list), 3);
+    ActivateRules(true, rules, list);
+    ActivateRules(true, rules, list);
+    EXPECT_EQ(GetItemsActiveState(rules, list), 1);
+    ActivateRules(false, rules, list);
+    EXPECT_EQ(GetItemsActiveState(rules, list), 2);
+    for (int row = 1; row <= list.count(); ++row) {
+        const bool isActive = rules(list.key(row))->RuleActive();
+        EXPECT_EQ(list.foreColor(row) == 255, !isActive);
+    }
+}
+
+TEST(ViewCommon, CloneAndDeleteWorkFromTheSelectedKeys)
+{
+    SampleList sample;
+    RuleLists &lists = *sample.rulebase->RuleLists();
+    const int before = sample.list.count();
+    sample.list.setSelected(1, true);
+    sample.list.setSelected(2, true);
+    const QStringList keys = SelectedItemKeys(sample.list);
+    ASSERT_EQ(keys.size(), 2);
+    const qint32 lastID = lists.LastID();
+
+    CloneRules(
+        lists, sample.list, *sample.rulebase->CategoryList(), *sample.rulebase->SeverityList());
+    EXPECT_EQ(sample.list.count(), before + 2);
+    for (qint32 id : {lastID + 1, lastID + 2}) {
+        const QString key = QString::number(id) + QStringLiteral("Key");
+        EXPECT_NE(sample.list.find(key), 0);
+        ASSERT_TRUE(lists.CodingConventions()->Contains(key));
+        const auto clone = lists.CodingConventions()->Item(key);
+        EXPECT_TRUE(clone->Title().startsWith(QStringLiteral("Clone of ")));
+        for (qint32 e = 0; e < clone->EventCount(); ++e)
+            EXPECT_TRUE(
+                lists.ParserEventCCList(clone->ParserEventID(e), false)->ContainsValue(clone));
+    }
+
+    const auto doomed = lists.CodingConventions()->Item(keys.first());
+    DeleteRules(lists, sample.list);
+    EXPECT_EQ(sample.list.count(), before);
+    for (const QString &key : keys) {
+        EXPECT_EQ(sample.list.find(key), 0);
+        EXPECT_FALSE(lists.AllConventions()->Contains(key));
+    }
+    for (qint32 e = 0; e < doomed->EventCount(); ++e) {
+        const auto list = lists.ParserEventCCList(doomed->ParserEventID(e), false);
+        EXPECT_TRUE(!list || !list->ContainsValue(doomed));
+    }
+}
+
+TEST(ViewCommon, CategoryAndSeverityChangesReachTheRows)
+{
+    SampleList sample;
+    CategoryList &categories = *sample.rulebase->CategoryList();
+    ASSERT_GT(categories.Count(), 0);
+    const auto gone = categories.Item(1);
+    const auto renamed = categories.Item(categories.Count());
+    ASSERT_NE(gone, renamed);
+    renamed->setTitle(QStringLiteral("Renamed"));
+    categories.Remove(gone->Key());
+
+    UpdateCategories(sample.rules(), sample.list, 3, categories);
+    const auto rules = sample.rules();
+    int fellBack = 0;
+    for (int row = 1; row <= sample.list.count(); ++row) {
+        const auto definition = rules(sample.list.key(row))->ViolationDefinition();
+        EXPECT_NE(definition->CategoryID(), gone->ID());
+        if (definition->CategoryID() == renamed->ID()) {
+            EXPECT_EQ(sample.list.subItemText(row, 2), QStringLiteral("Renamed"));
+        }
+        if (definition->CategoryID() == -1) {
+            EXPECT_EQ(sample.list.subItemText(row, 2), QString());
+            ++fellBack;
+        }
+    }
+    EXPECT_GT(fellBack, 0);
+
+    const auto severity = sample.rulebase->SeverityList()->Item(1);
+    severity->setColour(16);
+    UpdateSeverities(rules, sample.list, *sample.rulebase->SeverityList());
+    for (int row = 1; row <= sample.list.count(); ++row) {
+        if (rules(sample.list.key(row))->ViolationDefinition()->Severity()
+            == severity->SeverityLevel()) {
+            EXPECT_EQ(sample.list.smallIcon(row), 16);
+        }
+    }
+}
+
+TEST(UIListUtils, PickersGetTitlesWithIdsAndAMissingListLeavesThemEmpty)
+{
+    const auto rulebase = ViewTest::loadSample();
+    RecordingCombo combo;
+    modUIListUtils::PopulateCategoryListControl(combo, rulebase->CategoryList().get());
+    ASSERT_EQ(combo.entries.size(), rulebase->CategoryList()->Count());
+    const auto first = rulebase->CategoryList()->Item(1);
+    EXPECT_EQ(combo.entries.first(), first->Title() + "=" + QString::number(first->ID()));
+
+    modUIListUtils::PopulateSeverityListControl(combo, rulebase->SeverityList().get());
+    ASSERT_EQ(combo.entries.size(), rulebase->SeverityList()->Count());
+    const auto severity = rulebase->SeverityList()->Item(1);
+    EXPECT_EQ(combo.entries.first(),
+              severity->Title() + "=" + QString::number(severity->SeverityLevel()));
+
+    modUIListUtils::PopulateCategoryListControl(combo, nullptr);
+    EXPECT_TRUE(combo.entries.isEmpty());
+    CategoryList empty;
+    combo.entries << QStringLiteral("stale");
+    modUIListUtils::PopulateCategoryListControl(combo, &empty);
+    EXPECT_TRUE(combo.entries.isEmpty());
+}
+
+TEST(ViewCommon, TenThousandRowsFillSortAndFindByKey)
+{
+    const auto rulebase = ViewTest::loadSample();
+    MemoryListControl list;
+    list.setSorted(true);
+    list.setSortOrder(1);
+    std::vector<std::shared_ptr<CodingConvention>> rules;
+    for (int i = 0; i < 10000; ++i) {
+        auto rule = std::make_shared<CodingConvention>();
+        rule->setRuleID(5000 + i);
+        rule->setTitle(QString::number(i % 97));
+        rule->ViolationDefinition()->setSeverity(
+            rulebase->SeverityList()->Item(1)->SeverityLevel());
+        AddRuleToList(*rule, list, *rulebase->CategoryList(), *rulebase->SeverityList());
+        rules.push_back(rule);
+    }
+    ASSERT_EQ(list.count(), 10000);
+    list.setSorted(true);                            // puts the appended rows in order, once
+    EXPECT_EQ(list.text(1), QStringLiteral("9999")); // by text: "9999" above "14999"
+    for (const auto &rule : rules)
+        ASSERT_EQ(list.key(list.find(rule->RuleKey())), rule->RuleKey());
+}

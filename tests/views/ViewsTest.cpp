@@ -1,0 +1,505 @@
+#include "ViewTestSupport.h"
+
+#include "application/Application.h"
+#include "platform/GlobalObjects.h"
+#include "platform/QuorinAdminData.h"
+#include "rulebase/CategoryItem.h"
+#include "rulebase/CategoryList.h"
+#include "rulebase/CodingConvention.h"
+#include "rulebase/NamingConvention.h"
+#include "rulebase/RuleLists.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/SeverityItem.h"
+#include "rulebase/ViolationDefinition.h"
+#include "views/CategoryView.h"
+#include "views/CodingConventionsView.h"
+#include "views/NamingConventionsView.h"
+#include "views/SeverityView.h"
+#include "views/ViewFactory.h"
+#include "views/modViewCommon.h"
+#include "vocabulary/ObjectHelper.h"
+#include "vocabulary/VBParserEvents.h"
+
+#include "support/MemoryMainForm.h"
+#include "support/ScriptedUserInterface.h"
+#include "support/TestEnvironment.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString crlf2 = QStringLiteral("\r\n\r\n");
+
+// A view of the sample, shown as SwitchView shows it.
+template<typename View>
+struct Shown
+{
+    Shown()
+        : rulebase(ViewTest::loadSample())
+        , view(std::make_unique<View>())
+    {
+        view->setRulebase(rulebase);
+        view->setMainForm(&form);
+        view->Customise();
+        view->Populate();
+        view->SetEnabledState();
+    }
+    RuleLists &lists() const { return *rulebase->RuleLists(); }
+    int inactiveRows() const
+    {
+        int n = 0;
+        for (int row = 1; row <= form.listControl.count(); ++row)
+            n += form.listControl.foreColor(row) == modViewCommon::InactiveColour ? 1 : 0;
+        return n;
+    }
+    QString status(int rows, int inactive) const
+    {
+        QString text = QString::number(rows) + (rows == 1 ? " Item" : " Items");
+        if (inactive > 0)
+            text += " (" + QString::number(inactive) + " Inactive)";
+        return text;
+    }
+
+    ViewTest::AdminDataScope settings;
+    ScriptedUserInterface ui;
+    ScriptedLauncher launcher;
+    MemoryMainForm form;
+    std::shared_ptr<Rulebase> rulebase;
+    std::unique_ptr<View> view;
+};
+
+int inactiveIn(const RuleLists &lists)
+{
+    int n = 0;
+    const auto all = lists.CodingConventions();
+    for (qint32 i = 1; i <= all->Count(); ++i)
+        n += all->Item(i)->RuleActive() ? 0 : 1;
+    return n;
+}
+
+// The event with the most coding conventions: a node whose list is worth looking at.
+qint32 busiestEvent(RuleLists &lists)
+{
+    qint32 best = 1;
+    int most = 0;
+    for (qint32 id = 1; id <= 37; ++id) {
+        const auto list = lists.ParserEventCCList(id, false);
+        if (list && list->Count() > most) {
+            most = list->Count();
+            best = id;
+        }
+    }
+    return best;
+}
+
+QString withCount(const QString &text, int count)
+{
+    return count > 0 ? text + " (" + QString::number(count) + ")" : text;
+}
+
+// A window without tree and list, as the GUI has until its adapters exist.
+class NoControlsForm final : public IMainForm
+{
+public:
+    void Update() override {}
+    void AddToMRUList(const QString &) override {}
+    void RemoveFromMRUList(const QString &) override {}
+    void SetCurrentViewTool(const QString &) override {}
+    void SetHelpContext(int) override {}
+    void SetBusy(bool) override {}
+    void ShowSplashScreen() override {}
+    void ShowWindow() override {}
+    int RunTipOfDay(int last) override { return last; }
+    void RunAbout() override {}
+    TreeControl *tree() override { return nullptr; }
+    ListControl *list() override { return nullptr; }
+    void setDocumentation(const QString &) override {}
+    void setStatusText(const QString &) override {}
+    void setTreeTitle(const QString &text) override { treeTitle = text; }
+    void setListTitle(const QString &) override {}
+    void setListHeaderImage(const QString &) override {}
+    void setNoItemsVisible(bool) override {}
+    void setToolEnabled(const QString &, bool) override {}
+    QString treeTitle;
+};
+
+} // namespace
+
+TEST(CodingConventionsView, ShowsEveryConventionAtTheRootWithTitlesCountsAndTools)
+{
+    Shown<CodingConventionsView> s;
+    const auto all = s.lists().CodingConventions();
+    EXPECT_EQ(s.form.treeTitle, QStringLiteral(" Coding Conventions"));
+    EXPECT_EQ(s.form.listTitle, QStringLiteral(" Parser Event [All Items]"));
+    EXPECT_EQ(s.form.treeControl.imageList(), QStringLiteral("ilsEventTree"));
+    EXPECT_EQ(s.form.listControl.imageList(), QStringLiteral("ilsSeverity"));
+    ASSERT_EQ(s.form.treeControl.count(), 38);
+    EXPECT_EQ(s.form.treeControl.text(1), "Project (" + QString::number(all->Count()) + ")");
+    EXPECT_EQ(s.form.listControl.count(), all->Count());
+    EXPECT_EQ(s.form.listControl.columnHeader(4), QStringLiteral("Impact"));
+    EXPECT_EQ(s.form.listControl.columnAlignment(4), ColumnAlignment::Right);
+    EXPECT_EQ(s.form.listControl.columnIcon(1), QStringLiteral("SortAscending"));
+    EXPECT_EQ(s.form.statusText, s.status(all->Count(), inactiveIn(s.lists())));
+    EXPECT_EQ(s.form.documentation, QStringLiteral("Add one or more coding conventions."));
+    EXPECT_EQ(s.form.listControl.selectedItem(), 1);
+    EXPECT_FALSE(s.form.noItemsVisible);
+    for (const char *tool :
+         {"tlCodingConvention", "tlCloneRule", "tlDeleteRule", "tlOpenRule", "tlRuleActive"})
+        EXPECT_TRUE(s.form.toolEnabled(QLatin1String(tool))) << tool;
+
+    // Column widths come from the shared fractions of the list's width.
+    EXPECT_EQ(s.form.listControl.columnWidth(2),
+              qRound(gobjAdminData->ListColWidthCC(2) * float(s.form.listControl.width())));
+}
+
+TEST(CodingConventionsView, AnEventNodeShowsItsOwnConventionsAndHelp)
+{
+    Shown<CodingConventionsView> s;
+    const qint32 event = busiestEvent(s.lists());
+    const auto list = s.lists().ParserEventCCList(event, false);
+    ASSERT_TRUE(list && list->Count() > 0);
+    const int node = s.form.treeControl.find(VBParserEvents::ParserEventKey(event));
+    EXPECT_EQ(s.form.treeControl.text(node),
+              VBParserEvents::ParserEventText(event) + " (" + QString::number(list->Count()) + ")");
+    EXPECT_TRUE(s.form.treeControl.bold(node));
+
+    s.form.treeControl.click(node);
+    EXPECT_EQ(s.form.listControl.count(), list->Count());
+    EXPECT_EQ(s.form.listTitle, " Parser Event [" + VBParserEvents::ParserEventText(event) + "]");
+    EXPECT_EQ(s.form.listHeaderImage, s.form.treeControl.image(node));
+    EXPECT_EQ(s.form.documentation,
+              "Event: " + VBParserEvents::ParserEventText(event) + crlf2
+                  + VBParserEvents::ParserEventHelp(event));
+
+    // A row click documents the rule; the tool tip tells inactive rows.
+    s.form.listControl.click(1);
+    const auto rule = s.lists().CodingConventions()->Item(s.form.listControl.key(1));
+    EXPECT_EQ(s.form.documentation, "Rule: " + rule->Title() + crlf2 + rule->Description());
+    rule->setRuleActive(false);
+    modViewCommon::HighlightConvention(1, false, s.form.listControl);
+    s.form.listControl.moveOver(1);
+    EXPECT_EQ(s.form.listControl.toolTipText(),
+              QStringLiteral("This convention is not active and therefore will not be enforced."));
+}
+
+TEST(CodingConventionsView, DeleteAsksAndOnYesRemovesFromListAndRuleLists)
+{
+    Shown<CodingConventionsView> s;
+    const qint32 event = busiestEvent(s.lists());
+    s.form.treeControl.click(s.form.treeControl.find(VBParserEvents::ParserEventKey(event)));
+    const int rows = s.form.listControl.count();
+    const QString key = s.form.listControl.key(1);
+    const auto doomed = s.lists().CodingConventions()->Item(key);
+
+    s.ui.answers = {MessageResult::No};
+    s.view->DeleteItems();
+    ASSERT_EQ(s.ui.messages.size(), 1u);
+    EXPECT_EQ(
+        s.ui.messages[0].text,
+        QStringLiteral("This will permanently delete the selected coding convention(s) from the "
+                       "rulebase, are you sure you wish to continue?"));
+    EXPECT_EQ(s.ui.messages[0].buttons, MessageButtons::YesNo);
+    EXPECT_EQ(s.form.listControl.count(), rows);
+
+    s.ui.answers = {MessageResult::Yes};
+    s.view->DeleteItems();
+    EXPECT_EQ(s.form.listControl.count(), rows - 1);
+    EXPECT_FALSE(s.lists().AllConventions()->Contains(key));
+    EXPECT_FALSE(s.lists().ParserEventCCList(event, false)->ContainsValue(doomed));
+    EXPECT_EQ(s.form.treeControl.text(1),
+              "Project (" + QString::number(s.lists().CodingConventions()->Count()) + ")");
+
+    // Deleting every row leaves the "no items" text, 0 Items and the row tools off.
+    for (int row = 1; row <= s.form.listControl.count(); ++row)
+        s.form.listControl.setSelected(row, true);
+    s.ui.answers = {MessageResult::Yes};
+    s.view->DeleteItems();
+    EXPECT_EQ(s.form.listControl.count(), 0);
+    EXPECT_TRUE(s.form.noItemsVisible);
+    EXPECT_EQ(s.form.statusText, QStringLiteral("0 Items"));
+    EXPECT_FALSE(s.form.toolEnabled(QStringLiteral("tlCloneRule")));
+    EXPECT_EQ(s.ui.unscriptedQuestions, 0);
+}
+
+TEST(CodingConventionsView, CloneActivateAndTheActiveState)
+{
+    Shown<CodingConventionsView> s;
+    const int rows = s.form.listControl.count();
+    const qint32 lastID = s.lists().LastID();
+    s.form.listControl.click(1);
+    s.view->CloneItems();
+    EXPECT_EQ(s.form.listControl.count(), rows + 1);
+    const QString cloneKey = QString::number(lastID + 1) + "Key";
+    EXPECT_NE(s.form.listControl.find(cloneKey), 0);
+    EXPECT_TRUE(s.lists().CodingConventions()->Contains(cloneKey));
+
+    s.form.listControl.click(s.form.listControl.find(cloneKey));
+    s.view->ActivateItems(false);
+    EXPECT_FALSE(s.lists().AllConventions()->Item(cloneKey)->RuleActive());
+    EXPECT_EQ(s.view->ItemsActiveState(), 2);
+    EXPECT_EQ(s.form.statusText, s.status(rows + 1, inactiveIn(s.lists())));
+    s.view->ActivateItems(true);
+    EXPECT_EQ(s.view->ItemsActiveState(), 1);
+    EXPECT_EQ(s.inactiveRows(), inactiveIn(s.lists()));
+}
+
+TEST(CodingConventionsView, EditingInTheDialogUpdatesTheRowOrMovesItOut)
+{
+    Shown<CodingConventionsView> s;
+    const qint32 event = busiestEvent(s.lists());
+    const int node = s.form.treeControl.find(VBParserEvents::ParserEventKey(event));
+    s.form.treeControl.click(node);
+    const int rows = s.form.listControl.count();
+    const QString key = s.form.listControl.key(1);
+
+    s.launcher.confirm = false;
+    s.view->OpenItem();
+    EXPECT_EQ(s.launcher.opened, 1);
+
+    s.launcher.confirm = true;
+    s.launcher.edit = [](IRule &rule) { static_cast<CodingConvention &>(rule).setTitle("Edited"); };
+    s.view->OpenItem();
+    EXPECT_EQ(s.form.listControl.subItemText(s.form.listControl.find(key), 1),
+              QStringLiteral("Edited"));
+
+    // Moved to another event in the dialog: the row leaves, both counts follow.
+    const qint32 other = event == 26 ? 25 : 26;
+    s.launcher.edit = [&](IRule &rule) {
+        auto &convention = static_cast<CodingConvention &>(rule);
+        convention.RemoveParserEventID(event);
+        convention.AddParserEventID(other);
+    };
+    s.form.listControl.click(s.form.listControl.find(key));
+    s.view->OpenItem();
+    EXPECT_EQ(s.form.listControl.find(key), 0);
+    EXPECT_EQ(s.form.listControl.count(), rows - 1);
+    const auto moved = s.lists().CodingConventions()->Item(key);
+    EXPECT_TRUE(s.lists().ParserEventCCList(other, false)->ContainsValue(moved));
+    const auto before = s.lists().ParserEventCCList(event, false);
+    EXPECT_TRUE(!before || !before->ContainsValue(moved));
+    EXPECT_EQ(s.form.treeControl.text(node),
+              VBParserEvents::ParserEventText(event) + " (" + QString::number(rows - 1) + ")");
+}
+
+TEST(CodingConventionsView, AddItemShowsANewConventionOnItsEventAndTheSortSurvives)
+{
+    Shown<CodingConventionsView> s;
+    const qint32 event = busiestEvent(s.lists());
+    const int node = s.form.treeControl.find(VBParserEvents::ParserEventKey(event));
+    s.form.treeControl.click(node);
+    const int rows = s.form.listControl.count();
+
+    auto rule = std::make_shared<CodingConvention>();
+    rule->setTitle("New");
+    rule->AddParserEventID(event);
+    rule->ViolationDefinition()->setSeverity(s.rulebase->SeverityList()->Item(1)->SeverityLevel());
+    s.lists().AddConvention(rule, true);
+    s.view->AddItem(rule);
+    EXPECT_EQ(s.form.listControl.count(), rows + 1);
+    s.view->AddItem(std::make_shared<NamingConvention>()); // not this view's kind
+    EXPECT_EQ(s.form.listControl.count(), rows + 1);
+
+    // A header clicked twice sorts descending; the next node click keeps it.
+    modViewCommon::SortListByColumn(s.form.listControl, 1);
+    s.form.listControl.clickColumn(1);
+    s.form.treeControl.click(1);
+    EXPECT_EQ(gobjAdminData->ListCCSortOrder(), 1);
+    EXPECT_EQ(s.form.listControl.sortOrder(), 1);
+    EXPECT_GT(s.form.listControl.text(1), s.form.listControl.text(2));
+
+    s.view.reset();
+    EXPECT_FALSE(s.form.toolEnabled(QStringLiteral("tlCloneRule")));
+    EXPECT_FALSE(s.form.toolEnabled(QStringLiteral("tlCodingConvention")));
+}
+
+TEST(NamingConventionsView, ShowsConventionsByObjectAndMovesThemWhenTheirObjectChanges)
+{
+    Shown<NamingConventionsView> s;
+    const auto all = s.lists().NamingConventions();
+    ASSERT_GT(all->Count(), 0);
+    EXPECT_EQ(s.form.treeTitle, QStringLiteral(" Naming Conventions"));
+    EXPECT_EQ(s.form.listTitle, QStringLiteral(" Object [All Items]"));
+    ASSERT_EQ(s.form.treeControl.count(), 42);
+    EXPECT_EQ(s.form.treeControl.text(1), "Objects (" + QString::number(all->Count()) + ")");
+    EXPECT_EQ(s.form.listControl.count(), all->Count());
+    EXPECT_EQ(s.form.documentation, QStringLiteral("Add one or more naming conventions."));
+
+    const auto first = all->Item(1);
+    const qint32 object = first->ObjectType();
+    const int count = s.lists().GetNCObjectRuleCount(object);
+    const int node = s.form.treeControl.find(QString::number(object) + "Key");
+    s.form.treeControl.click(node);
+    EXPECT_EQ(s.form.listControl.count(), count);
+    EXPECT_EQ(s.form.documentation,
+              "Object: " + ObjectHelper::ObjectName(object) + crlf2
+                  + NamingConventionsView::ObjectDescription(object));
+
+    const qint32 other = object == 6 ? 7 : 6;
+    s.launcher.edit
+        = [&](IRule &rule) { static_cast<NamingConvention &>(rule).setObjectType(other); };
+    s.form.listControl.click(s.form.listControl.find(first->RuleKey()));
+    s.view->OpenItem();
+    EXPECT_EQ(s.form.listControl.count(), count - 1);
+    EXPECT_TRUE(s.lists().ObjectNCList(other, false)->ContainsValue(first));
+    EXPECT_EQ(s.lists().GetNCObjectRuleCount(object), count - 1);
+}
+
+TEST(NamingConventionsView, ObjectDescriptionsAndTheirUnknownCase)
+{
+    EXPECT_EQ(NamingConventionsView::ObjectDescription(6),
+              QStringLiteral("Add naming conventions applicable to controls."));
+    EXPECT_EQ(NamingConventionsView::ObjectDescription(49),
+              QStringLiteral("Add naming conventions applicable to non-MDI form source files."));
+    EXPECT_EQ(NamingConventionsView::ObjectDescription(2),
+              QStringLiteral("Add naming conventions applicable to ."));
+}
+
+TEST(CategoryView, ArrangesEveryRuleByCategoryWithAnUnallocatedNode)
+{
+    Shown<CategoryView> s;
+    const CategoryList &categories = *s.rulebase->CategoryList();
+    const auto all = s.lists().AllConventions();
+    ASSERT_EQ(s.form.treeControl.count(), categories.Count() + 2);
+    EXPECT_EQ(s.form.treeControl.key(s.form.treeControl.count()), QStringLiteral("-1K"));
+    EXPECT_EQ(s.form.treeTitle, QStringLiteral(" Conventions by Category"));
+    EXPECT_EQ(s.form.listControl.count(), all->Count());
+    EXPECT_EQ(s.form.documentation, QStringLiteral("Arrange conventions by category."));
+
+    const auto category = categories.Item(1);
+    int inCategory = 0;
+    for (qint32 i = 1; i <= all->Count(); ++i)
+        inCategory += all->Item(i)->ViolationDefinition()->CategoryID() == category->ID() ? 1 : 0;
+    const int node = s.form.treeControl.find(category->Key());
+    EXPECT_EQ(s.form.treeControl.text(node), withCount(category->Title(), inCategory));
+    s.form.treeControl.click(node);
+    EXPECT_EQ(s.form.listControl.count(), inCategory);
+    EXPECT_EQ(s.form.listTitle, " Category [" + category->Title() + "]");
+    EXPECT_EQ(s.form.documentation,
+              "Category: " + category->Title() + crlf2 + category->Description());
+
+    // A hidden category shows so in its picture and its text.
+    category->setHidden(true);
+    s.view->CategoryListChanged();
+    EXPECT_EQ(s.form.treeControl.selectedItem(), s.form.treeControl.find(category->Key()));
+    EXPECT_EQ(s.form.treeControl.image(s.form.treeControl.selectedItem()),
+              QStringLiteral("HiddenFolder"));
+    EXPECT_TRUE(s.form.documentation.startsWith("Category (Hidden): "));
+
+    // Its deletion falls back to the root.
+    s.rulebase->CategoryList()->Remove(category->Key());
+    s.view->CategoryListChanged();
+    EXPECT_EQ(s.form.treeControl.selectedItem(), 1);
+    EXPECT_EQ(s.form.treeControl.count(), categories.Count() + 2);
+}
+
+TEST(CategoryView, DoubleClickEditsCategoriesOnlyAndOpenItemDropsRowsThatLeave)
+{
+    Shown<CategoryView> s;
+    s.form.treeControl.click(1);
+    s.form.treeControl.doubleClick();
+    s.form.treeControl.click(s.form.treeControl.count());
+    s.form.treeControl.doubleClick();
+    EXPECT_EQ(s.launcher.opened, 0);
+
+    const auto category = s.rulebase->CategoryList()->Item(1);
+    s.form.treeControl.click(s.form.treeControl.find(category->Key()));
+    s.launcher.editCategory = [](CategoryItem &c) { c.setTitle("Renamed"); };
+    s.form.treeControl.doubleClick();
+    EXPECT_EQ(s.launcher.opened, 1);
+    EXPECT_EQ(s.form.listTitle, QStringLiteral(" Category [Renamed]"));
+    for (int row = 1; row <= s.form.listControl.count(); ++row)
+        EXPECT_EQ(s.form.listControl.subItemText(row, 2), QStringLiteral("Renamed"));
+
+    ASSERT_GT(s.form.listControl.count(), 0);
+    const int rows = s.form.listControl.count();
+    s.launcher.edit = [](IRule &rule) { rule.ViolationDefinition()->setCategoryID(-1); };
+    s.form.listControl.click(1);
+    s.view->OpenItem();
+    EXPECT_EQ(s.form.listControl.count(), rows - 1);
+}
+
+TEST(SeverityView, ArrangesEveryRuleBySeverityAndFollowsSeverityEdits)
+{
+    Shown<SeverityView> s;
+    const auto severities = s.rulebase->SeverityList();
+    const auto all = s.lists().AllConventions();
+    ASSERT_EQ(s.form.treeControl.count(), severities->Count() + 1);
+    EXPECT_EQ(s.form.treeTitle, QStringLiteral(" Conventions by Severity"));
+    EXPECT_EQ(s.form.listControl.count(), all->Count());
+    EXPECT_EQ(s.form.documentation, QStringLiteral("Arrange conventions by severity."));
+
+    const auto severity = severities->Item(1);
+    int atLevel = 0;
+    for (qint32 i = 1; i <= all->Count(); ++i)
+        atLevel
+            += all->Item(i)->ViolationDefinition()->Severity() == severity->SeverityLevel() ? 1 : 0;
+    const int node = s.form.treeControl.find(severity->Key());
+    EXPECT_EQ(s.form.treeControl.image(node), QString::number(severity->Colour()));
+    s.form.treeControl.click(node);
+    EXPECT_EQ(s.form.listControl.count(), atLevel);
+    EXPECT_EQ(s.form.documentation,
+              "Severity: " + severity->Title() + crlf2 + severity->Description());
+
+    s.launcher.editSeverity = [](SeverityItem &item) { item.setColour(3); };
+    s.form.treeControl.doubleClick();
+    EXPECT_EQ(s.form.treeControl.image(node), QStringLiteral("3"));
+    for (int row = 1; row <= s.form.listControl.count(); ++row)
+        EXPECT_EQ(s.form.listControl.smallIcon(row), 3);
+
+    severity->setColour(5);
+    s.view->SeverityListChanged();
+    EXPECT_EQ(s.form.treeControl.key(s.form.treeControl.selectedItem()), severity->Key());
+    for (int row = 1; row <= s.form.listControl.count(); ++row)
+        EXPECT_EQ(s.form.listControl.smallIcon(row), 5);
+}
+
+TEST(ViewFactory, MakesTheFourViewsAndTheApplicationShowsThem)
+{
+    EXPECT_NE(dynamic_cast<CodingConventionsView *>(createView("TLCODINGCONVENTIONS").get()),
+              nullptr);
+    EXPECT_NE(dynamic_cast<NamingConventionsView *>(createView("tlNamingConventions").get()),
+              nullptr);
+    EXPECT_NE(dynamic_cast<CategoryView *>(createView("tlCategoryView").get()), nullptr);
+    EXPECT_NE(dynamic_cast<SeverityView *>(createView("tlSeverityView").get()), nullptr);
+    EXPECT_EQ(createView("tlAuthorisedItems"), nullptr);
+
+    ViewTest::AdminDataScope settings;
+    ScriptedUserInterface ui;
+    MemoryMainForm form;
+    {
+        Application app(&form, createView);
+        ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine,
+                                     TestEnvironment::sampleRulebase()));
+        EXPECT_EQ(form.treeTitle, QStringLiteral(" Conventions by Category"));
+        const int all = app.rulebase()->RuleLists()->AllConventions()->Count();
+        EXPECT_EQ(form.listControl.count(), all);
+        app.SwitchView("tlNamingConventions");
+        EXPECT_EQ(form.listControl.count(),
+                  app.rulebase()->RuleLists()->NamingConventions()->Count());
+        EXPECT_FALSE(form.toolEnabled("tlUnauthorisedKeyword")); // released with the category view
+        app.TerminateApplication();
+    }
+    EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST(ViewFactory, ViewsBearAWindowWithoutTreeAndList)
+{
+    ViewTest::AdminDataScope settings;
+    ScriptedUserInterface ui;
+    NoControlsForm form;
+    Application app(&form, createView);
+    ASSERT_TRUE(
+        app.OpenRulebase(Application::OpenMode::CommandLine, TestEnvironment::sampleRulebase()));
+    for (const char *tool : {"tlCodingConventions", "tlNamingConventions", "tlSeverityView"}) {
+        app.SwitchView(QLatin1String(tool));
+        IViewController &view = *app.CurrentView();
+        view.CloneItems();
+        view.ActivateItems(false);
+        view.OpenItem();
+        view.CategoryListChanged();
+        view.SeverityListChanged();
+        EXPECT_EQ(view.ItemsActiveState(), 1) << tool;
+    }
+    EXPECT_EQ(form.treeTitle, QStringLiteral(" Conventions by Severity"));
+    EXPECT_TRUE(ui.messages.empty());
+}
