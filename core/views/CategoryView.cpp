@@ -176,18 +176,10 @@ void CategoryView::CategoryListChanged()
 void CategoryView::OpenItem()
 {
     RunOpenItem([this] {
-        const QString key = m_lvwList->key(m_lvwList->selectedItem());
+        const QString key = EditSelectedRule();
+        if (key.isEmpty())
+            return;
         const std::shared_ptr<IRule> rule = ruleLists().AllConventions()->Item(key);
-        switch (rule->RuleType()) {
-        case RuleTypes::CodingConvention:
-        case RuleTypes::UnauthorisedKeyword:
-        case RuleTypes::NamingConvention:
-            break;
-        default:
-            return;
-        }
-        if (!IRuleEditorLauncher::current().EditRule(rule))
-            return;
         // No index of RuleLists is kept up to date here: the event and object lists catch up
         // when the rulebase is read again.
         UpdateConvention(m_lvwList->find(key), *rule);

@@ -9,6 +9,7 @@
 #include "rulebase/IRule.h"
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
+#include "views/IRuleEditorLauncher.h"
 
 namespace {
 
@@ -432,4 +433,19 @@ void RuleViewBase::SaveSortSettings(int column, int order)
         gobjAdminData->setListSVSortOrder(order);
         break;
     }
+}
+
+QString RuleViewBase::EditSelectedRule()
+{
+    const QString key = m_lvwList->key(m_lvwList->selectedItem());
+    const std::shared_ptr<IRule> rule = ruleLists().AllConventions()->Item(key);
+    switch (rule->RuleType()) {
+    case RuleTypes::CodingConvention:
+    case RuleTypes::UnauthorisedKeyword:
+    case RuleTypes::NamingConvention:
+        break;
+    default:
+        return QString();
+    }
+    return IRuleEditorLauncher::current().EditRule(rule) ? key : QString();
 }

@@ -91,6 +91,9 @@ protected:
     void UpdateRow(const IRule &rule, int row);
     // Runs the body of OpenItem unless an OpenItem is already running (a modal editor is up).
     void RunOpenItem(const std::function<void()> &body);
+    // Opens the editor of the selected row's rule; gives the row's key when the edit was
+    // confirmed, an empty key otherwise (or when the row is not a rule).
+    QString EditSelectedRule();
     const char *module() const { return m_shape.module; }
 
     IMainForm *m_frmMain = nullptr;

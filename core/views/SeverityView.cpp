@@ -144,18 +144,10 @@ void SeverityView::SeverityListChanged()
 void SeverityView::OpenItem()
 {
     RunOpenItem([this] {
-        const QString key = m_lvwList->key(m_lvwList->selectedItem());
+        const QString key = EditSelectedRule();
+        if (key.isEmpty())
+            return;
         const std::shared_ptr<IRule> rule = ruleLists().AllConventions()->Item(key);
-        switch (rule->RuleType()) {
-        case RuleTypes::CodingConvention:
-        case RuleTypes::UnauthorisedKeyword:
-        case RuleTypes::NamingConvention:
-            break;
-        default:
-            return;
-        }
-        if (!IRuleEditorLauncher::current().EditRule(rule))
-            return;
         UpdateConvention(m_lvwList->find(key), *rule);
         SetDocumentationWindowText(*rule);
     });
