@@ -28,10 +28,9 @@ private:
     struct Key
     {
         QString text;
-        // The case-insensitive comparison itself; unequal lengths never compare equal.
         friend bool operator==(const Key &a, const Key &b) noexcept
         {
-            return a.text.size() == b.text.size() && Text::same(a.text, b.text);
+            return Text::same(a.text, b.text);
         }
         friend size_t qHash(const Key &key, size_t seed) noexcept
         {

@@ -145,28 +145,23 @@ std::shared_ptr<Rulebase> RulebaseManager::LoadRulebase(RulebaseLoadCriteria &cr
             LoadAuthorisedReferences(references, *rulebase->AuthorisedReferences());
 
         RuleLists &rules = *rulebase->RuleLists();
-        // The rule sections are most of the file: each goes once read, so the rules of the next
-        // one take its memory rather than more from the system.
-        TarnXMLElement keywords = requireChild(root, "UnauthorisedKeywords");
+        const TarnXMLElement keywords = requireChild(root, "UnauthorisedKeywords");
         criteria.setNumUnauthKeywords(keywords.ElementCount());
         if (criteria.UnauthorisedKeywords() || all)
             LoadUnauthorisedKeywords(keywords, criteria, rules);
-        keywords.RemoveAllElements();
 
         const TarnXMLElement rulesElement = requireChild(root, "Rules");
         rules.setLastID(readLong(rulesElement, "LastRuleID"));
 
-        TarnXMLElement coding = requireChild(rulesElement, "CodingConventions");
+        const TarnXMLElement coding = requireChild(rulesElement, "CodingConventions");
         criteria.setNumCodingConventions(coding.ElementCount());
         if (criteria.CodingConventions() || all)
             LoadCodingConventions(coding, criteria, rules);
-        coding.RemoveAllElements();
 
-        TarnXMLElement naming = requireChild(rulesElement, "NamingConventions");
+        const TarnXMLElement naming = requireChild(rulesElement, "NamingConventions");
         criteria.setNumNamingConventions(naming.ElementCount());
         if (criteria.NamingConventions() || all)
             LoadNamingConventions(naming, criteria, rules);
-        naming.RemoveAllElements();
 
         if (all)
             LoadReport(root.ElementByName(QStringLiteral("Report")), *rulebase);

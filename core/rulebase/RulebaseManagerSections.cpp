@@ -43,6 +43,18 @@ void forEachChild(const TarnXMLElement &parent, Apply &&apply)
         apply(parent.ElementAtPosition(i), i);
 }
 
+// The same for a rule section, which is most of the file: each rule goes from the tree once
+// read, so the rules that follow take its memory rather than more from the system.
+template<typename Apply>
+void takeEachChild(TarnXMLElement &parent, Apply &&apply)
+{
+    const qint32 count = parent.ElementCount();
+    for (qint32 i = 0; i < count; ++i) {
+        apply(parent.ElementAtPosition(0), i);
+        parent.RemoveElement(0);
+    }
+}
+
 void addParserEvents(const QString &list, auto &rule)
 {
     if (list.isEmpty())
@@ -365,7 +377,7 @@ void RulebaseManager::LoadUnauthorisedKeywords(TarnXMLElement element,
                                                RuleLists &rules)
 {
     guardedVoid("LoadUnauthorisedKeywords", module, [&] {
-        forEachChild(element, [&](const TarnXMLElement &child, qint32) {
+        takeEachChild(element, [&](const TarnXMLElement &child, qint32) {
             if (!IsLoadableRule(criteria, child))
                 return;
             auto rule = std::make_shared<UnauthorisedKeyword>();
@@ -404,7 +416,7 @@ void RulebaseManager::LoadCodingConventions(TarnXMLElement element,
                                             RuleLists &rules)
 {
     guardedVoid("LoadCodingConventions", module, [&] {
-        forEachChild(element, [&](const TarnXMLElement &child, qint32) {
+        takeEachChild(element, [&](const TarnXMLElement &child, qint32) {
             if (!IsLoadableRule(criteria, child))
                 return;
             auto rule = std::make_shared<CodingConvention>();
@@ -448,7 +460,7 @@ void RulebaseManager::LoadNamingConventions(TarnXMLElement element,
 {
     guardedVoid("LoadNamingConventions", module, [&] {
         const bool forEdit = criteria.LoadForEdit();
-        forEachChild(element, [&](const TarnXMLElement &child, qint32) {
+        takeEachChild(element, [&](const TarnXMLElement &child, qint32) {
             if (!IsLoadableRule(criteria, child))
                 return;
             auto rule = std::make_shared<NamingConvention>();

@@ -222,17 +222,14 @@ qint32 writeErrorCode(const QString &filename, int error)
     return DomFailure;
 }
 
-bool writeAtomically(const QString &filename,
-                     const QByteArray &bytes,
-                     qint32 &code,
-                     QString &reason)
+bool writeAtomically(const QString &filename, QByteArrayView bytes, qint32 &code, QString &reason)
 {
     QSaveFile file(filename);
     errno = 0;
     bool ok = !filename.isEmpty() && file.open(QIODevice::WriteOnly);
     int error = errno;
     if (ok) {
-        ok = file.write(bytes) == bytes.size();
+        ok = file.write(bytes.data(), bytes.size()) == bytes.size();
         error = errno;
         // A failed write leaves the temporary file to be discarded, never committed.
         if (ok) {
@@ -306,7 +303,8 @@ void TarnXMLDoc::NewDoc(const QString &rootName)
 
 QString TarnXMLDoc::XMLString() const
 {
-    return QString::fromUtf8(serialise(m_document->document(), nullptr, "TarnXMLDoc::XMLString"));
+    return QString::fromUtf8(
+        Serialised(m_document->document(), nullptr, "TarnXMLDoc::XMLString").bytes());
 }
 
 bool TarnXMLDoc::LoadFromFile(const QString &filename)
@@ -346,11 +344,10 @@ bool TarnXMLDoc::SaveToFile(const QString &filename)
     return guarded("SaveToFile", Module, false, [&] {
         const QString target = filename.isEmpty() ? m_filename : filename;
         // Serialised first: a failure here is raised, reaches this frame and leaves LastError.
-        const QByteArray bytes
-            = serialise(m_document->document(), nullptr, "TarnXMLDoc::SaveToFile");
+        const Serialised text(m_document->document(), nullptr, "TarnXMLDoc::SaveToFile");
         qint32 code = 0;
         QString reason;
-        if (writeAtomically(target, bytes, code, reason))
+        if (writeAtomically(target, text.bytes(), code, reason))
             return true;
         m_lastError = code;
         LogParserError(code, reason, "SaveToFile");

@@ -76,8 +76,8 @@ void TarnXMLDocState::childrenChanged()
 
 void TarnXMLDocState::retire(xmlNodePtr node)
 {
-    // Freed at once, the memory serves what the caller builds next (a loader done with a
-    // section frees it before reading the next one).
+    // Freed at once, the memory serves what the caller builds next: a loader removes each
+    // rule once read, and the rules it makes take the place.
     const bool held = isHeld(node);
     if (held)
         m_retired.push_back(node);

@@ -271,8 +271,8 @@ xmlAttrPtr attributeNamed(xmlNodePtr node, const QString &name)
     return nullptr;
 }
 
-// By exact name, starting after `lastMatch`, the previous match, which it then holds; null when none
-// matches. Loaders read attributes in file order, so the search usually succeeds at once.
+// By exact name, starting after `lastMatch`, the previous match, which it then holds; null when
+// none matches. Loaders read attributes in file order, so the search usually succeeds at once.
 xmlAttrPtr attributeNamed(xmlNodePtr node, QLatin1StringView name, void *&lastMatch)
 {
     if (node->type != XML_ELEMENT_NODE)
@@ -280,13 +280,12 @@ xmlAttrPtr attributeNamed(xmlNodePtr node, QLatin1StringView name, void *&lastMa
     // strncmp stops at the end of a shorter name, so own[size] is inside it when reached.
     auto matches = [name](xmlAttrPtr a) {
         const char *own = reinterpret_cast<const char *>(a->name);
-        return std::strncmp(own, name.data(), size_t(name.size())) == 0
-               && own[name.size()] == '\0';
+        return std::strncmp(own, name.data(), size_t(name.size())) == 0 && own[name.size()] == '\0';
     };
     const auto last = static_cast<xmlAttrPtr>(lastMatch);
     // From the one after the last match to the end, then from the start up to it.
-    const xmlAttrPtr start = last && last->parent == node && last->next ? last->next
-                                                                          : node->properties;
+    const xmlAttrPtr start
+        = last && last->parent == node && last->next ? last->next : node->properties;
     for (xmlAttrPtr a = start; a; a = a->next) {
         if (matches(a)) {
             lastMatch = a;
@@ -313,7 +312,7 @@ xmlAttrPtr attributeAt(xmlNodePtr node, qint32 index, const char *source)
     return attribute;
 }
 
-void storeStored(xmlAttrPtr attribute, const char *stored)
+void storeEscaped(xmlAttrPtr attribute, const char *stored)
 {
     // Sets the text as it stands: the DOM, not the caller, escapes entities.
     if (!xmlSetNsProp(attribute->parent, attribute->ns, attribute->name, xmlText(stored)))
@@ -323,7 +322,7 @@ void storeStored(xmlAttrPtr attribute, const char *stored)
 template<typename Value>
 void storeValue(xmlAttrPtr attribute, const Value &value)
 {
-    storeStored(attribute, StoredValue(value).data());
+    storeEscaped(attribute, StoredValue(value).data());
 }
 
 QString textOf(const QString &value)
@@ -421,7 +420,7 @@ QString TarnXMLElement::XMLString() const
 {
     requireNode("XMLString");
     return QString::fromUtf8(
-        serialise(m_document->document(), nodeOf(m_node), "TarnXMLElement::XMLString"));
+        Serialised(m_document->document(), nodeOf(m_node), "TarnXMLElement::XMLString").bytes());
 }
 
 qint32 TarnXMLElement::ElementCount() const
@@ -508,8 +507,8 @@ QString TarnXMLElement::AttributeValueByName(QLatin1StringView name) const
 
 QUtf8StringView TarnXMLElement::AttributeUtf8ByName(QLatin1StringView name) const
 {
-    const xmlAttrPtr attribute = m_node ? attributeNamed(nodeOf(m_node), name, m_lastAttribute)
-                                        : nullptr;
+    const xmlAttrPtr attribute
+        = m_node ? attributeNamed(nodeOf(m_node), name, m_lastAttribute) : nullptr;
     const xmlNodePtr text = attribute ? attribute->children : nullptr;
     if (text == nullptr || text->next || text->type != XML_TEXT_NODE || text->content == nullptr)
         return {};

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QList>
 #include <QAnyStringView>
+#include <QList>
 #include <QString>
 #include <QUtf8StringView>
 
@@ -16,6 +16,8 @@ struct TarnXMLNode;
 // except isNull() and XMLNode() fails on a null handle with the runtime's error for a missing
 // object (QuorinError), which reaches the caller's error frame. Attribute values are escaped
 // on the way in and restored on the way out (ReplaceIllegalChars / RestoreIllegalChars).
+// A removed node is freed at once unless a handle holds it or a node below it: then it stays,
+// and the handle valid, until the tree goes.
 class TarnXMLElement final
 {
 public:
@@ -63,9 +65,9 @@ public:
     // The first child from `startAt` on (from 0 when it lies outside the children) whose name
     // matches ignoring case; `position` gets its position, or -1.
     TarnXMLElement ElementByName(const QString &name) const;
+    TarnXMLElement ElementByName(const QString &name, qint32 &position, qint32 startAt = 0) const;
     // The same for a name known at compile time, without making a QString of it.
     TarnXMLElement ElementByName(QLatin1StringView name) const;
-    TarnXMLElement ElementByName(const QString &name, qint32 &position, qint32 startAt = 0) const;
     // All descendants of that tag name (exact case, "*" for all), in document order.
     QList<TarnXMLElement> ElementListByName(const QString &name) const;
     // O(1) a step when a caller walks the positions in order.
@@ -75,8 +77,6 @@ public:
                                            const QString &value) const;
     // -1, or any position outside the children, appends.
     TarnXMLElement AddElement(const QString &name, qint32 position = -1);
-    // Removed nodes that no handle holds, themselves or below them, are freed at once; those
-    // that a handle holds stay valid until the tree goes.
     bool RemoveElement(qint32 position);
     // No matching child is a failure that the routine's frame reports.
     bool RemoveElementByAttributeValue(const QString &attributeName, const QString &value);

@@ -78,23 +78,12 @@ bool sameName(const xmlChar *utf8, QLatin1StringView name, Qt::CaseSensitivity c
     return sameNameAs(utf8, name, cs);
 }
 
-// The library's output goes straight into the text it gives back, with no copy of its own.
-// No exception may cross the library: a failure to grow is its write error.
-static int appendOutput(void *context, const char *buffer, int length)
-{
-    try {
-        static_cast<QByteArray *>(context)->append(buffer, length);
-    } catch (const std::bad_alloc &) {
-        return -1;
-    }
-    return length;
-}
-
-QByteArray serialise(xmlDocPtr document, xmlNodePtr node, const char *source)
+Serialised::Serialised(xmlDocPtr document, xmlNodePtr node, const char *source)
+    : m_buffer(xmlBufferCreate(), xmlBufferFree)
 {
     ErrorCapture capture;
-    QByteArray text;
-    xmlSaveCtxtPtr context = xmlSaveToIO(appendOutput, nullptr, &text, "UTF-8", XML_SAVE_NO_DECL);
+    xmlSaveCtxtPtr context
+        = m_buffer ? xmlSaveToBuffer(m_buffer.get(), "UTF-8", XML_SAVE_NO_DECL) : nullptr;
     if (context == nullptr)
         throw std::bad_alloc();
     const long written = node ? xmlSaveTree(context, node) : xmlSaveDoc(context, document);
@@ -102,10 +91,15 @@ QByteArray serialise(xmlDocPtr document, xmlNodePtr node, const char *source)
         throw QuorinError(DomFailure,
                           QString::fromLatin1(source),
                           capture.reason(QStringLiteral("The document could not be written.")));
+    m_size = xmlBufferLength(m_buffer.get());
     // The library ends the document with a line break; the file holds the tree alone.
-    if (node == nullptr && text.endsWith('\n'))
-        text.chop(1);
-    return text;
+    if (node == nullptr && m_size > 0 && bytes().back() == '\n')
+        --m_size;
+}
+
+QByteArrayView Serialised::bytes() const
+{
+    return QByteArrayView(reinterpret_cast<const char *>(xmlBufferContent(m_buffer.get())), m_size);
 }
 
 void requireValidName(QAnyStringView name, const char *utf8, const char *source)

@@ -3,11 +3,14 @@
 // Private to core/xml, like TarnXMLDocState.h: the only headers that name libxml2 types.
 
 #include <QAnyStringView>
+#include <QByteArrayView>
 #include <QString>
 
 #include <libxml/parser.h>
 #include <libxml/tree.h>
 #include <libxml/xmlerror.h>
+
+#include <memory>
 
 struct TarnXMLNode;
 
@@ -45,8 +48,18 @@ inline const xmlChar *xmlText(const QByteArray &utf8)
 }
 
 // UTF-8 text of the whole document (node null) or of one node, with no declaration and no
-// indentation. Throws QuorinError from `source` when the library fails.
-QByteArray serialise(xmlDocPtr document, xmlNodePtr node, const char *source);
+// indentation, left in the library's buffer: a large document is not copied again. Throws
+// QuorinError from `source` when the library fails.
+class Serialised final
+{
+public:
+    Serialised(xmlDocPtr document, xmlNodePtr node, const char *source);
+    QByteArrayView bytes() const;
+
+private:
+    std::unique_ptr<xmlBuffer, decltype(&xmlBufferFree)> m_buffer;
+    qsizetype m_size = 0;
+};
 
 // Compares a name held by libxml2 with ours without converting either when both are ASCII,
 // which every name of a rulebase is.

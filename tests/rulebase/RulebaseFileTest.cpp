@@ -49,42 +49,66 @@ void writeBytes(const QString &path, const QByteArray &bytes)
 }
 
 // A small file of the current schema; the rule sections are the caller's.
-QByteArray smallFile(const QByteArray &keywords, const QByteArray &coding, const QByteArray &naming,
+QByteArray smallFile(const QByteArray &keywords,
+                     const QByteArray &coding,
+                     const QByteArray &naming,
                      const QByteArray &report = "<Report/>")
 {
     return "<Quorin_Rulebase SchemaVersion=\"6.2\">"
-           "<RulebaseProperties Name=\"Small\" Version=\"1.2.0003\" AutoIncrementVersion=\"False\" Description=\"\""
-           " UnknownControlViolation=\"0\" UseCTagsAsDTTags=\"-1\" ToleranceCount=\"1|2|3\" ToleranceImpact=\"-1|-1|-1|-1|-1|9\""
-           " TolerancePercentageComments=\"10\" ToleranceCyclomaticComplexity=\"15\" ArrayTag=\"a\"/>"
-           "<ControlTags><ControlTag TagName=\"vb.checkbox\" TagValue=\"ck\" TagDescription=\"d\" TagExample=\"ckA\"/></ControlTags>"
+           "<RulebaseProperties Name=\"Small\" Version=\"1.2.0003\" AutoIncrementVersion=\"False\" "
+           "Description=\"\""
+           " UnknownControlViolation=\"0\" UseCTagsAsDTTags=\"-1\" ToleranceCount=\"1|2|3\" "
+           "ToleranceImpact=\"-1|-1|-1|-1|-1|9\""
+           " TolerancePercentageComments=\"10\" ToleranceCyclomaticComplexity=\"15\" "
+           "ArrayTag=\"a\"/>"
+           "<ControlTags><ControlTag TagName=\"vb.checkbox\" TagValue=\"ck\" TagDescription=\"d\" "
+           "TagExample=\"ckA\"/></ControlTags>"
            "<DataTypeTags/><ScopeTags/><DefaultViolations/>"
-           "<CategoryList LastID=\"4\"><CategoryItem ID=\"2\" Title=\"Naming\" Description=\"\" Hidden=\"False\"/>"
-           "<CategoryItem ID=\"4\" Title=\"Hidden one\" Description=\"\" Hidden=\"True\"/></CategoryList>"
-           "<SeverityList><SeverityItem Colour=\"3\" Description=\"extra\" Impact=\"5\" SeverityLevel=\"9\""
+           "<CategoryList LastID=\"4\"><CategoryItem ID=\"2\" Title=\"Naming\" Description=\"\" "
+           "Hidden=\"False\"/>"
+           "<CategoryItem ID=\"4\" Title=\"Hidden one\" Description=\"\" "
+           "Hidden=\"True\"/></CategoryList>"
+           "<SeverityList><SeverityItem Colour=\"3\" Description=\"extra\" Impact=\"5\" "
+           "SeverityLevel=\"9\""
            " SeverityLevelText=\"Nine\" Title=\"Ninth\"/></SeverityList>"
            "<AuthorisedComponents/><AuthorisedReferences/>"
-           "<UnauthorisedKeywords>" + keywords + "</UnauthorisedKeywords>"
-           "<Rules LastRuleID=\"5010\"><CodingConventions>" + coding + "</CodingConventions>"
-           "<NamingConventions>" + naming + "</NamingConventions></Rules>" + report + "</Quorin_Rulebase>";
+           "<UnauthorisedKeywords>"
+           + keywords
+           + "</UnauthorisedKeywords>"
+             "<Rules LastRuleID=\"5010\"><CodingConventions>"
+           + coding
+           + "</CodingConventions>"
+             "<NamingConventions>"
+           + naming + "</NamingConventions></Rules>" + report + "</Quorin_Rulebase>";
 }
 
-QByteArray codingRule(const char *id, const char *extra = "", const char *severity = "1", const char *category = "2",
+QByteArray codingRule(const char *id,
+                      const char *extra = "",
+                      const char *severity = "1",
+                      const char *category = "2",
                       const char *active = "True")
 {
     return QByteArray("<CodingConvention RuleID=\"") + id + "\" RuleActive=\"" + active
-           + "\" Title=\"T\" Description=\"\" PendingViolation=\"False\" EndEventID=\"-1\" Condition=\"\""
-             " ParserEventID=\"12|15\" " + extra + "><ViolationDefinition Name=\"\" Description=\"\" SeverityLevel=\""
-           + severity + "\" Impact=\"1\" CategoryID=\"" + category + "\" Advice=\"\"/></CodingConvention>";
+           + "\" Title=\"T\" Description=\"\" PendingViolation=\"False\" EndEventID=\"-1\" "
+             "Condition=\"\""
+             " ParserEventID=\"12|15\" "
+           + extra + "><ViolationDefinition Name=\"\" Description=\"\" SeverityLevel=\"" + severity
+           + "\" Impact=\"1\" CategoryID=\"" + category + "\" Advice=\"\"/></CodingConvention>";
 }
 
 QByteArray namingRule(const char *id, const char *prefixItems)
 {
     return QByteArray("<NamingConvention RuleID=\"") + id
-           + "\" RuleActive=\"True\" CaseSensitive=\"False\" Title=\"N\" Description=\"\" ObjectType=\"4\" PropertyType=\"37\""
-             " PropertyName=\"Name\" Condition=\"\" ExclusionList=\" x;y \" PrefixActive=\"True\" PrefixAdvice=\"\""
-             " BodyActive=\"False\" BodyPattern=\"\" BodyMaxLength=\"0\" BodyMinLength=\"0\" BodyAdvice=\"\""
-             " SuffixActive=\"False\" SuffixAdvice=\"\"><PrefixItems>" + prefixItems
-           + "</PrefixItems><ViolationDefinition Name=\"\" Description=\"\" SeverityLevel=\"2\" Impact=\"1\" CategoryID=\"4\""
+           + "\" RuleActive=\"True\" CaseSensitive=\"False\" Title=\"N\" Description=\"\" "
+             "ObjectType=\"4\" PropertyType=\"37\""
+             " PropertyName=\"Name\" Condition=\"\" ExclusionList=\" x;y \" PrefixActive=\"True\" "
+             "PrefixAdvice=\"\""
+             " BodyActive=\"False\" BodyPattern=\"\" BodyMaxLength=\"0\" BodyMinLength=\"0\" "
+             "BodyAdvice=\"\""
+             " SuffixActive=\"False\" SuffixAdvice=\"\"><PrefixItems>"
+           + prefixItems
+           + "</PrefixItems><ViolationDefinition Name=\"\" Description=\"\" SeverityLevel=\"2\" "
+             "Impact=\"1\" CategoryID=\"4\""
              " Advice=\"\"/></NamingConvention>";
 }
 
@@ -105,13 +129,20 @@ protected:
         gobjLogFile.reset();
     }
 
-    std::shared_ptr<Rulebase> load(const QString &path) { return RulebaseManager().LoadRulebase(path); }
-    std::shared_ptr<Rulebase> loadBytes(const QByteArray &bytes, const QString &name = QStringLiteral("file.qrb"))
+    std::shared_ptr<Rulebase> load(const QString &path)
+    {
+        return RulebaseManager().LoadRulebase(path);
+    }
+    std::shared_ptr<Rulebase> loadBytes(const QByteArray &bytes,
+                                        const QString &name = QStringLiteral("file.qrb"))
     {
         writeBytes(dir + name, bytes);
         return load(dir + name);
     }
-    QString logText() const { return QString::fromUtf8(readBytes(dir + QStringLiteral("Error.log"))); }
+    QString logText() const
+    {
+        return QString::fromUtf8(readBytes(dir + QStringLiteral("Error.log")));
+    }
 
     QString dir;
     ScriptedUserInterface ui;
@@ -153,7 +184,8 @@ TEST_F(RulebaseFileTest, SampleLoadsWithoutAFaultAndRoundTripsExactly)
 
 TEST_F(RulebaseFileTest, EveryFieldSurvivesIncludingTextThatNeedsEscaping)
 {
-    const QString awkward = QStringLiteral("a<b>c & \"q\" 'apos' \ttab\r\nCRLF lone\nLF lone\rCR Zürich 東京 100%");
+    const QString awkward
+        = QStringLiteral("a<b>c & \"q\" 'apos' \ttab\r\nCRLF lone\nLF lone\rCR Zürich 東京 100%");
     Rulebase rulebase;
     rulebase.setTitle(awkward);
     rulebase.setDescription(awkward + awkward);
@@ -181,7 +213,8 @@ TEST_F(RulebaseFileTest, EveryFieldSurvivesIncludingTextThatNeedsEscaping)
 
     auto coding = std::make_shared<CodingConvention>();
     coding->setTitle(QStringLiteral("Coding"));
-    coding->setCondition(QStringLiteral("Sub Main\r\n\tIf Quorin.ParserEvent() <> \"x\" Then\r\n\tEnd If\r\nEnd Sub"));
+    coding->setCondition(QStringLiteral(
+        "Sub Main\r\n\tIf Quorin.ParserEvent() <> \"x\" Then\r\n\tEnd If\r\nEnd Sub"));
     coding->AddParserEventID(15);
     coding->AddParserEventID(12);
     coding->setPendingViolation(true);
@@ -225,7 +258,8 @@ TEST_F(RulebaseFileTest, EveryFieldSurvivesIncludingTextThatNeedsEscaping)
     EXPECT_TRUE(ui.messages.empty()) << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
 
     // The gap in the prefix items closed up; otherwise the models are equal.
-    EXPECT_EQ(loaded->RuleLists()->NamingConventions()->Item(1)->PrefixItems()->Item(2)->PSType(), 1);
+    EXPECT_EQ(loaded->RuleLists()->NamingConventions()->Item(1)->PrefixItems()->Item(2)->PSType(),
+              1);
     naming->PrefixItems()->Item(2)->setPSType(1);
     naming->PrefixItems()->Item(2)->setValue(QStringLiteral("[a-z]+"));
     naming->PrefixItems()->Item(3)->setPSType(0);
@@ -234,14 +268,18 @@ TEST_F(RulebaseFileTest, EveryFieldSurvivesIncludingTextThatNeedsEscaping)
 
     ASSERT_TRUE(RulebaseManager().Save(*loaded, dir + QStringLiteral("b.qrb")));
     EXPECT_EQ(readBytes(dir + QStringLiteral("a.qrb")), readBytes(dir + QStringLiteral("b.qrb")));
-    EXPECT_TRUE(readBytes(dir + QStringLiteral("a.qrb")).contains("a%LT%b%GT%c &amp; &quot;q&quot;"));
+    EXPECT_TRUE(
+        readBytes(dir + QStringLiteral("a.qrb")).contains("a%LT%b%GT%c &amp; &quot;q&quot;"));
 }
 
 TEST_F(RulebaseFileTest, LoadingKeepsFileQuirks)
 {
-    const auto rulebase = loadBytes(smallFile(
-        "", codingRule("5001") + codingRule("5002", "", "1", "2", "False"),
-        namingRule("5003", "<PrefixItem PSType=\"1\" PSValue=\"%lt%x%TAB%\"/><PrefixItem PSType=\"2\" PSValue=\"\"/>")));
+    const auto rulebase = loadBytes(
+        smallFile("",
+                  codingRule("5001") + codingRule("5002", "", "1", "2", "False"),
+                  namingRule("5003",
+                             "<PrefixItem PSType=\"1\" PSValue=\"%lt%x%TAB%\"/><PrefixItem "
+                             "PSType=\"2\" PSValue=\"\"/>")));
     ASSERT_TRUE(rulebase);
     EXPECT_TRUE(ui.messages.empty()) << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
     // Tolerance parts fill entries from 1; the rest keep -1.
@@ -250,7 +288,8 @@ TEST_F(RulebaseFileTest, LoadingKeepsFileQuirks)
     EXPECT_TRUE(rulebase->UseCTagsAsDTTags()); // "-1" is a Boolean too
     // A file's tag that differs from a default in case only updates the default.
     EXPECT_EQ(rulebase->ControlTags()->Count(), 23);
-    EXPECT_EQ(rulebase->ControlTags()->Item(QStringLiteral("VB.CheckBox"))->TagValue(), QStringLiteral("ck"));
+    EXPECT_EQ(rulebase->ControlTags()->Item(QStringLiteral("VB.CheckBox"))->TagValue(),
+              QStringLiteral("ck"));
     // A ninth severity joins the five defaults.
     EXPECT_EQ(rulebase->SeverityList()->Count(), 6);
     EXPECT_TRUE(rulebase->SeverityList()->Contains(QStringLiteral("9Key")));
@@ -269,30 +308,39 @@ TEST_F(RulebaseFileTest, LoadingKeepsFileQuirks)
 
 TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
 {
-    const auto rulebase = loadBytes(smallFile(
-        "", codingRule("5001") + codingRule("12x") + codingRule("5003"),
-        namingRule("5004", "<PrefixItem PSType=\"1\" PSValue=\"a\"/>")));
+    const auto rulebase
+        = loadBytes(smallFile("",
+                              codingRule("5001") + codingRule("12x") + codingRule("5003"),
+                              namingRule("5004", "<PrefixItem PSType=\"1\" PSValue=\"a\"/>")));
     ASSERT_TRUE(rulebase); // a section's fault is its own; the load goes on
     EXPECT_EQ(rulebase->RuleLists()->CodingConventions()->Count(), 1);
     EXPECT_EQ(rulebase->RuleLists()->NamingConventions()->Count(), 1);
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Unexpected Error"));
     EXPECT_EQ(ui.messages[0].text,
-              QStringLiteral("Error 13 - Type mismatch (attribute 'RuleID' of element 'CodingConvention') in function "
+              QStringLiteral("Error 13 - Type mismatch (attribute 'RuleID' of element "
+                             "'CodingConvention') in function "
                              "LoadCodingConventions module RulebaseManager"));
-    EXPECT_TRUE(logText().contains(QStringLiteral("#Error #13 - Type mismatch (attribute 'RuleID' of element "
-                                                  "'CodingConvention')#RulebaseManager::LoadCodingConventions")));
+    EXPECT_TRUE(logText().contains(
+        QStringLiteral("#Error #13 - Type mismatch (attribute 'RuleID' of element "
+                       "'CodingConvention')#RulebaseManager::LoadCodingConventions")));
 
     ui.messages.clear();
-    const auto overflow = loadBytes(smallFile("", codingRule("5001", "", "1", "2", "Yes"),
-                                              namingRule("5004", "<PrefixItem PSType=\"1\" PSValue=\"a\"/>"
-                                                                 "<PrefixItem PSType=\"1\" PSValue=\"a\"/><PrefixItem PSType=\"1\" PSValue=\"a\"/>"
-                                                                 "<PrefixItem PSType=\"1\" PSValue=\"a\"/><PrefixItem PSType=\"1\" PSValue=\"a\"/>")));
+    const auto overflow = loadBytes(smallFile(
+        "",
+        codingRule("5001", "", "1", "2", "Yes"),
+        namingRule(
+            "5004",
+            "<PrefixItem PSType=\"1\" PSValue=\"a\"/>"
+            "<PrefixItem PSType=\"1\" PSValue=\"a\"/><PrefixItem PSType=\"1\" PSValue=\"a\"/>"
+            "<PrefixItem PSType=\"1\" PSValue=\"a\"/><PrefixItem PSType=\"1\" PSValue=\"a\"/>")));
     ASSERT_TRUE(overflow);
     EXPECT_EQ(overflow->RuleLists()->AllConventions()->Count(), 0);
     ASSERT_EQ(ui.messages.size(), 2u);
-    EXPECT_TRUE(ui.messages[0].text.startsWith(QStringLiteral("Error 13 - Type mismatch (attribute 'RuleActive'")));
-    EXPECT_TRUE(ui.messages[1].text.contains(QStringLiteral("LoadNamingConventions"))); // a fifth prefix item
+    EXPECT_TRUE(ui.messages[0].text.startsWith(
+        QStringLiteral("Error 13 - Type mismatch (attribute 'RuleActive'")));
+    EXPECT_TRUE(ui.messages[1].text.contains(
+        QStringLiteral("LoadNamingConventions"))); // a fifth prefix item
 
     ui.messages.clear();
     QByteArray big = smallFile("", codingRule("5001"), "");
@@ -300,14 +348,17 @@ TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
     ASSERT_TRUE(loadBytes(big));
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_EQ(ui.messages[0].text,
-              QStringLiteral("Error 6 - Overflow (attribute 'Impact' of element 'SeverityItem') in function "
-                             "LoadSeverityList module RulebaseManager"));
+              QStringLiteral(
+                  "Error 6 - Overflow (attribute 'Impact' of element 'SeverityItem') in function "
+                  "LoadSeverityList module RulebaseManager"));
 }
 
 TEST_F(RulebaseFileTest, FilesThatAreNotRulebasesAreRefusedWithTheirWarnings)
 {
-    const QString parsing = QStringLiteral("Unable to load the rulebase because of an unexpected error during parsing.");
-    const QString schema = QStringLiteral("Unable to load the rulebase because it has an incorrect schema version.");
+    const QString parsing = QStringLiteral(
+        "Unable to load the rulebase because of an unexpected error during parsing.");
+    const QString schema
+        = QStringLiteral("Unable to load the rulebase because it has an incorrect schema version.");
     struct Case
     {
         QByteArray bytes;
@@ -339,16 +390,19 @@ TEST_F(RulebaseFileTest, FilesThatAreNotRulebasesAreRefusedWithTheirWarnings)
     // Without "Rules" the frame itself fails; without "Report" only that section does.
     ui.messages.clear();
     QByteArray noRules = smallFile("", "", "");
-    noRules.replace(noRules.indexOf("<Rules"), noRules.indexOf("</Rules>") + 8 - noRules.indexOf("<Rules"), "");
+    noRules.replace(
+        noRules.indexOf("<Rules"), noRules.indexOf("</Rules>") + 8 - noRules.indexOf("<Rules"), "");
     EXPECT_FALSE(loadBytes(noRules));
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_TRUE(ui.messages[0].text.endsWith(QStringLiteral("in function LoadRulebase module RulebaseManager")));
+    EXPECT_TRUE(ui.messages[0].text.endsWith(
+        QStringLiteral("in function LoadRulebase module RulebaseManager")));
     ui.messages.clear();
     const auto noReport = loadBytes(smallFile("", "", "", ""));
     ASSERT_TRUE(noReport);
     EXPECT_EQ(noReport->Report()->Sections()->Count(), 0);
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_TRUE(ui.messages[0].text.endsWith(QStringLiteral("in function LoadReport module RulebaseManager")));
+    EXPECT_TRUE(ui.messages[0].text.endsWith(
+        QStringLiteral("in function LoadReport module RulebaseManager")));
 
     try {
         RulebaseManager().LoadRulebase(QString());
@@ -363,20 +417,28 @@ TEST_F(RulebaseFileTest, OlderSchemasComeUpToDateInMemoryOnly)
 {
     // 6.0: no tolerances, no report, no tag descriptions or examples, no exclusion list, no
     // case sensitivity and no array tag.
-    const QByteArray v60 =
-        "<Quorin_Rulebase SchemaVersion=\"6.0\">"
-        "<RulebaseProperties Name=\"Old\" Version=\"2.0.0001\" AutoIncrementVersion=\"True\" Description=\"d\""
-        " UnknownControlViolation=\"False\" UseCTagsAsDTTags=\"False\"/>"
-        "<ControlTags><ControlTag TagName=\"VB.Label\" TagValue=\"lb\"/></ControlTags>"
-        "<DataTypeTags><DataTypeTag TagName=\"Long\" TagValue=\"l\"/></DataTypeTags>"
-        "<ScopeTags><ScopeTag TagName=\"Local\" TagValue=\"\"/></ScopeTags><DefaultViolations/>"
-        "<CategoryList LastID=\"0\"/><SeverityList/><AuthorisedComponents/><AuthorisedReferences/><UnauthorisedKeywords/>"
-        "<Rules LastRuleID=\"5000\"><CodingConventions/><NamingConventions>"
-        "<NamingConvention RuleID=\"5000\" RuleActive=\"True\" Title=\"N\" Description=\"\" ObjectType=\"4\""
-        " PropertyType=\"37\" PropertyName=\"Name\" Condition=\"\" PrefixActive=\"False\" PrefixAdvice=\"\""
-        " BodyActive=\"False\" BodyPattern=\"\" BodyMaxLength=\"0\" BodyMinLength=\"0\" BodyAdvice=\"\""
-        " SuffixActive=\"False\" SuffixAdvice=\"\"><ViolationDefinition Name=\"\" Description=\"\" SeverityLevel=\"3\""
-        " Impact=\"1\" CategoryID=\"-1\" Advice=\"\"/></NamingConvention></NamingConventions></Rules></Quorin_Rulebase>";
+    const QByteArray v60
+        = "<Quorin_Rulebase SchemaVersion=\"6.0\">"
+          "<RulebaseProperties Name=\"Old\" Version=\"2.0.0001\" AutoIncrementVersion=\"True\" "
+          "Description=\"d\""
+          " UnknownControlViolation=\"False\" UseCTagsAsDTTags=\"False\"/>"
+          "<ControlTags><ControlTag TagName=\"VB.Label\" TagValue=\"lb\"/></ControlTags>"
+          "<DataTypeTags><DataTypeTag TagName=\"Long\" TagValue=\"l\"/></DataTypeTags>"
+          "<ScopeTags><ScopeTag TagName=\"Local\" TagValue=\"\"/></ScopeTags><DefaultViolations/>"
+          "<CategoryList "
+          "LastID=\"0\"/><SeverityList/><AuthorisedComponents/><AuthorisedReferences/"
+          "><UnauthorisedKeywords/>"
+          "<Rules LastRuleID=\"5000\"><CodingConventions/><NamingConventions>"
+          "<NamingConvention RuleID=\"5000\" RuleActive=\"True\" Title=\"N\" Description=\"\" "
+          "ObjectType=\"4\""
+          " PropertyType=\"37\" PropertyName=\"Name\" Condition=\"\" PrefixActive=\"False\" "
+          "PrefixAdvice=\"\""
+          " BodyActive=\"False\" BodyPattern=\"\" BodyMaxLength=\"0\" BodyMinLength=\"0\" "
+          "BodyAdvice=\"\""
+          " SuffixActive=\"False\" SuffixAdvice=\"\"><ViolationDefinition Name=\"\" "
+          "Description=\"\" SeverityLevel=\"3\""
+          " Impact=\"1\" CategoryID=\"-1\" "
+          "Advice=\"\"/></NamingConvention></NamingConventions></Rules></Quorin_Rulebase>";
     const auto old = loadBytes(v60, QStringLiteral("old.qrb"));
     ASSERT_TRUE(old);
     EXPECT_TRUE(ui.messages.empty()) << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
@@ -387,14 +449,16 @@ TEST_F(RulebaseFileTest, OlderSchemasComeUpToDateInMemoryOnly)
     }
     EXPECT_EQ(old->TolerancePercentageComments(), -1);
     EXPECT_EQ(old->Report()->Sections()->Count(), 0);
-    EXPECT_EQ(old->ControlTags()->Item(QStringLiteral("VB.Label"))->TagValue(), QStringLiteral("lb"));
+    EXPECT_EQ(old->ControlTags()->Item(QStringLiteral("VB.Label"))->TagValue(),
+              QStringLiteral("lb"));
     const auto naming = old->RuleLists()->NamingConventions()->Item(1);
     EXPECT_TRUE(naming->CaseSensitive());
     EXPECT_TRUE(naming->ExclusionList().isEmpty());
     EXPECT_EQ(readBytes(dir + QStringLiteral("old.qrb")), v60); // the file stays as it was
 
     ASSERT_TRUE(RulebaseManager().Save(*old, QString()));
-    EXPECT_TRUE(readBytes(dir + QStringLiteral("old.qrb")).startsWith("<Quorin_Rulebase SchemaVersion=\"6.2\">"));
+    EXPECT_TRUE(readBytes(dir + QStringLiteral("old.qrb"))
+                    .startsWith("<Quorin_Rulebase SchemaVersion=\"6.2\">"));
     const auto saved = load(dir + QStringLiteral("old.qrb"));
     ASSERT_TRUE(saved);
     EXPECT_EQ(saved->Version(), QStringLiteral("2.0.0002"));
@@ -403,11 +467,13 @@ TEST_F(RulebaseFileTest, OlderSchemasComeUpToDateInMemoryOnly)
     // 6.1 had tolerances and a report, and keeps them.
     QByteArray v61 = v60;
     v61.replace("\"6.0\"", "\"6.1\"");
-    v61.replace("UseCTagsAsDTTags=\"False\"", "UseCTagsAsDTTags=\"False\" ToleranceCount=\"5|-1|-1|-1|-1|-1\""
-                                              " ToleranceImpact=\"-1|-1|-1|-1|-1|-1\" TolerancePercentageComments=\"7\""
-                                              " ToleranceCyclomaticComplexity=\"-1\"");
-    v61.replace("</Rules>", "</Rules><Report><Section SectionType=\"Table\" TableKey=\"6T\" TableText=\"\""
-                            " TableTitle=\"Severity Details\" TableType=\"5\"/></Report>");
+    v61.replace("UseCTagsAsDTTags=\"False\"",
+                "UseCTagsAsDTTags=\"False\" ToleranceCount=\"5|-1|-1|-1|-1|-1\""
+                " ToleranceImpact=\"-1|-1|-1|-1|-1|-1\" TolerancePercentageComments=\"7\""
+                " ToleranceCyclomaticComplexity=\"-1\"");
+    v61.replace("</Rules>",
+                "</Rules><Report><Section SectionType=\"Table\" TableKey=\"6T\" TableText=\"\""
+                " TableTitle=\"Severity Details\" TableType=\"5\"/></Report>");
     const auto newer = loadBytes(v61, QStringLiteral("v61.qrb"));
     ASSERT_TRUE(newer);
     EXPECT_EQ(newer->ToleranceCount(1), 5);
@@ -435,7 +501,8 @@ TEST_F(RulebaseFileTest, SelectiveLoadsReadOnlyWhatTheCriteriaAskFor)
     EXPECT_EQ(bare.NumUnauthKeywords(), all->RuleLists()->UnauthorisedKeywords()->Count());
     EXPECT_EQ(bare.NumAuthComps(), all->AuthorisedComponents()->Count());
 
-    // The review side: active rules of severity 1 outside hidden categories, as a non-administrator.
+    // The review side: active rules of severity 1 outside hidden categories, as a
+    // non-administrator.
     RulebaseManager::setAdministratorOverride(false);
     RulebaseLoadCriteria review;
     review.setRulebaseFile(TestEnvironment::sampleRulebase());
@@ -450,8 +517,9 @@ TEST_F(RulebaseFileTest, SelectiveLoadsReadOnlyWhatTheCriteriaAskFor)
     for (qint32 i = 1; i <= rules.Count(); ++i) {
         const auto rule = rules.Item(i);
         const qint32 category = rule->ViolationDefinition()->CategoryID();
-        const bool hidden = all->CategoryList()->ContainsID(category)
-                            && all->CategoryList()->Item(CategoryList::CategoryIDToKey(category))->Hidden();
+        const bool hidden
+            = all->CategoryList()->ContainsID(category)
+              && all->CategoryList()->Item(CategoryList::CategoryIDToKey(category))->Hidden();
         if (rule->RuleActive() && rule->ViolationDefinition()->Severity() == 1 && !hidden)
             ++expected;
     }
@@ -495,18 +563,40 @@ TEST_F(RulebaseFileTest, AFailedSaveLeavesTheOldFileAndTheDirtyFlag)
 TEST(RulebaseFileValuesTest, ReadsInPlaceAgreeWithTheGeneralConversions)
 {
     const QStringList texts = {
-        QStringLiteral("0"),          QStringLiteral("-0"),          QStringLiteral("7"),
-        QStringLiteral("-7"),         QStringLiteral("007"),         QStringLiteral("2147483647"),
-        QStringLiteral("2147483648"), QStringLiteral("-2147483648"), QStringLiteral("-2147483649"),
-        QStringLiteral("32767"),      QStringLiteral("32768"),       QStringLiteral("-32768"),
-        QStringLiteral("-32769"),     QStringLiteral("999999999999999999"),
-        QStringLiteral("9999999999999999999"),                       QStringLiteral(""),
-        QStringLiteral("-"),          QStringLiteral(" 5"),          QStringLiteral("5 "),
-        QStringLiteral("+5"),         QStringLiteral("4.5"),         QStringLiteral("5.5"),
-        QStringLiteral("1e3"),        QStringLiteral("0x10"),        QStringLiteral("１２"),
-        QStringLiteral("True"),       QStringLiteral("False"),       QStringLiteral("true"),
-        QStringLiteral("FALSE"),      QStringLiteral(" True"),       QStringLiteral("Yes"),
-        QStringLiteral("%TAB%1"),     QStringLiteral("1%TAB%"),      QStringLiteral("%"),
+        QStringLiteral("0"),
+        QStringLiteral("-0"),
+        QStringLiteral("7"),
+        QStringLiteral("-7"),
+        QStringLiteral("007"),
+        QStringLiteral("2147483647"),
+        QStringLiteral("2147483648"),
+        QStringLiteral("-2147483648"),
+        QStringLiteral("-2147483649"),
+        QStringLiteral("32767"),
+        QStringLiteral("32768"),
+        QStringLiteral("-32768"),
+        QStringLiteral("-32769"),
+        QStringLiteral("999999999999999999"),
+        QStringLiteral("9999999999999999999"),
+        QStringLiteral(""),
+        QStringLiteral("-"),
+        QStringLiteral(" 5"),
+        QStringLiteral("5 "),
+        QStringLiteral("+5"),
+        QStringLiteral("4.5"),
+        QStringLiteral("5.5"),
+        QStringLiteral("1e3"),
+        QStringLiteral("0x10"),
+        QStringLiteral("１２"),
+        QStringLiteral("True"),
+        QStringLiteral("False"),
+        QStringLiteral("true"),
+        QStringLiteral("FALSE"),
+        QStringLiteral(" True"),
+        QStringLiteral("Yes"),
+        QStringLiteral("%TAB%1"),
+        QStringLiteral("1%TAB%"),
+        QStringLiteral("%"),
     };
     QString xml = QStringLiteral("<Root>");
     for (const QString &text : texts)

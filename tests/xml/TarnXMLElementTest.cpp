@@ -456,8 +456,8 @@ TEST_F(HandleTest, RemovedNodesStayWholeWhileAHandleHoldsThemOrANodeBelow)
               QStringLiteral("b1"));
     EXPECT_EQ(moved.AttributeValueByName(QStringLiteral("Key")), QStringLiteral("b0"));
     // What comes after the removal builds on a sound tree.
-    root.AddElement(QStringLiteral("After")).setAttributeValueByName(QLatin1StringView("Key"),
-                                                                     QStringLiteral("x"));
+    root.AddElement(QStringLiteral("After"))
+        .setAttributeValueByName(QLatin1StringView("Key"), QStringLiteral("x"));
     EXPECT_EQ(root.XMLString(), QStringLiteral("<Root><After Key=\"x\"/></Root>"));
 }
 
