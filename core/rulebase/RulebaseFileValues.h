@@ -21,4 +21,14 @@ void writeNumber(TarnXMLElement &element, const char *attribute, qint64 value);
 // A required child element found by name; throws when it is missing.
 TarnXMLElement requireChild(const TarnXMLElement &element, const char *name);
 
+// Children of a list element are taken by position, whatever their names; `apply` gets each
+// child and its position.
+template<typename Apply>
+void forEachChild(const TarnXMLElement &parent, Apply &&apply)
+{
+    const qint32 count = parent.ElementCount();
+    for (qint32 i = 0; i < count; ++i)
+        apply(parent.ElementAtPosition(i), i);
+}
+
 } // namespace RulebaseFileValues

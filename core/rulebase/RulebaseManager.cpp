@@ -335,25 +335,18 @@ void RulebaseManager::Apply_6_1_SchemaUpdates(TarnXMLElement root)
 void RulebaseManager::Apply_6_2_SchemaUpdates(TarnXMLElement root)
 {
     guardedVoid("Apply_6_2_SchemaUpdates", module, [&] {
-        auto eachChild = [](const TarnXMLElement &parent, auto &&apply) {
-            const qint32 count = parent.ElementCount();
-            for (qint32 i = 0; i < count; ++i) {
-                TarnXMLElement child = parent.ElementAtPosition(i);
-                apply(child);
-            }
-        };
-        eachChild(requireChild(root, "ControlTags"), [](TarnXMLElement &tag) {
+        forEachChild(requireChild(root, "ControlTags"), [](TarnXMLElement tag, qint32) {
             tag.AddAttribute(QStringLiteral("TagDescription"), QString());
             tag.AddAttribute(QStringLiteral("TagExample"), QString());
         });
-        eachChild(requireChild(root, "DataTypeTags"), [](TarnXMLElement &tag) {
+        forEachChild(requireChild(root, "DataTypeTags"), [](TarnXMLElement tag, qint32) {
             tag.AddAttribute(QStringLiteral("TagExample"), QString());
         });
-        eachChild(requireChild(root, "ScopeTags"), [](TarnXMLElement &tag) {
+        forEachChild(requireChild(root, "ScopeTags"), [](TarnXMLElement tag, qint32) {
             tag.AddAttribute(QStringLiteral("TagExample"), QString());
         });
-        eachChild(requireChild(requireChild(root, "Rules"), "NamingConventions"),
-                  [](TarnXMLElement &rule) {
+        forEachChild(requireChild(requireChild(root, "Rules"), "NamingConventions"),
+                  [](TarnXMLElement rule, qint32) {
                       rule.AddAttribute(QStringLiteral("ExclusionList"), QString());
                       rule.AddAttribute(QStringLiteral("CaseSensitive"), QStringLiteral("True"));
                   });

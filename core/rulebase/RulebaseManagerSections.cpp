@@ -34,15 +34,6 @@ namespace {
 
 constexpr const char *module = "RulebaseManager";
 
-// Children of a list element are taken by position, whatever their names.
-template<typename Apply>
-void forEachChild(const TarnXMLElement &parent, Apply &&apply)
-{
-    const qint32 count = parent.ElementCount();
-    for (qint32 i = 0; i < count; ++i)
-        apply(parent.ElementAtPosition(i), i);
-}
-
 // The same for a rule section, which is most of the file: each rule goes from the tree once
 // read, so the rules that follow take its memory rather than more from the system.
 template<typename Apply>
