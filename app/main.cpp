@@ -1,6 +1,7 @@
 #include "application/Application.h"
 #include "application/Startup.h"
 #include "gui/GuiUserInterface.h"
+#include "gui/factory/GuiFormFactory.h"
 #include "gui/frmMain.h"
 #include "platform/GlobalObjects.h"
 #include "views/IViewController.h"
@@ -44,6 +45,8 @@ int main(int argc, char *argv[])
     {
         frmMain window(interactive);
         ui.setParentWidget(&window);
+        GuiFormFactory forms(&window);
+        IFormFactory::install(&forms);
         Application application(&window, createView);
         window.setApplication(&application);
 
@@ -64,6 +67,7 @@ int main(int argc, char *argv[])
         const int loop = qapp.exec();
         if (interactive)
             result = loop;
+        IFormFactory::install(nullptr);
         ui.setParentWidget(nullptr);
     }
     DestroyGlobalObjects();
