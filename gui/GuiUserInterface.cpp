@@ -1,5 +1,8 @@
 #include "gui/GuiUserInterface.h"
 
+#include "gui/window/HelpWindow.h"
+
+#include "application/HelpTopics.h"
 #include "platform/FileUtils.h"
 
 #include <QDesktopServices>
@@ -153,9 +156,30 @@ bool GuiUserInterface::getSaveFilename(FileDialogRequest &request)
     return finishRequest(dialog.selectedFiles().constFirst(), request);
 }
 
-void GuiUserInterface::showHelp(HelpCommand, const QString &, int)
+void GuiUserInterface::showHelp(HelpCommand command, const QString &topic, int context)
 {
-    // The help window arrives with the help pages.
+    // A run that waits for nobody opens no window that would outlive the main one.
+    if (!m_interactive) {
+        QTextStream(stderr) << "Help: "
+                            << (command == HelpCommand::Context ? HelpTopics::topicPath(context) : topic)
+                            << Qt::endl;
+        return;
+    }
+    HelpWindow *help = HelpWindow::instance(m_parent);
+    switch (command) {
+    case HelpCommand::Contents:
+        help->showContents();
+        break;
+    case HelpCommand::Search:
+        help->showSearch(topic);
+        break;
+    case HelpCommand::Topic:
+        help->showTopic(topic);
+        break;
+    case HelpCommand::Context:
+        help->showContext(context);
+        break;
+    }
 }
 
 bool GuiUserInterface::shellOpen(const QString &document)

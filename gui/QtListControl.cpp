@@ -1,15 +1,22 @@
 #include "gui/QtListControl.h"
 
+#include "gui/window/Images.h"
+
 #include "collections/KeyedListErrors.h"
 #include "platform/QuorinError.h"
+#include "views/DragDrop.h"
 #include "views/modViewCommon.h"
 
+#include <QApplication>
 #include <QColor>
+#include <QDrag>
+#include <QMimeData>
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QTreeView>
 
 #include <algorithm>
+#include <memory>
 #include <numeric>
 
 namespace {
@@ -91,6 +98,12 @@ QVariant QtListControl::data(const QModelIndex &index, int role) const
     }
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(alignmentOf(m_columns[std::size_t(column)].alignment));
+    case Qt::DecorationRole: {
+        if (column != 0 || row.smallIcon <= 0)
+            return {};
+        const QIcon icon = Images::icon(m_imageList, QString::number(row.smallIcon));
+        return icon.isNull() ? QVariant() : QVariant(icon);
+    }
     case Qt::UserRole:
         return row.key;
     default:
@@ -402,12 +415,54 @@ bool QtListControl::eventFilter(QObject *watched, QEvent *event)
         if (event->type() == QEvent::MouseButtonPress) {
             // A press starts afresh: a click on the current row still reports it.
             m_reportedByPress = 0;
+            const auto *press = static_cast<QMouseEvent *>(event);
+            m_pressAt = press->position().toPoint();
+            m_pressedRow = press->button() == Qt::LeftButton ? hitTest(m_pressAt.x(), m_pressAt.y())
+                                                             : 0;
+        } else if (event->type() == QEvent::MouseButtonRelease) {
+            m_pressedRow = 0;
         } else if (event->type() == QEvent::MouseMove && m_events) {
-            const QPoint at = static_cast<QMouseEvent *>(event)->position().toPoint();
+            const auto *move = static_cast<QMouseEvent *>(event);
+            const QPoint at = move->position().toPoint();
+            // Moving far enough with the button held on a selected row drags the selection.
+            if (m_pressedRow != 0 && (move->buttons() & Qt::LeftButton)
+                && (at - m_pressAt).manhattanLength() >= QApplication::startDragDistance()
+                && m_pressedRow <= count() && selected(m_pressedRow)) {
+                m_pressedRow = 0;
+                if (startDrag())
+                    return true;
+            }
             m_events->MouseMove(at.x(), at.y());
         }
     }
     return QAbstractTableModel::eventFilter(watched, event);
+}
+
+QMimeData *QtListControl::dragData()
+{
+    const QString payload = m_events ? m_events->OLEStartDrag() : QString();
+    if (payload.isEmpty())
+        return nullptr;
+    auto *data = new QMimeData;
+    data->setData(QLatin1String(DragDrop::MimeType), payload.toUtf8());
+    return data;
+}
+
+bool QtListControl::startDrag()
+{
+    std::unique_ptr<QMimeData> data(dragData());
+    if (!data)
+        return false;
+    auto *drag = new QDrag(m_view);
+    drag->setMimeData(data.release());
+    // The rows' own picture travels with the pointer.
+    const int row = selectedItem();
+    if (row != 0 && at(row).smallIcon > 0)
+        drag->setPixmap(Images::icon(m_imageList, QString::number(at(row).smallIcon)).pixmap(16, 16));
+    drag->exec(Qt::MoveAction, Qt::MoveAction);
+    if (m_events)
+        m_events->OLECompleteDrag();
+    return true;
 }
 
 QtListControl::Row &QtListControl::at(int row)

@@ -4,9 +4,11 @@
 
 #include <QAbstractTableModel>
 #include <QHash>
+#include <QPoint>
 
 #include <vector>
 
+class QMimeData;
 class QTreeView;
 
 // The main window's report-style list: a model of rows held in a vector, shown in a QTreeView,
@@ -83,6 +85,13 @@ public:
     // An RGB value with red in the low byte as a colour.
     static QColor colourOf(qint32 rgb);
 
+    // The data of a drag of the selected rows as the view gives it; nullptr when the view lets
+    // nothing be dragged. The caller owns it.
+    QMimeData *dragData();
+    // Drags the selected rows (the platform's drag runs until the drop) and tells the view
+    // when it is over; false when the view lets nothing be dragged.
+    bool startDrag();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -135,4 +144,7 @@ private:
     // The row the current press already reported through the change of current row.
     int m_reportedByPress = 0;
     ListControlEvents *m_events = nullptr;
+    // Where the left button went down on a row, for telling a drag from a click.
+    QPoint m_pressAt;
+    int m_pressedRow = 0;
 };

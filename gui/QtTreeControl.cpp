@@ -1,9 +1,16 @@
 #include "gui/QtTreeControl.h"
 
+#include "gui/window/Images.h"
+
+#include "views/DragDrop.h"
+
+#include <QDragMoveEvent>
+#include <QDropEvent>
 #include <QEvent>
 #include <QFont>
 #include <QIcon>
-#include <QStyle>
+#include <QMimeData>
+#include <QTimer>
 #include <QTreeView>
 
 #include <algorithm>
@@ -29,13 +36,90 @@ QtTreeControl::QtTreeControl(QTreeView *view)
     });
     // A press starts afresh: a click on the current node still reports it.
     m_view->viewport()->installEventFilter(this);
+    // Rules dragged from the list land on nodes; the view decides what a drop means.
+    m_view->setAcceptDrops(true);
+    m_view->viewport()->setAcceptDrops(true);
+    m_dragRepeat = new QTimer(this);
+    m_dragRepeat->setInterval(DragRepeatMilliseconds);
+    connect(m_dragRepeat, &QTimer::timeout, this, &QtTreeControl::repeatDragOver);
 }
 
 bool QtTreeControl::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_view->viewport() && event->type() == QEvent::MouseButtonPress)
-        m_reportedByPress = 0;
+    if (watched == m_view->viewport()) {
+        if (event->type() == QEvent::MouseButtonPress)
+            m_reportedByPress = 0;
+        else if (dragEvent(event))
+            return true;
+    }
     return QAbstractItemModel::eventFilter(watched, event);
+}
+
+bool QtTreeControl::dragEvent(QEvent *event)
+{
+    const auto effectToAction = [](int effect) {
+        return effect == DragDrop::EffectMove   ? Qt::MoveAction
+               : effect == DragDrop::EffectCopy ? Qt::CopyAction
+                                                : Qt::IgnoreAction;
+    };
+    switch (event->type()) {
+    case QEvent::DragEnter:
+    case QEvent::DragMove: {
+        auto *drag = static_cast<QDragMoveEvent *>(event);
+        const bool enter = event->type() == QEvent::DragEnter;
+        m_dragAt = drag->position().toPoint();
+        m_dragHasRules = drag->mimeData()->hasFormat(QLatin1String(DragDrop::MimeType));
+        const int effect = m_events ? m_events->OLEDragOver(m_dragHasRules,
+                                                             m_dragAt.x(),
+                                                             m_dragAt.y(),
+                                                             enter ? DragDrop::StateEnter
+                                                                   : DragDrop::StateOver)
+                                    : DragDrop::EffectNone;
+        // Rules are always let in, so that the moves keep coming and the hover can run.
+        if (enter && m_dragHasRules)
+            drag->acceptProposedAction();
+        if (effect != DragDrop::EffectNone) {
+            drag->setDropAction(effectToAction(effect));
+            drag->accept();
+        } else if (!enter || !m_dragHasRules) {
+            drag->ignore();
+        }
+        if (m_dragHasRules)
+            m_dragRepeat->start();
+        return true;
+    }
+    case QEvent::DragLeave:
+        m_dragRepeat->stop();
+        if (m_events)
+            m_events->OLEDragOver(m_dragHasRules, m_dragAt.x(), m_dragAt.y(), DragDrop::StateLeave);
+        return true;
+    case QEvent::Drop: {
+        m_dragRepeat->stop();
+        auto *drop = static_cast<QDropEvent *>(event);
+        const QPoint at = drop->position().toPoint();
+        const QMimeData *data = drop->mimeData();
+        int effect = DragDrop::EffectNone;
+        if (m_events && data->hasFormat(QLatin1String(DragDrop::MimeType)))
+            effect = m_events->OLEDragDrop(
+                QString::fromUtf8(data->data(QLatin1String(DragDrop::MimeType))), at.x(), at.y());
+        if (effect != DragDrop::EffectNone) {
+            drop->setDropAction(effectToAction(effect));
+            drop->accept();
+        } else {
+            drop->ignore();
+        }
+        return true;
+    }
+    default:
+        return false;
+    }
+}
+
+// Held still, a drag sends no moves; the view still has to learn how long it has hovered.
+void QtTreeControl::repeatDragOver()
+{
+    if (m_events && m_dragHasRules)
+        m_events->OLEDragOver(true, m_dragAt.x(), m_dragAt.y(), DragDrop::StateOver);
 }
 
 QModelIndex QtTreeControl::index(int row, int column, const QModelIndex &parent) const
@@ -82,11 +166,18 @@ QVariant QtTreeControl::data(const QModelIndex &index, int role) const
             return font;
         }
         return {};
-    case Qt::DecorationRole:
-        // Until the image lists arrive, folders borrow the style's icons and the rest go bare.
-        if (n.image.contains(QLatin1String("Folder"), Qt::CaseInsensitive)
-            || n.image.compare(QLatin1String("Category"), Qt::CaseInsensitive) == 0)
-            return m_view->style()->standardIcon(QStyle::SP_DirIcon);
+    case Qt::DecorationRole: {
+        const QIcon icon = Images::icon(m_imageList, n.image);
+        return icon.isNull() ? QVariant() : QVariant(icon);
+    }
+    // The node under a drag shows as selected does.
+    case Qt::BackgroundRole:
+        if (node == m_dropHighlight)
+            return m_view->palette().highlight();
+        return {};
+    case Qt::ForegroundRole:
+        if (node == m_dropHighlight)
+            return m_view->palette().highlightedText();
         return {};
     default:
         return {};
@@ -193,6 +284,27 @@ void QtTreeControl::setSelectedItem(int node)
 int QtTreeControl::hitTest(int x, int y) const
 {
     return nodeOf(m_view->indexAt(QPoint(x, y)));
+}
+
+int QtTreeControl::edgeAt(int y) const
+{
+    if (y <= EdgePixels)
+        return -1;
+    return y >= m_view->viewport()->height() - EdgePixels ? 1 : 0;
+}
+
+void QtTreeControl::setDropHighlight(int node)
+{
+    if (node == m_dropHighlight)
+        return;
+    const int before = m_dropHighlight;
+    m_dropHighlight = node;
+    for (const int changed : {before, node}) {
+        if (changed != 0 && changed <= m_tree.count()) {
+            const QModelIndex index = indexOf(changed);
+            emit dataChanged(index, index, {Qt::BackgroundRole, Qt::ForegroundRole});
+        }
+    }
 }
 
 QModelIndex QtTreeControl::indexOf(int node) const

@@ -4,7 +4,10 @@
 #include "vocabulary/RuleTree.h"
 
 #include <QAbstractItemModel>
+#include <QPoint>
 
+class QDropEvent;
+class QTimer;
 class QTreeView;
 
 // The main window's tree: a model of RuleTree nodes shown in a QTreeView, with the view's
@@ -51,8 +54,9 @@ public:
     int selectedItem() const override;
     void setSelectedItem(int node) override;
     int dropHighlight() const override { return m_dropHighlight; }
-    void setDropHighlight(int node) override { m_dropHighlight = node; }
+    void setDropHighlight(int node) override;
     int hitTest(int x, int y) const override;
+    int edgeAt(int y) const override;
     void setEventSink(TreeControlEvents *events) override { m_events = events; }
 
     QString imageList() const { return m_imageList; }
@@ -60,6 +64,11 @@ public:
     QModelIndex indexOf(int node) const;
     // The node of a model index; 0 for an invalid one.
     static int nodeOf(const QModelIndex &index);
+
+    // A drag held still keeps being reported this often, so a hovered node opens in time.
+    static constexpr int DragRepeatMilliseconds = 250;
+    // The scroll zone at each edge during a drag: 200 twips.
+    static constexpr int EdgePixels = 200 / 15;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -71,6 +80,9 @@ private:
     void nodeChanged(int node, int role);
     void currentChanged(const QModelIndex &current);
     void clicked(const QModelIndex &index);
+    // The drag events of the viewport, turned into the view's; true when handled.
+    bool dragEvent(QEvent *event);
+    void repeatDragOver();
 
     QTreeView *m_view;
     RuleTree m_tree;
@@ -81,4 +93,8 @@ private:
     // The node the current press already reported through the change of current node.
     int m_reportedByPress = 0;
     TreeControlEvents *m_events = nullptr;
+    // The drag in progress over the tree: where, and whether it carries rules.
+    QTimer *m_dragRepeat = nullptr;
+    QPoint m_dragAt;
+    bool m_dragHasRules = false;
 };

@@ -2,6 +2,11 @@
 
 #include "gui/QtListControl.h"
 #include "gui/QtTreeControl.h"
+#include "gui/window/Images.h"
+#include "gui/window/frmAbout.h"
+#include "gui/window/frmTip.h"
+
+#include "application/HelpTopics.h"
 
 #include "application/Application.h"
 #include "platform/GlobalObjects.h"
@@ -12,6 +17,7 @@
 #include "views/CommandTable.h"
 #include "views/IViewController.h"
 #include "views/ToolDispatcher.h"
+#include "views/ViewFactory.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -21,7 +27,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTextBrowser>
@@ -55,8 +61,10 @@ frmMain::frmMain(bool interactive, QWidget *parent)
     , m_interactive(interactive)
     , m_mru(std::make_unique<MRUUtils>())
 {
+    Images::initialise();
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(programTitle());
+    setWindowIcon(Images::icon(QStringLiteral("ilsEventTree"), QStringLiteral("Project")));
 
     m_tree = new QTreeView;
     m_tree->setObjectName(QStringLiteral("tvwMain"));
@@ -73,27 +81,35 @@ frmMain::frmMain(bool interactive, QWidget *parent)
     m_list->viewport()->installEventFilter(this);
 
     m_noItems = new QLabel(tr("There are no items to show in this view."), m_list->viewport());
-    m_noItems->setObjectName(QStringLiteral("lblNoItems"));
+    m_noItems->setObjectName(QStringLiteral("txtNoItems"));
     m_noItems->move(8, 8);
     m_noItems->adjustSize();
     m_noItems->hide();
 
     m_treeTitle = new QLabel;
-    m_treeTitle->setObjectName(QStringLiteral("lblTreeTitle"));
+    m_treeTitle->setObjectName(QStringLiteral("lblTreeViewTitle"));
+    m_treeTitle->setText(QStringLiteral(" Coding Conventions"));
     m_listTitle = new QLabel;
-    m_listTitle->setObjectName(QStringLiteral("lblListTitle"));
+    m_listTitle->setObjectName(QStringLiteral("lblListViewTitle"));
+    m_listTitle->setText(QStringLiteral(" Parser Event"));
+    m_listHeaderImage = new QLabel;
+    m_listHeaderImage->setObjectName(QStringLiteral("imgListHeader"));
     for (QLabel *title : {m_treeTitle, m_listTitle}) {
         QFont font = title->font();
         font.setBold(true);
         title->setFont(font);
     }
-    // Each title stands above its control.
-    const auto titled = [](QLabel *title, QWidget *control) {
+    // Each title stands above its control, with an optional picture at its right end.
+    const auto titled = [](QLabel *title, QWidget *control, QLabel *image = nullptr) {
         auto *box = new QWidget;
         auto *layout = new QVBoxLayout(box);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->setSpacing(2);
-        layout->addWidget(title);
+        auto *heading = new QHBoxLayout;
+        heading->addWidget(title, 1);
+        if (image)
+            heading->addWidget(image);
+        layout->addLayout(heading);
         layout->addWidget(control, 1);
         return box;
     };
@@ -111,7 +127,7 @@ frmMain::frmMain(bool interactive, QWidget *parent)
     m_mainSplitter = new QSplitter(Qt::Horizontal);
     m_mainSplitter->setObjectName(QStringLiteral("picContainer"));
     m_mainSplitter->addWidget(m_leftSplitter);
-    m_mainSplitter->addWidget(titled(m_listTitle, m_list));
+    m_mainSplitter->addWidget(titled(m_listTitle, m_list, m_listHeaderImage));
     m_mainSplitter->setStretchFactor(1, 1);
     m_mainSplitter->setChildrenCollapsible(false);
     setCentralWidget(m_mainSplitter);
@@ -134,6 +150,30 @@ frmMain::frmMain(bool interactive, QWidget *parent)
     connect(m_list, &QAbstractItemView::doubleClicked, this, [this] {
         toolClicked(QStringLiteral("tlOpenRule"));
     });
+    // F1 shows the page of the current view; tlContents keeps the contents.
+    auto *help = new QShortcut(QKeySequence(Qt::Key_F1), this);
+    help->setContext(Qt::WindowShortcut);
+    connect(help, &QShortcut::activated, this, &frmMain::showContextHelp);
+}
+
+void frmMain::setApplication(Application *application)
+{
+    m_application = application;
+    // A view tool whose view is not built yet stays visible but disabled, and says why.
+    for (const QString &id : CommandTable::viewTools()) {
+        const bool available = createView(id) != nullptr;
+        QAction *action = tool(id);
+        action->setEnabled(available);
+        if (!available)
+            action->setToolTip(tr("%1 comes in a later version.").arg(action->text().remove(QLatin1Char('&'))));
+    }
+}
+
+void frmMain::showContextHelp()
+{
+    UserInterface::current().showHelp(HelpCommand::Context,
+                                      QString(),
+                                      m_helpContext != 0 ? m_helpContext : HelpTopics::MainWindow);
 }
 
 frmMain::~frmMain() = default;
@@ -153,6 +193,7 @@ void frmMain::createActions()
         if (definition.toolTip)
             action->setToolTip(QString::fromUtf8(definition.toolTip));
         action->setCheckable(definition.checkable);
+        action->setIcon(Images::tool(id));
         if (CommandTable::viewTools().contains(id))
             views->addAction(action);
         connect(action, &QAction::triggered, this, [this, id] { toolClicked(id); });
@@ -164,7 +205,6 @@ void frmMain::createActions()
         {"tlSaveRulebase", QKeySequence::Save},
         {"tlSaveRulebaseAs", QKeySequence::SaveAs},
         {"tlExit", QKeySequence::Quit},
-        {"tlContents", QKeySequence::HelpContents},
         {"tlDeleteRule", QKeySequence::Delete},
     };
     for (const auto &[id, keys] : shortcuts)
@@ -172,8 +212,6 @@ void frmMain::createActions()
     tool(QStringLiteral("tlDeleteRule"))->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     m_list->addAction(tool(QStringLiteral("tlDeleteRule")));
     tool(QStringLiteral("tlDocumentationConventions"))->setVisible(false); // no such view exists
-    // The authority items view arrives with the import of authorised items.
-    tool(QStringLiteral("tlAuthorisedItems"))->setEnabled(false);
 }
 
 QMenu *frmMain::buildMenu(const BandDefinition &band, QWidget *parent)
@@ -223,14 +261,16 @@ void frmMain::createBars()
                     bar->addAction(tool(QLatin1String(id)));
             }
             if (navigation) {
-                bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+                bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+                bar->setIconSize(QSize(32, 32));
                 // Tool buttons show the icon text; menus keep the one-line caption.
                 for (const auto &[id, caption] : navigationCaptions)
                     tool(QLatin1String(id))->setIconText(QString::fromUtf8(caption));
                 addToolBar(Qt::LeftToolBarArea, bar);
                 m_navigation = bar;
             } else {
-                bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+                bar->setToolButtonStyle(Qt::ToolButtonIconOnly);
+                bar->setIconSize(QSize(16, 16));
                 addToolBar(Qt::TopToolBarArea, bar);
             }
         }
@@ -423,7 +463,18 @@ void frmMain::SetBusy(bool busy)
         QApplication::restoreOverrideCursor();
 }
 
-void frmMain::ShowSplashScreen() {}
+void frmMain::setListHeaderImage(const QString &image)
+{
+    const QIcon icon = Images::icon(m_treeControl->imageList(), image);
+    m_listHeaderImage->setPixmap(icon.isNull() ? QPixmap() : icon.pixmap(16, 16));
+}
+
+// The splash closes itself; a run that waits for nobody shows none.
+void frmMain::ShowSplashScreen()
+{
+    if (m_interactive)
+        (new frmAbout)->ShowSplashScreen();
+}
 
 void frmMain::ShowWindow()
 {
@@ -433,22 +484,26 @@ void frmMain::ShowWindow()
     m_status->setText(m_application && m_application->RulebaseOpen() ? programTitle()
                                                                      : tr("No rulebase selected."));
     show();
+    // The panes get their stored sizes once the window has its own.
+    restorePaneSizes();
 }
 
 int frmMain::RunTipOfDay(int lastTip)
 {
-    return lastTip;
+    if (!m_interactive)
+        return lastTip;
+    frmTip tip(this);
+    tip.setLastTip(lastTip);
+    tip.exec();
+    return tip.LastTip();
 }
 
 void frmMain::RunAbout()
 {
     if (!m_interactive)
         return;
-    QMessageBox::about(
-        this,
-        tr("About Quorin Administrator"),
-        tr("<h3>Quorin Administrator %1</h3><p>Rulebases for the Quorin code reviewer.</p>")
-            .arg(programComponentVersion()));
+    frmAbout about(this);
+    about.exec();
 }
 
 void frmMain::restoreWindowState()
@@ -460,14 +515,26 @@ void frmMain::restoreWindowState()
                 data.MainTop() / twipsPerPixel,
                 data.MainWidth() / twipsPerPixel,
                 data.MainHeight() / twipsPerPixel);
-    const int tree = data.TreeWidth() / twipsPerPixel;
-    m_mainSplitter->setSizes({tree, std::max(1, width() - tree)});
-    const int doc = data.DocHeight() / twipsPerPixel;
-    m_leftSplitter->setSizes({std::max(1, height() - doc), doc});
+    restorePaneSizes();
     m_documentation->setVisible(data.DocWinVisible());
     tool(QStringLiteral("tlDocumentationWindow"))->setChecked(data.DocWinVisible());
     if (data.Maximised())
         setWindowState(windowState() | Qt::WindowMaximized);
+}
+
+// The tree's width and the documentation pane's height are stored in twips; the list and the
+// tree take what is left.
+void frmMain::restorePaneSizes()
+{
+    if (!gobjAdminData)
+        return;
+    const QuorinAdminData &data = *gobjAdminData;
+    const int tree = std::max(1, data.TreeWidth() / twipsPerPixel);
+    const int across = std::max(m_mainSplitter->width(), tree + 100);
+    m_mainSplitter->setSizes({tree, across - tree - m_mainSplitter->handleWidth()});
+    const int doc = std::max(1, data.DocHeight() / twipsPerPixel);
+    const int down = std::max(m_leftSplitter->height(), doc + 100);
+    m_leftSplitter->setSizes({down - doc - m_leftSplitter->handleWidth(), doc});
 }
 
 void frmMain::saveWindowState()
@@ -492,15 +559,6 @@ void frmMain::saveWindowState()
     const QList<int> left = m_leftSplitter->sizes();
     if (left.size() == 2 && left.at(1) > 0)
         data.setDocHeight(left.at(1) * twipsPerPixel);
-}
-
-void frmMain::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() == Qt::Key_F1) {
-        UserInterface::current().showHelp(HelpCommand::Context, QString(), m_helpContext);
-        return;
-    }
-    QMainWindow::keyPressEvent(event);
 }
 
 bool frmMain::eventFilter(QObject *watched, QEvent *event)

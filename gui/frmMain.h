@@ -31,7 +31,8 @@ public:
     explicit frmMain(bool interactive, QWidget *parent = nullptr);
     ~frmMain() override;
 
-    void setApplication(Application *application) { m_application = application; }
+    // Tools of views that can't be made yet are disabled, saying so.
+    void setApplication(Application *application);
 
     QTreeView *tvwMain() const { return m_tree; }
     QTreeView *lvwMain() const { return m_list; }
@@ -56,16 +57,17 @@ public:
     void setStatusText(const QString &text) override;
     void setTreeTitle(const QString &text) override;
     void setListTitle(const QString &text) override;
-    // The title's picture arrives with the image lists.
-    void setListHeaderImage(const QString &) override {}
+    void setListHeaderImage(const QString &image) override;
     void setNoItemsVisible(bool visible) override;
     void setToolEnabled(const QString &toolId, bool enabled) override;
 
     void ExpandCollapseAll(bool expand);
 
+    // The help page of the current view (or of the window before any view).
+    void showContextHelp();
+
 protected:
     void closeEvent(QCloseEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -77,6 +79,7 @@ private:
     void rebuildRecentFiles();
     void updateRuleActiveTools();
     void restoreWindowState();
+    void restorePaneSizes();
     void saveWindowState();
     void SetEnabledState();
 
@@ -93,6 +96,7 @@ private:
     QtListControl *m_listControl = nullptr; // owned by m_list
     QLabel *m_treeTitle = nullptr;
     QLabel *m_listTitle = nullptr;
+    QLabel *m_listHeaderImage = nullptr;
     QLabel *m_noItems = nullptr; // over the list's viewport
     QTextBrowser *m_documentation = nullptr;
     QLabel *m_status = nullptr;

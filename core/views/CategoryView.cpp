@@ -220,3 +220,21 @@ void CategoryView::DblClick()
         SetDocumentationWindowText(node);
     });
 }
+
+void CategoryView::MoveDroppedRules(const QString &keys, qint32 from, qint32 to)
+{
+    MoveConventions(keys, from, to);
+}
+
+void CategoryView::MoveConventions(const QString &keys, qint32 from, qint32 to)
+{
+    if (from == to)
+        return;
+    const auto all = ruleLists().AllConventions();
+    for (const QString &key : keys.split(QLatin1Char('|'), Qt::SkipEmptyParts)) {
+        all->Item(key)->ViolationDefinition()->setCategoryID(to);
+        if (m_lvwList->find(key) != 0)
+            m_lvwList->remove(key);
+    }
+    RefreshView();
+}

@@ -3,6 +3,7 @@
 #include "application/IMainForm.h"
 #include "platform/ErrorFrame.h"
 #include "platform/TextUtils.h"
+#include "platform/UserInterface.h"
 #include "rulebase/CodingConvention.h"
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
@@ -151,4 +152,56 @@ void CodingConventionsView::UpdateConvention(int row, const CodingConvention &co
     }
     m_lvwList->remove(m_lvwList->key(row));
     m_frmMain->setNoItemsVisible(m_lvwList->count() == 0);
+}
+
+bool CodingConventionsView::IsDropTarget(qint32 eventID) const
+{
+    return eventID >= 1 && eventID != m_lCurrentEventID;
+}
+
+void CodingConventionsView::MoveDroppedRules(const QString &keys, qint32 fromEvent, qint32 toEvent)
+{
+    const QString movable = RemovePendingViolationsFromIDList(keys);
+    if (!movable.isEmpty())
+        MoveConvention(movable, fromEvent, toEvent);
+}
+
+// A pending violation is raised at its end event, so such a convention keeps its events.
+QString CodingConventionsView::RemovePendingViolationsFromIDList(const QString &keys)
+{
+    QStringList kept;
+    bool dropped = false;
+    const auto conventions = ruleLists().CodingConventions();
+    for (const QString &key : keys.split(QLatin1Char('|'), Qt::SkipEmptyParts)) {
+        if (conventions->Item(key)->PendingViolation())
+            dropped = true;
+        else
+            kept << key;
+    }
+    if (dropped)
+        UserInterface::current().messageBox(
+            QStringLiteral("Coding conventions defined to trigger pending violations cannot be "
+                           "re-assigned to a different event by dragging and must instead be "
+                           "moved manually."),
+            MessageButtons::OK,
+            MessageIcon::Information,
+            programTitle());
+    return kept.join(QLatin1Char('|'));
+}
+
+void CodingConventionsView::MoveConvention(const QString &keys, qint32 fromEvent, qint32 toEvent)
+{
+    if (fromEvent == toEvent)
+        return;
+    const auto conventions = ruleLists().CodingConventions();
+    for (const QString &key : keys.split(QLatin1Char('|'), Qt::SkipEmptyParts)) {
+        ruleLists().MoveCodingConvention(Text::valLong(key), fromEvent, toEvent);
+        const std::shared_ptr<CodingConvention> convention = conventions->Item(key);
+        // Only the one event changes; a convention on several events keeps the others.
+        convention->RemoveParserEventID(fromEvent);
+        convention->AddParserEventID(toEvent);
+        if (m_lvwList->find(key) != 0)
+            m_lvwList->remove(key);
+    }
+    RefreshView();
 }

@@ -24,4 +24,10 @@ private:
     void ResetProjectNode();
     void ResetNode(qint32 eventID);
     void UpdateConvention(int row, const CodingConvention &convention);
+
+    bool AllowsDrag() const override { return true; }
+    bool IsDropTarget(qint32 eventID) const override;
+    void MoveDroppedRules(const QString &keys, qint32 fromEvent, qint32 toEvent) override;
+    QString RemovePendingViolationsFromIDList(const QString &keys);
+    void MoveConvention(const QString &keys, qint32 fromEvent, qint32 toEvent);
 };

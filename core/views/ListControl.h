@@ -12,6 +12,10 @@ public:
     // After the window has changed the sort (SortListByColumn).
     virtual void ColumnClick(int column) = 0;
     virtual void MouseMove(int x, int y) = 0;
+    // A drag of the selected rows starts: the data it carries in the private rule format, or
+    // empty when the view lets nothing be dragged. Then the end of that drag.
+    virtual QString OLEStartDrag() { return QString(); }
+    virtual void OLECompleteDrag() {}
 };
 
 enum class ColumnAlignment { Left = 0, Right = 1, Center = 2 };

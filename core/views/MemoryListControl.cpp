@@ -215,3 +215,14 @@ void MemoryListControl::clickColumn(int column)
     if (m_events)
         m_events->ColumnClick(column);
 }
+
+QString MemoryListControl::startDrag()
+{
+    return m_events ? m_events->OLEStartDrag() : QString();
+}
+
+void MemoryListControl::completeDrag()
+{
+    if (m_events)
+        m_events->OLECompleteDrag();
+}

@@ -77,6 +77,9 @@ public:
     void click(int row);
     void moveOver(int row);
     void clickColumn(int column);
+    // A drag of the selected rows: the data the view gives it (empty: no drag), and its end.
+    QString startDrag();
+    void completeDrag();
     // Ctrl-click: adds the row to the selection.
     void select(int row, bool selected) { setSelected(row, selected); }
 

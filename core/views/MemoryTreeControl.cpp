@@ -54,6 +54,7 @@ void MemoryTreeControl::ensureVisible(int node)
 {
     for (int up = m_tree.node(node).parent; up != 0; up = m_tree.node(up).parent)
         m_tree.setExpanded(up, true);
+    m_madeVisible.push_back(node);
 }
 
 void MemoryTreeControl::setSelectedItem(int node)
@@ -86,4 +87,23 @@ void MemoryTreeControl::doubleClick()
 {
     if (m_events)
         m_events->DblClick();
+}
+
+int MemoryTreeControl::edgeAt(int y) const
+{
+    if (m_height <= 0)
+        return 0;
+    if (y <= 1)
+        return -1;
+    return y >= m_height ? 1 : 0;
+}
+
+int MemoryTreeControl::dragOver(int y, int state, bool hasRuleData)
+{
+    return m_events ? m_events->OLEDragOver(hasRuleData, 0, y, state) : 0;
+}
+
+int MemoryTreeControl::drop(const QString &data, int y)
+{
+    return m_events ? m_events->OLEDragDrop(data, 0, y) : 0;
 }

@@ -38,6 +38,9 @@ public:
     int dropHighlight() const override { return m_dropHighlight; }
     void setDropHighlight(int node) override { m_dropHighlight = node; }
     int hitTest(int x, int y) const override;
+    // With a height set, node 1 is the top zone and the last row of the height the bottom one.
+    int edgeAt(int y) const override;
+    void setHeight(int height) { m_height = height; }
     void setEventSink(TreeControlEvents *events) override { m_events = events; }
 
     QString imageList() const { return m_imageList; }
@@ -46,6 +49,11 @@ public:
     void click(int node);
     void collapse(int node);
     void doubleClick();
+    // A drag over the point (0, y), and its drop; each gives the view's effect.
+    int dragOver(int y, int state = 2, bool hasRuleData = true);
+    int drop(const QString &data, int y);
+    // Nodes scrolled into view, in order, for tests of the drag's scrolling.
+    const std::vector<int> &madeVisible() const { return m_madeVisible; }
 
 private:
     int sibling(int node, int step) const;
@@ -55,5 +63,7 @@ private:
     QString m_imageList;
     int m_selected = 0;
     int m_dropHighlight = 0;
+    int m_height = 0;
+    std::vector<int> m_madeVisible;
     TreeControlEvents *m_events = nullptr;
 };

@@ -9,6 +9,7 @@
 #include "rulebase/IRule.h"
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
+#include "views/DragDrop.h"
 #include "views/IRuleEditorLauncher.h"
 
 namespace {
@@ -448,4 +449,107 @@ QString RuleViewBase::EditSelectedRule()
         return QString();
     }
     return IRuleEditorLauncher::current().EditRule(rule) ? key : QString();
+}
+
+QString RuleViewBase::OLEStartDrag()
+{
+    return guarded("m_lvwList_OLEStartDrag", module(), QString(), [this]() -> QString {
+        if (!AllowsDrag() || !hasControls() || !m_rulebase)
+            return QString();
+        m_lCurrentEventID = SelectedNodeValue();
+        // A drag needs a group to come from; the root is none.
+        if (m_lCurrentEventID == 0)
+            return QString();
+        const QStringList keys = modViewCommon::SelectedItemKeys(*m_lvwList);
+        if (keys.isEmpty())
+            return QString();
+        m_dragFormatRegistered = true;
+        return DragDrop::payload(keys);
+    });
+}
+
+void RuleViewBase::OLECompleteDrag()
+{
+    guardedVoid("m_lvwList_OLECompleteDrag", module(), [this] {
+        if (m_tvwTree)
+            m_tvwTree->setDropHighlight(0);
+        m_dragNode = 0;
+    });
+}
+
+bool RuleViewBase::IsDropTarget(qint32 value) const
+{
+    return value != 0 && value != m_lCurrentEventID;
+}
+
+int RuleViewBase::OLEDragOver(bool hasRuleData, int x, int y, int state)
+{
+    return guarded("m_tvwTree_OLEDragOver", module(), 0, [&]() -> int {
+        if (state == DragDrop::StateLeave || !AllowsDrag() || !m_tvwTree)
+            return DragDrop::EffectNone;
+        if (!hasRuleData || !m_dragFormatRegistered)
+            return DragDrop::EffectNone;
+
+        const int node = m_tvwTree->hitTest(x, y);
+        const int now = DragDrop::secondsSinceMidnight();
+        int hover = 0;
+        if (node != m_dragNode) {
+            m_tvwTree->setDropHighlight(node);
+            m_dragNode = node;
+            m_dragNodeSince = now;
+        } else {
+            // Across midnight this goes negative and simply waits for the next node.
+            hover = now - m_dragNodeSince;
+        }
+        if (node == 0)
+            return DragDrop::EffectNone;
+        const qint32 value = NodeValue(node);
+        const int effect = value != 0 && value != m_lCurrentEventID ? DragDrop::EffectMove
+                                                                    : DragDrop::EffectNone;
+        if (hover < DragDrop::HoverSeconds)
+            return effect;
+
+        // Near an edge the tree scrolls one node per movement; elsewhere a closed node opens.
+        bool scrolled = false;
+        const int edge = m_tvwTree->edgeAt(y);
+        if (edge < 0) {
+            int up = m_tvwTree->previous(node);
+            if (up == 0)
+                up = m_tvwTree->parent(node);
+            if (up != 0) {
+                m_tvwTree->ensureVisible(up);
+                scrolled = true;
+            }
+        } else if (edge > 0) {
+            int down = m_tvwTree->next(node);
+            if (down == 0)
+                down = m_tvwTree->firstSibling(node);
+            if (down != 0) {
+                m_tvwTree->ensureVisible(down);
+                scrolled = true;
+            }
+        }
+        if (!scrolled && !m_tvwTree->expanded(node)) {
+            m_tvwTree->setExpanded(node, true);
+            m_tvwTree->ensureVisible(node);
+        }
+        return effect;
+    });
+}
+
+int RuleViewBase::OLEDragDrop(const QString &data, int x, int y)
+{
+    return guarded("m_tvwTree_OLEDragDrop", module(), 0, [&]() -> int {
+        if (!AllowsDrag() || !hasControls() || !m_rulebase || !m_dragFormatRegistered)
+            return DragDrop::EffectNone;
+        const int node = m_tvwTree->hitTest(x, y);
+        if (node == 0)
+            return DragDrop::EffectNone;
+        const qint32 to = NodeValue(node);
+        if (!IsDropTarget(to))
+            return DragDrop::EffectNone;
+        MoveDroppedRules(DragDrop::keyList(data), m_lCurrentEventID, to);
+        NodeClick(m_tvwTree->selectedItem());
+        return DragDrop::EffectMove;
+    });
 }

@@ -77,6 +77,20 @@ protected:
     void ColumnClick(int column) override;
     void MouseMove(int x, int y) override;
 
+    // Dragging rows onto nodes moves their rules to the node's group. The hover over the tree
+    // highlights the node, opens it or scrolls at the edges after a while; the view's own rules
+    // come from the three hooks below.
+    QString OLEStartDrag() override;
+    void OLECompleteDrag() override;
+    int OLEDragOver(bool hasRuleData, int x, int y, int state) override;
+    int OLEDragDrop(const QString &data, int x, int y) override;
+    // Whether rows of this view may be dragged at all.
+    virtual bool AllowsDrag() const { return false; }
+    // Whether a node of this value takes the rules dragged from the source group.
+    virtual bool IsDropTarget(qint32 value) const;
+    // Moves the rules of the "|"-joined keys from one group to another.
+    virtual void MoveDroppedRules(const QString & /*keys*/, qint32 /*from*/, qint32 /*to*/) {}
+
     bool hasControls() const { return m_tvwTree && m_lvwList; }
     ::RuleLists &ruleLists() const;
     // The numeric reading of a node's key; of the selected node 0 when none is selected.
@@ -100,6 +114,8 @@ protected:
     std::shared_ptr<::Rulebase> m_rulebase;
     TreeControl *m_tvwTree = nullptr;
     ListControl *m_lvwList = nullptr;
+    // The group the current drag started from.
+    qint32 m_lCurrentEventID = 0;
 
 private:
     int SortColumnSetting() const;
@@ -109,4 +125,9 @@ private:
 
     Shape m_shape;
     bool m_opening = false;
+    // Set by the first drag this view starts: a drag it did not start finds no format.
+    bool m_dragFormatRegistered = false;
+    // The node the drag last hovered and when it got there.
+    int m_dragNode = 0;
+    int m_dragNodeSince = 0;
 };

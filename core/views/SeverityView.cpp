@@ -185,3 +185,21 @@ void SeverityView::DblClick()
         SetDocumentationWindowText(node);
     });
 }
+
+void SeverityView::MoveDroppedRules(const QString &keys, qint32 from, qint32 to)
+{
+    MoveConventions(keys, from, to);
+}
+
+void SeverityView::MoveConventions(const QString &keys, qint32 from, qint32 to)
+{
+    if (from == to)
+        return;
+    const auto all = ruleLists().AllConventions();
+    for (const QString &key : keys.split(QLatin1Char('|'), Qt::SkipEmptyParts)) {
+        all->Item(key)->ViolationDefinition()->setSeverity(to);
+        if (m_lvwList->find(key) != 0)
+            m_lvwList->remove(key);
+    }
+    RefreshView();
+}

@@ -24,4 +24,8 @@ private:
     void ResetSeverityNode();
     void ResetNode(const QString &key);
     void UpdateConvention(int row, const IRule &rule);
+
+    bool AllowsDrag() const override { return true; }
+    void MoveDroppedRules(const QString &keys, qint32 from, qint32 to) override;
+    void MoveConventions(const QString &keys, qint32 from, qint32 to);
 };

@@ -13,6 +13,11 @@ public:
     virtual void NodeClick(int node) = 0;
     virtual void Collapse(int node) = 0;
     virtual void DblClick() = 0;
+    // A drag of rows over a node and its drop. Effects: 0 none, 1 copy, 2 move; states: 0 enter,
+    // 1 leave, 2 over. `hasRuleData` tells whether the drag carries the private rule format.
+    // A view without drag and drop keeps these, which refuse everything.
+    virtual int OLEDragOver(bool /*hasRuleData*/, int /*x*/, int /*y*/, int /*state*/) { return 0; }
+    virtual int OLEDragDrop(const QString & /*data*/, int /*x*/, int /*y*/) { return 0; }
 };
 
 // The tree of the main window as the views use it. Nodes are the handles of RuleTreeControl:
@@ -47,6 +52,9 @@ public:
     virtual void setDropHighlight(int node) = 0;
     // The node at a point of the control, or 0.
     virtual int hitTest(int x, int y) const = 0;
+    // Where a point lies for scrolling during a drag: -1 within 200 twips of the top edge, 1
+    // within 200 twips of the bottom edge, 0 elsewhere.
+    virtual int edgeAt(int y) const = 0;
 
     // Not owned; nullptr stops the events.
     virtual void setEventSink(TreeControlEvents *events) = 0;

@@ -344,9 +344,9 @@ TEST(MainWindow, ShowsTheCategoryViewInTheRealTreeAndList)
         EXPECT_TRUE(tvw->isExpanded(root));
         EXPECT_TRUE(root.data().toString().startsWith(QStringLiteral("Category")));
         EXPECT_EQ(tvw->currentIndex(), root);
-        EXPECT_EQ(window.findChild<QLabel *>(QStringLiteral("lblTreeTitle"))->text(),
+        EXPECT_EQ(window.findChild<QLabel *>(QStringLiteral("lblTreeViewTitle"))->text(),
                   QStringLiteral(" Conventions by Category"));
-        EXPECT_TRUE(window.findChild<QLabel *>(QStringLiteral("lblListTitle"))
+        EXPECT_TRUE(window.findChild<QLabel *>(QStringLiteral("lblListViewTitle"))
                         ->text()
                         .contains(QStringLiteral("All Items")));
 
@@ -374,7 +374,7 @@ TEST(MainWindow, ShowsTheCategoryViewInTheRealTreeAndList)
             }
         }
         EXPECT_GT(inactive, 0);
-        EXPECT_FALSE(window.findChild<QLabel *>(QStringLiteral("lblNoItems"))->isVisibleTo(lvw));
+        EXPECT_FALSE(window.findChild<QLabel *>(QStringLiteral("txtNoItems"))->isVisibleTo(lvw));
 
         // A click on a category shows only its rules; an empty one says so over the list.
         const QModelIndex first = tvw->model()->index(0, 0, root);
@@ -385,7 +385,7 @@ TEST(MainWindow, ShowsTheCategoryViewInTheRealTreeAndList)
         for (qint32 i = 1; i <= all->Count(); ++i)
             expected += all->Item(i)->ViolationDefinition()->CategoryID() == categoryID ? 1 : 0;
         EXPECT_EQ(rows->rowCount(), expected);
-        EXPECT_EQ(window.findChild<QLabel *>(QStringLiteral("lblNoItems"))->isVisibleTo(lvw),
+        EXPECT_EQ(window.findChild<QLabel *>(QStringLiteral("txtNoItems"))->isVisibleTo(lvw),
                   expected == 0);
 
         EXPECT_TRUE(window.close());
