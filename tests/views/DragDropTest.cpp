@@ -1,0 +1,263 @@
+#include "ViewTestSupport.h"
+
+#include "platform/TextUtils.h"
+#include "rulebase/CategoryItem.h"
+#include "rulebase/CategoryList.h"
+#include "rulebase/CodingConvention.h"
+#include "rulebase/IRule.h"
+#include "rulebase/RuleLists.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/ViolationDefinition.h"
+#include "views/CategoryView.h"
+#include "views/CodingConventionsView.h"
+#include "views/DragDrop.h"
+#include "views/NamingConventionsView.h"
+#include "views/SeverityView.h"
+#include "vocabulary/VBParserEvents.h"
+
+#include "support/MemoryMainForm.h"
+#include "support/ScriptedUserInterface.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// A view of the sample on the in-memory controls, with the hover clock in the test's hands.
+template<typename View>
+struct DragFixture
+{
+    DragFixture()
+        : rulebase(ViewTest::loadSample())
+        , view(std::make_unique<View>())
+    {
+        DragDrop::setClock([this] { return now; });
+        view->setRulebase(rulebase);
+        view->setMainForm(&form);
+        view->Customise();
+        view->Populate();
+    }
+    ~DragFixture() { DragDrop::setClock({}); }
+
+    MemoryTreeControl &tree() { return form.treeControl; }
+    MemoryListControl &list() { return form.listControl; }
+    // Clicks the node of `key` and selects the first `rows` rows of its list.
+    void showNode(const QString &key, int rows)
+    {
+        tree().click(tree().find(key));
+        for (int row = 1; row <= list().count(); ++row)
+            list().setSelected(row, row <= rows);
+    }
+    QStringList selectedKeys() const
+    {
+        QStringList keys;
+        for (int row = 1; row <= form.listControl.count(); ++row) {
+            if (form.listControl.selected(row))
+                keys << form.listControl.key(row);
+        }
+        return keys;
+    }
+
+    int now = 1000;
+    ViewTest::AdminDataScope settings;
+    ScriptedUserInterface ui;
+    ScriptedLauncher launcher;
+    MemoryMainForm form;
+    std::shared_ptr<Rulebase> rulebase;
+    std::unique_ptr<View> view;
+};
+
+qint32 categoryOf(const Rulebase &rulebase, const QString &key)
+{
+    return rulebase.RuleLists()->AllConventions()->Item(key)->ViolationDefinition()->CategoryID();
+}
+
+} // namespace
+
+TEST(DragDrop, PayloadJoinsKeysAndTheDropReadsUpToTheDoubleBar)
+{
+    EXPECT_EQ(DragDrop::payload({QStringLiteral("5001Key"), QStringLiteral("5002Key")}),
+              QStringLiteral("5001Key|5002Key||"));
+    EXPECT_EQ(DragDrop::keyList(QStringLiteral("5001Key|5002Key||junk")), QStringLiteral("5001Key|5002Key"));
+    EXPECT_EQ(DragDrop::keyList(QStringLiteral("5001Key")), QStringLiteral("5001Key"));
+}
+
+TEST(CategoryDragDrop, RowsDraggedOntoACategoryTakeItAndLeaveTheList)
+{
+    DragFixture<CategoryView> f;
+    const CategoryList &categories = *f.rulebase->CategoryList();
+    ASSERT_GE(categories.Count(), 2);
+    const QString sourceKey = categories.Item(1)->Key();
+    const QString targetKey = categories.Item(2)->Key();
+    const qint32 source = categories.Item(1)->ID();
+    const qint32 target = categories.Item(2)->ID();
+
+    // From the root nothing can be dragged, and a view that started no drag refuses one.
+    f.showNode(QStringLiteral("Category"), 1);
+    EXPECT_TRUE(f.list().startDrag().isEmpty());
+    EXPECT_EQ(f.tree().dragOver(f.tree().find(targetKey)), DragDrop::EffectNone);
+    EXPECT_EQ(f.tree().drop(QStringLiteral("5001Key||"), f.tree().find(targetKey)), DragDrop::EffectNone);
+
+    f.showNode(sourceKey, 2);
+    ASSERT_GE(f.list().count(), 2) << "the first category of the sample holds two rules or more";
+    const QStringList dragged = f.selectedKeys();
+    const int rowsBefore = f.list().count();
+    const QString data = f.list().startDrag();
+    EXPECT_EQ(data, dragged.join('|') + "||");
+
+    // Over the tree: none on the root, on the source and off the nodes, or without the format.
+    EXPECT_EQ(f.tree().dragOver(1), DragDrop::EffectNone);
+    EXPECT_EQ(f.tree().dragOver(f.tree().find(sourceKey)), DragDrop::EffectNone);
+    EXPECT_EQ(f.tree().dragOver(f.tree().count() + 5), DragDrop::EffectNone);
+    EXPECT_EQ(f.tree().dragOver(f.tree().find(targetKey), DragDrop::StateOver, false), DragDrop::EffectNone);
+    EXPECT_EQ(f.tree().dragOver(f.tree().find(targetKey)), DragDrop::EffectMove);
+    EXPECT_EQ(f.tree().dropHighlight(), f.tree().find(targetKey));
+    EXPECT_EQ(f.tree().dragOver(f.tree().find(QStringLiteral("-1K"))), DragDrop::EffectMove);
+
+    // Dropped on the root or the source nothing moves.
+    EXPECT_EQ(f.tree().drop(data, 1), DragDrop::EffectNone);
+    EXPECT_EQ(f.tree().drop(data, f.tree().find(sourceKey)), DragDrop::EffectNone);
+    EXPECT_EQ(categoryOf(*f.rulebase, dragged.first()), source);
+
+    EXPECT_EQ(f.tree().drop(data, f.tree().find(targetKey)), DragDrop::EffectMove);
+    for (const QString &key : dragged) {
+        EXPECT_EQ(categoryOf(*f.rulebase, key), target) << key.toStdString();
+        EXPECT_EQ(f.list().find(key), 0);
+    }
+    EXPECT_EQ(f.list().count(), rowsBefore - 2);
+    EXPECT_TRUE(f.rulebase->Dirty());
+    f.list().completeDrag();
+    EXPECT_EQ(f.tree().dropHighlight(), 0);
+
+    // A drop on "Unallocated" takes the category away.
+    f.showNode(targetKey, 1);
+    const QString one = f.selectedKeys().first();
+    const QString again = f.list().startDrag();
+    EXPECT_EQ(f.tree().drop(again, f.tree().find(QStringLiteral("-1K"))), DragDrop::EffectMove);
+    EXPECT_EQ(categoryOf(*f.rulebase, one), -1);
+    EXPECT_TRUE(f.tree().text(f.tree().find(QStringLiteral("-1K"))).startsWith(QStringLiteral("Unallocated (")));
+    EXPECT_TRUE(f.ui.messages.empty());
+}
+
+TEST(CategoryDragDrop, AHoveredNodeOpensAfterTwoSecondsAndTheEdgesScroll)
+{
+    DragFixture<CategoryView> f;
+    const int root = 1;
+    f.showNode(f.rulebase->CategoryList()->Item(1)->Key(), 1);
+    ASSERT_FALSE(f.list().startDrag().isEmpty());
+
+    f.tree().setExpanded(root, false);
+    f.tree().dragOver(root);
+    f.now += 1;
+    f.tree().dragOver(root);
+    EXPECT_FALSE(f.tree().expanded(root)) << "one second is not enough";
+    f.now += 1;
+    f.tree().dragOver(root);
+    EXPECT_TRUE(f.tree().expanded(root));
+
+    // At the bottom edge the hover scrolls to the next node; a move to another node starts
+    // the count again.
+    const int last = f.tree().count();
+    const std::size_t shown = f.tree().madeVisible().size();
+    f.tree().setHeight(last);
+    f.tree().dragOver(last - 1);
+    f.now += 5;
+    f.tree().dragOver(last);
+    EXPECT_EQ(f.tree().madeVisible().size(), shown) << "a new node starts its hover at 0";
+    f.now += 2;
+    f.tree().dragOver(last);
+    ASSERT_EQ(f.tree().madeVisible().size(), shown + 1);
+    // The last child has no next node: its first sibling comes into view.
+    EXPECT_EQ(f.tree().madeVisible().back(), f.tree().firstSibling(last));
+
+    // Across midnight the hover time goes negative and nothing happens.
+    f.tree().setExpanded(root, false);
+    f.tree().setHeight(0);
+    f.tree().dragOver(root + 1);
+    f.tree().dragOver(root);
+    f.now = 0;
+    f.tree().dragOver(root);
+    EXPECT_FALSE(f.tree().expanded(root));
+    // A leave does nothing at all.
+    EXPECT_EQ(f.tree().dragOver(root + 1, DragDrop::StateLeave), DragDrop::EffectNone);
+    EXPECT_EQ(f.tree().dropHighlight(), root);
+}
+
+TEST(SeverityDragDrop, RowsDraggedOntoASeverityTakeItsLevel)
+{
+    DragFixture<SeverityView> f;
+    // The first severity node with rules is the source; another is the target.
+    int source = 0;
+    for (int node = 2; node <= f.tree().count() && source == 0; ++node) {
+        f.tree().click(node);
+        if (f.list().count() > 0)
+            source = node;
+    }
+    ASSERT_NE(source, 0);
+    const int target = source == 2 ? 3 : 2;
+    f.showNode(f.tree().key(source), 1);
+    const QString key = f.selectedKeys().first();
+    const QString data = f.list().startDrag();
+    EXPECT_EQ(f.tree().dragOver(target), DragDrop::EffectMove);
+    EXPECT_EQ(f.tree().drop(data, target), DragDrop::EffectMove);
+    const auto rule = f.rulebase->RuleLists()->AllConventions()->Item(key);
+    EXPECT_EQ(rule->ViolationDefinition()->Severity(), Text::valLong(f.tree().key(target)));
+    EXPECT_EQ(f.list().find(key), 0);
+}
+
+TEST(CodingConventionDragDrop, PendingConventionsStayAndTheOthersChangeOneEvent)
+{
+    DragFixture<CodingConventionsView> f;
+    const qint32 from = 30;
+    const qint32 to = 31;
+    const QString fromKey = VBParserEvents::ParserEventKey(from);
+    const int target = f.tree().find(VBParserEvents::ParserEventKey(to));
+    ASSERT_NE(target, 0);
+    RuleLists &lists = *f.rulebase->RuleLists();
+    const int toBefore = lists.ParserEventCCList(to, false) ? lists.ParserEventCCList(to, false)->Count() : 0;
+
+    f.showNode(fromKey, 1000);
+    const QStringList keys = f.selectedKeys();
+    ASSERT_TRUE(keys.contains(QStringLiteral("5020Key"))) << "the sample's pending convention";
+    int pending = 0;
+    for (const QString &key : keys)
+        pending += lists.CodingConventions()->Item(key)->PendingViolation() ? 1 : 0;
+    const QString data = f.list().startDrag();
+
+    // The root is no target for a drop.
+    EXPECT_EQ(f.tree().drop(data, 1), DragDrop::EffectNone);
+    EXPECT_EQ(f.tree().drop(data, target), DragDrop::EffectMove);
+
+    // One message however many pending conventions were held back.
+    ASSERT_EQ(f.ui.messages.size(), 1u);
+    EXPECT_EQ(f.ui.messages.front().text,
+              QStringLiteral("Coding conventions defined to trigger pending violations cannot be "
+                             "re-assigned to a different event by dragging and must instead be moved manually."));
+    EXPECT_EQ(f.ui.messages.front().icon, MessageIcon::Information);
+
+    for (const QString &key : keys) {
+        const auto convention = lists.CodingConventions()->Item(key);
+        if (convention->PendingViolation()) {
+            EXPECT_TRUE(convention->IsAssignedToEvent(from)) << key.toStdString();
+            EXPECT_FALSE(convention->IsAssignedToEvent(to)) << key.toStdString();
+        } else {
+            EXPECT_FALSE(convention->IsAssignedToEvent(from)) << key.toStdString();
+            EXPECT_TRUE(convention->IsAssignedToEvent(to)) << key.toStdString();
+        }
+    }
+    // The per-event lists follow, and the list shows what is left on the source event.
+    EXPECT_EQ(lists.ParserEventCCList(to, false)->Count(), toBefore + int(keys.size()) - pending);
+    EXPECT_EQ(f.list().count(), pending);
+    EXPECT_TRUE(f.tree().text(target).contains(QString::number(toBefore + int(keys.size()) - pending)));
+}
+
+TEST(NamingConventionDragDrop, NamingConventionsAreNotDragged)
+{
+    DragFixture<NamingConventionsView> f;
+    f.tree().click(2);
+    for (int row = 1; row <= f.list().count(); ++row)
+        f.list().setSelected(row, true);
+    EXPECT_TRUE(f.list().startDrag().isEmpty());
+    EXPECT_EQ(f.tree().dragOver(3), DragDrop::EffectNone);
+    EXPECT_EQ(f.tree().drop(QStringLiteral("5001Key||"), 3), DragDrop::EffectNone);
+    EXPECT_EQ(f.tree().dropHighlight(), 0);
+}
