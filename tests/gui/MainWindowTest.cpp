@@ -1,15 +1,32 @@
 #include "application/Application.h"
+#include "application/HelpTopics.h"
 #include "application/Startup.h"
+#include "gui/QtListControl.h"
+#include "gui/QtTreeControl.h"
 #include "gui/frmMain.h"
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
+#include "rulebase/CategoryItem.h"
+#include "rulebase/CategoryList.h"
+#include "rulebase/IRule.h"
+#include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
+#include "rulebase/ViolationDefinition.h"
+#include "views/CommandTable.h"
+#include "views/DragDrop.h"
+#include "views/IViewController.h"
+#include "views/ViewFactory.h"
 
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QDragEnterEvent>
 #include <QLabel>
+#include <QMimeData>
+#include <QSplitter>
+#include <QTreeView>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QToolBar>
@@ -59,4 +76,168 @@ TEST(MainWindow, OpensTheSampleWithItsMenusAndClosesWithoutAsking)
         EXPECT_TRUE(ui.messages.empty());
     }
     DestroyGlobalObjects();
+}
+
+namespace {
+
+// The sample in a fresh window, as the program starts it; the globals live as long as this.
+struct SampleWindow
+{
+    SampleWindow()
+    {
+        EXPECT_EQ(CreateGlobalObjects(), 0);
+        gobjAdminData->setFirstUse(false);
+        gobjAdminData->setDisplayTips(false);
+        window = std::make_unique<frmMain>(false);
+        app = std::make_unique<Application>(window.get(), createView);
+        window->setApplication(app.get());
+        opened = RunStartup(*app, TestEnvironment::sampleRulebase());
+    }
+    ~SampleWindow()
+    {
+        window->close();
+        app.reset();
+        window.reset();
+        DestroyGlobalObjects();
+    }
+    QSplitter *splitter(const char *name) const { return window->findChild<QSplitter *>(QLatin1String(name)); }
+
+    ScriptedUserInterface ui;
+    std::unique_ptr<frmMain> window;
+    std::unique_ptr<Application> app;
+    bool opened = false;
+};
+
+} // namespace
+
+TEST(MainWindow, EveryViewCanBeShownAndF1OpensItsPage)
+{
+    TestEnvironment::clearSettings();
+    SampleWindow w;
+    ASSERT_TRUE(w.opened);
+    w.window->resize(900, 600);
+    QApplication::processEvents();
+
+    for (const QString &id : CommandTable::viewTools()) {
+        QAction *tool = w.window->tool(id);
+        const bool built = createView(id) != nullptr;
+        // A view that is not built yet is disabled and says so; the others switch.
+        EXPECT_EQ(tool->isEnabled(), built) << id.toStdString();
+        if (!built) {
+            EXPECT_TRUE(tool->toolTip().contains(QStringLiteral("later"))) << id.toStdString();
+            continue;
+        }
+        tool->trigger();
+        EXPECT_EQ(w.app->CurrentViewName(), id);
+        EXPECT_TRUE(tool->isChecked());
+        EXPECT_GT(w.window->tree()->count(), 0) << id.toStdString();
+        EXPECT_FALSE(w.window->findChild<QLabel *>(QStringLiteral("lblTreeViewTitle"))->text().isEmpty());
+
+        w.window->showContextHelp();
+        ASSERT_FALSE(w.ui.helpRequests.empty());
+        const HelpRequest &help = w.ui.helpRequests.back();
+        EXPECT_EQ(help.command, HelpCommand::Context);
+        EXPECT_FALSE(HelpTopics::pageForContext(help.context).isEmpty()) << help.context;
+    }
+    w.window->tool(QStringLiteral("tlCategoryView"))->trigger();
+    w.window->showContextHelp();
+    EXPECT_EQ(w.ui.helpRequests.back().context, 68);
+    EXPECT_EQ(HelpTopics::pageForContext(68), QStringLiteral("CategoryView.htm"));
+
+    // Rows carry their severity's picture, and the list header the selected node's.
+    const QModelIndex first = w.window->lvwMain()->model()->index(0, 0);
+    EXPECT_FALSE(first.data(Qt::DecorationRole).value<QIcon>().isNull());
+    EXPECT_FALSE(w.window->findChild<QLabel *>(QStringLiteral("imgListHeader"))->pixmap().isNull());
+    EXPECT_FALSE(w.window->tool(QStringLiteral("tlSaveRulebase"))->icon().isNull());
+}
+
+TEST(MainWindow, PaneSizesColumnsAndPlaceSurviveACloseAndAReopen)
+{
+    TestEnvironment::clearSettings();
+    QList<int> treeAndList;
+    QList<int> treeAndDocs;
+    double titleShare = 0;
+    {
+        SampleWindow w;
+        ASSERT_TRUE(w.opened);
+        w.window->setGeometry(40, 50, 1000, 700);
+        QApplication::processEvents();
+        w.splitter("picContainer")->setSizes({300, 600});
+        QSplitter *left = qobject_cast<QSplitter *>(w.window->tvwMain()->parentWidget()->parentWidget());
+        ASSERT_NE(left, nullptr);
+        left->setSizes({400, 150});
+        QApplication::processEvents();
+        treeAndList = w.splitter("picContainer")->sizes();
+        treeAndDocs = left->sizes();
+        ListControl *list = w.window->list();
+        list->setColumnWidth(2, list->width() / 2);
+        titleShare = double(list->columnWidth(2)) / list->width();
+        EXPECT_TRUE(w.window->close());
+        EXPECT_EQ(gobjAdminData->TreeWidth(), treeAndList.at(0) * 15);
+        EXPECT_EQ(gobjAdminData->DocHeight(), treeAndDocs.at(1) * 15);
+        EXPECT_EQ(gobjAdminData->MainWidth(), 1000 * 15);
+        EXPECT_NEAR(gobjAdminData->ListColWidthCC(2), titleShare, 0.01);
+    }
+    {
+        SampleWindow w;
+        ASSERT_TRUE(w.opened);
+        QApplication::processEvents();
+        EXPECT_EQ(w.window->geometry(), QRect(40, 50, 1000, 700));
+        EXPECT_EQ(w.splitter("picContainer")->sizes().at(0), treeAndList.at(0));
+        QSplitter *left = qobject_cast<QSplitter *>(w.window->tvwMain()->parentWidget()->parentWidget());
+        EXPECT_EQ(left->sizes().at(1), treeAndDocs.at(1));
+        ListControl *list = w.window->list();
+        EXPECT_NEAR(double(list->columnWidth(2)) / list->width(), titleShare, 0.02);
+    }
+}
+
+TEST(MainWindow, ARowDraggedOntoACategoryNodeMovesTheRule)
+{
+    TestEnvironment::clearSettings();
+    SampleWindow w;
+    ASSERT_TRUE(w.opened);
+    w.window->resize(1000, 700);
+    QApplication::processEvents();
+    ASSERT_EQ(w.app->CurrentViewName(), QStringLiteral("tlCategoryView"));
+    const CategoryList &categories = *w.app->rulebase()->CategoryList();
+    auto *tree = static_cast<QtTreeControl *>(w.window->tree());
+    auto *list = static_cast<QtListControl *>(w.window->list());
+
+    // Show the first category and pick its first rule.
+    const int source = tree->find(categories.Item(1)->Key());
+    const int target = tree->find(categories.Item(2)->Key());
+    w.window->tvwMain()->selectionModel()->setCurrentIndex(tree->indexOf(source),
+                                                            QItemSelectionModel::ClearAndSelect);
+    ASSERT_GT(list->count(), 0);
+    list->setSelectedItem(1);
+    const QString key = list->key(1);
+    std::unique_ptr<QMimeData> data(list->dragData());
+    ASSERT_NE(data, nullptr);
+    EXPECT_TRUE(data->hasFormat(QLatin1String(DragDrop::MimeType)));
+
+    QWidget *viewport = w.window->tvwMain()->viewport();
+    const QPoint at = w.window->tvwMain()->visualRect(tree->indexOf(target)).center();
+    QDragEnterEvent enter(at, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(viewport, &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDragMoveEvent move(at, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(viewport, &move);
+    EXPECT_TRUE(move.isAccepted());
+    EXPECT_EQ(move.dropAction(), Qt::MoveAction);
+    EXPECT_EQ(tree->dropHighlight(), target);
+    EXPECT_TRUE(tree->indexOf(target).data(Qt::BackgroundRole).isValid());
+
+    QDropEvent drop(QPointF(at), Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(viewport, &drop);
+    EXPECT_TRUE(drop.isAccepted());
+    const auto rule = w.app->rulebase()->RuleLists()->AllConventions()->Item(key);
+    EXPECT_EQ(rule->ViolationDefinition()->CategoryID(), categories.Item(2)->ID());
+    EXPECT_EQ(list->find(key), 0);
+
+    // Dropped text of another kind is refused.
+    QMimeData text;
+    text.setText(QStringLiteral("5001Key||"));
+    QDragEnterEvent other(at, Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(viewport, &other);
+    EXPECT_FALSE(other.isAccepted());
 }

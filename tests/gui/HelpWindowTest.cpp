@@ -1,0 +1,126 @@
+#include "application/HelpTopics.h"
+#include "gui/GuiUserInterface.h"
+#include "gui/window/HelpWindow.h"
+#include "gui/window/Images.h"
+
+#include <QAction>
+#include <QFile>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTextBrowser>
+
+#include <gtest/gtest.h>
+
+namespace {
+QString pageText(const QString &page)
+{
+    QFile file(QStringLiteral(":/help/") + page);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+} // namespace
+
+TEST(HelpTopics, ContextIdsAndTopicPathsNameThePagesOfTheHelp)
+{
+    EXPECT_EQ(HelpTopics::pageForContext(65), QStringLiteral("CodingConventionsView.htm"));
+    EXPECT_EQ(HelpTopics::pageForContext(66), QStringLiteral("NamingConventionsView.htm"));
+    EXPECT_EQ(HelpTopics::pageForContext(67), QStringLiteral("AuthorityItemsView.htm"));
+    EXPECT_EQ(HelpTopics::pageForContext(68), QStringLiteral("CategoryView.htm"));
+    EXPECT_EQ(HelpTopics::pageForContext(69), QStringLiteral("SeverityView.htm"));
+    EXPECT_EQ(HelpTopics::pageForContext(89), QStringLiteral("CategoryList.htm"));
+    EXPECT_EQ(HelpTopics::pageForContext(91), QStringLiteral("SeverityList.htm"));
+    EXPECT_TRUE(HelpTopics::pageForContext(12345).isEmpty());
+    EXPECT_EQ(HelpTopics::topicPath(68), QStringLiteral("::/CategoryView.htm"));
+
+    // The topics the dialogs name, whatever the case or the ".htm"/".html" ending.
+    EXPECT_EQ(HelpTopics::pageForTopic(QStringLiteral("::/Introduction.html")), QStringLiteral("Introduction.html"));
+    EXPECT_EQ(HelpTopics::pageForTopic(QStringLiteral("::/categoryeditor.HTML")), QStringLiteral("CategoryEditor.htm"));
+    EXPECT_EQ(HelpTopics::pageForTopic(QStringLiteral("/DefaultViolations.htm#top")),
+              QStringLiteral("DefaultViolations.htm#top"));
+    for (const char *topic : {"::/CategoryEditor.htm", "::/SeverityEditor.htm", "::/CategoryList.htm",
+                              "::/SeverityList.htm", "::/DefaultViolations.htm", "::/AuthorisedComponent.htm",
+                              "::/AuthorisedReference.htm"})
+        EXPECT_FALSE(HelpTopics::pageForTopic(QLatin1String(topic)).isEmpty()) << topic;
+    EXPECT_TRUE(HelpTopics::pageForTopic(QStringLiteral("::/NoSuchPage.htm")).isEmpty());
+}
+
+TEST(HelpTopics, EveryPageExistsAndEveryLinkBetweenPagesLeadsToOne)
+{
+    Images::initialise();
+    QStringList pages{HelpTopics::contentsPage(), HelpTopics::searchPage()};
+    for (const HelpTopics::Topic &topic : HelpTopics::all())
+        pages << QLatin1String(topic.page);
+    const QRegularExpression link(QStringLiteral("href=\"([^\"#:]+)"));
+    QSet<QString> linked;
+    for (const QString &page : std::as_const(pages)) {
+        const QString html = pageText(page);
+        ASSERT_FALSE(html.isEmpty()) << page.toStdString();
+        EXPECT_TRUE(html.contains(QStringLiteral("<title>"))) << page.toStdString();
+        for (auto m = link.globalMatch(html); m.hasNext();) {
+            const QString target = m.next().captured(1);
+            EXPECT_TRUE(QFile::exists(QStringLiteral(":/help/") + target))
+                << page.toStdString() << " links to " << target.toStdString();
+            linked << target;
+        }
+    }
+    // The contents reach every topic.
+    for (const HelpTopics::Topic &topic : HelpTopics::all())
+        EXPECT_TRUE(linked.contains(QLatin1String(topic.page))) << topic.page;
+}
+
+TEST(HelpWindow, OpensThePageOfAContextIdOrATopicAndKeepsOneWindow)
+{
+    HelpWindow *help = HelpWindow::instance();
+    EXPECT_EQ(HelpWindow::instance(), help);
+    EXPECT_TRUE(help->showContext(68));
+    EXPECT_EQ(help->currentPage(), QStringLiteral("CategoryView.htm"));
+    EXPECT_TRUE(help->browser()->toPlainText().contains(QStringLiteral("Unallocated")));
+    EXPECT_TRUE(help->isVisible());
+
+    EXPECT_TRUE(help->showTopic(QStringLiteral("::/CategoryList.htm")));
+    EXPECT_EQ(help->currentPage(), QStringLiteral("CategoryList.htm"));
+    // Back and forward walk the pages shown.
+    QAction *back = help->findChild<QAction *>(QStringLiteral("actBack"));
+    ASSERT_NE(back, nullptr);
+    EXPECT_TRUE(back->isEnabled());
+    back->trigger();
+    EXPECT_EQ(help->currentPage(), QStringLiteral("CategoryView.htm"));
+    help->findChild<QAction *>(QStringLiteral("actForward"))->trigger();
+    EXPECT_EQ(help->currentPage(), QStringLiteral("CategoryList.htm"));
+
+    // An unknown topic or id shows the contents and says so.
+    EXPECT_FALSE(help->showTopic(QStringLiteral("::/Nowhere.htm")));
+    EXPECT_EQ(help->currentPage(), HelpTopics::contentsPage());
+    EXPECT_FALSE(help->showContext(4242));
+    EXPECT_EQ(help->currentPage(), HelpTopics::contentsPage());
+
+    // The program's user interface opens the same window.
+    GuiUserInterface ui(true);
+    ui.showHelp(HelpCommand::Context, QString(), 65);
+    EXPECT_EQ(HelpWindow::existing(), help);
+    EXPECT_EQ(help->currentPage(), QStringLiteral("CodingConventionsView.htm"));
+    ui.showHelp(HelpCommand::Topic, QStringLiteral("::/Introduction.html"), 0);
+    EXPECT_EQ(help->currentPage(), QStringLiteral("Introduction.html"));
+    ui.showHelp(HelpCommand::Contents, QString(), 0);
+    EXPECT_EQ(help->currentPage(), HelpTopics::contentsPage());
+    ui.showHelp(HelpCommand::Search, QString(), 0);
+    EXPECT_EQ(help->currentPage(), HelpTopics::searchPage());
+    help->close();
+}
+
+TEST(HelpWindow, SearchFindsThePagesThatHoldEveryWord)
+{
+    const QStringList severity = HelpWindow::search(QStringLiteral("severity colour"));
+    EXPECT_TRUE(severity.contains(QStringLiteral("SeverityEditor.htm")));
+    EXPECT_FALSE(severity.contains(QStringLiteral("PatternTest.htm")));
+    EXPECT_TRUE(HelpWindow::search(QStringLiteral("UNALLOCATED")).contains(QStringLiteral("CategoryView.htm")));
+    EXPECT_TRUE(HelpWindow::search(QStringLiteral("zyxwvut")).isEmpty());
+    EXPECT_TRUE(HelpWindow::search(QStringLiteral("   ")).isEmpty());
+
+    HelpWindow *help = HelpWindow::instance();
+    help->findChild<QLineEdit *>(QStringLiteral("txtSearch"))->setText(QStringLiteral("pending violation"));
+    emit help->findChild<QLineEdit *>(QStringLiteral("txtSearch"))->returnPressed();
+    const QString results = help->browser()->toHtml();
+    EXPECT_TRUE(results.contains(QStringLiteral("CodingConvention.htm")));
+    help->close();
+}
