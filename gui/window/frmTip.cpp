@@ -91,7 +91,7 @@ frmTip::frmTip(QWidget *parent)
 QString frmTip::tipsFile()
 {
     Images::initialise();
-    return QStringLiteral(":/tips.txt");
+    return QStringLiteral(":/QuorinAdmin.tip");
 }
 
 QStringList frmTip::LoadTips(const QString &path)
