@@ -142,6 +142,7 @@ void CategorySeverityForm::DisplayCategoryEditor(int itemIndex)
 
         CategoryEditorForm editor;
         editor.setCategoryItem(item);
+        editor.Load();
         IFormFactory::current().runCategoryEditor(editor);
         if (editor.Cancelled())
             return;
@@ -174,6 +175,7 @@ void CategorySeverityForm::DisplaySeverityEditor()
         SeverityEditorForm editor;
         editor.setSeverityItem(item);
         editor.setImageCount(m_imageCount);
+        editor.Load();
         IFormFactory::current().runSeverityEditor(editor);
         if (editor.Cancelled())
             return;
