@@ -38,9 +38,9 @@ frmCategorySeverity::frmCategorySeverity(CategorySeverityForm &form, QWidget *pa
     m_description->setReadOnly(true);
     m_description->setMaximumHeight(90);
 
-    m_add = DialogSupport::button(QStringLiteral("cmdAdd"), QStringLiteral("&Add..."));
+    m_add = DialogSupport::button(QStringLiteral("cmdAdd"), QStringLiteral("&Add..."), this);
     m_edit = DialogSupport::button(QStringLiteral("cmdEdit"), QStringLiteral("&Edit..."));
-    m_delete = DialogSupport::button(QStringLiteral("cmdDelete"), QStringLiteral("De&lete"));
+    m_delete = DialogSupport::button(QStringLiteral("cmdDelete"), QStringLiteral("De&lete"), this);
     auto *help = DialogSupport::button(QStringLiteral("cmdHelp"), QStringLiteral("&Help"));
     auto *close = DialogSupport::button(QStringLiteral("cmdClose"), QStringLiteral("Close"));
     close->setDefault(true);
