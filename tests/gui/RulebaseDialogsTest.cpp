@@ -1,5 +1,7 @@
 #include "application/Application.h"
 #include "application/Startup.h"
+#include "editors/TagGridModel.h"
+#include "editors/TagListForm.h"
 #include "gui/factory/GuiFormFactory.h"
 #include "gui/frmMain.h"
 #include "platform/GlobalObjects.h"
@@ -29,6 +31,14 @@
 #include <QTreeWidget>
 
 #include <functional>
+
+// The grid's model goes through Qt's model tester when QtTest is installed.
+#if __has_include(<QAbstractItemModelTester>)
+#include <QAbstractItemModelTester>
+#define QUORIN_HAVE_MODEL_TESTER 1
+#else
+#define QUORIN_HAVE_MODEL_TESTER 0
+#endif
 
 #include <gtest/gtest.h>
 
@@ -248,3 +258,28 @@ TEST_F(RulebaseDialogs, TagListsShowTheirFacesAndCancelLeavesTheSet)
     trigger("tlScopeTags");
     EXPECT_FALSE(rulebase->Dirty());
 }
+
+#if QUORIN_HAVE_MODEL_TESTER
+TEST(TagGridModel, PassesTheModelTesterThroughInsertsDeletesTabsAndTheOption)
+{
+    ScriptedUserInterface ui;
+    Rulebase rulebase;
+    TagListForm form;
+    form.Initialise(rulebase.DataTypeTags(), TagListForm::DataTypeTags);
+    QAbstractItemModelTester tester(form.grid(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const qint32 row = form.Insert();
+    EXPECT_EQ(form.grid()->rowCount(), row);
+    form.Delete(row);
+    form.SelectTab(1);
+    EXPECT_EQ(form.grid()->rowCount(), 10);
+    form.SelectTab(0);
+
+    TagListForm controls;
+    controls.Initialise(rulebase.ControlTags(), TagListForm::ControlTags);
+    QAbstractItemModelTester controlTester(controls.grid(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    controls.setOption(true);
+    controls.setOption(false);
+    EXPECT_EQ(controls.grid()->rowCount(), 23);
+    EXPECT_TRUE(ui.messages.empty());
+}
+#endif
