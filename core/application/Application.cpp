@@ -1,6 +1,12 @@
 #include "application/Application.h"
 
 #include "application/IMainForm.h"
+#include "collections/ObjectKeyedListAdapter.h"
+#include "editors/CategorySeverityForm.h"
+#include "editors/DefaultViolationsForm.h"
+#include "editors/IFormFactory.h"
+#include "editors/RulebasePropertiesForm.h"
+#include "editors/TagListForm.h"
 #include "platform/ErrorFrame.h"
 #include "platform/FileUtils.h"
 #include "platform/GlobalObjects.h"
@@ -8,9 +14,12 @@
 #include "platform/QuorinData.h"
 #include "platform/TextUtils.h"
 #include "platform/UserInterface.h"
+#include "rulebase/CategoryList.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseLoadCriteria.h"
 #include "rulebase/RulebaseManager.h"
+#include "rulebase/SeverityItem.h"
+#include "rulebase/TagItem.h"
 #include "views/IViewController.h"
 
 #include <QDir>
@@ -269,12 +278,109 @@ void Application::ShellDocumentFile(const QString &document)
     UserInterface::current().shellOpen(document);
 }
 
-// The dialogs behind these commands arrive with their own features.
-void Application::ShowCategoryList() {}
-void Application::ShowSeverityList() {}
-void Application::ShowDefaultViolations() {}
-void Application::ShowRulebasePropertiesDialog() {}
-void Application::ShowTagList(int) {}
+void Application::ShowCategoryList()
+{
+    guardedVoid("ShowCategoryList", module, [this] {
+        if (!m_rulebase)
+            return;
+        CategorySeverityForm form;
+        form.setDialogType(CategorySeverityForm::Categories);
+        form.setItemList(asKeyedList(m_rulebase->CategoryList()));
+        form.setRulebase(m_rulebase);
+        form.Load();
+        IFormFactory::current().runCategorySeverity(form);
+        if (!form.Dirty())
+            return;
+        m_rulebase->CategoryList()->Sort();
+        if (m_currentView)
+            m_currentView->CategoryListChanged();
+    });
+}
+
+void Application::ShowSeverityList()
+{
+    guardedVoid("ShowSeverityList", module, [this] {
+        if (!m_rulebase)
+            return;
+        CategorySeverityForm form;
+        form.setDialogType(CategorySeverityForm::Severities);
+        form.setItemList(asKeyedList(m_rulebase->SeverityList()));
+        form.Load();
+        IFormFactory::current().runCategorySeverity(form);
+        if (!form.Dirty())
+            return;
+        // A severity has no dirty flag of its own; without this an edited severity would be
+        // lost at the next close without a question.
+        m_rulebase->SeverityList()->setDirty(true);
+        if (m_currentView)
+            m_currentView->SeverityListChanged();
+    });
+}
+
+void Application::ShowDefaultViolations()
+{
+    guardedVoid("ShowDefaultViolations", module, [this] {
+        if (!m_rulebase)
+            return;
+        DefaultViolationsForm form;
+        form.setDefaultViolations(m_rulebase->DefaultViolations());
+        form.setCategoryList(m_rulebase->CategoryList());
+        form.setSeverityList(m_rulebase->SeverityList());
+        form.Load();
+        IFormFactory::current().runDefaultViolations(form);
+    });
+}
+
+void Application::ShowRulebasePropertiesDialog()
+{
+    guardedVoid("ShowRulebasePropertiesDialog", module, [this] {
+        if (!m_rulebase)
+            return;
+        RulebasePropertiesForm form;
+        form.setRulebase(m_rulebase);
+        form.Load();
+        IFormFactory::current().runRulebaseProperties(form);
+    });
+}
+
+void Application::ShowTagList(int tagType)
+{
+    guardedVoid("ShowTagList", module, [&] {
+        if (!m_rulebase)
+            return;
+        TagListForm form;
+        std::shared_ptr<ObjectKeyedArrayList<TagItem>> list;
+        switch (tagType) {
+        case TagListForm::ControlTags:
+            list = m_rulebase->ControlTags();
+            form.setUnknownControlViolation(m_rulebase->UnknownControlViolation());
+            break;
+        case TagListForm::DataTypeTags:
+            list = m_rulebase->DataTypeTags();
+            form.setUseCTagsAsDTTags(m_rulebase->UseCTagsAsDTTags());
+            form.setArrayTag(m_rulebase->ArrayTag());
+            break;
+        case TagListForm::ScopeTags:
+            list = m_rulebase->ScopeTags();
+            break;
+        default:
+            return;
+        }
+        form.Initialise(list, tagType);
+        IFormFactory::current().runTagList(form);
+        // Only what changed is copied back, since the rulebase's setters mark it dirty; a
+        // change of case alone in the array tag does not count.
+        if (tagType == TagListForm::ControlTags) {
+            if (form.UnknownControlViolation() != m_rulebase->UnknownControlViolation())
+                m_rulebase->setUnknownControlViolation(form.UnknownControlViolation());
+        } else if (tagType == TagListForm::DataTypeTags) {
+            if (form.UseCTagsAsDTTags() != m_rulebase->UseCTagsAsDTTags())
+                m_rulebase->setUseCTagsAsDTTags(form.UseCTagsAsDTTags());
+            if (!Text::same(form.ArrayTag(), m_rulebase->ArrayTag()))
+                m_rulebase->setArrayTag(form.ArrayTag());
+        }
+    });
+}
 
 std::shared_ptr<IRule> Application::NewCodingConvention(bool &cancelled)
 {

@@ -1,0 +1,264 @@
+#include "application/Application.h"
+#include "editors/CategoryEditorForm.h"
+#include "editors/CategorySeverityForm.h"
+#include "editors/DefaultViolationsForm.h"
+#include "editors/RulebasePropertiesForm.h"
+#include "editors/SeverityEditorForm.h"
+#include "editors/TagListForm.h"
+#include "rulebase/CategoryItem.h"
+#include "rulebase/CategoryList.h"
+#include "rulebase/DefaultViolations.h"
+#include "rulebase/RuleLists.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/SeverityItem.h"
+#include "rulebase/ViolationDefinition.h"
+#include "views/IViewController.h"
+
+#include "../editors/RulebaseFormScripts.h"
+#include "support/MemoryMainForm.h"
+#include "support/ScriptedUserInterface.h"
+#include "support/TestEnvironment.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// A view that only records the list changes it is told of.
+class ListChangeView final : public IViewController
+{
+public:
+    explicit ListChangeView(QStringList *calls) : m_calls(calls) {}
+    void setRulebase(std::shared_ptr<Rulebase>) override {}
+    void setMainForm(IMainForm *) override {}
+    void Customise() override {}
+    void Populate() override {}
+    void DeleteItems() override {}
+    void OpenItem() override {}
+    void SetEnabledState() override {}
+    void ResizeView() override {}
+    void AddItem(const std::shared_ptr<IRule> &) override {}
+    void CloneItems() override {}
+    int ItemsActiveState() override { return 4; }
+    void ActivateItems(bool) override {}
+    void CategoryListChanged() override { *m_calls << QStringLiteral("CategoryListChanged"); }
+    void SeverityListChanged() override { *m_calls << QStringLiteral("SeverityListChanged"); }
+
+private:
+    QStringList *m_calls;
+};
+
+struct Commands
+{
+    Commands()
+        : app(&window, [this](const QString &) { return std::make_unique<ListChangeView>(&viewCalls); })
+    {
+        EXPECT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, TestEnvironment::sampleRulebase()));
+        rulebase = app.rulebase();
+        viewCalls.clear();
+    }
+
+    ScriptedUserInterface ui;
+    RulebaseFormScripts scripts;
+    MemoryMainForm window;
+    QStringList viewCalls;
+    Application app;
+    std::shared_ptr<Rulebase> rulebase;
+};
+
+QStringList categoryTitles(const CategoryList &list)
+{
+    QStringList titles;
+    for (qint32 i = 1; i <= list.Count(); ++i)
+        titles << list.Item(i)->Title();
+    return titles;
+}
+
+} // namespace
+
+TEST(RulebaseDialogCommands, TheCategoryListSortsAndTellsTheViewOnlyWhenSomethingChanged)
+{
+    Commands c;
+    const auto categories = c.rulebase->CategoryList();
+    const QStringList before = categoryTitles(*categories);
+
+    c.scripts.categorySeverity = [](CategorySeverityForm &form) {
+        EXPECT_EQ(form.DialogType(), 1);
+        EXPECT_EQ(form.selectedRow(), 0); // loaded before it is shown
+        return false;
+    };
+    c.app.ShowCategoryList();
+    EXPECT_EQ(c.scripts.runs, 1);
+    EXPECT_TRUE(c.viewCalls.isEmpty());
+    EXPECT_EQ(categoryTitles(*categories), before);
+    EXPECT_FALSE(c.rulebase->Dirty());
+
+    c.scripts.categoryEditor = [](CategoryEditorForm &editor) {
+        editor.setTitle(QStringLiteral("aaa first"));
+        editor.setDescription(QStringLiteral("d"));
+        return editor.OK();
+    };
+    c.scripts.categorySeverity = [](CategorySeverityForm &form) {
+        form.Add();
+        return form.RequestClose();
+    };
+    c.app.ShowCategoryList();
+    EXPECT_EQ(c.viewCalls, QStringList{QStringLiteral("CategoryListChanged")});
+    EXPECT_EQ(categories->Item(1)->Title(), QStringLiteral("aaa first"));
+    QStringList sorted = categoryTitles(*categories);
+    std::sort(sorted.begin(), sorted.end(), [](const QString &a, const QString &b) {
+        return a.compare(b, Qt::CaseInsensitive) < 0;
+    });
+    EXPECT_EQ(categoryTitles(*categories), sorted);
+    EXPECT_TRUE(c.rulebase->Dirty());
+}
+
+TEST(RulebaseDialogCommands, TheCategoryListDeletesWithTheRulebaseSet)
+{
+    Commands c;
+    const qint32 id = c.rulebase->CategoryList()->Item(1)->ID();
+    c.ui.answers.push_back(MessageResult::Yes);
+    c.scripts.categorySeverity = [](CategorySeverityForm &form) {
+        form.Delete();
+        return true;
+    };
+    c.app.ShowCategoryList();
+    EXPECT_FALSE(c.rulebase->CategoryList()->ContainsID(id));
+    EXPECT_EQ(c.rulebase->RuleLists()->ConventionsListByCatID(id)->Count(), 0);
+    EXPECT_EQ(c.viewCalls, QStringList{QStringLiteral("CategoryListChanged")});
+}
+
+TEST(RulebaseDialogCommands, TheSeverityListTellsTheViewAndKeepsTheEditFromBeingLost)
+{
+    Commands c;
+    c.scripts.categorySeverity = [](CategorySeverityForm &form) {
+        EXPECT_EQ(form.DialogType(), 2);
+        return true;
+    };
+    c.app.ShowSeverityList();
+    EXPECT_TRUE(c.viewCalls.isEmpty());
+    EXPECT_FALSE(c.rulebase->Dirty());
+
+    c.scripts.severityEditor = [](SeverityEditorForm &editor) {
+        editor.Load();
+        editor.setTitle(QStringLiteral("Grave"));
+        return editor.OK();
+    };
+    c.scripts.categorySeverity = [](CategorySeverityForm &form) {
+        form.Edit();
+        return form.RequestClose();
+    };
+    const QString firstCategory = c.rulebase->CategoryList()->Item(1)->Title();
+    c.app.ShowSeverityList();
+    EXPECT_EQ(c.viewCalls, QStringList{QStringLiteral("SeverityListChanged")});
+    EXPECT_EQ(c.rulebase->SeverityList()->Item(1)->Title(), QStringLiteral("Grave"));
+    EXPECT_EQ(c.rulebase->CategoryList()->Item(1)->Title(), firstCategory);
+    EXPECT_TRUE(c.rulebase->Dirty());
+}
+
+TEST(RulebaseDialogCommands, DefaultViolationsChangedAloneLeaveTheRulebaseClean)
+{
+    Commands c;
+    c.scripts.defaultViolations = [](DefaultViolationsForm &form) {
+        EXPECT_EQ(form.CurrentType(), 1);
+        form.setAdvice(QStringLiteral("Remove it."));
+        form.OK();
+        return true;
+    };
+    c.app.ShowDefaultViolations();
+    EXPECT_EQ(c.rulebase->DefaultViolations()->ItemByType(1)->Advice(), QStringLiteral("Remove it."));
+    EXPECT_FALSE(c.rulebase->Dirty());
+    EXPECT_TRUE(c.app.CheckForSave());
+    EXPECT_TRUE(c.ui.messages.empty());
+}
+
+TEST(RulebaseDialogCommands, RulebasePropertiesWriteOnOKOnly)
+{
+    Commands c;
+    const QString title = c.rulebase->Title();
+    c.scripts.rulebaseProperties = [&](RulebasePropertiesForm &form) {
+        EXPECT_EQ(form.Title(), title);
+        form.setTitle(QStringLiteral("Elsewhere"));
+        form.Cancel();
+        return false;
+    };
+    c.app.ShowRulebasePropertiesDialog();
+    EXPECT_EQ(c.rulebase->Title(), title);
+    EXPECT_FALSE(c.rulebase->Dirty());
+
+    c.scripts.rulebaseProperties = [](RulebasePropertiesForm &form) {
+        form.setTitle(QStringLiteral("Elsewhere"));
+        return form.OK();
+    };
+    c.app.ShowRulebasePropertiesDialog();
+    EXPECT_EQ(c.rulebase->Title(), QStringLiteral("Elsewhere"));
+    EXPECT_TRUE(c.rulebase->Dirty());
+}
+
+TEST(RulebaseDialogCommands, TagListsCopyBackOnlyWhatChanged)
+{
+    Commands c;
+    c.rulebase->setArrayTag(QStringLiteral("a"));
+    c.rulebase->setUnknownControlViolation(false);
+    c.rulebase->setDirty(false);
+
+    // A change of case alone is not taken over, and the rulebase stays clean.
+    c.scripts.tagList = [](TagListForm &form) {
+        EXPECT_EQ(form.TagType(), 2);
+        EXPECT_EQ(form.ArrayTag(), QStringLiteral("a"));
+        form.setArrayTag(QStringLiteral("A"));
+        return form.OK();
+    };
+    c.app.ShowTagList(2);
+    EXPECT_EQ(c.rulebase->ArrayTag(), QStringLiteral("a"));
+    EXPECT_FALSE(c.rulebase->Dirty());
+
+    c.scripts.tagList = [](TagListForm &form) {
+        form.setArrayTag(QStringLiteral("arr"));
+        form.setOption(true);
+        return form.OK();
+    };
+    c.app.ShowTagList(2);
+    EXPECT_EQ(c.rulebase->ArrayTag(), QStringLiteral("arr"));
+    EXPECT_TRUE(c.rulebase->UseCTagsAsDTTags());
+    c.rulebase->setDirty(false);
+
+    // A cancelled control set keeps the option and its row.
+    c.scripts.tagList = [](TagListForm &form) {
+        EXPECT_EQ(form.Caption(), QStringLiteral("Control Tags"));
+        form.setOption(true);
+        form.Cancel();
+        return false;
+    };
+    c.app.ShowTagList(1);
+    EXPECT_FALSE(c.rulebase->UnknownControlViolation());
+    EXPECT_TRUE(c.rulebase->ControlTags()->Contains(TagListForm::UnknownProgID()));
+    EXPECT_FALSE(c.rulebase->Dirty());
+
+    c.scripts.tagList = [](TagListForm &form) {
+        form.setOption(true);
+        return form.OK();
+    };
+    c.app.ShowTagList(1);
+    EXPECT_TRUE(c.rulebase->UnknownControlViolation());
+    EXPECT_FALSE(c.rulebase->ControlTags()->Contains(TagListForm::UnknownProgID()));
+    EXPECT_TRUE(c.rulebase->Dirty());
+
+    c.app.ShowTagList(3);
+    c.app.ShowTagList(4); // no such set: no dialog
+    EXPECT_EQ(c.scripts.runs, 5);
+}
+
+TEST(RulebaseDialogCommands, NothingRunsWithoutARulebase)
+{
+    ScriptedUserInterface ui;
+    RulebaseFormScripts scripts;
+    MemoryMainForm window;
+    Application app(&window);
+    app.ShowCategoryList();
+    app.ShowSeverityList();
+    app.ShowDefaultViolations();
+    app.ShowRulebasePropertiesDialog();
+    app.ShowTagList(1);
+    EXPECT_EQ(scripts.runs, 0);
+    EXPECT_TRUE(ui.messages.empty());
+}

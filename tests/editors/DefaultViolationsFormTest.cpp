@@ -1,0 +1,124 @@
+#include "editors/DefaultViolationsForm.h"
+
+#include "rulebase/CategoryItem.h"
+#include "rulebase/CategoryList.h"
+#include "rulebase/DefaultViolations.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/SeverityItem.h"
+#include "rulebase/ViolationDefinition.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Opened
+{
+    Opened()
+    {
+        for (const char *title : {"Style", "Safety"}) {
+            auto category = std::make_shared<CategoryItem>();
+            category->setTitle(QLatin1String(title));
+            rulebase->CategoryList()->Add(category, true);
+        }
+        rulebase->setDirty(false);
+        rulebase->DefaultViolations()->setDirty(false);
+        form.setDefaultViolations(rulebase->DefaultViolations());
+        form.setCategoryList(rulebase->CategoryList());
+        form.setSeverityList(rulebase->SeverityList());
+        form.Load();
+    }
+    std::shared_ptr<ViolationDefinition> original(qint32 type) const
+    {
+        return rulebase->DefaultViolations()->ItemByType(type);
+    }
+
+    std::shared_ptr<Rulebase> rulebase = std::make_shared<Rulebase>();
+    DefaultViolationsForm form;
+};
+
+} // namespace
+
+TEST(DefaultViolationsForm, OpensOnTheFirstViolationWithItsFieldsAndPickers)
+{
+    Opened o;
+    EXPECT_EQ(o.form.CurrentType(), 1);
+    EXPECT_EQ(o.form.TitleLabel(), QStringLiteral("Unauthorised Component "));
+    EXPECT_EQ(o.form.ViolationTitleLabel(), o.original(1)->ViolationDescription());
+    EXPECT_EQ(o.form.Description(), o.original(1)->Description());
+    EXPECT_EQ(o.form.Advice(), o.original(1)->Advice());
+    EXPECT_EQ(o.form.Impact(), QStringLiteral("900"));
+    ASSERT_EQ(o.form.SeverityEntries().size(), 5u);
+    EXPECT_EQ(o.form.SeverityEntries()[4].text, QStringLiteral("Info"));
+    EXPECT_EQ(o.form.SeverityEntries()[4].itemData, 5);
+    EXPECT_EQ(o.form.SeverityIndex(), 0);
+    EXPECT_EQ(o.form.SeverityImage(), 14);
+    ASSERT_EQ(o.form.CategoryEntries().size(), 2u);
+    EXPECT_EQ(o.form.CategoryEntries()[1].itemData, 2);
+    // No category: no entry, and it stays -1 until one is chosen.
+    EXPECT_EQ(o.form.CategoryIndex(), -1);
+    EXPECT_EQ(o.form.Copy(1)->CategoryID(), -1);
+
+    ASSERT_EQ(DefaultViolationsForm::Tools().size(), 5u);
+    EXPECT_EQ(o.form.ToolText(1), QStringLiteral("Unauthorised\nComponent\nVersion"));
+    EXPECT_EQ(o.form.ToolText(4), QStringLiteral("Unknown Control"));
+    o.form.ToolClick(QStringLiteral("TLUNKNOWNCONTROL"));
+    EXPECT_EQ(o.form.CurrentType(), 5);
+    EXPECT_EQ(o.form.Description(), QString());
+    o.form.ToolClick(QStringLiteral("tlNoSuchTool"));
+    EXPECT_EQ(o.form.CurrentType(), 5);
+}
+
+TEST(DefaultViolationsForm, EditsStayInTheCopiesAcrossToolsAndOKWritesAllFive)
+{
+    Opened o;
+    o.form.setDescription(QStringLiteral("Component text"));
+    o.form.setCategoryIndex(1);
+    o.form.ToolClick(QStringLiteral("tlUnauthRef"));
+    // Choosing a severity takes over its default impact.
+    o.form.setSeverityIndex(3);
+    EXPECT_EQ(o.form.Impact(), QStringLiteral("250"));
+    EXPECT_EQ(o.form.SeverityImage(), 11);
+    o.form.setImpact(QString());
+    EXPECT_EQ(o.form.Copy(3)->Impact(), 0);
+    o.form.leaveImpact();
+    EXPECT_EQ(o.form.Impact(), QStringLiteral("0"));
+    o.form.setImpact(QStringLiteral("42"));
+    const int after = o.form.InsertIntoAdvice(QStringLiteral("%Reference.Filename%"), 4, 3);
+    EXPECT_EQ(o.form.Advice(), o.original(3)->Advice().replace(4, 3, QStringLiteral("%Reference.Filename%")));
+    EXPECT_EQ(after, 4 + 20);
+
+    o.form.ToolClick(QStringLiteral("tlUnauthComp"));
+    EXPECT_EQ(o.form.Description(), QStringLiteral("Component text"));
+    EXPECT_EQ(o.form.CategoryIndex(), 1);
+    // Showing a violation writes nothing back into it.
+    EXPECT_EQ(o.form.Copy(1)->Impact(), 900);
+    EXPECT_EQ(o.original(1)->Description().contains(QStringLiteral("%Component.Filename%")), true);
+
+    const QString referenceAdvice = o.form.Copy(3)->Advice();
+    o.form.OK();
+    EXPECT_FALSE(o.form.Cancelled());
+    EXPECT_EQ(o.original(1)->Description(), QStringLiteral("Component text"));
+    EXPECT_EQ(o.original(1)->CategoryID(), 2);
+    EXPECT_EQ(o.original(3)->Severity(), 4);
+    EXPECT_EQ(o.original(3)->Impact(), 42);
+    EXPECT_EQ(o.original(3)->Advice(), referenceAdvice);
+    EXPECT_EQ(o.original(5)->Title(), QStringLiteral("Unknown Control"));
+    // A change made only here leaves the rulebase clean.
+    EXPECT_TRUE(o.rulebase->DefaultViolations()->Dirty());
+    EXPECT_FALSE(o.rulebase->Dirty());
+}
+
+TEST(DefaultViolationsForm, CancelWritesNone)
+{
+    Opened o;
+    o.form.setDescription(QStringLiteral("x"));
+    o.form.setSeverityIndex(4);
+    o.form.ToolClick(QStringLiteral("tlUnauthCompVer"));
+    o.form.setAdvice(QStringLiteral("y"));
+    o.form.Cancel();
+    EXPECT_TRUE(o.form.Cancelled());
+    EXPECT_NE(o.original(1)->Description(), QStringLiteral("x"));
+    EXPECT_EQ(o.original(1)->Severity(), 1);
+    EXPECT_NE(o.original(2)->Advice(), QStringLiteral("y"));
+    EXPECT_FALSE(o.rulebase->DefaultViolations()->Dirty());
+}
