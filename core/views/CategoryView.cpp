@@ -212,6 +212,8 @@ void CategoryView::DblClick()
         const std::shared_ptr<CategoryItem> category = m_rulebase->CategoryList()->Item(key);
         if (!IRuleEditorLauncher::current().EditCategory(category))
             return;
+        // The editor's setters leave the list clean; without this a close would not offer to save.
+        m_rulebase->CategoryList()->setDirty(true);
         ResetNode(key);
         m_frmMain->setListTitle(QStringLiteral(" Category [") + category->Title()
                                 + QStringLiteral("]"));

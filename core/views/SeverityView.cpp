@@ -176,6 +176,8 @@ void SeverityView::DblClick()
         const std::shared_ptr<SeverityItem> severity = m_rulebase->SeverityList()->Item(key);
         if (!IRuleEditorLauncher::current().EditSeverity(severity))
             return;
+        // The editor's setters leave the list clean; without this a close would not offer to save.
+        m_rulebase->SeverityList()->setDirty(true);
         ResetNode(key);
         m_tvwTree->setImage(node, QString::number(severity->Colour()));
         m_frmMain->setListTitle(QStringLiteral(" Severity [") + severity->Title()

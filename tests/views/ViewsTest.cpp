@@ -404,8 +404,10 @@ TEST(CategoryView, DoubleClickEditsCategoriesOnlyAndOpenItemDropsRowsThatLeave)
     const auto category = s.rulebase->CategoryList()->Item(1);
     s.form.treeControl.click(s.form.treeControl.find(category->Key()));
     s.launcher.editCategory = [](CategoryItem &c) { c.setTitle("Renamed"); };
+    ASSERT_FALSE(s.rulebase->Dirty());
     s.form.treeControl.doubleClick();
     EXPECT_EQ(s.launcher.opened, 1);
+    EXPECT_TRUE(s.rulebase->Dirty()) << "an edited category must be offered for saving";
     EXPECT_EQ(s.form.listTitle, QStringLiteral(" Category [Renamed]"));
     for (int row = 1; row <= s.form.listControl.count(); ++row)
         EXPECT_EQ(s.form.listControl.subItemText(row, 2), QStringLiteral("Renamed"));
@@ -441,7 +443,9 @@ TEST(SeverityView, ArrangesEveryRuleBySeverityAndFollowsSeverityEdits)
               "Severity: " + severity->Title() + crlf2 + severity->Description());
 
     s.launcher.editSeverity = [](SeverityItem &item) { item.setColour(3); };
+    ASSERT_FALSE(s.rulebase->Dirty());
     s.form.treeControl.doubleClick();
+    EXPECT_TRUE(s.rulebase->Dirty()) << "an edited severity must be offered for saving";
     EXPECT_EQ(s.form.treeControl.image(node), QStringLiteral("3"));
     for (int row = 1; row <= s.form.listControl.count(); ++row)
         EXPECT_EQ(s.form.listControl.smallIcon(row), 3);
