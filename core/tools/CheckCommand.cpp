@@ -64,7 +64,8 @@ int CheckCommand::execute(const QCommandLineParser &parser, ToolContext &context
     QJsonArray fileReports;
     for (qsizetype n = 0; n < files.size(); ++n) {
         const QString &file = files.at(n);
-        context.progress(QStringLiteral("Checking %1 (%2 of %3)").arg(file).arg(n + 1).arg(files.size()));
+        context.progress(
+            QStringLiteral("Checking %1 (%2 of %3)").arg(file).arg(n + 1).arg(files.size()));
         QJsonObject report;
         report.insert(QStringLiteral("file"), file);
 

@@ -56,8 +56,8 @@ MessageResult ConsoleUserInterface::messageBox(const QString &text,
                                                MessageIcon,
                                                const QString &title)
 {
-    const QString message = title == unexpectedErrorTitle ? title + QStringLiteral(": ") + text
-                                                          : text;
+    const QString message
+        = title == unexpectedErrorTitle ? title + QStringLiteral(": ") + text : text;
     m_messages << message;
     if (m_echo) {
         *m_echo << "qrbtool: " << message << '\n';

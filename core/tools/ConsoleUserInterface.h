@@ -46,6 +46,6 @@ private:
     QTextStream *m_echo = nullptr;
     QStringList m_messages;
     UserInterface *m_previous = nullptr;
-    std::shared_ptr<LogFile> m_ownLog; // set only when this object made the process's log
+    std::shared_ptr<LogFile> m_ownLog;          // set only when this object made the process's log
     std::unique_ptr<QTemporaryDir> m_logFolder; // holds that log's file, removed with it
 };

@@ -1,6 +1,7 @@
 #include "tools/DiffCommand.h"
 
 #include "tools/RulebaseDiff.h"
+#include "tools/TextDiff.h"
 #include "tools/ToolContext.h"
 #include "tools/ToolExit.h"
 #include "tools/ToolRulebaseLoader.h"
@@ -79,9 +80,10 @@ int DiffCommand::execute(const QCommandLineParser &parser, ToolContext &context)
         sides[i] = ToolRulebaseLoader::load(files.at(i));
         if (!sides[i].rulebase || !sides[i].messages.isEmpty()) {
             // A rulebase read in part would show its missing rules as removed.
-            error(context,
-                  files.at(i)
-                      + QStringLiteral(": could not be read completely; 'qrbtool check' tells why"));
+            error(
+                context,
+                files.at(i)
+                    + QStringLiteral(": could not be read completely; 'qrbtool check' tells why"));
             for (const QString &message : sides[i].messages)
                 context.err() << "  " << message << '\n';
             return ToolExit::Failure;
@@ -89,8 +91,8 @@ int DiffCommand::execute(const QCommandLineParser &parser, ToolContext &context)
     }
     context.endProgress();
 
-    const std::vector<RulebaseDiff::Item> items = RulebaseDiff::compare(*sides[0].rulebase,
-                                                                        *sides[1].rulebase);
+    const std::vector<RulebaseDiff::Item> items
+        = RulebaseDiff::compare(*sides[0].rulebase, *sides[1].rulebase);
     const int result = items.empty() ? ToolExit::Ok : ToolExit::Findings;
 
     if (json) {
@@ -141,7 +143,15 @@ int DiffCommand::execute(const QCommandLineParser &parser, ToolContext &context)
             continue;
         for (const RulebaseDiff::Field &field : item.fields) {
             if (item.change == RulebaseDiff::Change::Added) {
-                out << "    " << field.name << ": " << shown(field.newValue) << '\n';
+                // A new condition reads best as the block it is.
+                const QStringList lines = TextDiff::splitLines(field.newValue);
+                if (lines.size() > 1) {
+                    out << "    " << field.name << ":\n";
+                    for (const QString &line : lines)
+                        out << "        " << line << '\n';
+                } else {
+                    out << "    " << field.name << ": " << shown(field.newValue) << '\n';
+                }
             } else if (!field.lines.isEmpty()) {
                 out << "    " << field.name << ":\n";
                 for (const QString &line : field.lines)

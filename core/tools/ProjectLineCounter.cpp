@@ -95,11 +95,10 @@ ProjectLineCounter::Project ProjectLineCounter::count(const QString &projectFile
         }
         result.files.push_back(file);
     }
-    std::stable_sort(result.files.begin(),
-                     result.files.end(),
-                     [](const SourceFile &a, const SourceFile &b) {
-                         return a.path.compare(b.path, Qt::CaseInsensitive) < 0;
-                     });
+    std::stable_sort(
+        result.files.begin(), result.files.end(), [](const SourceFile &a, const SourceFile &b) {
+            return a.path.compare(b.path, Qt::CaseInsensitive) < 0;
+        });
     for (const SourceFile &file : result.files) {
         if (file.read) {
             ++result.filesRead;

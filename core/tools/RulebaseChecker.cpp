@@ -29,9 +29,8 @@ namespace {
 using Severity = CheckFinding::Severity;
 
 // The three lists of rules, by their path in the file.
-const char *const rulePaths[] = {"UnauthorisedKeywords",
-                                 "Rules/CodingConventions",
-                                 "Rules/NamingConventions"};
+const char *const rulePaths[]
+    = {"UnauthorisedKeywords", "Rules/CodingConventions", "Rules/NamingConventions"};
 
 // The elements the load reads without a frame of their own: a missing one fails the load.
 const char *const requiredPaths[] = {"AuthorisedComponents",
@@ -255,8 +254,8 @@ void RulebaseChecker::checkRulebase(const Rulebase &rulebase)
     }
 
     const auto categories = rulebase.CategoryList();
-    const QList<RulebaseFileScan::Entry> categoryEntries = m_scan.entries(
-        QStringLiteral("CategoryList"));
+    const QList<RulebaseFileScan::Entry> categoryEntries
+        = m_scan.entries(QStringLiteral("CategoryList"));
     for (const RulebaseFileScan::Entry &entry : categoryEntries) {
         if (entry.hasId && Text::valLong(entry.id) > categories->LastID()) {
             add(Severity::Warning,
@@ -288,11 +287,11 @@ void RulebaseChecker::checkRule(const Rulebase &rulebase, const IRule &rule)
                                rule,
                                QStringLiteral(" is a pending violation with no end event"));
             } else if (!ParserEventCatalogue::findEvent(end)) {
-                addRuleFinding(Severity::Error,
-                               QStringLiteral("unknown-parser-event"),
-                               rule,
-                               QStringLiteral(" ends on parser event %1, which does not exist")
-                                   .arg(end));
+                addRuleFinding(
+                    Severity::Error,
+                    QStringLiteral("unknown-parser-event"),
+                    rule,
+                    QStringLiteral(" ends on parser event %1, which does not exist").arg(end));
             }
         }
     } else if (const auto *keyword = dynamic_cast<const UnauthorisedKeyword *>(&rule)) {
@@ -350,10 +349,13 @@ void RulebaseChecker::checkRule(const Rulebase &rulebase, const IRule &rule)
 
 void RulebaseChecker::checkScript(const IRule &rule, const QString &script)
 {
-    const ConditionRules::ConditionCheck rules = ConditionRules::CheckCondition(script,
-                                                                               rule.RuleType());
+    const ConditionRules::ConditionCheck rules
+        = ConditionRules::CheckCondition(script, rule.RuleType());
     if (!rules.passed && !rules.syntaxError) {
-        addRuleFinding(Severity::Error, QStringLiteral("condition"), rule, QStringLiteral(": ") + rules.message);
+        addRuleFinding(Severity::Error,
+                       QStringLiteral("condition"),
+                       rule,
+                       QStringLiteral(": ") + rules.message);
         // A condition with procedures of its own is refused as a whole; its syntax is moot.
         if (ConditionRules::ContainsMethods(script))
             return;
@@ -385,13 +387,16 @@ void RulebaseChecker::checkPattern(const IRule &rule, const QString &what, const
     const QString problem = patternProblem(pattern);
     if (problem.isEmpty())
         return;
-    addRuleFinding(Severity::Error,
-                   QStringLiteral("bad-pattern"),
-                   rule,
-                   QStringLiteral(": the %1 %2 does not compile: %3").arg(what, quoted(pattern), problem));
+    addRuleFinding(
+        Severity::Error,
+        QStringLiteral("bad-pattern"),
+        rule,
+        QStringLiteral(": the %1 %2 does not compile: %3").arg(what, quoted(pattern), problem));
 }
 
-void RulebaseChecker::checkParserEvents(const IRule &rule, qint32 eventCount, const QString &eventList)
+void RulebaseChecker::checkParserEvents(const IRule &rule,
+                                        qint32 eventCount,
+                                        const QString &eventList)
 {
     if (eventCount == 0) {
         addRuleFinding(Severity::Warning,
@@ -403,11 +408,11 @@ void RulebaseChecker::checkParserEvents(const IRule &rule, qint32 eventCount, co
     const QStringList ids = eventList.split(QLatin1Char('|'), Qt::SkipEmptyParts);
     for (const QString &id : ids) {
         if (!ParserEventCatalogue::findEvent(Text::valLong(id))) {
-            addRuleFinding(Severity::Error,
-                           QStringLiteral("unknown-parser-event"),
-                           rule,
-                           QStringLiteral(" is assigned to parser event %1, which does not exist")
-                               .arg(id));
+            addRuleFinding(
+                Severity::Error,
+                QStringLiteral("unknown-parser-event"),
+                rule,
+                QStringLiteral(" is assigned to parser event %1, which does not exist").arg(id));
         }
     }
 }
@@ -451,8 +456,8 @@ void RulebaseChecker::checkDefinition(const Rulebase &rulebase,
 void RulebaseChecker::checkDefaultViolations(const Rulebase &rulebase)
 {
     const auto violations = rulebase.DefaultViolations();
-    const QList<RulebaseFileScan::Entry> entries = m_scan.entries(
-        QStringLiteral("DefaultViolations"));
+    const QList<RulebaseFileScan::Entry> entries
+        = m_scan.entries(QStringLiteral("DefaultViolations"));
     for (qint32 i = 1; i <= violations->Count(); ++i) {
         const auto definition = violations->Item(i);
         if (!definition)
@@ -490,11 +495,7 @@ void RulebaseChecker::addRuleFinding(Severity severity,
                                      const IRule &rule,
                                      const QString &message)
 {
-    add(severity,
-        code,
-        describe(rule) + message,
-        ruleLine(rule.RuleID()),
-        rule.RuleID());
+    add(severity, code, describe(rule) + message, ruleLine(rule.RuleID()), rule.RuleID());
 }
 
 qint64 RulebaseChecker::ruleLine(qint32 ruleID) const
@@ -504,6 +505,8 @@ qint64 RulebaseChecker::ruleLine(qint32 ruleID) const
 
 QString RulebaseChecker::describe(const IRule &rule)
 {
-    return QStringLiteral("%1 %2 %3").arg(ruleTypeText(rule.RuleType())).arg(rule.RuleID()).arg(
-        quoted(rule.Title()));
+    return QStringLiteral("%1 %2 %3")
+        .arg(ruleTypeText(rule.RuleType()))
+        .arg(rule.RuleID())
+        .arg(quoted(rule.Title()));
 }

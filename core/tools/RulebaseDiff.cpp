@@ -130,14 +130,10 @@ std::vector<RulebaseDiff::Item> RulebaseDiff::compare(const Rulebase &older, con
     compareSection(QStringLiteral("control-tag"), tags(older, 1), tags(newer, 1), items);
     compareSection(QStringLiteral("data-type-tag"), tags(older, 2), tags(newer, 2), items);
     compareSection(QStringLiteral("scope-tag"), tags(older, 3), tags(newer, 3), items);
-    compareSection(QStringLiteral("authorised-component"),
-                   components(older),
-                   components(newer),
-                   items);
-    compareSection(QStringLiteral("authorised-reference"),
-                   references(older),
-                   references(newer),
-                   items);
+    compareSection(
+        QStringLiteral("authorised-component"), components(older), components(newer), items);
+    compareSection(
+        QStringLiteral("authorised-reference"), references(older), references(newer), items);
     compareSection(QStringLiteral("rule"), rules(older), rules(newer), items);
     return items;
 }
@@ -147,9 +143,8 @@ void RulebaseDiff::compareSection(const QString &section,
                                   Records newer,
                                   std::vector<Item> &items)
 {
-    const auto byKey = [](const Record &a, const Record &b) {
-        return lessKey(a.matchKey, b.matchKey);
-    };
+    const auto byKey
+        = [](const Record &a, const Record &b) { return lessKey(a.matchKey, b.matchKey); };
     std::stable_sort(older.begin(), older.end(), byKey);
     std::stable_sort(newer.begin(), newer.end(), byKey);
 
@@ -259,7 +254,8 @@ RulebaseDiff::Records RulebaseDiff::categories(const Rulebase &rulebase)
     const auto list = rulebase.CategoryList();
     for (qint32 i = 1; i <= list->Count(); ++i) {
         const auto category = list->Item(i);
-        Record record{number(category->ID()), number(category->ID()), quoted(category->Title()), {}};
+        Record record{
+            number(category->ID()), number(category->ID()), quoted(category->Title()), {}};
         record.fields.emplace_back(QStringLiteral("Title"), category->Title());
         record.fields.emplace_back(QStringLiteral("Description"), category->Description());
         record.fields.emplace_back(QStringLiteral("Hidden"), Text::fromBool(category->Hidden()));
@@ -346,7 +342,8 @@ RulebaseDiff::Records RulebaseDiff::rules(const Rulebase &rulebase)
         if (!rule)
             continue;
         const QString id = number(rule->RuleID());
-        Record record{id, id, ruleTypeName(rule->RuleType()) + QLatin1Char(' ') + quoted(rule->Title()), {}};
+        Record record{
+            id, id, ruleTypeName(rule->RuleType()) + QLatin1Char(' ') + quoted(rule->Title()), {}};
         auto &f = record.fields;
         f.emplace_back(QStringLiteral("RuleType"), ruleTypeName(rule->RuleType()));
         f.emplace_back(QStringLiteral("Title"), rule->Title());
@@ -365,7 +362,8 @@ RulebaseDiff::Records RulebaseDiff::rules(const Rulebase &rulebase)
             f.emplace_back(QStringLiteral("ObjectType"), number(naming->ObjectType()));
             f.emplace_back(QStringLiteral("PropertyType"), number(naming->PropertyType()));
             f.emplace_back(QStringLiteral("PropertyName"), naming->PropertyName());
-            f.emplace_back(QStringLiteral("CaseSensitive"), Text::fromBool(naming->CaseSensitive()));
+            f.emplace_back(QStringLiteral("CaseSensitive"),
+                           Text::fromBool(naming->CaseSensitive()));
             f.emplace_back(QStringLiteral("ExclusionList"), naming->ExclusionList());
             f.emplace_back(QStringLiteral("Condition"), naming->Condition());
             f.emplace_back(QStringLiteral("PrefixActive"), Text::fromBool(naming->PrefixActive()));

@@ -59,8 +59,6 @@ private:
     static Records components(const Rulebase &rulebase);
     static Records references(const Rulebase &rulebase);
     static Records rules(const Rulebase &rulebase);
-    static void compareSection(const QString &section,
-                               Records older,
-                               Records newer,
-                               std::vector<Item> &items);
+    static void
+    compareSection(const QString &section, Records older, Records newer, std::vector<Item> &items);
 };

@@ -174,8 +174,9 @@ int StatsCommand::execute(const QCommandLineParser &parser, ToolContext &context
 
     QTextStream &out = context.out();
     out << QStringLiteral("Files").rightJustified(7) << QStringLiteral("Code").rightJustified(10)
-        << QStringLiteral("Comment").rightJustified(10) << QStringLiteral("Blank").rightJustified(10)
-        << QStringLiteral("Total").rightJustified(10) << "  Project\n";
+        << QStringLiteral("Comment").rightJustified(10)
+        << QStringLiteral("Blank").rightJustified(10) << QStringLiteral("Total").rightJustified(10)
+        << "  Project\n";
     for (const auto &project : projects) {
         writeRow(out,
                  QString::number(project.filesRead),

@@ -7,7 +7,8 @@ ToolContext::ToolContext(QTextStream &out, QTextStream &err, bool showProgress)
     : m_out(out)
     , m_err(err)
     , m_showProgress(showProgress)
-{}
+{
+}
 
 void ToolContext::progress(const QString &text) const
 {

@@ -75,8 +75,9 @@ int UpgradeCommand::execute(const QCommandLineParser &parser, ToolContext &conte
     }
     if (!inPlace && QFileInfo::exists(target)) {
         error(context,
-              target + QStringLiteral(": already exists; remove it first, or use --in-place to "
-                                      "upgrade a file where it stands"));
+              target
+                  + QStringLiteral(": already exists; remove it first, or use --in-place to "
+                                   "upgrade a file where it stands"));
         return ToolExit::Failure;
     }
 
@@ -94,10 +95,11 @@ int UpgradeCommand::execute(const QCommandLineParser &parser, ToolContext &conte
     const bool current = Text::same(version, RulebaseManager::currentSchemaVersion());
     if (!current && !Text::same(version, QStringLiteral("6.0"))
         && !Text::same(version, QStringLiteral("6.1"))) {
-        error(context,
-              input
-                  + QStringLiteral(": schema version \"%1\" can't be upgraded; only 6.0 and 6.1 can")
-                        .arg(version));
+        error(
+            context,
+            input
+                + QStringLiteral(": schema version \"%1\" can't be upgraded; only 6.0 and 6.1 can")
+                      .arg(version));
         return ToolExit::Failure;
     }
     if (current && inPlace) {
@@ -108,8 +110,7 @@ int UpgradeCommand::execute(const QCommandLineParser &parser, ToolContext &conte
     const LoadedRulebase loaded = ToolRulebaseLoader::load(input);
     if (!loaded.rulebase || !loaded.messages.isEmpty()) {
         // A partial read written out would lose rules for good.
-        error(context,
-              input + QStringLiteral(": could not be read completely; nothing written"));
+        error(context, input + QStringLiteral(": could not be read completely; nothing written"));
         for (const QString &message : loaded.messages)
             context.err() << "  " << message << '\n';
         return ToolExit::Failure;

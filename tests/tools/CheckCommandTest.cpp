@@ -41,7 +41,8 @@ QString place(int line, int ruleID)
 
 ToolRun checkJson(const QString &file)
 {
-    return runQrbTool({QStringLiteral("check"), QStringLiteral("--format"), QStringLiteral("json"), file});
+    return runQrbTool(
+        {QStringLiteral("check"), QStringLiteral("--format"), QStringLiteral("json"), file});
 }
 
 } // namespace
@@ -52,8 +53,9 @@ TEST(CheckCommand, TheSampleLoadsCleanAndTextAndJsonAgree)
     const ToolRun text = runQrbTool({QStringLiteral("check"), sample});
     EXPECT_EQ(text.exitCode, 0) << text.out.toStdString() << text.err.toStdString();
     const QStringList lines = text.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    const QRegularExpression compilerStyle(QStringLiteral("^%1:\\d+: (error|warning): .+ \\[[a-z-]+\\]$")
-                                               .arg(QRegularExpression::escape(sample)));
+    const QRegularExpression compilerStyle(
+        QStringLiteral("^%1:\\d+: (error|warning): .+ \\[[a-z-]+\\]$")
+            .arg(QRegularExpression::escape(sample)));
     for (const QString &line : lines) {
         EXPECT_TRUE(compilerStyle.match(line).hasMatch()) << line.toStdString();
         EXPECT_FALSE(line.contains(QLatin1String(": error: "))) << line.toStdString();
@@ -78,47 +80,62 @@ TEST(CheckCommand, TheSampleLoadsCleanAndTextAndJsonAgree)
     // The sample's draft rule sits on no parser event; --strict counts that warning.
     EXPECT_EQ(where(findingsOf(root), QStringLiteral("no-parser-event")),
               QStringList{place(lineOf(sampleBytes(), "RuleID=\"5067\""), 5067)});
-    EXPECT_EQ(runQrbTool({QStringLiteral("check"), QStringLiteral("--strict"), sample}).exitCode, 1);
+    EXPECT_EQ(runQrbTool({QStringLiteral("check"), QStringLiteral("--strict"), sample}).exitCode,
+              1);
 }
 
 TEST(CheckCommand, BrokenCopiesOfTheSampleAreReportedAtTheirRulesLines)
 {
     QByteArray bytes = sampleBytes();
-    const int category = replaceOnLine(bytes, "RuleID=\"5028\"", "CategoryID=\"4\"", "CategoryID=\"77\"", 1);
-    const int severity = replaceOnLine(bytes, "RuleID=\"5037\"", "SeverityLevel=\"4\"", "SeverityLevel=\"9\"", 1);
-    const int duplicate = replaceOnLine(bytes, "RuleID=\"5030\"", "RuleID=\"5030\"", "RuleID=\"5029\"");
-    const int syntax = replaceOnLine(bytes, "RuleID=\"5024\"", "%TAB%End If%CRLF%End Sub", "End Sub");
-    const int pattern = replaceOnLine(bytes, "RuleID=\"5000\"", "Condition=\"^(?!", "Condition=\"^((?!");
+    const int category
+        = replaceOnLine(bytes, "RuleID=\"5028\"", "CategoryID=\"4\"", "CategoryID=\"77\"", 1);
+    const int severity
+        = replaceOnLine(bytes, "RuleID=\"5037\"", "SeverityLevel=\"4\"", "SeverityLevel=\"9\"", 1);
+    const int duplicate
+        = replaceOnLine(bytes, "RuleID=\"5030\"", "RuleID=\"5030\"", "RuleID=\"5029\"");
+    const int syntax
+        = replaceOnLine(bytes, "RuleID=\"5024\"", "%TAB%End If%CRLF%End Sub", "End Sub");
+    const int pattern
+        = replaceOnLine(bytes, "RuleID=\"5000\"", "Condition=\"^(?!", "Condition=\"^((?!");
     const int body = replaceOnLine(bytes, "RuleID=\"5070\"", "BodyPattern=\"^", "BodyPattern=\"^(");
-    const int noEvent = replaceOnLine(bytes, "RuleID=\"5036\"", "ParserEventID=\"28\"", "ParserEventID=\"\"");
-    const int badEvent = replaceOnLine(bytes, "RuleID=\"5039\"", "ParserEventID=\"16\"", "ParserEventID=\"16|99\"");
-    const QString file = writeBytes(TestEnvironment::makeTempDir() + QStringLiteral("/Broken.qrb"), bytes);
+    const int noEvent
+        = replaceOnLine(bytes, "RuleID=\"5036\"", "ParserEventID=\"28\"", "ParserEventID=\"\"");
+    const int badEvent = replaceOnLine(
+        bytes, "RuleID=\"5039\"", "ParserEventID=\"16\"", "ParserEventID=\"16|99\"");
+    const QString file
+        = writeBytes(TestEnvironment::makeTempDir() + QStringLiteral("/Broken.qrb"), bytes);
 
     const ToolRun run = checkJson(file);
     EXPECT_EQ(run.exitCode, 1);
     const QJsonArray findings = findingsOf(parseJsonObject(run.out));
-    EXPECT_EQ(where(findings, QStringLiteral("unknown-category")), QStringList{place(category, 5028)});
-    EXPECT_EQ(where(findings, QStringLiteral("unknown-severity")), QStringList{place(severity, 5037)});
-    EXPECT_EQ(where(findings, QStringLiteral("duplicate-rule-id")), QStringList{place(duplicate, 5029)});
+    EXPECT_EQ(where(findings, QStringLiteral("unknown-category")),
+              QStringList{place(category, 5028)});
+    EXPECT_EQ(where(findings, QStringLiteral("unknown-severity")),
+              QStringList{place(severity, 5037)});
+    EXPECT_EQ(where(findings, QStringLiteral("duplicate-rule-id")),
+              QStringList{place(duplicate, 5029)});
     // The loader refuses the second rule of that id and says so.
     EXPECT_EQ(where(findings, QStringLiteral("section")).size(), 1);
-    EXPECT_EQ(where(findings, QStringLiteral("condition-syntax")), QStringList{place(syntax, 5024)});
+    EXPECT_EQ(where(findings, QStringLiteral("condition-syntax")),
+              QStringList{place(syntax, 5024)});
     EXPECT_EQ(where(findings, QStringLiteral("bad-pattern")),
               (QStringList{place(pattern, 5000), place(body, 5070)}));
     EXPECT_EQ(where(findings, QStringLiteral("no-parser-event")),
               (QStringList{place(noEvent, 5036), place(lineOf(bytes, "RuleID=\"5067\""), 5067)}));
-    EXPECT_EQ(where(findings, QStringLiteral("unknown-parser-event")), QStringList{place(badEvent, 5039)});
+    EXPECT_EQ(where(findings, QStringLiteral("unknown-parser-event")),
+              QStringList{place(badEvent, 5039)});
 
     // The text form says the same, sorted by line, naming the file and the rule.
     const ToolRun text = runQrbTool({QStringLiteral("check"), file});
     EXPECT_EQ(text.exitCode, 1);
     const QStringList lines = text.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     EXPECT_EQ(lines.size(), findings.size());
-    EXPECT_TRUE(lines.contains(QStringLiteral("%1:%2: error: coding convention 5028 \"Explicit procedure "
-                                              "scope\" is in category 77, which the category list "
-                                              "does not have [unknown-category]")
-                                   .arg(file)
-                                   .arg(category)))
+    EXPECT_TRUE(
+        lines.contains(QStringLiteral("%1:%2: error: coding convention 5028 \"Explicit procedure "
+                                      "scope\" is in category 77, which the category list "
+                                      "does not have [unknown-category]")
+                           .arg(file)
+                           .arg(category)))
         << text.out.toStdString();
     int previous = 0;
     for (const QString &line : lines) {
@@ -132,29 +149,37 @@ TEST(CheckCommand, ConditionsVocabularyObjectsAndDefaultViolationsAreChecked)
 {
     QByteArray bytes = sampleBytes();
     // A naming convention's condition must apply the convention; no procedure but Sub Main.
-    const int naming = replaceOnLine(bytes, "RuleID=\"5071\"", "Condition=\"\"", "Condition=\"Sub Main%CRLF%End Sub\"");
-    const int methods = replaceOnLine(bytes,
-                                      "RuleID=\"5029\"",
-                                      "Condition=\"Sub Main%CRLF%",
-                                      "Condition=\"Function Helper()%CRLF%End Function%CRLF%Sub Main%CRLF%");
-    const int vocabulary = replaceOnLine(bytes, "RuleID=\"5024\"", "&quot;Source&quot;", "&quot;Sauce&quot;");
-    const int object = replaceOnLine(bytes, "RuleID=\"5070\"", "ObjectType=\"36\"", "ObjectType=\"4711\"");
+    const int naming = replaceOnLine(
+        bytes, "RuleID=\"5071\"", "Condition=\"\"", "Condition=\"Sub Main%CRLF%End Sub\"");
+    const int methods
+        = replaceOnLine(bytes,
+                        "RuleID=\"5029\"",
+                        "Condition=\"Sub Main%CRLF%",
+                        "Condition=\"Function Helper()%CRLF%End Function%CRLF%Sub Main%CRLF%");
+    const int vocabulary
+        = replaceOnLine(bytes, "RuleID=\"5024\"", "&quot;Source&quot;", "&quot;Sauce&quot;");
+    const int object
+        = replaceOnLine(bytes, "RuleID=\"5070\"", "ObjectType=\"36\"", "ObjectType=\"4711\"");
     const int defaults = lineOf(bytes, "<DefaultViolations>");
     replaceOnLine(bytes, "<DefaultViolations>", "SeverityLevel=\"2\"", "SeverityLevel=\"8\"", 1);
     replaceOnLine(bytes, "<DefaultViolations>", "Impact=\"500\"", "Impact=\"-5\"", 2);
     replaceOnLine(bytes, "<DefaultViolations>", "CategoryID=\"1\"", "CategoryID=\"55\"", 5);
-    const QString file = writeBytes(TestEnvironment::makeTempDir() + QStringLiteral("/Vocabulary.qrb"), bytes);
+    const QString file
+        = writeBytes(TestEnvironment::makeTempDir() + QStringLiteral("/Vocabulary.qrb"), bytes);
 
     const ToolRun run = checkJson(file);
     EXPECT_EQ(run.exitCode, 1);
     const QJsonArray findings = findingsOf(parseJsonObject(run.out));
-    EXPECT_EQ(where(findings, QStringLiteral("condition")), (QStringList{place(methods, 5029), place(naming, 5071)}));
+    EXPECT_EQ(where(findings, QStringLiteral("condition")),
+              (QStringList{place(methods, 5029), place(naming, 5071)}));
     EXPECT_TRUE(where(findings, QStringLiteral("vocabulary")).contains(place(vocabulary, 5024)))
         << where(findings, QStringLiteral("vocabulary")).join(QLatin1Char(' ')).toStdString();
     EXPECT_EQ(where(findings, QStringLiteral("unknown-object")), QStringList{place(object, 5070)});
-    EXPECT_EQ(where(findings, QStringLiteral("unknown-severity")), QStringList{place(defaults + 1, 0)});
+    EXPECT_EQ(where(findings, QStringLiteral("unknown-severity")),
+              QStringList{place(defaults + 1, 0)});
     EXPECT_EQ(where(findings, QStringLiteral("impact-range")), QStringList{place(defaults + 2, 0)});
-    EXPECT_EQ(where(findings, QStringLiteral("unknown-category")), QStringList{place(defaults + 5, 0)});
+    EXPECT_EQ(where(findings, QStringLiteral("unknown-category")),
+              QStringList{place(defaults + 5, 0)});
     EXPECT_TRUE(run.out.contains(QLatin1String("default violation 5 (Unknown Control)")));
 }
 
@@ -196,30 +221,38 @@ TEST(CheckCommand, UnreadableFilesGiveTheParsersPlaceAndNeverCrash)
         EXPECT_EQ(result.exitCode, 1) << file.toStdString();
         EXPECT_FALSE(findingsOf(parseJsonObject(result.out)).isEmpty()) << file.toStdString();
     }
-    const ToolRun schema = runQrbTool({QStringLiteral("check"), dir + QStringLiteral("/junk4.qrb")});
+    const ToolRun schema
+        = runQrbTool({QStringLiteral("check"), dir + QStringLiteral("/junk4.qrb")});
     EXPECT_TRUE(schema.out.contains(QLatin1String("schema version \"5.0\" is not supported")))
         << schema.out.toStdString();
     const ToolRun html = runQrbTool({QStringLiteral("check"), dir + QStringLiteral("/junk2.qrb")});
-    EXPECT_TRUE(html.out.contains(QLatin1String("the required element Rules is missing [missing-element]")))
+    EXPECT_TRUE(
+        html.out.contains(QLatin1String("the required element Rules is missing [missing-element]")))
         << html.out.toStdString();
 
     // A file that isn't there is an input error: exit 2, named with its reason, and the files
     // beside it are still checked.
     const QString missing = dir + QStringLiteral("/Missing.qrb");
-    const ToolRun both = runQrbTool({QStringLiteral("check"), QStringLiteral("--format"), QStringLiteral("json"),
-                                     missing, TestEnvironment::sampleRulebase()});
+    const ToolRun both = runQrbTool({QStringLiteral("check"),
+                                     QStringLiteral("--format"),
+                                     QStringLiteral("json"),
+                                     missing,
+                                     TestEnvironment::sampleRulebase()});
     EXPECT_EQ(both.exitCode, 2);
-    EXPECT_TRUE(both.err.contains(missing + QStringLiteral(": No such file"))) << both.err.toStdString();
+    EXPECT_TRUE(both.err.contains(missing + QStringLiteral(": No such file")))
+        << both.err.toStdString();
     const QJsonArray files = parseJsonObject(both.out).value(QStringLiteral("files")).toArray();
     ASSERT_EQ(files.size(), 2);
-    EXPECT_EQ(files.at(0).toObject().value(QStringLiteral("ioError")).toString(), QStringLiteral("No such file"));
+    EXPECT_EQ(files.at(0).toObject().value(QStringLiteral("ioError")).toString(),
+              QStringLiteral("No such file"));
     EXPECT_TRUE(files.at(1).toObject().value(QStringLiteral("loaded")).toBool());
 }
 
 TEST(CheckCommand, OlderSchemasLoadWithAWarningAndUsageErrorsExitTwo)
 {
     const QString dir = TestEnvironment::makeTempDir();
-    const QString old = writeBytes(dir + QStringLiteral("/Old.qrb"), sampleInOldSchema(QStringLiteral("6.0")));
+    const QString old
+        = writeBytes(dir + QStringLiteral("/Old.qrb"), sampleInOldSchema(QStringLiteral("6.0")));
     const ToolRun run = checkJson(old);
     EXPECT_EQ(run.exitCode, 0) << run.out.toStdString();
     const QJsonArray findings = findingsOf(parseJsonObject(run.out));
@@ -228,11 +261,13 @@ TEST(CheckCommand, OlderSchemasLoadWithAWarningAndUsageErrorsExitTwo)
     EXPECT_EQ(runQrbTool({QStringLiteral("check"), QStringLiteral("--strict"), old}).exitCode, 1);
 
     EXPECT_EQ(runQrbTool({QStringLiteral("check")}).exitCode, 2);
-    const ToolRun format = runQrbTool({QStringLiteral("check"), QStringLiteral("--format"), QStringLiteral("xml"), old});
+    const ToolRun format = runQrbTool(
+        {QStringLiteral("check"), QStringLiteral("--format"), QStringLiteral("xml"), old});
     EXPECT_EQ(format.exitCode, 2);
     EXPECT_TRUE(format.err.contains(QLatin1String("unknown format 'xml'")));
     EXPECT_TRUE(format.out.isEmpty());
-    const ToolRun unknown = runQrbTool({QStringLiteral("check"), QStringLiteral("--frobnicate"), old});
+    const ToolRun unknown
+        = runQrbTool({QStringLiteral("check"), QStringLiteral("--frobnicate"), old});
     EXPECT_EQ(unknown.exitCode, 2);
     EXPECT_TRUE(unknown.err.contains(QLatin1String("qrbtool check: Unknown option 'frobnicate'")))
         << unknown.err.toStdString();

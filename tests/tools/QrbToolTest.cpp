@@ -25,7 +25,8 @@ TEST(QrbTool, OverviewVersionHelpAndUnknownCommands)
     const ToolRun help = runQrbTool({QStringLiteral("--help")});
     EXPECT_EQ(help.exitCode, 0);
     for (const char *command : {"check", "upgrade", "diff", "stats", "doc", "scripts", "import"})
-        EXPECT_TRUE(help.out.contains(QStringLiteral("\n  %1 ").arg(QLatin1String(command)))) << command;
+        EXPECT_TRUE(help.out.contains(QStringLiteral("\n  %1 ").arg(QLatin1String(command))))
+            << command;
 
     const ToolRun version = runQrbTool({QStringLiteral("--version")});
     EXPECT_EQ(version.exitCode, 0);
@@ -42,9 +43,12 @@ TEST(QrbTool, OverviewVersionHelpAndUnknownCommands)
         ASSERT_NE(command, nullptr) << name;
         const ToolRun commandHelp = runQrbTool({QLatin1String(name), QStringLiteral("--help")});
         EXPECT_EQ(commandHelp.exitCode, 0) << name;
-        EXPECT_TRUE(commandHelp.out.startsWith(QStringLiteral("Usage: qrbtool ") + command->synopsis())) << name;
+        EXPECT_TRUE(
+            commandHelp.out.startsWith(QStringLiteral("Usage: qrbtool ") + command->synopsis()))
+            << name;
         EXPECT_TRUE(commandHelp.out.contains(QLatin1String("Exit codes: 0 success")));
-        EXPECT_EQ(runQrbTool({QStringLiteral("help"), QLatin1String(name)}).out, commandHelp.out) << name;
+        EXPECT_EQ(runQrbTool({QStringLiteral("help"), QLatin1String(name)}).out, commandHelp.out)
+            << name;
     }
 }
 
@@ -54,15 +58,25 @@ TEST(QrbTool, CommandsOfFeaturesNotInThisBuildCheckTheirArgumentsThenSaySo)
     const QString dir = TestEnvironment::makeTempDir();
     const QString project = writeBytes(dir + QStringLiteral("/P.vbp"), "Type=Exe\r\n");
     const QList<QStringList> calls{
-        {QStringLiteral("doc"), sample, QStringLiteral("-o"), dir + QStringLiteral("/Out.html"),
-         QStringLiteral("--organisation"), QStringLiteral("Kestrel")},
+        {QStringLiteral("doc"),
+         sample,
+         QStringLiteral("-o"),
+         dir + QStringLiteral("/Out.html"),
+         QStringLiteral("--organisation"),
+         QStringLiteral("Kestrel")},
         {QStringLiteral("scripts"), sample, QStringLiteral("-o"), dir + QStringLiteral("/Out.qrs")},
-        {QStringLiteral("import"), sample, QStringLiteral("--from"), project, QStringLiteral("--dry-run")},
+        {QStringLiteral("import"),
+         sample,
+         QStringLiteral("--from"),
+         project,
+         QStringLiteral("--dry-run")},
     };
     for (const QStringList &call : calls) {
         const ToolRun run = runQrbTool(call);
         EXPECT_EQ(run.exitCode, 2);
-        EXPECT_EQ(run.err, QStringLiteral("qrbtool: '%1' is not available in this build\n").arg(call.first()));
+        EXPECT_EQ(
+            run.err,
+            QStringLiteral("qrbtool: '%1' is not available in this build\n").arg(call.first()));
         EXPECT_TRUE(run.out.isEmpty());
     }
     EXPECT_FALSE(QFileInfo::exists(dir + QStringLiteral("/Out.html")));
@@ -70,10 +84,14 @@ TEST(QrbTool, CommandsOfFeaturesNotInThisBuildCheckTheirArgumentsThenSaySo)
     // Usage comes first: a missing -o or --from is said as such.
     const ToolRun noOutput = runQrbTool({QStringLiteral("doc"), sample});
     EXPECT_EQ(noOutput.exitCode, 2);
-    EXPECT_TRUE(noOutput.err.contains(QLatin1String("qrbtool doc: no output file given (-o OUT.html)")));
+    EXPECT_TRUE(
+        noOutput.err.contains(QLatin1String("qrbtool doc: no output file given (-o OUT.html)")));
     const ToolRun noSource = runQrbTool({QStringLiteral("import"), sample});
     EXPECT_TRUE(noSource.err.contains(QLatin1String("qrbtool import: nothing to import from")));
-    const ToolRun missing = runQrbTool({QStringLiteral("scripts"), dir + QStringLiteral("/None.qrb"), QStringLiteral("-o"), dir + QStringLiteral("/x.qrs")});
+    const ToolRun missing = runQrbTool({QStringLiteral("scripts"),
+                                        dir + QStringLiteral("/None.qrb"),
+                                        QStringLiteral("-o"),
+                                        dir + QStringLiteral("/x.qrs")});
     EXPECT_EQ(missing.exitCode, 2);
     EXPECT_TRUE(missing.err.contains(QLatin1String("None.qrb: No such file")));
 }
@@ -88,7 +106,10 @@ TEST(QrbTool, TheConsoleAnswersEveryQuestionNoAndCatchesTheErrorFramesReports)
         EXPECT_EQ(&UserInterface::current(), &console);
         EXPECT_EQ(askYesNo(QStringLiteral("Save?")), MessageResult::No);
         EXPECT_EQ(askYesNoCancel(QStringLiteral("Save now?")), MessageResult::Cancel);
-        EXPECT_EQ(console.messageBox(QStringLiteral("Go on?"), MessageButtons::OKCancel, MessageIcon::Question, QString()),
+        EXPECT_EQ(console.messageBox(QStringLiteral("Go on?"),
+                                     MessageButtons::OKCancel,
+                                     MessageIcon::Question,
+                                     QString()),
                   MessageResult::Cancel);
         showWarning(QStringLiteral("Careful."));
         FileDialogRequest request;
@@ -98,12 +119,15 @@ TEST(QrbTool, TheConsoleAnswersEveryQuestionNoAndCatchesTheErrorFramesReports)
         // Without a log of the process's own, the error frame's reports arrive here as well.
         if (!gobjLogFile)
             ADD_FAILURE() << "the console set up no log";
-        reportError(QuorinError(5, QStringLiteral("Here::There"), QStringLiteral("Broken")), "There", "Here");
+        reportError(QuorinError(5, QStringLiteral("Here::There"), QStringLiteral("Broken")),
+                    "There",
+                    "Here");
         echo.flush();
         const QStringList messages = console.messages();
         ASSERT_EQ(messages.size(), 5);
         EXPECT_EQ(messages.at(3), QStringLiteral("Careful."));
-        EXPECT_TRUE(messages.at(4).startsWith(QLatin1String("Quorin Unexpected Error: Error 5 - Broken")));
+        EXPECT_TRUE(
+            messages.at(4).startsWith(QLatin1String("Quorin Unexpected Error: Error 5 - Broken")));
         EXPECT_EQ(console.takeMessages().size(), 5);
         EXPECT_TRUE(console.messages().isEmpty());
     }
@@ -132,16 +156,25 @@ TEST(QrbTool, TheBuiltProgramGivesItsExitCodes)
     const QString sample = TestEnvironment::sampleRulebase();
     const QString dir = TestEnvironment::makeTempDir();
     QString out;
-    EXPECT_EQ(exitOf({QStringLiteral("check"), QStringLiteral("--format"), QStringLiteral("json"), sample}, &out), 0);
+    EXPECT_EQ(
+        exitOf(
+            {QStringLiteral("check"), QStringLiteral("--format"), QStringLiteral("json"), sample},
+            &out),
+        0);
     EXPECT_TRUE(parseJsonObject(out).value(QStringLiteral("files")).isArray());
-    const QString broken = writeBytes(dir + QStringLiteral("/Broken.qrb"), sampleBytes().left(3000));
+    const QString broken
+        = writeBytes(dir + QStringLiteral("/Broken.qrb"), sampleBytes().left(3000));
     EXPECT_EQ(exitOf({QStringLiteral("check"), broken}, &out), 1);
     EXPECT_TRUE(out.startsWith(broken + QLatin1Char(':'))) << out.toStdString();
     EXPECT_EQ(exitOf({QStringLiteral("diff"), sample, broken}), 2);
     EXPECT_EQ(exitOf({QStringLiteral("check"), dir + QStringLiteral("/None.qrb")}), 2);
     EXPECT_EQ(exitOf({}), 2);
-    EXPECT_EQ(exitOf({QStringLiteral("doc"), sample, QStringLiteral("-o"), dir + QStringLiteral("/x.html")}), 2);
+    EXPECT_EQ(
+        exitOf(
+            {QStringLiteral("doc"), sample, QStringLiteral("-o"), dir + QStringLiteral("/x.html")}),
+        2);
     // The program writes no log beside itself.
-    EXPECT_FALSE(QFileInfo::exists(QFileInfo(program).absolutePath() + QStringLiteral("/Error.log")));
+    EXPECT_FALSE(
+        QFileInfo::exists(QFileInfo(program).absolutePath() + QStringLiteral("/Error.log")));
 #endif
 }

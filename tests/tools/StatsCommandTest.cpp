@@ -14,15 +14,17 @@ qint64 number(const QJsonObject &object, const char *name)
     return object.value(QLatin1String(name)).toInteger();
 }
 
-const char *const counters[] = {"codeLines", "commentLines", "inLineCommentLines", "blankLines", "totalLines"};
+const char *const counters[]
+    = {"codeLines", "commentLines", "inLineCommentLines", "blankLines", "totalLines"};
 
 } // namespace
 
 TEST(StatsCommand, AProjectWrittenHereIsCountedAsTheReviewerCountsIt)
 {
     const QString dir = TestEnvironment::makeTempDir();
-    const QString project = writeBytes(dir + QStringLiteral("/Tiny.vbp"),
-                                       "Type=Exe\r\nModule=modTiny; modTiny.bas\r\nName=\"Tiny\"\r\n");
+    const QString project
+        = writeBytes(dir + QStringLiteral("/Tiny.vbp"),
+                     "Type=Exe\r\nModule=modTiny; modTiny.bas\r\nName=\"Tiny\"\r\n");
     writeBytes(dir + QStringLiteral("/modTiny.bas"),
                "Attribute VB_Name = \"modTiny\"\r\n"
                "Option Explicit\r\n"
@@ -34,7 +36,8 @@ TEST(StatsCommand, AProjectWrittenHereIsCountedAsTheReviewerCountsIt)
                "        1\r\n"
                "End Sub\r\n");
 
-    const ToolRun json = runQrbTool({QStringLiteral("stats"), QStringLiteral("--format"), QStringLiteral("json"), project});
+    const ToolRun json = runQrbTool(
+        {QStringLiteral("stats"), QStringLiteral("--format"), QStringLiteral("json"), project});
     ASSERT_EQ(json.exitCode, 0) << json.err.toStdString();
     const QJsonObject root = parseJsonObject(json.out);
     const QJsonArray projects = root.value(QStringLiteral("projects")).toArray();
@@ -58,14 +61,16 @@ TEST(StatsCommand, AProjectWrittenHereIsCountedAsTheReviewerCountsIt)
     const QStringList lines = text.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     ASSERT_EQ(lines.size(), 4) << text.out.toStdString();
     EXPECT_EQ(lines.at(0).simplified(), QStringLiteral("Files Code Comment Blank Total Project"));
-    EXPECT_EQ(lines.at(1).simplified(), QStringLiteral("1 5 1 1 7 Tiny (%1)").arg(QDir::current().relativeFilePath(project)));
+    EXPECT_EQ(lines.at(1).simplified(),
+              QStringLiteral("1 5 1 1 7 Tiny (%1)").arg(QDir::current().relativeFilePath(project)));
     EXPECT_TRUE(lines.at(2).simplified().endsWith(QLatin1String("modTiny.bas")));
     EXPECT_EQ(lines.at(3).simplified(), QStringLiteral("1 5 1 1 7 Total"));
 
     // Not a project, or no file at all: exit 2 with the reason; nothing on the output.
     const QString notProject = writeBytes(dir + QStringLiteral("/notes.txt"), "x");
     for (const QString &bad : {notProject, dir + QStringLiteral("/Missing.vbp")}) {
-        const ToolRun run = runQrbTool({QStringLiteral("stats"), QStringLiteral("--format=json"), bad});
+        const ToolRun run
+            = runQrbTool({QStringLiteral("stats"), QStringLiteral("--format=json"), bad});
         EXPECT_EQ(run.exitCode, 2);
         EXPECT_TRUE(run.err.contains(bad)) << run.err.toStdString();
         EXPECT_EQ(parseJsonObject(run.out).value(QStringLiteral("projects")).toArray().size(), 0);
@@ -84,10 +89,16 @@ TEST(StatsCommand, TheSharedProjectsAddUpAndAMissingSourceFileIsAFinding)
     const QString empty = dir + QStringLiteral("/Tools/Empty.vbp");
 
     // The group's own project named again counts once.
-    const ToolRun run = runQrbTool({QStringLiteral("stats"), QStringLiteral("--format"), QStringLiteral("json"),
-                                    group, ledger, builder, empty});
+    const ToolRun run = runQrbTool({QStringLiteral("stats"),
+                                    QStringLiteral("--format"),
+                                    QStringLiteral("json"),
+                                    group,
+                                    ledger,
+                                    builder,
+                                    empty});
     EXPECT_EQ(run.exitCode, 1);
-    EXPECT_TRUE(run.err.contains(QLatin1String("modGone.bas: No such file (in project ReportBuilder)")))
+    EXPECT_TRUE(
+        run.err.contains(QLatin1String("modGone.bas: No such file (in project ReportBuilder)")))
         << run.err.toStdString();
     const QJsonObject root = parseJsonObject(run.out);
     const QJsonArray projects = root.value(QStringLiteral("projects")).toArray();
@@ -108,10 +119,12 @@ TEST(StatsCommand, TheSharedProjectsAddUpAndAMissingSourceFileIsAFinding)
             sum.insert(QLatin1String(counter), number(sum, counter) + number(project, counter));
         }
         EXPECT_EQ(number(project, "totalLines"),
-                  number(project, "codeLines") + number(project, "commentLines") + number(project, "blankLines"));
+                  number(project, "codeLines") + number(project, "commentLines")
+                      + number(project, "blankLines"));
     }
     EXPECT_EQ(names.size(), 5) << names.join(QLatin1Char(',')).toStdString();
-    EXPECT_EQ(names.count(QStringLiteral("Ledger")), 1) << names.join(QLatin1Char(',')).toStdString();
+    EXPECT_EQ(names.count(QStringLiteral("Ledger")), 1)
+        << names.join(QLatin1Char(',')).toStdString();
     const QJsonObject total = root.value(QStringLiteral("total")).toObject();
     EXPECT_EQ(number(total, "projects"), 5);
     EXPECT_EQ(number(total, "files"), files);
@@ -121,9 +134,14 @@ TEST(StatsCommand, TheSharedProjectsAddUpAndAMissingSourceFileIsAFinding)
     EXPECT_GT(number(total, "totalLines"), 15000);
 
     const QJsonObject reportBuilder = projects.at(3).toObject();
-    EXPECT_EQ(reportBuilder.value(QStringLiteral("name")).toString(), QStringLiteral("ReportBuilder"));
+    EXPECT_EQ(reportBuilder.value(QStringLiteral("name")).toString(),
+              QStringLiteral("ReportBuilder"));
     const QJsonArray unread = reportBuilder.value(QStringLiteral("unreadFiles")).toArray();
     ASSERT_EQ(unread.size(), 1);
-    EXPECT_TRUE(unread.at(0).toObject().value(QStringLiteral("file")).toString().endsWith(QLatin1String("modGone.bas")));
+    EXPECT_TRUE(unread.at(0)
+                    .toObject()
+                    .value(QStringLiteral("file"))
+                    .toString()
+                    .endsWith(QLatin1String("modGone.bas")));
     EXPECT_EQ(number(projects.at(4).toObject(), "files"), 0);
 }

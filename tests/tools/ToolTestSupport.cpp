@@ -85,8 +85,7 @@ int replaceOnLine(QByteArray &text,
         end = text.size();
     QByteArray line = text.mid(start, end - start);
     if (!line.contains(from)) {
-        ADD_FAILURE() << "the line of " << marker.toStdString() << " lacks "
-                      << from.toStdString();
+        ADD_FAILURE() << "the line of " << marker.toStdString() << " lacks " << from.toStdString();
         return 0;
     }
     line.replace(line.indexOf(from), from.size(), to);
@@ -97,9 +96,7 @@ int replaceOnLine(QByteArray &text,
 QByteArray sampleInOldSchema(const QString &version)
 {
     QString text = QString::fromUtf8(sampleBytes());
-    const auto drop = [&text](const QString &pattern) {
-        text.remove(QRegularExpression(pattern));
-    };
+    const auto drop = [&text](const QString &pattern) { text.remove(QRegularExpression(pattern)); };
     // What the upgrade to 6.2 adds.
     drop(QStringLiteral(" TagDescription=\"[^\"]*\""));
     drop(QStringLiteral(" TagExample=\"[^\"]*\""));

@@ -35,7 +35,8 @@ TEST(UpgradeCommand, OldSchemasComeUpTo62WithTheirContentAndVersionKept)
 
         const ToolRun run = runQrbTool({QStringLiteral("upgrade"), in, QStringLiteral("-o"), out});
         ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
-        EXPECT_TRUE(run.out.contains(QStringLiteral("schema %1 written as schema 6.2").arg(version)));
+        EXPECT_TRUE(
+            run.out.contains(QStringLiteral("schema %1 written as schema 6.2").arg(version)));
         EXPECT_EQ(readBytes(in), oldBytes); // the input is never touched
         EXPECT_TRUE(readBytes(out).startsWith("<Quorin_Rulebase SchemaVersion=\"6.2\">"));
 
@@ -62,14 +63,19 @@ TEST(UpgradeCommand, NeverOverwritesUnlessInPlaceAndNeverWritesAPartialFile)
     const QString in = writeBytes(dir + QStringLiteral("/Old.qrb"), oldBytes);
     const QString taken = writeBytes(dir + QStringLiteral("/Taken.qrb"), "keep me");
 
-    const ToolRun refused = runQrbTool({QStringLiteral("upgrade"), in, QStringLiteral("-o"), taken});
+    const ToolRun refused
+        = runQrbTool({QStringLiteral("upgrade"), in, QStringLiteral("-o"), taken});
     EXPECT_EQ(refused.exitCode, 2);
-    EXPECT_TRUE(refused.err.contains(taken + QStringLiteral(": already exists"))) << refused.err.toStdString();
+    EXPECT_TRUE(refused.err.contains(taken + QStringLiteral(": already exists")))
+        << refused.err.toStdString();
     EXPECT_EQ(readBytes(taken), QByteArray("keep me"));
 
     // Neither or both of -o and --in-place is a usage error.
     EXPECT_EQ(runQrbTool({QStringLiteral("upgrade"), in}).exitCode, 2);
-    EXPECT_EQ(runQrbTool({QStringLiteral("upgrade"), in, QStringLiteral("--in-place"), QStringLiteral("-o"),
+    EXPECT_EQ(runQrbTool({QStringLiteral("upgrade"),
+                          in,
+                          QStringLiteral("--in-place"),
+                          QStringLiteral("-o"),
                           dir + QStringLiteral("/x.qrb")})
                   .exitCode,
               2);
@@ -77,9 +83,11 @@ TEST(UpgradeCommand, NeverOverwritesUnlessInPlaceAndNeverWritesAPartialFile)
 
     // Input that can't be upgraded leaves no output behind, whatever the reason.
     const QByteArray sample = sampleBytes();
-    const QString truncated = writeBytes(dir + QStringLiteral("/Truncated.qrb"), oldBytes.left(oldBytes.size() / 3));
-    const QString future = writeBytes(dir + QStringLiteral("/Future.qrb"),
-                                      QByteArray(sample).replace("SchemaVersion=\"6.2\"", "SchemaVersion=\"7.0\""));
+    const QString truncated
+        = writeBytes(dir + QStringLiteral("/Truncated.qrb"), oldBytes.left(oldBytes.size() / 3));
+    const QString future
+        = writeBytes(dir + QStringLiteral("/Future.qrb"),
+                     QByteArray(sample).replace("SchemaVersion=\"6.2\"", "SchemaVersion=\"7.0\""));
     QByteArray duplicate = oldBytes;
     duplicate.replace("RuleID=\"5030\"", "RuleID=\"5029\"");
     const QString partial = writeBytes(dir + QStringLiteral("/Duplicate.qrb"), duplicate);
@@ -90,23 +98,30 @@ TEST(UpgradeCommand, NeverOverwritesUnlessInPlaceAndNeverWritesAPartialFile)
         EXPECT_TRUE(run.err.contains(bad)) << run.err.toStdString();
         EXPECT_FALSE(QFileInfo::exists(out)) << bad.toStdString();
     }
-    const ToolRun futureRun = runQrbTool({QStringLiteral("upgrade"), future, QStringLiteral("--in-place")});
+    const ToolRun futureRun
+        = runQrbTool({QStringLiteral("upgrade"), future, QStringLiteral("--in-place")});
     EXPECT_TRUE(futureRun.err.contains(QLatin1String("schema version \"7.0\" can't be upgraded")));
-    EXPECT_EQ(readBytes(future), QByteArray(sample).replace("SchemaVersion=\"6.2\"", "SchemaVersion=\"7.0\""));
+    EXPECT_EQ(readBytes(future),
+              QByteArray(sample).replace("SchemaVersion=\"6.2\"", "SchemaVersion=\"7.0\""));
 
     // A folder that takes no files: the write fails with the reason, and no file appears.
     const QString locked = dir + QStringLiteral("/locked");
     QDir().mkpath(locked);
     if (TestEnvironment::makeReadOnly(locked)) {
-        const ToolRun run = runQrbTool({QStringLiteral("upgrade"), in, QStringLiteral("-o"), locked + QStringLiteral("/New.qrb")});
+        const ToolRun run = runQrbTool({QStringLiteral("upgrade"),
+                                        in,
+                                        QStringLiteral("-o"),
+                                        locked + QStringLiteral("/New.qrb")});
         TestEnvironment::makeWritable(locked);
         EXPECT_EQ(run.exitCode, 2);
-        EXPECT_TRUE(run.err.contains(locked + QStringLiteral("/New.qrb: "))) << run.err.toStdString();
+        EXPECT_TRUE(run.err.contains(locked + QStringLiteral("/New.qrb: ")))
+            << run.err.toStdString();
         EXPECT_TRUE(QDir(locked).entryList(QDir::Files | QDir::Hidden).isEmpty());
     }
 
     // In place: the file itself is rewritten, once; a second run finds nothing to do.
-    const ToolRun inPlace = runQrbTool({QStringLiteral("upgrade"), in, QStringLiteral("--in-place")});
+    const ToolRun inPlace
+        = runQrbTool({QStringLiteral("upgrade"), in, QStringLiteral("--in-place")});
     EXPECT_EQ(inPlace.exitCode, 0) << inPlace.err.toStdString();
     const QByteArray upgraded = readBytes(in);
     EXPECT_TRUE(upgraded.startsWith("<Quorin_Rulebase SchemaVersion=\"6.2\">"));
