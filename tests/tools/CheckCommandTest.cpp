@@ -208,6 +208,16 @@ TEST(CheckCommand, UnreadableFilesGiveTheParsersPlaceAndNeverCrash)
     }
     EXPECT_TRUE(sawXml) << run.out.toStdString();
 
+    // Cut anywhere, the sample is refused as a whole, with the parser's reason.
+    for (int tenth = 1; tenth <= 9; ++tenth) {
+        const QString cut = writeBytes(dir + QStringLiteral("/Cut%1.qrb").arg(tenth),
+                                       sample.left(sample.size() * tenth / 10));
+        const ToolRun result = checkJson(cut);
+        EXPECT_EQ(result.exitCode, 1) << tenth;
+        const QJsonArray found = findingsOf(parseJsonObject(result.out));
+        EXPECT_EQ(where(found, QStringLiteral("xml")).size(), 1) << tenth;
+    }
+
     // Nothing that isn't a rulebase makes it stumble, and each gives findings, not a crash.
     const QByteArray junk[] = {QByteArray(),
                                QByteArray("\x00\xff\xfe garbage \x01", 14),
