@@ -56,6 +56,20 @@ TEST(UpgradeCommand, OldSchemasComeUpTo62WithTheirContentAndVersionKept)
     }
 }
 
+TEST(UpgradeCommand, ACurrentRulebaseIsCopiedAsItReads)
+{
+    const QString out = TestEnvironment::makeTempDir() + QStringLiteral("/Copy.qrb");
+    const ToolRun run = runQrbTool(
+        {QStringLiteral("upgrade"), TestEnvironment::sampleRulebase(), QStringLiteral("-o"), out});
+    ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
+    const auto sample = loadQuietly(TestEnvironment::sampleRulebase());
+    const auto copy = loadQuietly(out);
+    ASSERT_TRUE(sample && copy);
+    EXPECT_EQ(dumpRulebase(*copy).toStdString(), dumpRulebase(*sample).toStdString());
+    EXPECT_EQ(runQrbTool({QStringLiteral("diff"), TestEnvironment::sampleRulebase(), out}).exitCode,
+              0);
+}
+
 TEST(UpgradeCommand, NeverOverwritesUnlessInPlaceAndNeverWritesAPartialFile)
 {
     const QString dir = TestEnvironment::makeTempDir();
