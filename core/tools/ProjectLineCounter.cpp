@@ -1,0 +1,111 @@
+#include "tools/ProjectLineCounter.h"
+
+#include "collections/ObjectKeyedArrayList.h"
+#include "project/SourceLineStatistics.h"
+#include "project/VirtualObject.h"
+#include "project/VirtualProject.h"
+#include "project/VirtualSourceFile.h"
+#include "project/modQuorinUtils.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+void ProjectLineCounter::Lines::add(const Lines &other)
+{
+    code += other.code;
+    comment += other.comment;
+    inLineComment += other.inLineComment;
+    blank += other.blank;
+    total += other.total;
+}
+
+bool ProjectLineCounter::projectFiles(const QString &argument,
+                                      QStringList &projects,
+                                      QString &problem)
+{
+    const QFileInfo info(argument);
+    if (!info.exists()) {
+        problem = QStringLiteral("No such file");
+        return false;
+    }
+    if (!info.isFile()) {
+        problem = QStringLiteral("Not a file");
+        return false;
+    }
+    const QString path = info.absoluteFilePath();
+    if (modQuorinUtils::IsVBPFile(path)) {
+        projects << path;
+        return true;
+    }
+    if (modQuorinUtils::IsVBGFile(path)) {
+        const StringArrayList list = modQuorinUtils::ProjectFileListFromVBG(path);
+        for (qint32 i = 1; i <= list.Count(); ++i)
+            projects << list.Item(i);
+        if (list.Count() == 0) {
+            problem = QStringLiteral("The group names no project");
+            return false;
+        }
+        return true;
+    }
+    problem = QStringLiteral("Neither a project (.vbp) nor a group (.vbg) file");
+    return false;
+}
+
+ProjectLineCounter::Project ProjectLineCounter::count(const QString &projectFile)
+{
+    Project result;
+    result.path = projectFile;
+    result.name = QFileInfo(projectFile).completeBaseName();
+    auto project = std::make_shared<VirtualProject>();
+    switch (project->LoadProject(projectFile)) {
+    case ProjectLoadStatus::Read:
+    case ProjectLoadStatus::LineNotDecoded:
+        break;
+    case ProjectLoadStatus::NotFound:
+        result.problem = QStringLiteral("No such file");
+        return result;
+    default:
+        result.problem = QStringLiteral("The project file could not be opened");
+        return result;
+    }
+    result.read = true;
+    if (!project->Name().isEmpty())
+        result.name = project->Name();
+
+    const auto sources = project->SourceFiles();
+    for (qint32 i = 1; i <= sources->Count(); ++i) {
+        const auto source = sources->Item(i);
+        SourceFile file;
+        file.name = source->Name();
+        file.path = source->Filename();
+        const QFileInfo info(file.path);
+        if (!info.isFile()) {
+            file.problem = QStringLiteral("No such file");
+        } else if (source->CountSourceLines() != 0) {
+            file.problem = QStringLiteral("The file could not be read");
+        } else {
+            file.read = true;
+            const auto stats = source->FileStats()->LineStats();
+            file.lines.code = stats->CodeLines();
+            file.lines.comment = stats->CommentOnlyLines();
+            file.lines.inLineComment = stats->InLineCommentLines();
+            file.lines.blank = stats->BlankLines();
+            file.lines.total = stats->TotalLines();
+        }
+        result.files.push_back(file);
+    }
+    std::stable_sort(
+        result.files.begin(), result.files.end(), [](const SourceFile &a, const SourceFile &b) {
+            return a.path.compare(b.path, Qt::CaseInsensitive) < 0;
+        });
+    for (const SourceFile &file : result.files) {
+        if (file.read) {
+            ++result.filesRead;
+            result.lines.add(file.lines);
+        } else {
+            ++result.filesUnread;
+        }
+    }
+    return result;
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+class Rulebase;
+
+// A rulebase read the way the administrator's program reads it, hidden categories included,
+// with what the load said on the way: the messages of a failed load and the reports of
+// sections that stopped part-way.
+struct LoadedRulebase
+{
+    // Null when the load failed.
+    std::shared_ptr<Rulebase> rulebase;
+    // Every box the load showed, in order; empty for a clean load.
+    QStringList messages;
+};
+
+class ToolRulebaseLoader final
+{
+public:
+    // False, with the reason, when the file isn't there or can't be opened for reading; the
+    // loader itself only says that parsing failed.
+    static bool isReadable(const QString &filename, QString &reason);
+    static LoadedRulebase load(const QString &filename);
+};

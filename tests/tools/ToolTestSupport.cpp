@@ -1,0 +1,124 @@
+#include "ToolTestSupport.h"
+
+#include "support/TestEnvironment.h"
+#include "tools/QrbTool.h"
+#include "tools/ToolContext.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QRegularExpression>
+#include <QTextStream>
+
+#include <gtest/gtest.h>
+
+ToolRun runQrbTool(const QStringList &arguments)
+{
+    ToolRun run;
+    QTextStream out(&run.out);
+    QTextStream err(&run.err);
+    ToolContext context(out, err, false);
+    QrbTool tool;
+    run.exitCode = tool.run(arguments, context);
+    out.flush();
+    err.flush();
+    return run;
+}
+
+QJsonObject parseJsonObject(const QString &text)
+{
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8(), &error);
+    EXPECT_EQ(error.error, QJsonParseError::NoError)
+        << error.errorString().toStdString() << " in:\n"
+        << text.toStdString();
+    EXPECT_TRUE(document.isObject());
+    return document.object();
+}
+
+QByteArray readBytes(const QString &filename)
+{
+    QFile file(filename);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return file.readAll();
+}
+
+QString writeBytes(const QString &filename, const QByteArray &bytes)
+{
+    QDir().mkpath(QFileInfo(filename).absolutePath());
+    QFile file(filename);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate)) << filename.toStdString();
+    file.write(bytes);
+    return filename;
+}
+
+QByteArray sampleBytes()
+{
+    return readBytes(TestEnvironment::sampleRulebase());
+}
+
+int lineOf(const QByteArray &text, const QByteArray &marker)
+{
+    const qsizetype at = text.indexOf(marker);
+    return at < 0 ? 0 : int(text.left(at).count('\n')) + 1;
+}
+
+int replaceOnLine(QByteArray &text,
+                  const QByteArray &marker,
+                  const QByteArray &from,
+                  const QByteArray &to,
+                  int linesAfter)
+{
+    const qsizetype at = text.indexOf(marker);
+    if (at < 0) {
+        ADD_FAILURE() << "no line holds " << marker.toStdString();
+        return 0;
+    }
+    const int markerLine = lineOf(text, marker);
+    qsizetype start = text.lastIndexOf('\n', at) + 1;
+    for (int i = 0; i < linesAfter; ++i)
+        start = text.indexOf('\n', start) + 1;
+    qsizetype end = text.indexOf('\n', start);
+    if (end < 0)
+        end = text.size();
+    QByteArray line = text.mid(start, end - start);
+    if (!line.contains(from)) {
+        ADD_FAILURE() << "the line of " << marker.toStdString() << " lacks " << from.toStdString();
+        return 0;
+    }
+    line.replace(line.indexOf(from), from.size(), to);
+    text.replace(start, end - start, line);
+    return markerLine;
+}
+
+QByteArray sampleInOldSchema(const QString &version)
+{
+    QString text = QString::fromUtf8(sampleBytes());
+    const auto drop = [&text](const QString &pattern) { text.remove(QRegularExpression(pattern)); };
+    // What the upgrade to 6.2 adds.
+    drop(QStringLiteral(" TagDescription=\"[^\"]*\""));
+    drop(QStringLiteral(" TagExample=\"[^\"]*\""));
+    drop(QStringLiteral(" ExclusionList=\"[^\"]*\""));
+    drop(QStringLiteral(" CaseSensitive=\"[^\"]*\""));
+    drop(QStringLiteral(" ArrayTag=\"[^\"]*\""));
+    if (version == QLatin1String("6.0")) {
+        // What the upgrade to 6.1 adds.
+        drop(QStringLiteral(" ToleranceCount=\"[^\"]*\""));
+        drop(QStringLiteral(" ToleranceImpact=\"[^\"]*\""));
+        drop(QStringLiteral(" TolerancePercentageComments=\"[^\"]*\""));
+        drop(QStringLiteral(" ToleranceCyclomaticComplexity=\"[^\"]*\""));
+        drop(QStringLiteral("<Report>[\\s\\S]*</Report>\\s*"));
+        drop(QStringLiteral("<Report/>\\s*"));
+    }
+    text.replace(QStringLiteral("SchemaVersion=\"6.2\""),
+                 QStringLiteral("SchemaVersion=\"%1\"").arg(version));
+    return text.toUtf8();
+}
+
+QString vb6DataDir()
+{
+    const QString dir = TestEnvironment::sharedDataDir() + QStringLiteral("/vb6");
+    return QFileInfo(dir).isDir() ? QDir(dir).absolutePath() : QString();
+}
