@@ -22,6 +22,7 @@
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/UnauthorisedKeyword.h"
+#include "views/CommandTable.h"
 #include "views/IRuleEditorLauncher.h"
 #include "views/modViewCommon.h"
 
@@ -44,11 +45,9 @@ const QString title = QStringLiteral(" Authority Items");
 constexpr int componentImage = 1;
 constexpr int referenceImage = 2;
 
-// The tools that only this view enables.
-const QStringList itemTools = {QStringLiteral("tlAddFromProject"),
-                               QStringLiteral("tlAuthorisedComponent"),
-                               QStringLiteral("tlAuthorisedReference"),
-                               QStringLiteral("tlUnauthorisedKeyword")};
+// Enabled while a rulebase is set, disabled when the view goes.
+const QStringList itemTools = CommandTable::authorisedItemTools()
+                              + QStringList{QStringLiteral("tlUnauthorisedKeyword")};
 
 QString versionsText(const QString &versionList)
 {
