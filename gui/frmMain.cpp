@@ -28,8 +28,8 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTextBrowser>
-#include <QToolBar>
 #include <QTimer>
+#include <QToolBar>
 #include <QTreeView>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -134,9 +134,8 @@ frmMain::frmMain(bool interactive, QWidget *parent)
     m_list->viewport()->setAcceptDrops(true);
     m_list->viewport()->installEventFilter(new FileDropFilter(
         [this] {
-            return m_application
-                       ? dynamic_cast<AuthorisedItemsView *>(m_application->CurrentView())
-                       : nullptr;
+            return m_application ? dynamic_cast<AuthorisedItemsView *>(m_application->CurrentView())
+                                 : nullptr;
         },
         this));
 

@@ -19,8 +19,12 @@ void appendRows(const List &list, QList<AddFromProjectForm::Row> &rows, Text tex
 {
     for (qint32 i = 1; i <= list.Count(); ++i) {
         const auto item = list.Item(i);
-        rows.append({item->LibID(), text(*item), item->VersionList(), item->Filename(),
-                     item->LibID(), item->Selected()});
+        rows.append({item->LibID(),
+                     text(*item),
+                     item->VersionList(),
+                     item->Filename(),
+                     item->LibID(),
+                     item->Selected()});
     }
 }
 
@@ -87,9 +91,8 @@ QList<AddFromProjectForm::Row> AddFromProjectForm::Rows() const
             return;
         // By the column's text, as a list sorts, ignoring case.
         std::stable_sort(rows.begin(), rows.end(), [this](const Row &a, const Row &b) {
-            const int order = QString::compare(columnText(a, m_sortColumn),
-                                               columnText(b, m_sortColumn),
-                                               Qt::CaseInsensitive);
+            const int order = QString::compare(
+                columnText(a, m_sortColumn), columnText(b, m_sortColumn), Qt::CaseInsensitive);
             return m_sortOrder == 0 ? order < 0 : order > 0;
         });
     });

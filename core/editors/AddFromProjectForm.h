@@ -16,7 +16,7 @@ public:
 
     struct Row
     {
-        QString key; // the LibID
+        QString key;  // the LibID
         QString text; // Filename of a component, Description of a reference
         QString version;
         QString filename;

@@ -76,7 +76,9 @@ QString AuthorisedItemForm::ObjectPropertyMacro(const QString &propertyName) con
            + propertyName + QStringLiteral("%");
 }
 
-int AuthorisedItemForm::InsertIntoAdvice(const QString &text, int selectionStart, int selectionLength)
+int AuthorisedItemForm::InsertIntoAdvice(const QString &text,
+                                         int selectionStart,
+                                         int selectionLength)
 {
     const int start = std::clamp(selectionStart, 0, int(m_advice.size()));
     const int length = std::clamp(selectionLength, 0, int(m_advice.size()) - start);

@@ -167,9 +167,8 @@ void AddFromProject::ShowNewItems(qint32 components, qint32 references, const QS
                                         programTitle());
 }
 
-QString AddFromProject::NewItemsMessage(qint32 newComponents,
-                                        qint32 newReferences,
-                                        const QString &project)
+QString
+AddFromProject::NewItemsMessage(qint32 newComponents, qint32 newReferences, const QString &project)
 {
     QString text;
     if (newComponents == 0 && newReferences == 0)

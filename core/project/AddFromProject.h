@@ -42,7 +42,8 @@ public:
 
     // "2 new components and 1 new reference was found for the project 'a.vbp'." and the like;
     // an empty project name speaks of the selected projects.
-    static QString NewItemsMessage(qint32 newComponents, qint32 newReferences, const QString &project);
+    static QString
+    NewItemsMessage(qint32 newComponents, qint32 newReferences, const QString &project);
     static QString NewComponentsMessage(qint32 count, bool noVerb);
     static QString NewReferencesMessage(qint32 count, bool noVerb);
 

@@ -46,8 +46,8 @@ constexpr int componentImage = 1;
 constexpr int referenceImage = 2;
 
 // Enabled while a rulebase is set, disabled when the view goes.
-const QStringList itemTools = CommandTable::authorisedItemTools()
-                              + QStringList{QStringLiteral("tlUnauthorisedKeyword")};
+const QStringList itemTools
+    = CommandTable::authorisedItemTools() + QStringList{QStringLiteral("tlUnauthorisedKeyword")};
 
 QString versionsText(const QString &versionList)
 {
@@ -359,9 +359,8 @@ void AuthorisedItemsView::ApplySort(const QString &key)
     m_lvwList->setSortOrder(order);
     m_lvwList->setSorted(true);
     const int header = column + 1;
-    m_lvwList->setColumnIcon(header,
-                             order == 1 ? QStringLiteral("SortDescending")
-                                        : QStringLiteral("SortAscending"));
+    m_lvwList->setColumnIcon(
+        header, order == 1 ? QStringLiteral("SortDescending") : QStringLiteral("SortAscending"));
     // A header image loses the right alignment on some platforms.
     if (m_lvwList->columnAlignment(header) == ColumnAlignment::Right)
         m_lvwList->setColumnAlignment(header, ColumnAlignment::Right);
@@ -488,12 +487,13 @@ void AuthorisedItemsView::MouseMove(int x, int y)
         if (!m_lvwList)
             return;
         const int row = keywordsShowing() ? m_lvwList->hitTest(x, y) : 0;
-        const bool inactive = row != 0
-                              && m_lvwList->foreColor(row) == modViewCommon::InactiveColour;
-        m_lvwList->setToolTipText(inactive ? QStringLiteral("The rule for this unauthorised keyword "
-                                                            "is not active and therefore will not "
-                                                            "be enforced.")
-                                           : QString());
+        const bool inactive
+            = row != 0 && m_lvwList->foreColor(row) == modViewCommon::InactiveColour;
+        m_lvwList->setToolTipText(inactive
+                                      ? QStringLiteral("The rule for this unauthorised keyword "
+                                                       "is not active and therefore will not "
+                                                       "be enforced.")
+                                      : QString());
     });
 }
 
@@ -674,7 +674,9 @@ void AuthorisedItemsView::ActivateItems(bool active)
         if (!m_lvwList || !m_rulebase || !keywordsShowing())
             return;
         modViewCommon::ActivateRules(
-            active, modViewCommon::rulesOf(m_rulebase->RuleLists()->UnauthorisedKeywords()), *m_lvwList);
+            active,
+            modViewCommon::rulesOf(m_rulebase->RuleLists()->UnauthorisedKeywords()),
+            *m_lvwList);
         SetStatusBarText();
     });
 }
@@ -786,7 +788,8 @@ void AuthorisedItemsView::AddAuthorisedItemsFromProject(const std::optional<QStr
             }
             // A known library: the new version joins its list, repeats and all.
             const std::shared_ptr<AuthorisedComponent> known = components.Item(index);
-            known->setVersionList(known->VersionList() + QStringLiteral("; ") + item->VersionList());
+            known->setVersionList(known->VersionList() + QStringLiteral("; ")
+                                  + item->VersionList());
             components.setDirty(true);
             UpdateVersionsInRow(componentsKey, known->LibID(), known->VersionList());
         }
@@ -804,7 +807,8 @@ void AuthorisedItemsView::AddAuthorisedItemsFromProject(const std::optional<QStr
                 continue;
             }
             const std::shared_ptr<AuthorisedReference> known = references.Item(index);
-            known->setVersionList(known->VersionList() + QStringLiteral("; ") + item->VersionList());
+            known->setVersionList(known->VersionList() + QStringLiteral("; ")
+                                  + item->VersionList());
             references.setDirty(true);
             UpdateVersionsInRow(referencesKey, known->LibID(), known->VersionList());
         }
@@ -873,7 +877,8 @@ void AuthorisedItemsView::AddAXComponentsFromFile(const QStringList &fileList)
             }
             const std::shared_ptr<AuthorisedReference> known = references.Item(index);
             if (!holdsVersion(known->VersionList(), file->Version())) {
-                known->setVersionList(known->VersionList() + QStringLiteral("; ") + file->Version());
+                known->setVersionList(known->VersionList() + QStringLiteral("; ")
+                                      + file->Version());
                 references.setDirty(true);
                 UpdateVersionsInRow(referencesKey, known->LibID(), known->VersionList());
             }
@@ -887,22 +892,24 @@ void AuthorisedItemsView::AddAXComponentsFromFile(const QStringList &fileList)
                                             : QStringLiteral(" are not ActiveX components"))
                                      + QStringLiteral(".  Would you like to see the details?");
             if (askYesNo(question) == MessageResult::Yes) {
-                const QString text = QLocale().toString(QDate::currentDate(), QLocale::LongFormat)
-                                     + crlf + QStringLiteral("THE FOLLOWING")
-                                     + (one ? QStringLiteral(" IS NOT AN") : QStringLiteral(" ARE NOT"))
-                                     + QStringLiteral(" ACTIVEX COMPONENT")
-                                     + (one ? QString() : QStringLiteral("S")) + QStringLiteral(":")
-                                     + crlf + report;
-                const QString reportFile = (gobjQuorinData ? gobjQuorinData->LocalDataPath()
-                                                           : QString())
-                                           + QStringLiteral("NonActiveXFiles.txt");
+                const QString text
+                    = QLocale().toString(QDate::currentDate(), QLocale::LongFormat) + crlf
+                      + QStringLiteral("THE FOLLOWING")
+                      + (one ? QStringLiteral(" IS NOT AN") : QStringLiteral(" ARE NOT"))
+                      + QStringLiteral(" ACTIVEX COMPONENT")
+                      + (one ? QString() : QStringLiteral("S")) + QStringLiteral(":") + crlf
+                      + report;
+                const QString reportFile
+                    = (gobjQuorinData ? gobjQuorinData->LocalDataPath() : QString())
+                      + QStringLiteral("NonActiveXFiles.txt");
                 QSaveFile file(reportFile);
                 if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0
                     || !file.commit())
-                    throw QuorinError(ErrorNumber::NoFilename,
-                                      QStringLiteral("AuthorisedItemsView::AddAXComponentsFromFile"),
-                                      QStringLiteral("Can't write the report '") + reportFile
-                                          + QStringLiteral("'."));
+                    throw QuorinError(
+                        ErrorNumber::NoFilename,
+                        QStringLiteral("AuthorisedItemsView::AddAXComponentsFromFile"),
+                        QStringLiteral("Can't write the report '") + reportFile
+                            + QStringLiteral("'."));
                 UserInterface::current().shellOpen(reportFile);
             }
         }

@@ -51,12 +51,13 @@ AuthorisedItemDialog::AuthorisedItemDialog(AuthorisedItemForm &form,
         m_description = new QLineEdit;
         m_description->setObjectName(QStringLiteral("txtDescription"));
         labelled(descriptionLabel, m_description);
-        connect(m_description, &QLineEdit::textChanged, this, [this, description](const QString &text) {
-            if (m_showing)
-                return;
-            description(text);
-            UpdateControls();
-        });
+        connect(
+            m_description, &QLineEdit::textChanged, this, [this, description](const QString &text) {
+                if (m_showing)
+                    return;
+                description(text);
+                UpdateControls();
+            });
     }
 
     m_guid = new QLineEdit;
@@ -117,7 +118,8 @@ AuthorisedItemDialog::AuthorisedItemDialog(AuthorisedItemForm &form,
         if (m_form.Browse())
             ShowFields();
     });
-    connect(m_objectProperty, &QPushButton::clicked, this, &AuthorisedItemDialog::InsertObjectProperty);
+    connect(
+        m_objectProperty, &QPushButton::clicked, this, &AuthorisedItemDialog::InsertObjectProperty);
     connect(m_ok, &QPushButton::clicked, this, [this] {
         if (m_form.OK())
             accept();
@@ -164,14 +166,14 @@ void AuthorisedItemDialog::InsertObjectProperty()
     QMenu menu(this);
     for (const QString &name : std::as_const(names))
         menu.addAction(name);
-    QAction *chosen = menu.exec(m_objectProperty->mapToGlobal(QPoint(0, m_objectProperty->height())));
+    QAction *chosen
+        = menu.exec(m_objectProperty->mapToGlobal(QPoint(0, m_objectProperty->height())));
     if (!chosen)
         return;
     QTextCursor cursor = m_advice->textCursor();
     const int start = cursor.selectionStart();
-    const int caret = m_form.InsertIntoAdvice(m_form.ObjectPropertyMacro(chosen->text()),
-                                              start,
-                                              cursor.selectionEnd() - start);
+    const int caret = m_form.InsertIntoAdvice(
+        m_form.ObjectPropertyMacro(chosen->text()), start, cursor.selectionEnd() - start);
     m_showing = true;
     m_advice->setPlainText(m_form.Advice());
     m_showing = false;

@@ -18,7 +18,7 @@
 namespace {
 // The authorised items view's help: the import is one of its commands.
 constexpr int helpContext = 67;
-}
+} // namespace
 
 frmAddFromProject::frmAddFromProject(AddFromProjectForm &form, QWidget *parent)
     : QDialog(parent)
@@ -46,7 +46,8 @@ frmAddFromProject::frmAddFromProject(AddFromProjectForm &form, QWidget *parent)
     // One picture beside the tabs, by tab.
     m_componentsPicture = new QLabel;
     m_componentsPicture->setObjectName(QStringLiteral("imgComponents"));
-    m_componentsPicture->setPixmap(style()->standardIcon(QStyle::SP_FileDialogDetailedView).pixmap(16));
+    m_componentsPicture->setPixmap(
+        style()->standardIcon(QStyle::SP_FileDialogDetailedView).pixmap(16));
     m_referencesPicture = new QLabel;
     m_referencesPicture->setObjectName(QStringLiteral("imgReferences"));
     m_referencesPicture->setPixmap(style()->standardIcon(QStyle::SP_FileDialogInfoView).pixmap(16));
@@ -96,7 +97,9 @@ frmAddFromProject::frmAddFromProject(AddFromProjectForm &form, QWidget *parent)
         m_form.setCurrentTab(index + 1);
         FillList();
     });
-    connect(m_items, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem *item) { ItemChanged(item); });
+    connect(m_items, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem *item) {
+        ItemChanged(item);
+    });
     connect(m_items->header(), &QHeaderView::sectionClicked, this, [this](int section) {
         m_form.ColumnClick(section + 1);
         FillList();
@@ -144,9 +147,8 @@ void frmAddFromProject::FillList()
     const int column = m_form.SortColumn();
     m_items->header()->setSortIndicatorShown(column != 0);
     if (column != 0)
-        m_items->header()->setSortIndicator(column - 1,
-                                            m_form.SortOrder() == 1 ? Qt::DescendingOrder
-                                                                    : Qt::AscendingOrder);
+        m_items->header()->setSortIndicator(
+            column - 1, m_form.SortOrder() == 1 ? Qt::DescendingOrder : Qt::AscendingOrder);
     m_ok->setEnabled(m_form.OKEnabled());
     m_filling = false;
 }
@@ -155,6 +157,7 @@ void frmAddFromProject::ItemChanged(QTreeWidgetItem *item)
 {
     if (m_filling)
         return;
-    m_form.setItemChecked(item->data(0, Qt::UserRole).toString(), item->checkState(0) == Qt::Checked);
+    m_form.setItemChecked(item->data(0, Qt::UserRole).toString(),
+                          item->checkState(0) == Qt::Checked);
     m_ok->setEnabled(m_form.OKEnabled());
 }

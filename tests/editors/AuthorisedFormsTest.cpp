@@ -43,7 +43,8 @@ public:
 
 QByteArray projectUsing(const char *guid, const char *version, const char *file)
 {
-    return QByteArray("Type=Exe\r\nObject=") + guid + "#" + version + "#0; " + file + "\r\nName=\"P\"\r\n";
+    return QByteArray("Type=Exe\r\nObject=") + guid + "#" + version + "#0; " + file
+           + "\r\nName=\"P\"\r\n";
 }
 
 QString writeProject(const QString &dir, const char *name, const QByteArray &bytes)
@@ -100,7 +101,8 @@ TEST(AuthorisedComponentForm, AKnownItemFillsTheFieldsAndOKWritesThemBack)
     EXPECT_TRUE(form.ObjectPropertyEnabled());
 
     // A property macro goes in at the caret, over the selection.
-    const int caret = form.InsertIntoAdvice(form.ObjectPropertyMacro(QStringLiteral("Filename")), 4, 3);
+    const int caret
+        = form.InsertIntoAdvice(form.ObjectPropertyMacro(QStringLiteral("Filename")), 4, 3);
     EXPECT_EQ(form.Advice(), QStringLiteral("Use %Component.Filename%."));
     EXPECT_EQ(caret, 24);
     form.setVersions(QStringLiteral("2.2"));
@@ -155,7 +157,8 @@ TEST(AuthorisedComponentForm, BrowseReadsTheLibraryOrWarnsAndKeepsThePath)
     EXPECT_EQ(form.Versions(), QStringLiteral("1.0"));
     EXPECT_TRUE(form.OKEnabled());
     EXPECT_TRUE(form.AdviceEnabled());
-    EXPECT_EQ(gobjAdminData->LastPath(), TestEnvironment::sharedDataDir() + QStringLiteral("/typelib/"));
+    EXPECT_EQ(gobjAdminData->LastPath(),
+              TestEnvironment::sharedDataDir() + QStringLiteral("/typelib/"));
     EXPECT_TRUE(ui.messages.empty());
 
     ui.openAnswers = {typelibFile("NoTypeLib.dll")};
@@ -193,7 +196,8 @@ TEST(AuthorisedReferenceForm, DescriptionAndGuidEnableOKAndBrowseTakesTheHelpStr
     EXPECT_TRUE(form.OKEnabled());
     form.setFilename(QString());
     EXPECT_TRUE(form.OKEnabled());
-    EXPECT_EQ(form.ObjectPropertyMacro(QStringLiteral("Version")), QStringLiteral("%Reference.Version%"));
+    EXPECT_EQ(form.ObjectPropertyMacro(QStringLiteral("Version")),
+              QStringLiteral("%Reference.Version%"));
 
     if (!QFileInfo::exists(typelibFile("ReportLib.tlb")))
         GTEST_SKIP() << "no shared type library data";
@@ -234,21 +238,26 @@ TEST(AddFromProjectForm, TabsListTheCandidatesAndTicksReachThem)
     EXPECT_FALSE(form.OKEnabled());
     EXPECT_TRUE(form.Rows().isEmpty());
 
-    ui.openAnswers = {writeProject(dir, "p.vbp",
-                                   projectUsing("{B0000000-0000-0000-0000-000000000002}", "1.0", "b.ocx")
-                                       + projectUsing("{A0000000-0000-0000-0000-000000000001}", "3.1", "a.ocx"))};
+    ui.openAnswers = {
+        writeProject(dir,
+                     "p.vbp",
+                     projectUsing("{B0000000-0000-0000-0000-000000000002}", "1.0", "b.ocx")
+                         + projectUsing("{A0000000-0000-0000-0000-000000000001}", "3.1", "a.ocx"))};
     ASSERT_TRUE(form.Browse());
     EXPECT_EQ(ui.fileRequests[0].fileType, 5);
     EXPECT_EQ(ui.fileRequests[0].title, QStringLiteral("Select VB Project or Group File"));
     EXPECT_EQ(form.File(), dir + QStringLiteral("/p.vbp"));
     EXPECT_EQ(gobjAdminData->LastPath(), dir + QLatin1Char('/'));
     EXPECT_EQ(ui.messages.back().text,
-              QStringLiteral("2 new components and 3 new references were found for the project 'p.vbp'."));
+              QStringLiteral(
+                  "2 new components and 3 new references were found for the project 'p.vbp'."));
     EXPECT_TRUE(form.OKEnabled());
 
     EXPECT_EQ(form.TabPicture(), QStringLiteral("imgComponents"));
     EXPECT_EQ(form.ColumnHeaders(),
-              (QStringList{QStringLiteral("Component"), QStringLiteral("Version"), QStringLiteral("Filename"),
+              (QStringList{QStringLiteral("Component"),
+                           QStringLiteral("Version"),
+                           QStringLiteral("Filename"),
                            QStringLiteral("GUID")}));
     QList<AddFromProjectForm::Row> rows = form.Rows();
     ASSERT_EQ(rows.size(), 2);
@@ -280,7 +289,9 @@ TEST(AddFromProjectForm, TabsListTheCandidatesAndTicksReachThem)
     EXPECT_FALSE(form.OKEnabled());
     form.setItemChecked(QStringLiteral("{FCFB3D2E-A0FA-1068-A738-08002B3371B5}"), true);
     EXPECT_TRUE(form.OKEnabled());
-    EXPECT_TRUE(importer.ReferenceList()->Item(QStringLiteral("{FCFB3D2E-A0FA-1068-A738-08002B3371B5}"))->Selected());
+    EXPECT_TRUE(importer.ReferenceList()
+                    ->Item(QStringLiteral("{FCFB3D2E-A0FA-1068-A738-08002B3371B5}"))
+                    ->Selected());
     form.SelectAll();
     EXPECT_EQ(importer.ReferenceList()->SelectedCount(), 3);
     EXPECT_EQ(importer.ComponentList()->SelectedCount(), 0);

@@ -98,40 +98,50 @@ TEST(AuthorisedItemsWindow, TheViewShowsAndAReferenceIsAddedThroughItsDialog)
 
         // The references' list, then a new reference through the dialog.
         window.tvwMain()->setCurrentIndex(window.tvwMain()->model()->index(1, 0));
-        EXPECT_EQ(window.lvwMain()->model()->headerData(2, Qt::Horizontal).toString(), QStringLiteral("Filename"));
+        EXPECT_EQ(window.lvwMain()->model()->headerData(2, Qt::Horizontal).toString(),
+                  QStringLiteral("Filename"));
         whenDialogShows(QStringLiteral("frmAuthorisedReference"), [](QDialog &dialog) {
             EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Authorised Reference"));
             QPushButton *ok = child<QPushButton>(dialog, "cmdOK");
             EXPECT_FALSE(ok->isEnabled());
             EXPECT_FALSE(child<QPlainTextEdit>(dialog, "txtAdvice")->isEnabled());
-            EXPECT_EQ(child<QPushButton>(dialog, "cmdBrowse")->text(), QStringLiteral("Browse For Reference"));
-            child<QLineEdit>(dialog, "txtDescription")->setText(QStringLiteral("Window Test Library"));
-            child<QLineEdit>(dialog, "txtGUID")->setText(QStringLiteral("{12345678-AAAA-BBBB-CCCC-1234567890AB}"));
+            EXPECT_EQ(child<QPushButton>(dialog, "cmdBrowse")->text(),
+                      QStringLiteral("Browse For Reference"));
+            child<QLineEdit>(dialog, "txtDescription")
+                ->setText(QStringLiteral("Window Test Library"));
+            child<QLineEdit>(dialog, "txtGUID")
+                ->setText(QStringLiteral("{12345678-AAAA-BBBB-CCCC-1234567890AB}"));
             EXPECT_TRUE(ok->isEnabled());
             child<QLineEdit>(dialog, "txtVersions")->setText(QStringLiteral("1.0"));
             EXPECT_TRUE(child<QPlainTextEdit>(dialog, "txtAdvice")->isEnabled());
-            child<QPlainTextEdit>(dialog, "txtAdvice")->setPlainText(QStringLiteral("Use 1.0 only."));
+            child<QPlainTextEdit>(dialog, "txtAdvice")
+                ->setPlainText(QStringLiteral("Use 1.0 only."));
             ok->click();
         });
         window.tool(QStringLiteral("tlAuthorisedReference"))->trigger();
-        ASSERT_TRUE(rulebase->AuthorisedReferences()->Contains(QStringLiteral("{12345678-AAAA-BBBB-CCCC-1234567890AB}")));
-        const auto added = rulebase->AuthorisedReferences()->Item(QStringLiteral("{12345678-AAAA-BBBB-CCCC-1234567890AB}"));
+        ASSERT_TRUE(rulebase->AuthorisedReferences()->Contains(
+            QStringLiteral("{12345678-AAAA-BBBB-CCCC-1234567890AB}")));
+        const auto added = rulebase->AuthorisedReferences()->Item(
+            QStringLiteral("{12345678-AAAA-BBBB-CCCC-1234567890AB}"));
         EXPECT_EQ(added->Description(), QStringLiteral("Window Test Library"));
         EXPECT_EQ(added->VersionList(), QStringLiteral("1.0"));
         EXPECT_EQ(added->Advice(), QStringLiteral("Use 1.0 only."));
         EXPECT_EQ(window.lvwMain()->model()->rowCount(), 5);
-        EXPECT_EQ(window.findChild<QLabel *>(QStringLiteral("lblStatus"))->text(), QStringLiteral("5 Items"));
+        EXPECT_EQ(window.findChild<QLabel *>(QStringLiteral("lblStatus"))->text(),
+                  QStringLiteral("5 Items"));
 
         // A project file from the desktop, dropped on the list, goes through the import dialog.
         const QString project = TestEnvironment::makeTempDir() + QStringLiteral("/Dropped.vbp");
         QFile file(project);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("Type=Exe\r\nObject={FEDCBA98-0000-0000-0000-000000000001}#1.0#0; dropped.ocx\r\nName=\"D\"\r\n");
+        file.write("Type=Exe\r\nObject={FEDCBA98-0000-0000-0000-000000000001}#1.0#0; "
+                   "dropped.ocx\r\nName=\"D\"\r\n");
         file.close();
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(project)});
         QWidget *viewport = window.lvwMain()->viewport();
-        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QDragEnterEvent enter(
+            QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(viewport, &enter);
         EXPECT_TRUE(enter.isAccepted());
         EXPECT_EQ(enter.dropAction(), Qt::CopyAction);
@@ -148,18 +158,23 @@ TEST(AuthorisedItemsWindow, TheViewShowsAndAReferenceIsAddedThroughItsDialog)
         EXPECT_TRUE(drop.isAccepted());
         QElapsedTimer clock;
         clock.start();
-        while (!rulebase->AuthorisedComponents()->Contains(QStringLiteral("{FEDCBA98-0000-0000-0000-000000000001}"))
+        while (!rulebase->AuthorisedComponents()->Contains(
+                   QStringLiteral("{FEDCBA98-0000-0000-0000-000000000001}"))
                && clock.elapsed() < 5000)
             QApplication::processEvents(QEventLoop::AllEvents, 50);
-        EXPECT_TRUE(rulebase->AuthorisedComponents()->Contains(QStringLiteral("{FEDCBA98-0000-0000-0000-000000000001}")));
+        EXPECT_TRUE(rulebase->AuthorisedComponents()->Contains(
+            QStringLiteral("{FEDCBA98-0000-0000-0000-000000000001}")));
         ASSERT_FALSE(ui.messages.empty());
-        EXPECT_EQ(ui.messages.back().text,
-                  QStringLiteral("1 new component and 3 new references were found for the selected projects."));
+        EXPECT_EQ(
+            ui.messages.back().text,
+            QStringLiteral(
+                "1 new component and 3 new references were found for the selected projects."));
 
         // Another view takes no files.
         window.tool(QStringLiteral("tlCategoryView"))->trigger();
         EXPECT_FALSE(window.tool(QStringLiteral("tlAuthorisedReference"))->isEnabled());
-        QDragEnterEvent refused(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QDragEnterEvent refused(
+            QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(viewport, &refused);
         EXPECT_FALSE(refused.isAccepted());
 

@@ -54,13 +54,15 @@ void authoriseDefaultReferences(Rulebase &rulebase)
     for (const char *guid : {"{000204EF-0000-0000-C000-000000000046}",
                              "{EA544A21-C82D-11D1-A3E4-00A0C90AEA82}",
                              "{FCFB3D2E-A0FA-1068-A738-08002B3371B5}"})
-        rulebase.AuthorisedReferences()->Add(QLatin1String(guid), {}, {}, QStringLiteral("6.0"), {});
+        rulebase.AuthorisedReferences()->Add(
+            QLatin1String(guid), {}, {}, QStringLiteral("6.0"), {});
 }
 
 QByteArray project(const char *comctlVersion)
 {
     return crlf("Type=Exe\n"
-                "Reference=*\\G{00020430-0000-0000-C000-000000000046}#2.0#0#C:\\WINDOWS\\System32\\stdole2.tlb#OLE Automation\n"
+                "Reference=*\\G{00020430-0000-0000-C000-000000000046}#2.0#0#C:"
+                "\\WINDOWS\\System32\\stdole2.tlb#OLE Automation\n"
                 "Object={831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#")
            + comctlVersion + crlf("#0; MSCOMCTL.OCX\nName=\"A\"\n");
 }
@@ -73,12 +75,18 @@ protected:
         ProjectTest::SetUp();
         rulebase = std::make_shared<Rulebase>();
         authoriseDefaultReferences(*rulebase);
-        rulebase->AuthorisedReferences()->Add(stdole, QStringLiteral("OLE Automation"),
-                                              QStringLiteral("stdole2.tlb"), QStringLiteral("2.0"), {});
+        rulebase->AuthorisedReferences()->Add(stdole,
+                                              QStringLiteral("OLE Automation"),
+                                              QStringLiteral("stdole2.tlb"),
+                                              QStringLiteral("2.0"),
+                                              {});
         importer.setRulebase(rulebase);
     }
 
-    QString lastMessage() const { return ui.messages.empty() ? QString() : ui.messages.back().text; }
+    QString lastMessage() const
+    {
+        return ui.messages.empty() ? QString() : ui.messages.back().text;
+    }
 
     ScriptedUserInterface ui;
     ScriptedImportDialog dialog;
@@ -90,8 +98,9 @@ protected:
 
 TEST(AddFromProjectMessages, CountsVerbsAndTheProjectName)
 {
-    EXPECT_EQ(AddFromProject::NewItemsMessage(0, 0, QStringLiteral("a.vbp")),
-              QStringLiteral("No new components or references were found for the project 'a.vbp'."));
+    EXPECT_EQ(
+        AddFromProject::NewItemsMessage(0, 0, QStringLiteral("a.vbp")),
+        QStringLiteral("No new components or references were found for the project 'a.vbp'."));
     // The missing blank before "was" belongs to the message.
     EXPECT_EQ(AddFromProject::NewItemsMessage(1, 0, QStringLiteral("a.vbp")),
               QStringLiteral("1 new componentwas found for the project 'a.vbp'."));
@@ -100,24 +109,29 @@ TEST(AddFromProjectMessages, CountsVerbsAndTheProjectName)
     EXPECT_EQ(AddFromProject::NewItemsMessage(0, 1, QString()),
               QStringLiteral("1 new reference was found for the selected projects."));
     EXPECT_EQ(AddFromProject::NewItemsMessage(2, 1, QString()),
-              QStringLiteral("2 new components and 1 new reference was found for the selected projects."));
-    EXPECT_EQ(AddFromProject::NewItemsMessage(1, 2, QStringLiteral("b.vbg")),
-              QStringLiteral("1 new component and 2 new references were found for the project 'b.vbg'."));
+              QStringLiteral(
+                  "2 new components and 1 new reference was found for the selected projects."));
+    EXPECT_EQ(
+        AddFromProject::NewItemsMessage(1, 2, QStringLiteral("b.vbg")),
+        QStringLiteral("1 new component and 2 new references were found for the project 'b.vbg'."));
     // The reference text keeps its verb whatever it is told.
-    EXPECT_EQ(AddFromProject::NewReferencesMessage(1, true), QStringLiteral("1 new reference was found"));
+    EXPECT_EQ(AddFromProject::NewReferencesMessage(1, true),
+              QStringLiteral("1 new reference was found"));
     EXPECT_EQ(AddFromProject::NewComponentsMessage(1, true), QStringLiteral("1 new component"));
 }
 
 TEST_F(AddFromProjectTest, AProjectWhollyAuthorisedAddsNothingAndSaysSo)
 {
-    rulebase->AuthorisedComponents()->Add(comctl, QStringLiteral("MSCOMCTL.OCX"), QStringLiteral("2.0; 2.1"), {});
+    rulebase->AuthorisedComponents()->Add(
+        comctl, QStringLiteral("MSCOMCTL.OCX"), QStringLiteral("2.0; 2.1"), {});
     importer.ParseSingleFile(writeFile(QStringLiteral("a.vbp"), project("2.1")));
 
     EXPECT_EQ(importer.ComponentList()->Count(), 0);
     EXPECT_EQ(importer.ReferenceList()->Count(), 0);
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_EQ(ui.messages[0].text,
-              QStringLiteral("No new components or references were found for the project 'a.vbp'."));
+    EXPECT_EQ(
+        ui.messages[0].text,
+        QStringLiteral("No new components or references were found for the project 'a.vbp'."));
     EXPECT_EQ(ui.messages[0].icon, MessageIcon::Information);
     EXPECT_EQ(ui.messages[0].buttons, MessageButtons::OK);
     EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Administrator"));
@@ -125,7 +139,8 @@ TEST_F(AddFromProjectTest, AProjectWhollyAuthorisedAddsNothingAndSaysSo)
 
 TEST_F(AddFromProjectTest, AKnownLibraryAtANewVersionIsACandidateOfThatVersionAlone)
 {
-    rulebase->AuthorisedComponents()->Add(comctl, QStringLiteral("MSCOMCTL.OCX"), QStringLiteral("2.1"), {});
+    rulebase->AuthorisedComponents()->Add(
+        comctl, QStringLiteral("MSCOMCTL.OCX"), QStringLiteral("2.1"), {});
     importer.ParseSingleFile(writeFile(QStringLiteral("a.vbp"), project("2.0")));
 
     ASSERT_EQ(importer.ComponentList()->Count(), 1);
@@ -142,7 +157,8 @@ TEST_F(AddFromProjectTest, AKnownLibraryAtANewVersionIsACandidateOfThatVersionAl
 
 TEST_F(AddFromProjectTest, VersionsAreHeldByAPlainSubstringSearch)
 {
-    rulebase->AuthorisedComponents()->Add(comctl, QStringLiteral("MSCOMCTL.OCX"), QStringLiteral("11.1; 2.0"), {});
+    rulebase->AuthorisedComponents()->Add(
+        comctl, QStringLiteral("MSCOMCTL.OCX"), QStringLiteral("11.1; 2.0"), {});
     importer.ParseSingleFile(writeFile(QStringLiteral("a.vbp"), project("1.1")));
     EXPECT_EQ(importer.ComponentList()->Count(), 0);
 
@@ -184,23 +200,28 @@ TEST_F(AddFromProjectTest, ReferencesTakeDescriptionFilenameAndVersionFromThePro
     EXPECT_EQ(ole->Filename(), QStringLiteral("C:\\WINDOWS\\System32\\stdole2.tlb"));
     EXPECT_EQ(ole->VersionList(), QStringLiteral("2.0"));
     EXPECT_EQ(importer.ReferenceList()->Item(1)->Filename(), QStringLiteral("MSVBVM60.DLL"));
-    EXPECT_EQ(lastMessage(),
-              QStringLiteral("1 new component and 4 new references were found for the project 'a.vbp'."));
+    EXPECT_EQ(
+        lastMessage(),
+        QStringLiteral("1 new component and 4 new references were found for the project 'a.vbp'."));
 
     // The same file again finds nothing new among the candidates.
     importer.ParseSingleFile(path(QStringLiteral("a.vbp")));
-    EXPECT_EQ(lastMessage(),
-              QStringLiteral("No new components or references were found for the project 'a.vbp'."));
+    EXPECT_EQ(
+        lastMessage(),
+        QStringLiteral("No new components or references were found for the project 'a.vbp'."));
 }
 
 TEST_F(AddFromProjectTest, UnreadableAndForeignFilesAddNothingButStillGetTheBox)
 {
     importer.ParseSingleFile(path(QStringLiteral("missing.vbp")));
     EXPECT_EQ(lastMessage(),
-              QStringLiteral("No new components or references were found for the project 'missing.vbp'."));
-    importer.ParseSingleFile(writeFile(QStringLiteral("notes.txt"), "Reference=*\\G{1}#1.0#0#x#y\r\n"));
-    EXPECT_EQ(lastMessage(),
-              QStringLiteral("No new components or references were found for the project 'notes.txt'."));
+              QStringLiteral(
+                  "No new components or references were found for the project 'missing.vbp'."));
+    importer.ParseSingleFile(
+        writeFile(QStringLiteral("notes.txt"), "Reference=*\\G{1}#1.0#0#x#y\r\n"));
+    EXPECT_EQ(
+        lastMessage(),
+        QStringLiteral("No new components or references were found for the project 'notes.txt'."));
     EXPECT_EQ(importer.ComponentList()->Count() + importer.ReferenceList()->Count(), 0);
 
     // No list at all: no box and no dialog; an empty list: the box alone.
@@ -210,19 +231,23 @@ TEST_F(AddFromProjectTest, UnreadableAndForeignFilesAddNothingButStillGetTheBox)
     EXPECT_EQ(ui.messages.size(), shown);
     EXPECT_FALSE(none.Cancelled());
     none.ParseFileList(QStringList{}, rulebase);
-    EXPECT_EQ(lastMessage(),
-              QStringLiteral("No new components or references were found for the selected projects."));
+    EXPECT_EQ(
+        lastMessage(),
+        QStringLiteral("No new components or references were found for the selected projects."));
     EXPECT_EQ(dialog.runs, 0);
 }
 
 TEST_F(AddFromProjectTest, EverySharedProjectAndGroupImportsIntoTheSample)
 {
     QUORIN_REQUIRE_VB6_DATA(dir);
-    const std::shared_ptr<Rulebase> sample = RulebaseManager().LoadRulebase(TestEnvironment::sampleRulebase());
+    const std::shared_ptr<Rulebase> sample
+        = RulebaseManager().LoadRulebase(TestEnvironment::sampleRulebase());
     ASSERT_NE(sample, nullptr);
 
     QStringList files;
-    QDirIterator it(dir, {QStringLiteral("*.vbp"), QStringLiteral("*.vbg")}, QDir::Files,
+    QDirIterator it(dir,
+                    {QStringLiteral("*.vbp"), QStringLiteral("*.vbg")},
+                    QDir::Files,
                     QDirIterator::Subdirectories);
     while (it.hasNext())
         files << it.next();
@@ -240,7 +265,8 @@ TEST_F(AddFromProjectTest, EverySharedProjectAndGroupImportsIntoTheSample)
             const auto c = single.ComponentList()->Item(i);
             const qint32 known = sample->AuthorisedComponents()->FindByLibID(c->LibID());
             if (known != -1) {
-                EXPECT_FALSE(sample->AuthorisedComponents()->Item(known)->VersionList().contains(c->VersionList()));
+                EXPECT_FALSE(sample->AuthorisedComponents()->Item(known)->VersionList().contains(
+                    c->VersionList()));
             }
         }
     }
@@ -251,16 +277,18 @@ TEST_F(AddFromProjectTest, EverySharedProjectAndGroupImportsIntoTheSample)
               QStringLiteral("3 new references were found for the project 'Report Builder.vbp'."));
     // Another project of the group, used at design time, stands with an empty GUID.
     EXPECT_EQ(messages.value(QStringLiteral("Ledger.vbp")),
-              QStringLiteral("1 new component and 4 new references were found for the project 'Ledger.vbp'."));
-    EXPECT_EQ(messages.value(QStringLiteral("Suite.vbg")), messages.value(QStringLiteral("Ledger.vbp"))
-                                                               .replace(QStringLiteral("Ledger.vbp"),
-                                                                        QStringLiteral("Suite.vbg")));
+              QStringLiteral(
+                  "1 new component and 4 new references were found for the project 'Ledger.vbp'."));
+    EXPECT_EQ(messages.value(QStringLiteral("Suite.vbg")),
+              messages.value(QStringLiteral("Ledger.vbp"))
+                  .replace(QStringLiteral("Ledger.vbp"), QStringLiteral("Suite.vbg")));
 
     // All at once, as dropped files: one dialog, and the candidates of every file.
     AddFromProject all;
     all.ParseFileList(files, sample);
     EXPECT_EQ(lastMessage(),
-              QStringLiteral("1 new component and 4 new references were found for the selected projects."));
+              QStringLiteral(
+                  "1 new component and 4 new references were found for the selected projects."));
     EXPECT_EQ(dialog.runs, 1);
     EXPECT_FALSE(all.ReferenceList()->Contains(stdole)); // the sample knows it at 2.0
     EXPECT_FALSE(all.ComponentList()->Contains(comctl)); // and this at 2.0
@@ -275,14 +303,17 @@ TEST_F(AddFromProjectTest, TypeLibrariesOfTheSharedFilesReadAsComponentsAndRefer
     expected.readLine(); // the header
     int files = 0;
     while (!expected.atEnd()) {
-        const QStringList fields = QString::fromUtf8(expected.readLine()).trimmed().split(QLatin1Char('\t'));
+        const QStringList fields
+            = QString::fromUtf8(expected.readLine()).trimmed().split(QLatin1Char('\t'));
         const QString name = fields.value(0);
         SCOPED_TRACE(name.toStdString());
         ++files;
         bool componentOk = false;
         bool referenceOk = false;
-        const auto component = modTypelib::LoadComponentFromFile(dir + QLatin1Char('/') + name, componentOk);
-        const auto reference = modTypelib::LoadReferenceFromFile(dir + QLatin1Char('/') + name, referenceOk);
+        const auto component
+            = modTypelib::LoadComponentFromFile(dir + QLatin1Char('/') + name, componentOk);
+        const auto reference
+            = modTypelib::LoadReferenceFromFile(dir + QLatin1Char('/') + name, referenceOk);
         EXPECT_EQ(component->Filename(), name);
         EXPECT_EQ(reference->Filename(), name);
         EXPECT_FALSE(component->DesignTime());

@@ -106,7 +106,10 @@ struct ShownView
         view->Populate();
         view->SetEnabledState();
     }
-    void click(const char *key) { form.treeControl.click(form.treeControl.find(QLatin1String(key))); }
+    void click(const char *key)
+    {
+        form.treeControl.click(form.treeControl.find(QLatin1String(key)));
+    }
     int row(const QString &key) const { return form.listControl.find(key); }
     QStringList headers() const
     {
@@ -171,17 +174,23 @@ TEST(AuthorisedItemsView, ShowsThreeNodesEachWithAListOfItsOwnShape)
     EXPECT_EQ(s.form.statusText, QStringLiteral("4 Items"));
     EXPECT_EQ(s.form.listHeaderImage, QStringLiteral("Component"));
     EXPECT_EQ(s.form.documentation,
-              QStringLiteral("Add one or more ActiveX components which are authorised for use by projects."));
-    for (const char *enabled : {"tlAddFromProject", "tlAuthorisedComponent", "tlAuthorisedReference",
-                                "tlUnauthorisedKeyword", "tlDeleteRule", "tlOpenRule"})
+              QStringLiteral(
+                  "Add one or more ActiveX components which are authorised for use by projects."));
+    for (const char *enabled : {"tlAddFromProject",
+                                "tlAuthorisedComponent",
+                                "tlAuthorisedReference",
+                                "tlUnauthorisedKeyword",
+                                "tlDeleteRule",
+                                "tlOpenRule"})
         EXPECT_TRUE(s.tool(enabled)) << enabled;
     for (const char *disabled : {"tlCloneRule", "tlRuleActive", "tlRuleInactive"})
         EXPECT_FALSE(s.tool(disabled)) << disabled;
     EXPECT_EQ(s.view->ItemsActiveState(), 4);
     EXPECT_FALSE(s.form.noItemsVisible);
     list.click(grid);
-    EXPECT_EQ(s.form.documentation, QStringLiteral("Authorised Component:\r\n")
-                                        + s.rulebase->AuthorisedComponents()->Item(comctl)->Advice());
+    EXPECT_EQ(s.form.documentation,
+              QStringLiteral("Authorised Component:\r\n")
+                  + s.rulebase->AuthorisedComponents()->Item(comctl)->Advice());
 
     s.click("AR");
     EXPECT_EQ(s.headers(), (QStringList{"Reference", "Version(s)", "Filename", "GUID"}));
@@ -191,7 +200,8 @@ TEST(AuthorisedItemsView, ShowsThreeNodesEachWithAListOfItsOwnShape)
     EXPECT_EQ(list.subItemText(s.row(ole), 3), ole);
     EXPECT_EQ(list.smallIcon(s.row(ole)), 2);
     list.click(s.row(ole));
-    EXPECT_TRUE(s.form.documentation.startsWith(QStringLiteral("Authorised Reference:\r\nReferenced by every")));
+    EXPECT_TRUE(s.form.documentation.startsWith(
+        QStringLiteral("Authorised Reference:\r\nReferenced by every")));
 
     s.click("UK");
     EXPECT_EQ(s.form.listTitle, QStringLiteral(" Authority Items [Unauthorised Keywords]"));
@@ -208,13 +218,15 @@ TEST(AuthorisedItemsView, ShowsThreeNodesEachWithAListOfItsOwnShape)
         inactive = list.foreColor(row) == modViewCommon::InactiveColour ? row : inactive;
     ASSERT_NE(inactive, 0);
     list.moveOver(inactive);
-    EXPECT_EQ(list.toolTipText(), QStringLiteral("The rule for this unauthorised keyword is not active and "
-                                                 "therefore will not be enforced."));
+    EXPECT_EQ(list.toolTipText(),
+              QStringLiteral("The rule for this unauthorised keyword is not active and "
+                             "therefore will not be enforced."));
     list.moveOver(inactive == 1 ? 2 : 1);
     EXPECT_TRUE(list.toolTipText().isEmpty());
     list.click(inactive);
-    EXPECT_EQ(s.form.documentation,
-              s.rulebase->RuleLists()->UnauthorisedKeywords()->Item(list.key(inactive))->Description());
+    EXPECT_EQ(
+        s.form.documentation,
+        s.rulebase->RuleLists()->UnauthorisedKeywords()->Item(list.key(inactive))->Description());
 
     // Commands of rules do nothing on the other nodes.
     s.click("AC");
@@ -235,7 +247,8 @@ TEST(AuthorisedItemsView, DeleteAsksThenRemovesFromTheRulebaseAndTheList)
     s.ui.answers = {MessageResult::No};
     s.view->DeleteItems();
     ASSERT_EQ(s.ui.messages.size(), 1u);
-    EXPECT_EQ(s.ui.messages[0].text, QStringLiteral("Are you sure you wish to delete the selected item(s)?"));
+    EXPECT_EQ(s.ui.messages[0].text,
+              QStringLiteral("Are you sure you wish to delete the selected item(s)?"));
     EXPECT_EQ(s.ui.messages[0].buttons, MessageButtons::YesNo);
     EXPECT_EQ(s.ui.messages[0].icon, MessageIcon::Question);
     EXPECT_EQ(list.count(), 4);
@@ -314,7 +327,9 @@ TEST(AuthorisedItemsView, OpenEditsTheItemOfTheRowAndCancelLeavesIt)
 
     s.click("UK");
     ScriptedLauncher launcher;
-    launcher.edit = [](IRule &rule) { static_cast<UnauthorisedKeyword &>(rule).setTitle(QStringLiteral("Edited")); };
+    launcher.edit = [](IRule &rule) {
+        static_cast<UnauthorisedKeyword &>(rule).setTitle(QStringLiteral("Edited"));
+    };
     list.click(2);
     s.view->OpenItem();
     EXPECT_EQ(launcher.opened, 1);
@@ -328,7 +343,8 @@ TEST(AuthorisedItemsView, NewItemsComeThroughTheApplicationOnlyWhileThisViewIsCu
     ScriptedForms forms;
     MemoryMainForm form;
     Application app(&form, createView);
-    ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, TestEnvironment::sampleRulebase()));
+    ASSERT_TRUE(
+        app.OpenRulebase(Application::OpenMode::CommandLine, TestEnvironment::sampleRulebase()));
     const auto &rulebase = app.rulebase();
     forms.component = [](AuthorisedComponentForm &f) {
         f.setFilename(QStringLiteral("new.ocx"));
@@ -355,7 +371,8 @@ TEST(AuthorisedItemsView, NewItemsComeThroughTheApplicationOnlyWhileThisViewIsCu
     ExecuteTool(app, QStringLiteral("tlAuthorisedComponent"));
     EXPECT_EQ(rulebase->AuthorisedComponents()->Count(), 5);
     ASSERT_FALSE(ui.messages.empty());
-    EXPECT_TRUE(ui.messages.back().text.contains(QStringLiteral("{11111111-2222-3333-4444-555555555555}")));
+    EXPECT_TRUE(
+        ui.messages.back().text.contains(QStringLiteral("{11111111-2222-3333-4444-555555555555}")));
 
     // A reference while the components show: stored and counted, the list unchanged.
     forms.reference = [](AuthorisedReferenceForm &f) {
@@ -370,9 +387,10 @@ TEST(AuthorisedItemsView, NewItemsComeThroughTheApplicationOnlyWhileThisViewIsCu
 
     // Import through the dialog: browse to a project, keep its components only.
     const QString dir = TestEnvironment::makeTempDir();
-    ui.openAnswers = {writeFile(dir + QStringLiteral("/p.vbp"),
-                                "Type=Exe\r\nObject={831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.5#0; MSCOMCTL.OCX\r\n"
-                                "Object={ABCDEF00-0000-0000-0000-000000000001}#1.0#0; fresh.ocx\r\nName=\"P\"\r\n")};
+    ui.openAnswers = {writeFile(
+        dir + QStringLiteral("/p.vbp"),
+        "Type=Exe\r\nObject={831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.5#0; MSCOMCTL.OCX\r\n"
+        "Object={ABCDEF00-0000-0000-0000-000000000001}#1.0#0; fresh.ocx\r\nName=\"P\"\r\n")};
     forms.import = [](AddFromProjectForm &f) {
         EXPECT_FALSE(f.OKEnabled());
         ASSERT_TRUE(f.Browse());
@@ -384,9 +402,12 @@ TEST(AuthorisedItemsView, NewItemsComeThroughTheApplicationOnlyWhileThisViewIsCu
     ExecuteTool(app, QStringLiteral("tlAddFromProject"));
     EXPECT_EQ(forms.importRuns, 1);
     EXPECT_EQ(ui.messages.back().text,
-              QStringLiteral("2 new components and 3 new references were found for the project 'p.vbp'."));
-    EXPECT_EQ(rulebase->AuthorisedComponents()->Item(comctl)->VersionList(), QStringLiteral("2.0; 2.1; 2.2; 2.5"));
-    EXPECT_EQ(form.listControl.subItemText(form.listControl.find(comctl), 1), QStringLiteral("2.0; 2.1; 2.2; 2.5"));
+              QStringLiteral(
+                  "2 new components and 3 new references were found for the project 'p.vbp'."));
+    EXPECT_EQ(rulebase->AuthorisedComponents()->Item(comctl)->VersionList(),
+              QStringLiteral("2.0; 2.1; 2.2; 2.5"));
+    EXPECT_EQ(form.listControl.subItemText(form.listControl.find(comctl), 1),
+              QStringLiteral("2.0; 2.1; 2.2; 2.5"));
     EXPECT_NE(form.listControl.find(QStringLiteral("{ABCDEF00-0000-0000-0000-000000000001}")), 0);
     EXPECT_EQ(rulebase->AuthorisedComponents()->Count(), 6);
     EXPECT_EQ(rulebase->AuthorisedReferences()->Count(), 5);
@@ -420,12 +441,14 @@ TEST(AuthorisedItemsView, DroppedFilesAreTakenAsProjectsElseAsActiveXElseRefused
 
     // One project among ActiveX files: the project alone is read.
     const QString dir = TestEnvironment::makeTempDir();
-    const QString project = writeFile(dir + QStringLiteral("/p.VBP"),
-                                      "Type=Exe\r\nObject={ABCDEF00-0000-0000-0000-000000000002}#1.0#0; one.ocx\r\n");
+    const QString project
+        = writeFile(dir + QStringLiteral("/p.VBP"),
+                    "Type=Exe\r\nObject={ABCDEF00-0000-0000-0000-000000000002}#1.0#0; one.ocx\r\n");
     s.view->FilesDropped({typelibFile("Reports.dll"), project, typelibFile("NoTypeLib.dll")});
     EXPECT_EQ(s.forms.importRuns, 1);
     EXPECT_EQ(s.ui.messages.back().text,
-              QStringLiteral("1 new component and 3 new references were found for the selected projects."));
+              QStringLiteral(
+                  "1 new component and 3 new references were found for the selected projects."));
     EXPECT_FALSE(s.rulebase->AuthorisedReferences()->Contains(reportGuid));
     EXPECT_EQ(s.form.listControl.count(), 5);
     EXPECT_EQ(s.form.treeControl.text(2), QStringLiteral("Authorised References (7)"));
@@ -448,8 +471,11 @@ TEST(AuthorisedItemsView, ActiveXFilesBecomeComponentsAndReferencesAndTheRestAre
     // A control without a library is passed over without a word.
     const QString badControl = writeFile(dir + QStringLiteral("/Bad.ocx"), "text");
     s.ui.answers = {MessageResult::Yes};
-    s.view->AddAXComponentsFromFile({typelibFile("GridCtl.ocx"), typelibFile("ReportLib.tlb"), badControl,
-                                     typelibFile("NoTypeLib.dll"), typelibFile("Text.tlb")});
+    s.view->AddAXComponentsFromFile({typelibFile("GridCtl.ocx"),
+                                     typelibFile("ReportLib.tlb"),
+                                     badControl,
+                                     typelibFile("NoTypeLib.dll"),
+                                     typelibFile("Text.tlb")});
 
     MemoryListControl &list = s.form.listControl;
     ASSERT_NE(s.row(gridGuid), 0);
@@ -465,7 +491,8 @@ TEST(AuthorisedItemsView, ActiveXFilesBecomeComponentsAndReferencesAndTheRestAre
 
     ASSERT_EQ(s.ui.messages.size(), 1u);
     EXPECT_EQ(s.ui.messages[0].text,
-              QStringLiteral("Of the files selected, 2 are not ActiveX components.  Would you like to see the details?"));
+              QStringLiteral("Of the files selected, 2 are not ActiveX components.  Would you like "
+                             "to see the details?"));
     EXPECT_EQ(s.ui.messages[0].icon, MessageIcon::Question);
     const QString reportFile = data.folder + QStringLiteral("NonActiveXFiles.txt");
     ASSERT_EQ(s.ui.opened, QStringList{reportFile});
@@ -481,13 +508,16 @@ TEST(AuthorisedItemsView, ActiveXFilesBecomeComponentsAndReferencesAndTheRestAre
     s.ui.answers = {MessageResult::No};
     s.view->AddAXComponentsFromFile({typelibFile("Truncated.tlb")});
     EXPECT_EQ(s.ui.messages.back().text,
-              QStringLiteral("Of the files selected, 1 is not an ActiveX component.  Would you like to see the details?"));
+              QStringLiteral("Of the files selected, 1 is not an ActiveX component.  Would you "
+                             "like to see the details?"));
     EXPECT_EQ(s.ui.opened.size(), 1);
 
     // Two versions of one library dropped together: one row, both versions.
     s.click("AR");
-    const QString v1 = writeFile(dir + QStringLiteral("/lib1.tlb"), TypeLibSamples::msft(1, 0, "Lib", "Lib"));
-    const QString v2 = writeFile(dir + QStringLiteral("/lib2.tlb"), TypeLibSamples::msft(2, 0, "Lib", "Lib"));
+    const QString v1
+        = writeFile(dir + QStringLiteral("/lib1.tlb"), TypeLibSamples::msft(1, 0, "Lib", "Lib"));
+    const QString v2
+        = writeFile(dir + QStringLiteral("/lib2.tlb"), TypeLibSamples::msft(2, 0, "Lib", "Lib"));
     s.view->FilesDropped({v1, v2, v1});
     const QString guid = s.rulebase->AuthorisedReferences()->Item(6)->LibID();
     EXPECT_EQ(s.rulebase->AuthorisedReferences()->Count(), 6);
@@ -514,7 +544,9 @@ TEST(AuthorisedItemsView, ReleaseSavesTheColumnsItOwnsAndDisablesItsTools)
     EXPECT_FLOAT_EQ(gobjAdminData->ListColWidthUK(2), keywordWidth);
     EXPECT_TRUE(s.form.treeTitle.isEmpty());
     EXPECT_TRUE(s.form.listTitle.isEmpty());
-    for (const char *tool : {"tlAddFromProject", "tlAuthorisedComponent", "tlAuthorisedReference",
+    for (const char *tool : {"tlAddFromProject",
+                             "tlAuthorisedComponent",
+                             "tlAuthorisedReference",
                              "tlUnauthorisedKeyword"})
         EXPECT_FALSE(s.tool(tool)) << tool;
 
