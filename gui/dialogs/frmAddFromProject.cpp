@@ -144,6 +144,8 @@ void frmAddFromProject::FillList()
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(0, row.checked ? Qt::Checked : Qt::Unchecked);
     }
+    for (int c = 0; c < 3; ++c)
+        m_items->resizeColumnToContents(c);
     const int column = m_form.SortColumn();
     m_items->header()->setSortIndicatorShown(column != 0);
     if (column != 0)
