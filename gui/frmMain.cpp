@@ -78,7 +78,8 @@ protected:
         if (files.isEmpty())
             return QObject::eventFilter(watched, event);
         AuthorisedItemsView *view = m_view();
-        if (!view || !view->AcceptsFileDrops()) {
+        // Files are copied from, never moved: without the copy effect there is nothing to do.
+        if (!view || !view->AcceptsFileDrops() || !(drop->possibleActions() & Qt::CopyAction)) {
             drop->ignore();
             return true;
         }
