@@ -32,6 +32,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 
 namespace {
 
@@ -79,6 +80,9 @@ TEST(AuthorisedItemsWindow, TheViewShowsAndAReferenceIsAddedThroughItsDialog)
         frmMain window(false);
         GuiFormFactory forms(&window);
         IFormFactory::install(&forms);
+        // Uninstalled however the test ends.
+        const std::unique_ptr<GuiFormFactory, void (*)(GuiFormFactory *)> installed(
+            &forms, [](GuiFormFactory *) { IFormFactory::install(nullptr); });
         Application app(&window, createView);
         window.setApplication(&app);
         window.ShowWindow();
@@ -180,7 +184,6 @@ TEST(AuthorisedItemsWindow, TheViewShowsAndAReferenceIsAddedThroughItsDialog)
 
         ui.answers = {MessageResult::No}; // not saving the changes
         EXPECT_TRUE(window.close());
-        IFormFactory::install(nullptr);
     }
     DestroyGlobalObjects();
 }
