@@ -14,6 +14,7 @@
 #include "platform/QuorinAdminData.h"
 #include "platform/UserInterface.h"
 #include "rulebase/Rulebase.h"
+#include "views/AuthorisedItemsView.h"
 #include "views/CommandTable.h"
 #include "views/IViewController.h"
 #include "views/ToolDispatcher.h"
@@ -23,17 +24,24 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QShortcut>
+#include <QMessageBox>
+#include <QMimeData>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QToolBar>
 #include <QTreeView>
+#include <QUrl>
 #include <QVBoxLayout>
+
+#include <functional>
 
 namespace {
 // Stored layouts are in twips, 15 to a pixel at 96 dpi.
@@ -53,6 +61,60 @@ const char *const navigationCaptions[][2] = {
     {"tlAuthorisedItems", "Authority\nItems"},
     {"tlCategoryView", "Conventions\nBy Category"},
     {"tlSeverityView", "Conventions\nBy Severity"},
+};
+
+// Files from the desktop dropped on the list go to the authority items view, the one view that
+// takes them; any other drag is left to the list.
+class FileDropFilter final : public QObject
+{
+public:
+    FileDropFilter(std::function<AuthorisedItemsView *()> view, QObject *parent)
+        : QObject(parent)
+        , m_view(std::move(view))
+    {
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        const QEvent::Type type = event->type();
+        if (type != QEvent::DragEnter && type != QEvent::DragMove && type != QEvent::Drop)
+            return QObject::eventFilter(watched, event);
+        auto *drop = static_cast<QDropEvent *>(event);
+        const QStringList files = localFiles(drop->mimeData());
+        if (files.isEmpty())
+            return QObject::eventFilter(watched, event);
+        AuthorisedItemsView *view = m_view();
+        // Files are copied from, never moved: without the copy effect there is nothing to do.
+        if (!view || !view->AcceptsFileDrops() || !(drop->possibleActions() & Qt::CopyAction)) {
+            drop->ignore();
+            return true;
+        }
+        drop->setDropAction(Qt::CopyAction);
+        drop->accept();
+        // After the drop has ended: the import may bring up dialogs.
+        if (type == QEvent::Drop)
+            QTimer::singleShot(0, this, [this, files] {
+                if (AuthorisedItemsView *current = m_view())
+                    current->FilesDropped(files);
+            });
+        return true;
+    }
+
+private:
+    static QStringList localFiles(const QMimeData *data)
+    {
+        QStringList files;
+        if (!data || !data->hasUrls())
+            return files;
+        for (const QUrl &url : data->urls()) {
+            if (url.isLocalFile())
+                files << url.toLocalFile();
+        }
+        return files;
+    }
+
+    std::function<AuthorisedItemsView *()> m_view;
 };
 } // namespace
 
@@ -79,6 +141,13 @@ frmMain::frmMain(bool interactive, QWidget *parent)
     m_list->installEventFilter(this);
     m_listControl = new QtListControl(m_list);
     m_list->viewport()->installEventFilter(this);
+    m_list->viewport()->setAcceptDrops(true);
+    m_list->viewport()->installEventFilter(new FileDropFilter(
+        [this] {
+            return m_application ? dynamic_cast<AuthorisedItemsView *>(m_application->CurrentView())
+                                 : nullptr;
+        },
+        this));
 
     m_noItems = new QLabel(tr("There are no items to show in this view."), m_list->viewport());
     m_noItems->setObjectName(QStringLiteral("txtNoItems"));
@@ -212,6 +281,9 @@ void frmMain::createActions()
     tool(QStringLiteral("tlDeleteRule"))->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     m_list->addAction(tool(QStringLiteral("tlDeleteRule")));
     tool(QStringLiteral("tlDocumentationConventions"))->setVisible(false); // no such view exists
+    // Only the authority items view turns these on.
+    for (const QString &id : CommandTable::authorisedItemTools())
+        tool(id)->setEnabled(false);
 }
 
 QMenu *frmMain::buildMenu(const BandDefinition &band, QWidget *parent)

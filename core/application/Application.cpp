@@ -20,6 +20,7 @@
 #include "rulebase/RulebaseManager.h"
 #include "rulebase/SeverityItem.h"
 #include "rulebase/TagItem.h"
+#include "views/AuthorisedItemsView.h"
 #include "views/IViewController.h"
 
 #include <QDir>
@@ -400,7 +401,30 @@ std::shared_ptr<IRule> Application::NewUnauthorisedKeyword(bool &cancelled)
     return nullptr;
 }
 
-void Application::AddAuthorisedItemsFromProject() {}
-void Application::NewAuthorisedComponent() {}
-void Application::NewAuthorisedReference() {}
+// The authorised item commands belong to the authorised items view alone; with any other
+// view current they do nothing.
+void Application::AddAuthorisedItemsFromProject()
+{
+    guardedVoid("AddAuthorisedItemsFromProject", module, [this] {
+        if (auto *view = dynamic_cast<AuthorisedItemsView *>(m_currentView.get()))
+            view->AddAuthorisedItemsFromProject();
+    });
+}
+
+void Application::NewAuthorisedComponent()
+{
+    guardedVoid("NewAuthorisedComponent", module, [this] {
+        if (auto *view = dynamic_cast<AuthorisedItemsView *>(m_currentView.get()))
+            view->NewAuthorisedComponent();
+    });
+}
+
+void Application::NewAuthorisedReference()
+{
+    guardedVoid("NewAuthorisedReference", module, [this] {
+        if (auto *view = dynamic_cast<AuthorisedItemsView *>(m_currentView.get()))
+            view->NewAuthorisedReference();
+    });
+}
+
 void Application::GenerateDocumentation() {}

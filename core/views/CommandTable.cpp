@@ -139,4 +139,10 @@ QStringList rulebaseTools()
             QStringLiteral("tlScopeTags"),     QStringLiteral("tlDefaultViolations"),   QStringLiteral("tlGenerateDocumentation")};
 }
 
+QStringList authorisedItemTools()
+{
+    return {QStringLiteral("tlAddFromProject"), QStringLiteral("tlAuthorisedComponent"),
+            QStringLiteral("tlAuthorisedReference")};
+}
+
 } // namespace CommandTable

@@ -44,5 +44,8 @@ const BandDefinition *findBand(const QString &id);
 QStringList viewTools();
 // Tools enabled only while a rulebase is open.
 QStringList rulebaseTools();
+// Tools that only the authority items view enables: off until that view stands, and off again
+// when it goes.
+QStringList authorisedItemTools();
 
 } // namespace CommandTable

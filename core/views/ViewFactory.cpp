@@ -1,6 +1,7 @@
 #include "views/ViewFactory.h"
 
 #include "platform/TextUtils.h"
+#include "views/AuthorisedItemsView.h"
 #include "views/CategoryView.h"
 #include "views/CodingConventionsView.h"
 #include "views/NamingConventionsView.h"
@@ -12,6 +13,8 @@ std::unique_ptr<IViewController> createView(const QString &toolId)
         return std::make_unique<CodingConventionsView>();
     if (Text::same(toolId, QStringLiteral("tlNamingConventions")))
         return std::make_unique<NamingConventionsView>();
+    if (Text::same(toolId, QStringLiteral("tlAuthorisedItems")))
+        return std::make_unique<AuthorisedItemsView>();
     if (Text::same(toolId, QStringLiteral("tlCategoryView")))
         return std::make_unique<CategoryView>();
     if (Text::same(toolId, QStringLiteral("tlSeverityView")))

@@ -1,5 +1,29 @@
 #include "gui/factory/GuiFormFactory.h"
 
-bool GuiFormFactory::runAddFromProject(AddFromProjectForm &form) { return IFormFactory::runAddFromProject(form); }
-bool GuiFormFactory::runAuthorisedComponent(AuthorisedComponentForm &form) { return IFormFactory::runAuthorisedComponent(form); }
-bool GuiFormFactory::runAuthorisedReference(AuthorisedReferenceForm &form) { return IFormFactory::runAuthorisedReference(form); }
+#include "editors/AddFromProjectForm.h"
+#include "editors/AuthorisedComponentForm.h"
+#include "editors/AuthorisedReferenceForm.h"
+#include "gui/dialogs/frmAddFromProject.h"
+#include "gui/dialogs/frmAuthorisedComponent.h"
+#include "gui/dialogs/frmAuthorisedReference.h"
+
+bool GuiFormFactory::runAddFromProject(AddFromProjectForm &form)
+{
+    frmAddFromProject dialog(form, parentWidget());
+    dialog.exec();
+    return !form.Cancelled();
+}
+
+bool GuiFormFactory::runAuthorisedComponent(AuthorisedComponentForm &form)
+{
+    frmAuthorisedComponent dialog(form, parentWidget());
+    dialog.exec();
+    return !form.Cancelled();
+}
+
+bool GuiFormFactory::runAuthorisedReference(AuthorisedReferenceForm &form)
+{
+    frmAuthorisedReference dialog(form, parentWidget());
+    dialog.exec();
+    return !form.Cancelled();
+}

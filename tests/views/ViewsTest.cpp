@@ -11,6 +11,7 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/SeverityItem.h"
 #include "rulebase/ViolationDefinition.h"
+#include "views/AuthorisedItemsView.h"
 #include "views/CategoryView.h"
 #include "views/CodingConventionsView.h"
 #include "views/NamingConventionsView.h"
@@ -465,7 +466,8 @@ TEST(ViewFactory, MakesTheFourViewsAndTheApplicationShowsThem)
               nullptr);
     EXPECT_NE(dynamic_cast<CategoryView *>(createView("tlCategoryView").get()), nullptr);
     EXPECT_NE(dynamic_cast<SeverityView *>(createView("tlSeverityView").get()), nullptr);
-    EXPECT_EQ(createView("tlAuthorisedItems"), nullptr);
+    EXPECT_NE(dynamic_cast<AuthorisedItemsView *>(createView("tlAuthorisedItems").get()), nullptr);
+    EXPECT_EQ(createView("tlDocumentationConventions"), nullptr);
 
     ViewTest::AdminDataScope settings;
     ScriptedUserInterface ui;

@@ -1,0 +1,302 @@
+#include "editors/AddFromProjectForm.h"
+#include "editors/AuthorisedComponentForm.h"
+#include "editors/AuthorisedReferenceForm.h"
+#include "platform/GlobalObjects.h"
+#include "platform/QuorinAdminData.h"
+#include "project/AddFromProject.h"
+#include "rulebase/AuthorisedComponent.h"
+#include "rulebase/AuthorisedComponents.h"
+#include "rulebase/AuthorisedReference.h"
+#include "rulebase/AuthorisedReferences.h"
+#include "rulebase/Rulebase.h"
+
+#include "support/ScriptedUserInterface.h"
+#include "support/TestEnvironment.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString noLibraryWarning
+    = QStringLiteral("Unable to extract the type library information from the selected component.");
+
+QString typelibFile(const char *name)
+{
+    return TestEnvironment::sharedDataDir() + QStringLiteral("/typelib/") + QLatin1String(name);
+}
+
+// The settings the dialogs read their starting folder from, for the length of a test.
+class SettingsScope
+{
+public:
+    SettingsScope()
+    {
+        TestEnvironment::clearSettings();
+        gobjAdminData = std::make_shared<QuorinAdminData>();
+    }
+    ~SettingsScope() { gobjAdminData.reset(); }
+};
+
+QByteArray projectUsing(const char *guid, const char *version, const char *file)
+{
+    return QByteArray("Type=Exe\r\nObject=") + guid + "#" + version + "#0; " + file
+           + "\r\nName=\"P\"\r\n";
+}
+
+QString writeProject(const QString &dir, const char *name, const QByteArray &bytes)
+{
+    const QString path = dir + QLatin1Char('/') + QLatin1String(name);
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    return path;
+}
+
+} // namespace
+
+TEST(AuthorisedComponentForm, ANewItemStartsEmptyWithOKAndAdviceDisabled)
+{
+    auto item = std::make_shared<AuthorisedComponent>();
+    AuthorisedComponentForm form(item);
+    EXPECT_EQ(form.Caption(), QStringLiteral("Authorised Component"));
+    EXPECT_EQ(form.FilenameLabel(), QStringLiteral("&Component Filename"));
+    EXPECT_EQ(form.BrowseCaption(), QStringLiteral("Browse For Component"));
+    EXPECT_TRUE(form.Filename().isEmpty());
+    EXPECT_TRUE(form.GUID().isEmpty());
+    EXPECT_FALSE(form.OKEnabled());
+    EXPECT_FALSE(form.AdviceEnabled());
+    EXPECT_FALSE(form.ObjectPropertyEnabled());
+    EXPECT_TRUE(form.Cancelled());
+    // OK while disabled writes nothing.
+    EXPECT_FALSE(form.OK());
+    EXPECT_TRUE(form.Cancelled());
+
+    // File name and GUID both: that is all OK needs.
+    form.setGUID(QStringLiteral("{G}"));
+    EXPECT_FALSE(form.OKEnabled());
+    form.setFilename(QStringLiteral("grid.ocx"));
+    EXPECT_TRUE(form.OKEnabled());
+    form.setFilename(QString());
+    EXPECT_FALSE(form.OKEnabled());
+}
+
+TEST(AuthorisedComponentForm, AKnownItemFillsTheFieldsAndOKWritesThemBack)
+{
+    auto item = std::make_shared<AuthorisedComponent>();
+    item->setFilename(QStringLiteral("MSCOMCTL.OCX"));
+    item->setLibID(QStringLiteral("{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}"));
+    item->setVersionList(QStringLiteral("2.0; 2.1"));
+    item->setAdvice(QStringLiteral("Use 2.1."));
+    AuthorisedComponentForm form(item);
+    EXPECT_EQ(form.Filename(), item->Filename());
+    EXPECT_EQ(form.GUID(), item->LibID());
+    EXPECT_EQ(form.Versions(), item->VersionList());
+    EXPECT_EQ(form.Advice(), QStringLiteral("Use 2.1."));
+    EXPECT_TRUE(form.OKEnabled());
+    EXPECT_TRUE(form.AdviceEnabled());
+    EXPECT_TRUE(form.ObjectPropertyEnabled());
+
+    // A property macro goes in at the caret, over the selection.
+    const int caret
+        = form.InsertIntoAdvice(form.ObjectPropertyMacro(QStringLiteral("Filename")), 4, 3);
+    EXPECT_EQ(form.Advice(), QStringLiteral("Use %Component.Filename%."));
+    EXPECT_EQ(caret, 24);
+    form.setVersions(QStringLiteral("2.2"));
+    ASSERT_TRUE(form.OK());
+    EXPECT_FALSE(form.Cancelled());
+    EXPECT_EQ(item->VersionList(), QStringLiteral("2.2"));
+    EXPECT_EQ(item->Advice(), QStringLiteral("Use %Component.Filename%."));
+    EXPECT_EQ(item->LibID(), QStringLiteral("{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}"));
+}
+
+TEST(AuthorisedComponentForm, ClearingTheVersionsClearsTheAdviceForGood)
+{
+    auto item = std::make_shared<AuthorisedComponent>();
+    item->setLibID(QStringLiteral("{G}"));
+    item->setFilename(QStringLiteral("a.ocx"));
+    item->setVersionList(QStringLiteral("1.0"));
+    item->setAdvice(QStringLiteral("Upgrade."));
+    AuthorisedComponentForm form(item);
+    form.setVersions(QString());
+    EXPECT_TRUE(form.Advice().isEmpty());
+    EXPECT_FALSE(form.AdviceEnabled());
+    EXPECT_FALSE(form.ObjectPropertyEnabled());
+    form.setVersions(QStringLiteral("1"));
+    EXPECT_TRUE(form.AdviceEnabled());
+    EXPECT_TRUE(form.Advice().isEmpty());
+
+    // Cancel writes nothing.
+    form.Cancel();
+    EXPECT_TRUE(form.Cancelled());
+    EXPECT_EQ(item->Advice(), QStringLiteral("Upgrade."));
+    EXPECT_EQ(item->VersionList(), QStringLiteral("1.0"));
+}
+
+TEST(AuthorisedComponentForm, BrowseReadsTheLibraryOrWarnsAndKeepsThePath)
+{
+    if (!QFileInfo::exists(typelibFile("GridCtl.ocx")))
+        GTEST_SKIP() << "no shared type library data";
+    SettingsScope settings;
+    gobjAdminData->setLastPath(QStringLiteral("/start/"));
+    ScriptedUserInterface ui;
+    auto item = std::make_shared<AuthorisedComponent>();
+    AuthorisedComponentForm form(item);
+
+    ui.openAnswers = {typelibFile("GridCtl.ocx")};
+    ASSERT_TRUE(form.Browse());
+    ASSERT_EQ(ui.fileRequests.size(), 1u);
+    EXPECT_EQ(ui.fileRequests[0].fileType, 6);
+    EXPECT_EQ(ui.fileRequests[0].title, QStringLiteral("Select ActiveX Control"));
+    EXPECT_EQ(ui.fileRequests[0].folder, QStringLiteral("/start/"));
+    EXPECT_EQ(form.Filename(), typelibFile("GridCtl.ocx"));
+    EXPECT_EQ(form.GUID(), QStringLiteral("{6B1A3F20-5C2D-4E8F-9A10-1B2C3D4E5F60}"));
+    EXPECT_EQ(form.Versions(), QStringLiteral("1.0"));
+    EXPECT_TRUE(form.OKEnabled());
+    EXPECT_TRUE(form.AdviceEnabled());
+    EXPECT_EQ(gobjAdminData->LastPath(),
+              TestEnvironment::sharedDataDir() + QStringLiteral("/typelib/"));
+    EXPECT_TRUE(ui.messages.empty());
+
+    ui.openAnswers = {typelibFile("NoTypeLib.dll")};
+    ASSERT_TRUE(form.Browse());
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(ui.messages[0].text, noLibraryWarning);
+    EXPECT_EQ(ui.messages[0].icon, MessageIcon::Exclamation);
+    EXPECT_EQ(form.Filename(), typelibFile("NoTypeLib.dll"));
+    EXPECT_TRUE(form.GUID().isEmpty());
+    EXPECT_TRUE(form.Versions().isEmpty());
+    EXPECT_FALSE(form.OKEnabled());
+
+    // A cancelled file dialog changes nothing; Cancel after a browse leaves the item alone.
+    ui.openAnswers = {std::nullopt};
+    EXPECT_FALSE(form.Browse());
+    EXPECT_EQ(form.Filename(), typelibFile("NoTypeLib.dll"));
+    form.Cancel();
+    EXPECT_TRUE(item->Filename().isEmpty());
+    EXPECT_TRUE(item->LibID().isEmpty());
+}
+
+TEST(AuthorisedReferenceForm, DescriptionAndGuidEnableOKAndBrowseTakesTheHelpString)
+{
+    auto item = std::make_shared<AuthorisedReference>();
+    AuthorisedReferenceForm form(item);
+    EXPECT_EQ(form.Caption(), QStringLiteral("Authorised Reference"));
+    EXPECT_EQ(form.FilenameLabel(), QStringLiteral("&Reference Filename"));
+    EXPECT_EQ(form.BrowseCaption(), QStringLiteral("Browse For Reference"));
+    EXPECT_EQ(form.HelpTopic(), QStringLiteral("::/AuthorisedReference.htm"));
+    // The file name is not what a reference needs.
+    form.setFilename(QStringLiteral("x.dll"));
+    form.setGUID(QStringLiteral("{G}"));
+    EXPECT_FALSE(form.OKEnabled());
+    form.setDescription(QStringLiteral("X Library"));
+    EXPECT_TRUE(form.OKEnabled());
+    form.setFilename(QString());
+    EXPECT_TRUE(form.OKEnabled());
+    EXPECT_EQ(form.ObjectPropertyMacro(QStringLiteral("Version")),
+              QStringLiteral("%Reference.Version%"));
+
+    if (!QFileInfo::exists(typelibFile("ReportLib.tlb")))
+        GTEST_SKIP() << "no shared type library data";
+    ScriptedUserInterface ui;
+    ui.openAnswers = {typelibFile("ReportLib.tlb")};
+    ASSERT_TRUE(form.Browse());
+    EXPECT_EQ(ui.fileRequests[0].fileType, 7);
+    EXPECT_EQ(ui.fileRequests[0].title, QStringLiteral("Select ActiveX Component"));
+    EXPECT_EQ(form.Description(), QStringLiteral("Report Engine 2.5 Type Library"));
+    EXPECT_EQ(form.GUID(), QStringLiteral("{0F9E8D7C-6B5A-4938-2716-05F4E3D2C1B0}"));
+    EXPECT_EQ(form.Versions(), QStringLiteral("2.5"));
+    ASSERT_TRUE(form.OK());
+    EXPECT_EQ(item->Description(), QStringLiteral("Report Engine 2.5 Type Library"));
+    EXPECT_EQ(item->Filename(), typelibFile("ReportLib.tlb"));
+    EXPECT_EQ(item->VersionList(), QStringLiteral("2.5"));
+
+    // A truncated library: the warning, and the description stays as it was.
+    AuthorisedReferenceForm second(item);
+    ui.openAnswers = {typelibFile("Truncated.tlb")};
+    ASSERT_TRUE(second.Browse());
+    EXPECT_EQ(ui.messages.back().text, noLibraryWarning);
+    EXPECT_TRUE(second.GUID().isEmpty());
+    EXPECT_EQ(second.Description(), QStringLiteral("Report Engine 2.5 Type Library"));
+    EXPECT_FALSE(second.OKEnabled());
+}
+
+TEST(AddFromProjectForm, TabsListTheCandidatesAndTicksReachThem)
+{
+    const QString dir = TestEnvironment::makeTempDir();
+    SettingsScope settings;
+    ScriptedUserInterface ui;
+    auto rulebase = std::make_shared<Rulebase>();
+    AddFromProject importer;
+    importer.setRulebase(rulebase);
+    AddFromProjectForm form(importer);
+    EXPECT_EQ(AddFromProjectForm::Caption(), QStringLiteral("Add Authorised Items From Project"));
+    EXPECT_EQ(AddFromProjectForm::BrowseToolTip(), QStringLiteral("Browse For Project or Group"));
+    EXPECT_FALSE(form.OKEnabled());
+    EXPECT_TRUE(form.Rows().isEmpty());
+
+    ui.openAnswers = {
+        writeProject(dir,
+                     "p.vbp",
+                     projectUsing("{B0000000-0000-0000-0000-000000000002}", "1.0", "b.ocx")
+                         + projectUsing("{A0000000-0000-0000-0000-000000000001}", "3.1", "a.ocx"))};
+    ASSERT_TRUE(form.Browse());
+    EXPECT_EQ(ui.fileRequests[0].fileType, 5);
+    EXPECT_EQ(ui.fileRequests[0].title, QStringLiteral("Select VB Project or Group File"));
+    EXPECT_EQ(form.File(), dir + QStringLiteral("/p.vbp"));
+    EXPECT_EQ(gobjAdminData->LastPath(), dir + QLatin1Char('/'));
+    EXPECT_EQ(ui.messages.back().text,
+              QStringLiteral(
+                  "2 new components and 3 new references were found for the project 'p.vbp'."));
+    EXPECT_TRUE(form.OKEnabled());
+
+    EXPECT_EQ(form.TabPicture(), QStringLiteral("imgComponents"));
+    EXPECT_EQ(form.ColumnHeaders(),
+              (QStringList{QStringLiteral("Component"),
+                           QStringLiteral("Version"),
+                           QStringLiteral("Filename"),
+                           QStringLiteral("GUID")}));
+    QList<AddFromProjectForm::Row> rows = form.Rows();
+    ASSERT_EQ(rows.size(), 2);
+    EXPECT_EQ(rows[0].text, QStringLiteral("b.ocx"));
+    EXPECT_EQ(rows[0].key, QStringLiteral("{B0000000-0000-0000-0000-000000000002}"));
+    EXPECT_TRUE(rows[0].checked);
+
+    // Sorting by a header: ascending first, then descending.
+    form.ColumnClick(1);
+    EXPECT_EQ(form.Rows()[0].text, QStringLiteral("a.ocx"));
+    EXPECT_EQ(form.ColumnIcon(1), QStringLiteral("SortAscending"));
+    form.ColumnClick(1);
+    EXPECT_EQ(form.Rows()[0].text, QStringLiteral("b.ocx"));
+    EXPECT_EQ(form.ColumnIcon(1), QStringLiteral("SortDescending"));
+    form.ColumnClick(2);
+    EXPECT_EQ(form.Rows()[0].version, QStringLiteral("1.0"));
+    EXPECT_TRUE(form.ColumnIcon(1).isEmpty());
+
+    // Ticks are the candidates' Selected; OK needs one of either tab.
+    form.SelectNone();
+    EXPECT_EQ(importer.ComponentList()->SelectedCount(), 0);
+    EXPECT_TRUE(form.OKEnabled()); // the references are still ticked
+    form.setCurrentTab(AddFromProjectForm::ReferencesTab);
+    EXPECT_EQ(form.ColumnHeaders().first(), QStringLiteral("Description"));
+    EXPECT_EQ(form.TabPicture(), QStringLiteral("imgReferences"));
+    EXPECT_EQ(form.Rows().size(), 3);
+    EXPECT_EQ(form.Rows()[0].text, QStringLiteral("Visual Basic For Applications"));
+    form.SelectNone();
+    EXPECT_FALSE(form.OKEnabled());
+    form.setItemChecked(QStringLiteral("{FCFB3D2E-A0FA-1068-A738-08002B3371B5}"), true);
+    EXPECT_TRUE(form.OKEnabled());
+    EXPECT_TRUE(importer.ReferenceList()
+                    ->Item(QStringLiteral("{FCFB3D2E-A0FA-1068-A738-08002B3371B5}"))
+                    ->Selected());
+    form.SelectAll();
+    EXPECT_EQ(importer.ReferenceList()->SelectedCount(), 3);
+    EXPECT_EQ(importer.ComponentList()->SelectedCount(), 0);
+
+    EXPECT_TRUE(form.Cancelled());
+    form.OK();
+    EXPECT_FALSE(form.Cancelled());
+}

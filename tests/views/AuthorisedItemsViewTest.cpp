@@ -1,0 +1,558 @@
+#include "ViewTestSupport.h"
+
+#include "application/Application.h"
+#include "editors/AddFromProjectForm.h"
+#include "editors/AuthorisedComponentForm.h"
+#include "editors/AuthorisedReferenceForm.h"
+#include "editors/IFormFactory.h"
+#include "platform/GlobalObjects.h"
+#include "platform/QuorinAdminData.h"
+#include "platform/QuorinData.h"
+#include "rulebase/AuthorisedComponent.h"
+#include "rulebase/AuthorisedComponents.h"
+#include "rulebase/AuthorisedReference.h"
+#include "rulebase/AuthorisedReferences.h"
+#include "rulebase/RuleLists.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/UnauthorisedKeyword.h"
+#include "views/AuthorisedItemsView.h"
+#include "views/ToolDispatcher.h"
+#include "views/ViewFactory.h"
+#include "views/modViewCommon.h"
+
+#include "../typelib/TypeLibSamples.h"
+#include "support/MemoryMainForm.h"
+#include "support/ScriptedUserInterface.h"
+#include "support/TestEnvironment.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace {
+
+const QString comctl = QStringLiteral("{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}");
+const QString comct2 = QStringLiteral("{86CF1D34-0C5F-11D2-A9FC-0000F8754DA1}");
+const QString gridGuid = QStringLiteral("{6B1A3F20-5C2D-4E8F-9A10-1B2C3D4E5F60}");
+const QString reportGuid = QStringLiteral("{0F9E8D7C-6B5A-4938-2716-05F4E3D2C1B0}");
+const QString dropMessage = QStringLiteral(
+    "Only Visual Basic project files (*.vbp or *.vbg) or ActiveX component files (*.dll, *.exe, "
+    "*.ocx, *.tlb, *.olb) can be accepted.");
+
+// The dialogs of this view, run by script: each cancels unless told what to do.
+class ScriptedForms final : public IFormFactory
+{
+public:
+    ScriptedForms() { install(this); }
+    ~ScriptedForms() override { install(nullptr); }
+
+    bool runAuthorisedComponent(AuthorisedComponentForm &form) override
+    {
+        ++componentRuns;
+        component ? component(form) : form.Cancel();
+        return !form.Cancelled();
+    }
+    bool runAuthorisedReference(AuthorisedReferenceForm &form) override
+    {
+        ++referenceRuns;
+        reference ? reference(form) : form.Cancel();
+        return !form.Cancelled();
+    }
+    bool runAddFromProject(AddFromProjectForm &form) override
+    {
+        ++importRuns;
+        import ? import(form) : form.OK();
+        return !form.Cancelled();
+    }
+
+    std::function<void(AuthorisedComponentForm &)> component;
+    std::function<void(AuthorisedReferenceForm &)> reference;
+    std::function<void(AddFromProjectForm &)> import;
+    int componentRuns = 0;
+    int referenceRuns = 0;
+    int importRuns = 0;
+};
+
+// The local data folder, where the report of files that are not ActiveX goes.
+class DataFolderScope
+{
+public:
+    DataFolderScope()
+        : folder(TestEnvironment::makeTempDir() + QLatin1Char('/'))
+    {
+        gobjQuorinData = std::make_shared<QuorinData>();
+        gobjQuorinData->setLocalDataPath(folder);
+    }
+    ~DataFolderScope() { gobjQuorinData.reset(); }
+    QString folder;
+};
+
+struct ShownView
+{
+    ShownView()
+        : rulebase(ViewTest::loadSample())
+    {
+        show();
+    }
+    void show()
+    {
+        view = std::make_unique<AuthorisedItemsView>();
+        view->setRulebase(rulebase);
+        view->setMainForm(&form);
+        view->Customise();
+        view->Populate();
+        view->SetEnabledState();
+    }
+    void click(const char *key)
+    {
+        form.treeControl.click(form.treeControl.find(QLatin1String(key)));
+    }
+    int row(const QString &key) const { return form.listControl.find(key); }
+    QStringList headers() const
+    {
+        QStringList list;
+        for (int c = 1; c <= form.listControl.columnCount(); ++c)
+            list << form.listControl.columnHeader(c);
+        return list;
+    }
+    bool tool(const char *id) const { return form.toolEnabled(QLatin1String(id)); }
+
+    ViewTest::AdminDataScope settings;
+    ScriptedUserInterface ui;
+    ScriptedForms forms;
+    MemoryMainForm form;
+    std::shared_ptr<Rulebase> rulebase;
+    std::unique_ptr<AuthorisedItemsView> view;
+};
+
+QString typelibFile(const char *name)
+{
+    return TestEnvironment::sharedDataDir() + QStringLiteral("/typelib/") + QLatin1String(name);
+}
+
+QString writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    return path;
+}
+
+} // namespace
+
+TEST(AuthorisedItemsView, ShowsThreeNodesEachWithAListOfItsOwnShape)
+{
+    ShownView s;
+    const MemoryTreeControl &tree = s.form.treeControl;
+    MemoryListControl &list = s.form.listControl;
+    EXPECT_EQ(s.form.treeTitle, QStringLiteral(" Authority Items"));
+    ASSERT_EQ(tree.count(), 3);
+    EXPECT_EQ(tree.text(1), QStringLiteral("Authorised Components (4)"));
+    EXPECT_EQ(tree.text(2), QStringLiteral("Authorised References (4)"));
+    EXPECT_EQ(tree.text(3), QStringLiteral("Unauthorised Keywords (20)"));
+    EXPECT_EQ(tree.image(2), QStringLiteral("Reference"));
+    EXPECT_TRUE(tree.bold(3));
+    EXPECT_EQ(tree.parent(3), 0);
+
+    // The components first.
+    EXPECT_EQ(s.view->CurrentNodeKey(), QStringLiteral("AC"));
+    EXPECT_EQ(s.form.listTitle, QStringLiteral(" Authority Items [Authorised Components]"));
+    EXPECT_EQ(s.headers(), (QStringList{"Component", "Version(s)", "GUID"}));
+    ASSERT_EQ(list.count(), 4);
+    EXPECT_EQ(list.imageList(), QStringLiteral("ilsImages"));
+    const int grid = s.row(comctl);
+    EXPECT_EQ(list.text(grid), QStringLiteral("MSCOMCTL.OCX"));
+    EXPECT_EQ(list.subItemText(grid, 1), QStringLiteral("2.0; 2.1; 2.2"));
+    EXPECT_EQ(list.subItemText(grid, 2), comctl);
+    EXPECT_EQ(list.smallIcon(grid), 1);
+    EXPECT_EQ(list.subItemText(s.row(comct2), 1), QStringLiteral("<All Versions>"));
+    EXPECT_TRUE(s.rulebase->AuthorisedComponents()->Item(comct2)->VersionList().isEmpty());
+    EXPECT_EQ(list.selectedItem(), 1);
+    EXPECT_EQ(s.form.statusText, QStringLiteral("4 Items"));
+    EXPECT_EQ(s.form.listHeaderImage, QStringLiteral("Component"));
+    EXPECT_EQ(s.form.documentation,
+              QStringLiteral(
+                  "Add one or more ActiveX components which are authorised for use by projects."));
+    for (const char *enabled : {"tlAddFromProject",
+                                "tlAuthorisedComponent",
+                                "tlAuthorisedReference",
+                                "tlUnauthorisedKeyword",
+                                "tlDeleteRule",
+                                "tlOpenRule"})
+        EXPECT_TRUE(s.tool(enabled)) << enabled;
+    for (const char *disabled : {"tlCloneRule", "tlRuleActive", "tlRuleInactive"})
+        EXPECT_FALSE(s.tool(disabled)) << disabled;
+    EXPECT_EQ(s.view->ItemsActiveState(), 4);
+    EXPECT_FALSE(s.form.noItemsVisible);
+    list.click(grid);
+    EXPECT_EQ(s.form.documentation,
+              QStringLiteral("Authorised Component:\r\n")
+                  + s.rulebase->AuthorisedComponents()->Item(comctl)->Advice());
+
+    s.click("AR");
+    EXPECT_EQ(s.headers(), (QStringList{"Reference", "Version(s)", "Filename", "GUID"}));
+    const QString ole = QStringLiteral("{00020430-0000-0000-C000-000000000046}");
+    EXPECT_EQ(list.text(s.row(ole)), QStringLiteral("OLE Automation"));
+    EXPECT_EQ(list.subItemText(s.row(ole), 2), QStringLiteral("stdole2.tlb"));
+    EXPECT_EQ(list.subItemText(s.row(ole), 3), ole);
+    EXPECT_EQ(list.smallIcon(s.row(ole)), 2);
+    list.click(s.row(ole));
+    EXPECT_TRUE(s.form.documentation.startsWith(
+        QStringLiteral("Authorised Reference:\r\nReferenced by every")));
+
+    s.click("UK");
+    EXPECT_EQ(s.form.listTitle, QStringLiteral(" Authority Items [Unauthorised Keywords]"));
+    EXPECT_EQ(s.headers(), (QStringList{"Rule", "Title", "Category", "Impact"}));
+    EXPECT_EQ(list.columnAlignment(4), ColumnAlignment::Right);
+    EXPECT_EQ(list.imageList(), QStringLiteral("ilsSeverity"));
+    EXPECT_EQ(list.count(), 20);
+    EXPECT_EQ(s.form.statusText, QStringLiteral("20 Items (1 Inactive)"));
+    EXPECT_TRUE(s.tool("tlCloneRule"));
+    EXPECT_TRUE(s.tool("tlRuleInactive"));
+    EXPECT_EQ(s.view->ItemsActiveState(), 1);
+    int inactive = 0;
+    for (int row = 1; row <= list.count(); ++row)
+        inactive = list.foreColor(row) == modViewCommon::InactiveColour ? row : inactive;
+    ASSERT_NE(inactive, 0);
+    list.moveOver(inactive);
+    EXPECT_EQ(list.toolTipText(),
+              QStringLiteral("The rule for this unauthorised keyword is not active and "
+                             "therefore will not be enforced."));
+    list.moveOver(inactive == 1 ? 2 : 1);
+    EXPECT_TRUE(list.toolTipText().isEmpty());
+    list.click(inactive);
+    EXPECT_EQ(
+        s.form.documentation,
+        s.rulebase->RuleLists()->UnauthorisedKeywords()->Item(list.key(inactive))->Description());
+
+    // Commands of rules do nothing on the other nodes.
+    s.click("AC");
+    list.click(1);
+    s.view->ActivateItems(false);
+    s.view->CloneItems();
+    EXPECT_EQ(list.foreColor(1), list.foreColor());
+    EXPECT_EQ(s.rulebase->RuleLists()->UnauthorisedKeywords()->Count(), 20);
+}
+
+TEST(AuthorisedItemsView, DeleteAsksThenRemovesFromTheRulebaseAndTheList)
+{
+    ShownView s;
+    MemoryListControl &list = s.form.listControl;
+    list.click(1);
+    list.select(2, true);
+    const QString first = list.key(1);
+    s.ui.answers = {MessageResult::No};
+    s.view->DeleteItems();
+    ASSERT_EQ(s.ui.messages.size(), 1u);
+    EXPECT_EQ(s.ui.messages[0].text,
+              QStringLiteral("Are you sure you wish to delete the selected item(s)?"));
+    EXPECT_EQ(s.ui.messages[0].buttons, MessageButtons::YesNo);
+    EXPECT_EQ(s.ui.messages[0].icon, MessageIcon::Question);
+    EXPECT_EQ(list.count(), 4);
+    EXPECT_FALSE(s.rulebase->AuthorisedComponents()->Dirty());
+
+    s.ui.answers = {MessageResult::Yes};
+    s.view->DeleteItems();
+    EXPECT_EQ(list.count(), 2);
+    EXPECT_EQ(list.find(first), 0);
+    EXPECT_FALSE(s.rulebase->AuthorisedComponents()->Contains(first));
+    EXPECT_EQ(s.rulebase->AuthorisedComponents()->Count(), 2);
+    EXPECT_EQ(s.form.treeControl.text(1), QStringLiteral("Authorised Components (2)"));
+    EXPECT_EQ(s.form.statusText, QStringLiteral("2 Items"));
+    EXPECT_TRUE(s.rulebase->Dirty());
+
+    list.click(1);
+    list.select(2, true);
+    s.ui.answers = {MessageResult::Yes};
+    s.view->DeleteItems();
+    EXPECT_EQ(list.count(), 0);
+    EXPECT_EQ(s.form.treeControl.text(1), QStringLiteral("Authorised Components"));
+    EXPECT_FALSE(s.form.treeControl.bold(1));
+    EXPECT_TRUE(s.form.noItemsVisible);
+    EXPECT_FALSE(s.tool("tlDeleteRule"));
+    EXPECT_FALSE(s.tool("tlOpenRule"));
+    EXPECT_EQ(s.form.statusText, QStringLiteral("0 Items"));
+    // With no row selected nothing is asked.
+    s.view->DeleteItems();
+    EXPECT_EQ(s.ui.messages.size(), 3u);
+
+    s.click("UK");
+    const QString keyword = list.key(1);
+    list.click(1);
+    s.ui.answers = {MessageResult::Yes};
+    s.view->DeleteItems();
+    EXPECT_FALSE(s.rulebase->RuleLists()->UnauthorisedKeywords()->Contains(keyword));
+    EXPECT_EQ(s.form.treeControl.text(3), QStringLiteral("Unauthorised Keywords (19)"));
+}
+
+TEST(AuthorisedItemsView, OpenEditsTheItemOfTheRowAndCancelLeavesIt)
+{
+    ShownView s;
+    MemoryListControl &list = s.form.listControl;
+    const int row = s.row(comctl);
+    list.click(row);
+    s.view->OpenItem(); // the script cancels
+    EXPECT_EQ(s.forms.componentRuns, 1);
+    EXPECT_EQ(list.subItemText(row, 1), QStringLiteral("2.0; 2.1; 2.2"));
+    EXPECT_FALSE(s.rulebase->Dirty());
+
+    s.forms.component = [](AuthorisedComponentForm &form) {
+        EXPECT_EQ(form.Filename(), QStringLiteral("MSCOMCTL.OCX"));
+        form.setVersions(QString());
+        form.setFilename(QStringLiteral("MSCOMCTL2.OCX"));
+        form.OK();
+    };
+    s.view->OpenItem();
+    EXPECT_EQ(list.text(row), QStringLiteral("MSCOMCTL2.OCX"));
+    EXPECT_EQ(list.subItemText(row, 1), QStringLiteral("<All Versions>"));
+    EXPECT_EQ(list.key(row), comctl);
+    EXPECT_TRUE(s.rulebase->AuthorisedComponents()->Item(comctl)->Advice().isEmpty());
+    EXPECT_EQ(s.form.documentation, QStringLiteral("Authorised Component:\r\n"));
+    // The item has no flag of its own, yet the edit must not be lost on closing.
+    EXPECT_TRUE(s.rulebase->Dirty());
+
+    s.click("AR");
+    list.click(1);
+    s.forms.reference = [](AuthorisedReferenceForm &form) {
+        form.setDescription(QStringLiteral("Renamed"));
+        form.setAdvice(QStringLiteral("New advice"));
+        form.OK();
+    };
+    s.view->OpenItem();
+    EXPECT_EQ(list.text(1), QStringLiteral("Renamed"));
+    EXPECT_EQ(s.form.documentation, QStringLiteral("Authorised Reference:\r\nNew advice"));
+
+    s.click("UK");
+    ScriptedLauncher launcher;
+    launcher.edit = [](IRule &rule) {
+        static_cast<UnauthorisedKeyword &>(rule).setTitle(QStringLiteral("Edited"));
+    };
+    list.click(2);
+    s.view->OpenItem();
+    EXPECT_EQ(launcher.opened, 1);
+    EXPECT_EQ(list.subItemText(2, 1), QStringLiteral("Edited"));
+}
+
+TEST(AuthorisedItemsView, NewItemsComeThroughTheApplicationOnlyWhileThisViewIsCurrent)
+{
+    ViewTest::AdminDataScope settings;
+    ScriptedUserInterface ui;
+    ScriptedForms forms;
+    MemoryMainForm form;
+    Application app(&form, createView);
+    ASSERT_TRUE(
+        app.OpenRulebase(Application::OpenMode::CommandLine, TestEnvironment::sampleRulebase()));
+    const auto &rulebase = app.rulebase();
+    forms.component = [](AuthorisedComponentForm &f) {
+        f.setFilename(QStringLiteral("new.ocx"));
+        f.setGUID(QStringLiteral("{11111111-2222-3333-4444-555555555555}"));
+        f.setVersions(QStringLiteral("1.0"));
+        f.OK();
+    };
+    // Another view: the command does nothing.
+    EXPECT_TRUE(ExecuteTool(app, QStringLiteral("tlAuthorisedComponent")));
+    EXPECT_EQ(forms.componentRuns, 0);
+
+    app.SwitchView(QStringLiteral("tlAuthorisedItems"));
+    ASSERT_NE(dynamic_cast<AuthorisedItemsView *>(app.CurrentView()), nullptr);
+    EXPECT_EQ(form.helpContext, 67);
+    EXPECT_TRUE(form.toolEnabled(QStringLiteral("tlAddFromProject")));
+    ExecuteTool(app, QStringLiteral("tlAuthorisedComponent"));
+    EXPECT_EQ(forms.componentRuns, 1);
+    EXPECT_EQ(rulebase->AuthorisedComponents()->Count(), 5);
+    EXPECT_EQ(form.listControl.count(), 5);
+    EXPECT_EQ(form.treeControl.text(1), QStringLiteral("Authorised Components (5)"));
+    EXPECT_EQ(form.statusText, QStringLiteral("5 Items"));
+
+    // The same GUID again is refused, and said so.
+    ExecuteTool(app, QStringLiteral("tlAuthorisedComponent"));
+    EXPECT_EQ(rulebase->AuthorisedComponents()->Count(), 5);
+    ASSERT_FALSE(ui.messages.empty());
+    EXPECT_TRUE(
+        ui.messages.back().text.contains(QStringLiteral("{11111111-2222-3333-4444-555555555555}")));
+
+    // A reference while the components show: stored and counted, the list unchanged.
+    forms.reference = [](AuthorisedReferenceForm &f) {
+        f.setDescription(QStringLiteral("New Library"));
+        f.setGUID(QStringLiteral("{99999999-2222-3333-4444-555555555555}"));
+        f.OK();
+    };
+    ExecuteTool(app, QStringLiteral("tlAuthorisedReference"));
+    EXPECT_EQ(rulebase->AuthorisedReferences()->Count(), 5);
+    EXPECT_EQ(form.listControl.count(), 5);
+    EXPECT_EQ(form.treeControl.text(2), QStringLiteral("Authorised References (5)"));
+
+    // Import through the dialog: browse to a project, keep its components only.
+    const QString dir = TestEnvironment::makeTempDir();
+    ui.openAnswers = {writeFile(
+        dir + QStringLiteral("/p.vbp"),
+        "Type=Exe\r\nObject={831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.5#0; MSCOMCTL.OCX\r\n"
+        "Object={ABCDEF00-0000-0000-0000-000000000001}#1.0#0; fresh.ocx\r\nName=\"P\"\r\n")};
+    forms.import = [](AddFromProjectForm &f) {
+        EXPECT_FALSE(f.OKEnabled());
+        ASSERT_TRUE(f.Browse());
+        f.setCurrentTab(AddFromProjectForm::ReferencesTab);
+        f.SelectNone();
+        EXPECT_TRUE(f.OKEnabled());
+        f.OK();
+    };
+    ExecuteTool(app, QStringLiteral("tlAddFromProject"));
+    EXPECT_EQ(forms.importRuns, 1);
+    EXPECT_EQ(ui.messages.back().text,
+              QStringLiteral(
+                  "2 new components and 3 new references were found for the project 'p.vbp'."));
+    EXPECT_EQ(rulebase->AuthorisedComponents()->Item(comctl)->VersionList(),
+              QStringLiteral("2.0; 2.1; 2.2; 2.5"));
+    EXPECT_EQ(form.listControl.subItemText(form.listControl.find(comctl), 1),
+              QStringLiteral("2.0; 2.1; 2.2; 2.5"));
+    EXPECT_NE(form.listControl.find(QStringLiteral("{ABCDEF00-0000-0000-0000-000000000001}")), 0);
+    EXPECT_EQ(rulebase->AuthorisedComponents()->Count(), 6);
+    EXPECT_EQ(rulebase->AuthorisedReferences()->Count(), 5);
+    EXPECT_EQ(form.treeControl.text(1), QStringLiteral("Authorised Components (6)"));
+
+    // A cancelled import changes nothing.
+    forms.import = [](AddFromProjectForm &f) { f.Cancel(); };
+    ExecuteTool(app, QStringLiteral("tlAddFromProject"));
+    EXPECT_EQ(rulebase->AuthorisedComponents()->Count(), 6);
+
+    app.TerminateApplication();
+    EXPECT_FALSE(form.toolEnabled(QStringLiteral("tlAddFromProject")));
+    EXPECT_FALSE(form.toolEnabled(QStringLiteral("tlAuthorisedReference")));
+    EXPECT_TRUE(form.treeTitle.isEmpty());
+}
+
+TEST(AuthorisedItemsView, DroppedFilesAreTakenAsProjectsElseAsActiveXElseRefused)
+{
+    ShownView s;
+    EXPECT_TRUE(AuthorisedItemsView::IsComponentFile(QStringLiteral("C:\\x\\a.Dll")));
+    EXPECT_TRUE(AuthorisedItemsView::IsComponentFile(QStringLiteral("b.olb")));
+    EXPECT_FALSE(AuthorisedItemsView::IsComponentFile(QStringLiteral("c.txt")));
+    EXPECT_FALSE(AuthorisedItemsView::IsComponentFile(QStringLiteral("d.vbp")));
+    EXPECT_FALSE(AuthorisedItemsView::IsComponentFile(QString()));
+    EXPECT_TRUE(s.view->AcceptsFileDrops());
+
+    s.view->FilesDropped({QStringLiteral("/tmp/readme.txt"), QStringLiteral("/tmp/x.bas")});
+    ASSERT_EQ(s.ui.messages.size(), 1u);
+    EXPECT_EQ(s.ui.messages[0].text, dropMessage);
+    EXPECT_EQ(s.ui.messages[0].icon, MessageIcon::Information);
+
+    // One project among ActiveX files: the project alone is read.
+    const QString dir = TestEnvironment::makeTempDir();
+    const QString project
+        = writeFile(dir + QStringLiteral("/p.VBP"),
+                    "Type=Exe\r\nObject={ABCDEF00-0000-0000-0000-000000000002}#1.0#0; one.ocx\r\n");
+    s.view->FilesDropped({typelibFile("Reports.dll"), project, typelibFile("NoTypeLib.dll")});
+    EXPECT_EQ(s.forms.importRuns, 1);
+    EXPECT_EQ(s.ui.messages.back().text,
+              QStringLiteral(
+                  "1 new component and 3 new references were found for the selected projects."));
+    EXPECT_FALSE(s.rulebase->AuthorisedReferences()->Contains(reportGuid));
+    EXPECT_EQ(s.form.listControl.count(), 5);
+    EXPECT_EQ(s.form.treeControl.text(2), QStringLiteral("Authorised References (7)"));
+    EXPECT_EQ(s.ui.unscriptedQuestions, 0);
+
+    // Without a rulebase nothing is taken.
+    AuthorisedItemsView bare;
+    EXPECT_FALSE(bare.AcceptsFileDrops());
+    bare.FilesDropped({project});
+    EXPECT_EQ(s.forms.importRuns, 1);
+}
+
+TEST(AuthorisedItemsView, ActiveXFilesBecomeComponentsAndReferencesAndTheRestAreReported)
+{
+    if (!QFileInfo::exists(typelibFile("GridCtl.ocx")))
+        GTEST_SKIP() << "no shared type library data";
+    ShownView s;
+    DataFolderScope data;
+    const QString dir = TestEnvironment::makeTempDir();
+    // A control without a library is passed over without a word.
+    const QString badControl = writeFile(dir + QStringLiteral("/Bad.ocx"), "text");
+    s.ui.answers = {MessageResult::Yes};
+    s.view->AddAXComponentsFromFile({typelibFile("GridCtl.ocx"),
+                                     typelibFile("ReportLib.tlb"),
+                                     badControl,
+                                     typelibFile("NoTypeLib.dll"),
+                                     typelibFile("Text.tlb")});
+
+    MemoryListControl &list = s.form.listControl;
+    ASSERT_NE(s.row(gridGuid), 0);
+    EXPECT_EQ(list.text(s.row(gridGuid)), QStringLiteral("GridCtl.ocx"));
+    EXPECT_EQ(list.subItemText(s.row(gridGuid), 1), QStringLiteral("1.0"));
+    const auto report = s.rulebase->AuthorisedReferences()->Item(reportGuid);
+    EXPECT_EQ(report->Description(), QStringLiteral("Report Engine 2.5 Type Library"));
+    EXPECT_EQ(report->Filename(), QStringLiteral("ReportLib.tlb"));
+    EXPECT_EQ(report->VersionList(), QStringLiteral("2.5"));
+    EXPECT_EQ(s.form.treeControl.text(1), QStringLiteral("Authorised Components (5)"));
+    EXPECT_EQ(s.form.treeControl.text(2), QStringLiteral("Authorised References (5)"));
+    EXPECT_EQ(s.form.statusText, QStringLiteral("5 Items"));
+
+    ASSERT_EQ(s.ui.messages.size(), 1u);
+    EXPECT_EQ(s.ui.messages[0].text,
+              QStringLiteral("Of the files selected, 2 are not ActiveX components.  Would you like "
+                             "to see the details?"));
+    EXPECT_EQ(s.ui.messages[0].icon, MessageIcon::Question);
+    const QString reportFile = data.folder + QStringLiteral("NonActiveXFiles.txt");
+    ASSERT_EQ(s.ui.opened, QStringList{reportFile});
+    QFile written(reportFile);
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(written.readAll());
+    EXPECT_TRUE(text.contains(QStringLiteral("\r\nTHE FOLLOWING ARE NOT ACTIVEX COMPONENTS:\r\n")));
+    EXPECT_TRUE(text.contains(typelibFile("NoTypeLib.dll")));
+    EXPECT_TRUE(text.contains(typelibFile("Text.tlb")));
+    EXPECT_FALSE(text.contains(QStringLiteral("Bad.ocx")));
+
+    // One file alone is spoken of in the singular; No opens nothing.
+    s.ui.answers = {MessageResult::No};
+    s.view->AddAXComponentsFromFile({typelibFile("Truncated.tlb")});
+    EXPECT_EQ(s.ui.messages.back().text,
+              QStringLiteral("Of the files selected, 1 is not an ActiveX component.  Would you "
+                             "like to see the details?"));
+    EXPECT_EQ(s.ui.opened.size(), 1);
+
+    // Two versions of one library dropped together: one row, both versions.
+    s.click("AR");
+    const QString v1
+        = writeFile(dir + QStringLiteral("/lib1.tlb"), TypeLibSamples::msft(1, 0, "Lib", "Lib"));
+    const QString v2
+        = writeFile(dir + QStringLiteral("/lib2.tlb"), TypeLibSamples::msft(2, 0, "Lib", "Lib"));
+    s.view->FilesDropped({v1, v2, v1});
+    const QString guid = s.rulebase->AuthorisedReferences()->Item(6)->LibID();
+    EXPECT_EQ(s.rulebase->AuthorisedReferences()->Count(), 6);
+    EXPECT_EQ(list.subItemText(s.row(guid), 1), QStringLiteral("1.0; 2.0"));
+    EXPECT_EQ(s.form.statusText, QStringLiteral("6 Items"));
+}
+
+TEST(AuthorisedItemsView, ReleaseSavesTheColumnsItOwnsAndDisablesItsTools)
+{
+    ShownView s;
+    MemoryListControl &list = s.form.listControl;
+    list.setColumnWidth(1, 3000); // half of the list's width
+    s.click("AR");
+    EXPECT_FLOAT_EQ(gobjAdminData->ListColWidthAC(1), 0.5f);
+    list.setColumnWidth(4, 1500);
+    s.click("UK");
+    EXPECT_FLOAT_EQ(gobjAdminData->ListColWidthAR(4), 0.25f);
+    const float keywordWidth = gobjAdminData->ListColWidthUK(2);
+    list.setColumnWidth(2, 600);
+    list.clickColumn(3);
+    EXPECT_EQ(gobjAdminData->ListUKSortCol(), 2);
+    s.view.reset();
+    // The keyword list's fractions are read, never written.
+    EXPECT_FLOAT_EQ(gobjAdminData->ListColWidthUK(2), keywordWidth);
+    EXPECT_TRUE(s.form.treeTitle.isEmpty());
+    EXPECT_TRUE(s.form.listTitle.isEmpty());
+    for (const char *tool : {"tlAddFromProject",
+                             "tlAuthorisedComponent",
+                             "tlAuthorisedReference",
+                             "tlUnauthorisedKeyword"})
+        EXPECT_FALSE(s.tool(tool)) << tool;
+
+    // Shown again, each list takes its fractions back.
+    s.show();
+    EXPECT_EQ(list.columnWidth(1), 3000);
+    s.click("AR");
+    EXPECT_EQ(list.columnWidth(4), 1500);
+}
