@@ -11,16 +11,21 @@ public:
 };
 
 CancellingLauncher cancelling;
-IRuleEditorLauncher *installed = nullptr;
+IRuleEditorLauncher *installedLauncher = nullptr;
 
 } // namespace
 
 IRuleEditorLauncher &IRuleEditorLauncher::current()
 {
-    return installed ? *installed : cancelling;
+    return installedLauncher ? *installedLauncher : cancelling;
 }
 
 void IRuleEditorLauncher::install(IRuleEditorLauncher *launcher)
 {
-    installed = launcher;
+    installedLauncher = launcher;
+}
+
+IRuleEditorLauncher *IRuleEditorLauncher::installed()
+{
+    return installedLauncher;
 }
