@@ -275,3 +275,40 @@ TEST_F(ConventionDialogs, NamingAndKeywordDialogsCarryTheirControls)
     EXPECT_EQ(keyword->Condition(), QStringLiteral("^End$"));
     EXPECT_NE(window->list()->find(keyword->RuleKey()), 0);
 }
+
+TEST_F(ConventionDialogs, CloneMarkAndDeleteFromTheMainWindowInEveryRuleView)
+{
+    const auto lists = app->rulebase()->RuleLists();
+    for (const char *view : {"tlCodingConventions", "tlNamingConventions", "tlCategoryView", "tlSeverityView"}) {
+        SCOPED_TRACE(view);
+        window->tool(QLatin1String(view))->trigger();
+        ListControl *list = window->list();
+        ASSERT_GT(list->count(), 0);
+        const int rows = list->count();
+        const int all = lists->AllConventions()->Count();
+        list->setSelectedItem(1);
+        const QString key = list->key(1);
+
+        window->tool(QStringLiteral("tlRuleInactive"))->trigger();
+        EXPECT_FALSE(lists->AllConventions()->Item(key)->RuleActive());
+        EXPECT_EQ(list->foreColor(list->find(key)), 255);
+        window->tool(QStringLiteral("tlRuleActive"))->trigger();
+        EXPECT_TRUE(lists->AllConventions()->Item(key)->RuleActive());
+
+        window->tool(QStringLiteral("tlCloneRule"))->trigger();
+        EXPECT_EQ(lists->AllConventions()->Count(), all + 1);
+        EXPECT_EQ(list->count(), rows + 1);
+
+        // The clone is the newest rule; it alone goes.
+        const auto clone = lists->AllConventions()->Item(lists->AllConventions()->Count());
+        EXPECT_TRUE(clone->Title().startsWith(QStringLiteral("Clone of ")));
+        for (int row = 1; row <= list->count(); ++row)
+            list->setSelected(row, list->key(row) == clone->RuleKey());
+        ui.answers.push_back(MessageResult::Yes);
+        window->tool(QStringLiteral("tlDeleteRule"))->trigger();
+        EXPECT_EQ(lists->AllConventions()->Count(), all);
+        EXPECT_EQ(list->count(), rows);
+        EXPECT_EQ(list->find(clone->RuleKey()), 0);
+        EXPECT_EQ(ui.unscriptedQuestions, 0);
+    }
+}
