@@ -15,7 +15,10 @@ void ChoiceList::addItem(const QString &text, qint32 itemData)
     ++m_revision;
 }
 
-void ChoiceList::addItem(const QString &key, const QString &text, const QString &image, int indentation)
+void ChoiceList::addItem(const QString &key,
+                         const QString &text,
+                         const QString &image,
+                         int indentation)
 {
     m_entries.push_back(Entry{text, 0, key, image, indentation});
     ++m_revision;

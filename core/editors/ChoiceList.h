@@ -26,7 +26,10 @@ public:
 
     void clear() override;
     void addItem(const QString &text, qint32 itemData) override;
-    void addItem(const QString &key, const QString &text, const QString &image, int indentation) override;
+    void addItem(const QString &key,
+                 const QString &text,
+                 const QString &image,
+                 int indentation) override;
 
     int count() const { return int(m_entries.size()); }
     const Entry &entry(int index) const { return m_entries.at(std::size_t(index)); }

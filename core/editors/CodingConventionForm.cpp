@@ -28,7 +28,8 @@ QString CodingConventionForm::CollapseToolTip(int index)
 
 CodingConventionForm::CodingConventionForm(std::shared_ptr<CodingConvention> rule)
     : m_rule(std::move(rule))
-{}
+{
+}
 
 qint32 CodingConventionForm::RuleID() const
 {
@@ -79,13 +80,16 @@ void CodingConventionForm::InitialiseEventTab()
 {
     const CodingConvention &rule = *m_rule;
     if (m_screen.chkPending) {
-        m_screen.fraEvent = QStringLiteral("Select the parser event appropriate to this coding convention.");
+        m_screen.fraEvent
+            = QStringLiteral("Select the parser event appropriate to this coding convention.");
         m_screen.tvwEventVisible = false;
         const qint32 event = rule.EventCount() == 1 ? rule.ParserEventID(0) : 1;
-        m_screen.imgcboEvent.setCurrentIndex(m_screen.imgcboEvent.findKey(VBParserEvents::ParserEventKey(event)));
+        m_screen.imgcboEvent.setCurrentIndex(
+            m_screen.imgcboEvent.findKey(VBParserEvents::ParserEventKey(event)));
         imgcboEvent_Click();
         if (rule.EndEventID() != -1) {
-            const int row = m_screen.imgcboPending.findKey(VBParserEvents::ParserEventKey(rule.EndEventID()));
+            const int row
+                = m_screen.imgcboPending.findKey(VBParserEvents::ParserEventKey(rule.EndEventID()));
             if (row >= 0)
                 m_screen.imgcboPending.setCurrentIndex(row);
         }
@@ -95,7 +99,8 @@ void CodingConventionForm::InitialiseEventTab()
     // Rebuilt from the rule, so ticks of a moment ago are not what comes back.
     ObjectTreeHelper().PopulateCodingConventionsTree(m_screen.tvwEvent.beginFill(), true);
     m_screen.tvwEventVisible = true;
-    m_screen.fraEvent = QStringLiteral("Select the parser event(s) appropriate to this coding convention.");
+    m_screen.fraEvent
+        = QStringLiteral("Select the parser event(s) appropriate to this coding convention.");
     CheckableTree &tree = m_screen.tvwEvent;
     int first = 0;
     for (int node : tree.nodesInOrder()) {
@@ -107,7 +112,8 @@ void CodingConventionForm::InitialiseEventTab()
     }
     if (first != 0) {
         // Made visible: its parents open.
-        for (int parent = tree.tree().node(first).parent; parent != 0; parent = tree.tree().node(parent).parent)
+        for (int parent = tree.tree().node(first).parent; parent != 0;
+             parent = tree.tree().node(parent).parent)
             tree.setExpanded(parent, true);
     } else if (tree.count() > 0) {
         first = tree.nodesInOrder().front();
@@ -125,7 +131,8 @@ void CodingConventionForm::tvwEvent_NodeClick(int node)
 void CodingConventionForm::imgcboEvent_Click()
 {
     if (m_screen.imgcboEvent.hasSelection())
-        m_screen.lblEventHelp = VBParserEvents::ParserEventHelp(Text::valLong(m_screen.imgcboEvent.currentKey()));
+        m_screen.lblEventHelp
+            = VBParserEvents::ParserEventHelp(Text::valLong(m_screen.imgcboEvent.currentKey()));
 }
 
 void CodingConventionForm::cmdCollapse_Click(int index)
@@ -160,18 +167,26 @@ void CodingConventionForm::SelectAllNodes(bool select)
 std::optional<FormFault> CodingConventionForm::FirstFault() const
 {
     if (m_screen.txtTitle.isEmpty())
-        return FormFault{RuleTab, QStringLiteral("txtTitle"), -1,
+        return FormFault{RuleTab,
+                         QStringLiteral("txtTitle"),
+                         -1,
                          QStringLiteral("Please enter a title for the coding convention.")};
     if (!m_screen.chkPending) {
         bool anyChecked = false;
         for (int node = 1; node <= m_screen.tvwEvent.count() && !anyChecked; ++node)
             anyChecked = m_screen.tvwEvent.isChecked(node);
         if (!anyChecked)
-            return FormFault{EventTab, QStringLiteral("tvwEvent"), -1,
-                             QStringLiteral("Please assign the coding convention to at least one parser event.")};
+            return FormFault{
+                EventTab,
+                QStringLiteral("tvwEvent"),
+                -1,
+                QStringLiteral(
+                    "Please assign the coding convention to at least one parser event.")};
     }
     if (m_screen.txtVTitle.isEmpty())
-        return FormFault{ViolationTab, QStringLiteral("txtVTitle"), -1,
+        return FormFault{ViolationTab,
+                         QStringLiteral("txtVTitle"),
+                         -1,
                          QStringLiteral("Please enter a title for the violation.")};
     return std::nullopt;
 }

@@ -28,16 +28,14 @@ void ConventionFormBase::setRulebase(std::shared_ptr<Rulebase> rulebase)
 
 void ConventionFormBase::PopulateCategories()
 {
-    modUIListUtils::PopulateCategoryListControl(common().cboCategory,
-                                                m_rulebase ? m_rulebase->CategoryList().get()
-                                                           : nullptr);
+    modUIListUtils::PopulateCategoryListControl(
+        common().cboCategory, m_rulebase ? m_rulebase->CategoryList().get() : nullptr);
 }
 
 void ConventionFormBase::PopulateSeverities()
 {
-    modUIListUtils::PopulateSeverityListControl(common().cboSeverity,
-                                                m_rulebase ? m_rulebase->SeverityList().get()
-                                                           : nullptr);
+    modUIListUtils::PopulateSeverityListControl(
+        common().cboSeverity, m_rulebase ? m_rulebase->SeverityList().get() : nullptr);
 }
 
 void ConventionFormBase::CategoryToScreen(qint32 categoryID)
@@ -57,7 +55,8 @@ void ConventionFormBase::ViolationToScreen(const ViolationDefinition &definition
     screen.txtVTitle = definition.Title();
     screen.txtVDescription = definition.Description();
     if (definition.Severity() != 0) {
-        screen.cboSeverity.setCurrentIndex(screen.cboSeverity.FindItemWithItemData(definition.Severity()));
+        screen.cboSeverity.setCurrentIndex(
+            screen.cboSeverity.FindItemWithItemData(definition.Severity()));
         cboSeverity_Click();
         // The click brought the severity's impact; the definition's own wins here.
         screen.txtVImpact = QString::number(definition.Impact());
@@ -86,7 +85,8 @@ void ConventionFormBase::cboSeverity_Click()
     if (!screen.cboSeverity.hasSelection() || !m_rulebase)
         return;
     const auto severities = m_rulebase->SeverityList();
-    const QString key = QString::number(screen.cboSeverity.currentItemData()) + QStringLiteral("Key");
+    const QString key
+        = QString::number(screen.cboSeverity.currentItemData()) + QStringLiteral("Key");
     if (!severities || !severities->Contains(key))
         return;
     const std::shared_ptr<SeverityItem> severity = severities->Item(key);

@@ -8,7 +8,8 @@ bool ConventionFormLauncher::EditRule(const std::shared_ptr<IRule> &rule)
 {
     if (!rule)
         return false;
-    std::unique_ptr<IConventionForm> form = IFormFactory::current().createConventionForm(rule->RuleType());
+    std::unique_ptr<IConventionForm> form
+        = IFormFactory::current().createConventionForm(rule->RuleType());
     if (!form)
         return false;
     form->setConvention(rule);

@@ -10,7 +10,10 @@ class Application;
 class ConventionFormLauncher final : public IRuleEditorLauncher
 {
 public:
-    explicit ConventionFormLauncher(Application *application) : m_application(application) {}
+    explicit ConventionFormLauncher(Application *application)
+        : m_application(application)
+    {
+    }
 
     bool EditRule(const std::shared_ptr<IRule> &rule) override;
     bool EditCategory(const std::shared_ptr<CategoryItem> &category) override;

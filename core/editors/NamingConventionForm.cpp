@@ -78,7 +78,8 @@ QString NamingConventionForm::StripPercent(const QString &selection)
 
 NamingConventionForm::NamingConventionForm(std::shared_ptr<NamingConvention> rule)
     : m_rule(std::move(rule))
-{}
+{
+}
 
 qint32 NamingConventionForm::RuleID() const
 {
@@ -113,8 +114,10 @@ void NamingConventionForm::PopulateNCObjectList()
 {
     m_screen.imgcboObject.clear();
     for (const ObjectRow &row : namingObjects) {
-        m_screen.imgcboObject.addItem(key(row.id), ObjectHelper::ObjectName(row.id),
-                                      ObjectHelper::ObjectTreeIcon(row.id), row.indentation);
+        m_screen.imgcboObject.addItem(key(row.id),
+                                      ObjectHelper::ObjectName(row.id),
+                                      ObjectHelper::ObjectTreeIcon(row.id),
+                                      row.indentation);
     }
 }
 
@@ -125,7 +128,8 @@ void NamingConventionForm::PopulatePropertyList(qint32 objectType)
     QList<qint32> ids;
     ObjectHelper::GetPropertyList(ObjectListType::NamingConvention, objectType, names, ids);
     for (qsizetype i = 0; i < ids.size(); ++i)
-        m_screen.imgcboProperty.addItem(key(ids[i]), names[i], ObjectHelper::PropertyIcon(ids[i]), 0);
+        m_screen.imgcboProperty.addItem(
+            key(ids[i]), names[i], ObjectHelper::PropertyIcon(ids[i]), 0);
 }
 
 void NamingConventionForm::DataToScreen()
@@ -142,7 +146,8 @@ void NamingConventionForm::DataToScreen()
     if (m_objectType > 0) {
         m_screen.imgcboObject.setCurrentIndex(m_screen.imgcboObject.findKey(key(m_objectType)));
         PopulatePropertyList(m_objectType);
-        m_screen.imgcboProperty.setCurrentIndex(m_screen.imgcboProperty.findKey(key(m_propertyType)));
+        m_screen.imgcboProperty.setCurrentIndex(
+            m_screen.imgcboProperty.findKey(key(m_propertyType)));
     }
 
     m_screen.txtExclusionList = rule.ExclusionList();
@@ -191,8 +196,9 @@ void NamingConventionForm::ItemsToScreen(Part part, bool active, const NamingCon
 void NamingConventionForm::setKind(ItemRow &row, int comboRow)
 {
     row.kind.setCurrentIndex(comboRow);
-    row.actionToolTip = row.kind.currentItemData(-1) == WorkfieldLiteral ? QStringLiteral("Select Workfield")
-                                                                          : QStringLiteral("Insert Pattern");
+    row.actionToolTip = row.kind.currentItemData(-1) == WorkfieldLiteral
+                            ? QStringLiteral("Select Workfield")
+                            : QStringLiteral("Insert Pattern");
 }
 
 void NamingConventionForm::EnableDisableItems(Part part, bool enabled)
@@ -289,7 +295,8 @@ bool NamingConventionForm::ActionPicksWorkfield(Part part, int index) const
 
 void NamingConventionForm::cmdDelete_Click()
 {
-    if (askYesNo(QStringLiteral("Are you sure you wish to delete the condition for this naming convention?"))
+    if (askYesNo(QStringLiteral(
+            "Are you sure you wish to delete the condition for this naming convention?"))
         == MessageResult::Yes)
         m_screen.txtCondition.clear();
 }
@@ -305,42 +312,60 @@ std::optional<FormFault> NamingConventionForm::ItemFault(Part part) const
         const ItemRow &row = items.rows[std::size_t(i)];
         const qint32 kind = row.kind.currentItemData(-1);
         if (kind == LiteralPattern && row.text.isEmpty())
-            return FormFault{tab, field, i,
-                             prefix ? QStringLiteral("Please enter a literal or pattern for the prefix item.")
-                                    : QStringLiteral("Please enter a literal or pattern for the suffix item.")};
+            return FormFault{
+                tab,
+                field,
+                i,
+                prefix ? QStringLiteral("Please enter a literal or pattern for the prefix item.")
+                       : QStringLiteral("Please enter a literal or pattern for the suffix item.")};
         if (kind == WorkfieldLiteral && row.text.isEmpty())
-            return FormFault{tab, field, i,
-                             prefix ? QStringLiteral("Please enter a workfield for the prefix item.")
-                                    : QStringLiteral("Please enter a workfield for the suffix item.")};
+            return FormFault{tab,
+                             field,
+                             i,
+                             prefix
+                                 ? QStringLiteral("Please enter a workfield for the prefix item.")
+                                 : QStringLiteral("Please enter a workfield for the suffix item.")};
     }
     if (items.advice.isEmpty())
-        return FormFault{tab, prefix ? QStringLiteral("txtPrefixAdvice") : QStringLiteral("txtSuffixAdvice"), -1,
-                         prefix ? QStringLiteral("Please enter the violation advice for an invalid prefix.")
-                                : QStringLiteral("Please enter the violation advice for an invalid suffix.")};
+        return FormFault{
+            tab,
+            prefix ? QStringLiteral("txtPrefixAdvice") : QStringLiteral("txtSuffixAdvice"),
+            -1,
+            prefix ? QStringLiteral("Please enter the violation advice for an invalid prefix.")
+                   : QStringLiteral("Please enter the violation advice for an invalid suffix.")};
     return std::nullopt;
 }
 
 std::optional<FormFault> NamingConventionForm::FirstFault() const
 {
     if (m_screen.txtTitle.isEmpty())
-        return FormFault{RuleTab, QStringLiteral("txtTitle"), -1,
+        return FormFault{RuleTab,
+                         QStringLiteral("txtTitle"),
+                         -1,
                          QStringLiteral("Please enter a title for the naming convention.")};
     if (!m_screen.imgcboObject.hasSelection())
-        return FormFault{RuleTab, QStringLiteral("imgcboObject"), -1,
-                         QStringLiteral("Please select an object/property for the naming convention.")};
+        return FormFault{
+            RuleTab,
+            QStringLiteral("imgcboObject"),
+            -1,
+            QStringLiteral("Please select an object/property for the naming convention.")};
     if (m_screen.chkPrefixActive) {
         if (auto fault = ItemFault(Prefix))
             return fault;
     }
     if (m_screen.chkBodyActive && m_screen.txtBodyAdvice.isEmpty())
-        return FormFault{BodyTab, QStringLiteral("txtBodyAdvice"), -1,
+        return FormFault{BodyTab,
+                         QStringLiteral("txtBodyAdvice"),
+                         -1,
                          QStringLiteral("Please enter the violation advice for an invalid body.")};
     if (m_screen.chkSuffixActive) {
         if (auto fault = ItemFault(Suffix))
             return fault;
     }
     if (m_screen.txtVTitle.isEmpty())
-        return FormFault{ViolationTab, QStringLiteral("txtVTitle"), -1,
+        return FormFault{ViolationTab,
+                         QStringLiteral("txtVTitle"),
+                         -1,
                          QStringLiteral("Please enter a title for the violation.")};
     return std::nullopt;
 }
@@ -354,7 +379,8 @@ void NamingConventionForm::DataFromScreen()
     rule.setObjectType(m_objectType);
     rule.setPropertyType(m_propertyType);
     // Property 0 is no property: nothing to look up, and nothing worth a log line.
-    rule.setPropertyName(m_propertyType != 0 ? ObjectHelper::PropertyName(m_propertyType) : QString());
+    rule.setPropertyName(m_propertyType != 0 ? ObjectHelper::PropertyName(m_propertyType)
+                                             : QString());
     rule.setCaseSensitive(m_screen.chkCaseSensitive);
     rule.setExclusionList(m_screen.txtExclusionList);
     rule.setCondition(m_screen.txtCondition);

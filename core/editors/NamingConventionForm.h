@@ -12,7 +12,14 @@ class NamingConvention;
 class NamingConventionForm final : public ConventionFormBase
 {
 public:
-    enum Tab { RuleTab = 1, ConditionTab = 2, PrefixTab = 3, BodyTab = 4, SuffixTab = 5, ViolationTab = 6 };
+    enum Tab {
+        RuleTab = 1,
+        ConditionTab = 2,
+        PrefixTab = 3,
+        BodyTab = 4,
+        SuffixTab = 5,
+        ViolationTab = 6
+    };
     enum PSType { Blank = 0, LiteralPattern = 1, WorkfieldLiteral = 5 };
     enum Part { Prefix, Suffix };
 

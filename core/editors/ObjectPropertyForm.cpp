@@ -17,21 +17,50 @@ constexpr qint32 layoutPropertiesObject = 8;
 
 ObjectPropertyForm::ObjectPropertyForm()
     : m_listType(ObjectListType::Everything)
-{}
+{
+}
 
 QStringList ObjectPropertyForm::ManualEntryFieldList(qint32 objectId)
 {
     if (objectId != controlPropertiesObject && objectId != layoutPropertiesObject)
         return {};
-    QStringList names{"Appearance", "BackColor", "BorderStyle", "Caption", "Enabled", "ForeColor", "Height",
-                      "HelpContextID", "Left", "Name", "ToolTipText", "Top", "Visible", "Width"};
+    QStringList names{"Appearance",
+                      "BackColor",
+                      "BorderStyle",
+                      "Caption",
+                      "Enabled",
+                      "ForeColor",
+                      "Height",
+                      "HelpContextID",
+                      "Left",
+                      "Name",
+                      "ToolTipText",
+                      "Top",
+                      "Visible",
+                      "Width"};
     if (objectId == controlPropertiesObject) {
-        names << "Alignment" << "AutoSize" << "Index" << "MaskColor" << "MaxLength" << "Text" << "UseMaskColor"
+        names << "Alignment"
+              << "AutoSize"
+              << "Index"
+              << "MaskColor"
+              << "MaxLength"
+              << "Text"
+              << "UseMaskColor"
               << "WhatsThisHelpID";
     } else {
-        names << "AutoRedraw" << "ClipControls" << "ControlBox" << "KeyPreview" << "MaxButton" << "MinButton"
-              << "Moveable" << "ScaleMode" << "ShowInTaskbar" << "StartUpPosition" << "WhatsThisButton"
-              << "WhatsThisHelp" << "WindowState";
+        names << "AutoRedraw"
+              << "ClipControls"
+              << "ControlBox"
+              << "KeyPreview"
+              << "MaxButton"
+              << "MinButton"
+              << "Moveable"
+              << "ScaleMode"
+              << "ShowInTaskbar"
+              << "StartUpPosition"
+              << "WhatsThisButton"
+              << "WhatsThisHelp"
+              << "WindowState";
     }
     return names;
 }
@@ -51,7 +80,8 @@ void ObjectPropertyForm::Load()
         break;
     case PropertyOrWorkfieldMode:
         m_screen.caption = QStringLiteral("Object Property/Workfield Selection");
-        m_screen.lblManualEntry = QStringLiteral("&Enter/select the name of the property/workfield to get.");
+        m_screen.lblManualEntry
+            = QStringLiteral("&Enter/select the name of the property/workfield to get.");
         break;
     default:
         m_screen.caption = QStringLiteral("Object Property Selection");
@@ -65,7 +95,8 @@ void ObjectPropertyForm::Load()
     m_screen.lvwObject.clear();
     int wanted = 0;
     for (qsizetype i = 0; i < ids.size(); ++i) {
-        m_screen.lvwObject.push_back(ListEntry{ids[i], names[i], listKey(ids[i]), ObjectHelper::ObjectIcon(ids[i])});
+        m_screen.lvwObject.push_back(
+            ListEntry{ids[i], names[i], listKey(ids[i]), ObjectHelper::ObjectIcon(ids[i])});
         if (m_objectType >= 1 && ids[i] == m_objectType)
             wanted = int(i);
     }
@@ -90,8 +121,10 @@ void ObjectPropertyForm::lvwObject_Click(int index)
             m_screen.lvwProperty.push_back(
                 ListEntry{ids[i], names[i], listKey(ids[i]), ObjectHelper::PropertyIcon(ids[i])});
         if (m_mode == PropertyOrWorkfieldMode && ObjectHelper::ObjectHasWorkfields(id))
-            m_screen.lvwProperty.push_back(
-                ListEntry{workfieldsProperty, QStringLiteral("Workfields"), listKey(workfieldsProperty), QString()});
+            m_screen.lvwProperty.push_back(ListEntry{workfieldsProperty,
+                                                     QStringLiteral("Workfields"),
+                                                     listKey(workfieldsProperty),
+                                                     QString()});
     }
     ++m_screen.revision;
 
@@ -123,7 +156,8 @@ void ObjectPropertyForm::lvwProperty_Click(int index)
     m_screen.selectedProperty = index;
     const ListEntry &property = m_screen.lvwProperty[std::size_t(index)];
     if (property.id == workfieldsProperty) {
-        m_screen.txtDescription = QStringLiteral("Enter/select the name of the workfield attached to this object.");
+        m_screen.txtDescription
+            = QStringLiteral("Enter/select the name of the workfield attached to this object.");
         m_screen.cboManualEntryEnabled = true;
         m_screen.cboManualEntryItems = m_workfields ? *m_workfields : QStringList();
         ++m_screen.revision;
@@ -165,7 +199,8 @@ bool ObjectPropertyForm::cmdOKEnabled() const
         return false;
     if (m_mode == ObjectMode)
         return true;
-    return m_screen.cboManualEntryEnabled ? !m_screen.cboManualEntry.isEmpty() : selectedProperty() != nullptr;
+    return m_screen.cboManualEntryEnabled ? !m_screen.cboManualEntry.isEmpty()
+                                          : selectedProperty() != nullptr;
 }
 
 void ObjectPropertyForm::cmdOK_Click()
@@ -203,18 +238,21 @@ QString ObjectPropertyForm::UserSelection() const
             return percent + name + QStringLiteral(".WF.") + m_screen.cboManualEntry + percent;
         [[fallthrough]];
     default:
-        return percent + name + QLatin1Char('.') + (property ? property->text : m_screen.cboManualEntry) + percent;
+        return percent + name + QLatin1Char('.')
+               + (property ? property->text : m_screen.cboManualEntry) + percent;
     }
 }
 
 const ObjectPropertyForm::ListEntry *ObjectPropertyForm::selectedObject() const
 {
     const int i = m_screen.selectedObject;
-    return (i >= 0 && i < int(m_screen.lvwObject.size())) ? &m_screen.lvwObject[std::size_t(i)] : nullptr;
+    return (i >= 0 && i < int(m_screen.lvwObject.size())) ? &m_screen.lvwObject[std::size_t(i)]
+                                                          : nullptr;
 }
 
 const ObjectPropertyForm::ListEntry *ObjectPropertyForm::selectedProperty() const
 {
     const int i = m_screen.selectedProperty;
-    return (i >= 0 && i < int(m_screen.lvwProperty.size())) ? &m_screen.lvwProperty[std::size_t(i)] : nullptr;
+    return (i >= 0 && i < int(m_screen.lvwProperty.size())) ? &m_screen.lvwProperty[std::size_t(i)]
+                                                            : nullptr;
 }

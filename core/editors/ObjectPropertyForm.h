@@ -12,7 +12,12 @@ enum class ObjectListType;
 class ObjectPropertyForm final
 {
 public:
-    enum SelectionMode { ObjectMode = 1, PropertyMode = 2, WorkfieldMode = 3, PropertyOrWorkfieldMode = 4 };
+    enum SelectionMode {
+        ObjectMode = 1,
+        PropertyMode = 2,
+        WorkfieldMode = 3,
+        PropertyOrWorkfieldMode = 4
+    };
     // The pseudo-property that stands for an object's workfields.
     static constexpr qint32 workfieldsProperty = 1000;
 

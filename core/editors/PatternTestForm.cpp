@@ -14,10 +14,13 @@ void PatternTestForm::cmdTest_Click()
             showWarning(pattern.faultMessage());
             return;
         }
-        UserInterface::current().messageBox(pattern.test(m_screen.txtText)
-                                                ? QStringLiteral("A match for the pattern was found in the text.")
-                                                : QStringLiteral("No match for the pattern was found in the text."),
-                                            MessageButtons::OK, MessageIcon::Information, programTitle());
+        UserInterface::current().messageBox(
+            pattern.test(m_screen.txtText)
+                ? QStringLiteral("A match for the pattern was found in the text.")
+                : QStringLiteral("No match for the pattern was found in the text."),
+            MessageButtons::OK,
+            MessageIcon::Information,
+            programTitle());
     });
 }
 

@@ -33,7 +33,8 @@ QString ScriptPattern::FaultText(Fault fault)
     case MissingParenthesis:
         return QStringLiteral("There is a missing ')' in the regular expression.");
     case InvalidRange:
-        return QStringLiteral("There is an invalid range in a character set in the regular expression.");
+        return QStringLiteral(
+            "There is an invalid range in a character set in the regular expression.");
     case SyntaxError:
         break;
     }
@@ -93,7 +94,8 @@ ScriptPattern::Fault ScriptPattern::classify(const QString &engineError)
     const QString e = engineError.toLower();
     if (e.contains(QLatin1String("missing terminating ]")))
         return MissingBracket;
-    if (e.contains(QLatin1String("missing closing parenthesis")) || e.contains(QLatin1String("missing )")))
+    if (e.contains(QLatin1String("missing closing parenthesis"))
+        || e.contains(QLatin1String("missing )")))
         return MissingParenthesis;
     if (e.contains(QLatin1String("range out of order")))
         return InvalidRange;

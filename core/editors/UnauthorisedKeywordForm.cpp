@@ -10,7 +10,8 @@ const char *const UnauthorisedKeywordForm::parserEventsHelp
 
 UnauthorisedKeywordForm::UnauthorisedKeywordForm(std::shared_ptr<UnauthorisedKeyword> rule)
     : m_rule(std::move(rule))
-{}
+{
+}
 
 qint32 UnauthorisedKeywordForm::RuleID() const
 {
@@ -47,15 +48,26 @@ void UnauthorisedKeywordForm::DataToScreen()
 std::optional<FormFault> UnauthorisedKeywordForm::FirstFault() const
 {
     if (m_screen.txtTitle.isEmpty())
-        return FormFault{RuleTab, QStringLiteral("txtTitle"), -1, QStringLiteral("Please enter a title for the rule.")};
+        return FormFault{RuleTab,
+                         QStringLiteral("txtTitle"),
+                         -1,
+                         QStringLiteral("Please enter a title for the rule.")};
     if (m_screen.txtCondition.isEmpty())
-        return FormFault{ConditionTab, QStringLiteral("txtCondition"), -1,
-                         QStringLiteral("Please enter a pattern to match an unauthorised keyword.")};
+        return FormFault{
+            ConditionTab,
+            QStringLiteral("txtCondition"),
+            -1,
+            QStringLiteral("Please enter a pattern to match an unauthorised keyword.")};
     if (!m_screen.chkDeclaration && !m_screen.chkProcedureDecl && !m_screen.chkProcedureBody)
-        return FormFault{ConditionTab, QStringLiteral("chkDeclaration"), -1,
-                         QStringLiteral("Please select a parser event for the unauthorised keyword rule.")};
+        return FormFault{
+            ConditionTab,
+            QStringLiteral("chkDeclaration"),
+            -1,
+            QStringLiteral("Please select a parser event for the unauthorised keyword rule.")};
     if (m_screen.txtVTitle.isEmpty())
-        return FormFault{ViolationTab, QStringLiteral("txtVTitle"), -1,
+        return FormFault{ViolationTab,
+                         QStringLiteral("txtVTitle"),
+                         -1,
                          QStringLiteral("Please enter a title for the violation.")};
     return std::nullopt;
 }

@@ -21,7 +21,9 @@
 #include <QVBoxLayout>
 
 frmCodingConvention::frmCodingConvention(QWidget *parent)
-    : frmConventionBase(parent, m_model, QString::fromLatin1(CodingConventionForm::caption),
+    : frmConventionBase(parent,
+                        m_model,
+                        QString::fromLatin1(CodingConventionForm::caption),
                         QStringLiteral("::/CodingConvention.htm"))
 {
     setObjectName(QStringLiteral("frmCodingConvention"));
@@ -58,7 +60,9 @@ void frmCodingConvention::buildEventTab()
     auto *buttons = new QVBoxLayout;
     for (int i = 0; i < 3; ++i) {
         static const char *const texts[] = {"&Expand", "Select &None", "C&ollapse"};
-        QPushButton *b = button(QStringLiteral("cmdCollapse_") + QString::number(i), QString::fromLatin1(texts[i]), m_fraEvent);
+        QPushButton *b = button(QStringLiteral("cmdCollapse_") + QString::number(i),
+                                QString::fromLatin1(texts[i]),
+                                m_fraEvent);
         b->setToolTip(CodingConventionForm::CollapseToolTip(i));
         connect(b, &QPushButton::clicked, this, [this, i] {
             m_model.cmdCollapse_Click(i);
@@ -78,14 +82,17 @@ void frmCodingConvention::buildEventTab()
     frame->addWidget(m_lblEventHelp, 2, 0, 1, 2);
     layout->addWidget(m_fraEvent, 1);
 
-    m_chkPending = checkBox(QStringLiteral("chkPending"), QStringLiteral("&Pending Violation"), panel);
+    m_chkPending
+        = checkBox(QStringLiteral("chkPending"), QStringLiteral("&Pending Violation"), panel);
     layout->addWidget(m_chkPending);
     m_fraPendingViolation = new QGroupBox(panel);
     m_fraPendingViolation->setObjectName(QStringLiteral("fraPendingViolation"));
     auto *pending = new QVBoxLayout(m_fraPendingViolation);
     m_imgcboPending = comboBox(QStringLiteral("imgcboPending"), m_fraPendingViolation);
-    m_lblPending = label(QStringLiteral("lblPending"), QString::fromLatin1(CodingConventionForm::pendingHelp),
-                         m_imgcboPending, m_fraPendingViolation);
+    m_lblPending = label(QStringLiteral("lblPending"),
+                         QString::fromLatin1(CodingConventionForm::pendingHelp),
+                         m_imgcboPending,
+                         m_fraPendingViolation);
     m_lblPending->setWordWrap(true);
     pending->addWidget(m_lblPending);
     pending->addWidget(m_imgcboPending);
@@ -96,19 +103,23 @@ void frmCodingConvention::buildEventTab()
         m_lblEventHelp->setText(m_model.screen().lblEventHelp);
     });
     connect(m_tvwEvent, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem *item) {
-        m_model.screen().tvwEvent.setChecked(RuleTreeWidget::nodeOf(item), item->checkState(0) == Qt::Checked);
+        m_model.screen().tvwEvent.setChecked(RuleTreeWidget::nodeOf(item),
+                                             item->checkState(0) == Qt::Checked);
     });
-    connect(m_tvwEvent, &QTreeWidget::itemExpanded, this,
-            [this](QTreeWidgetItem *item) { m_model.screen().tvwEvent.setExpanded(RuleTreeWidget::nodeOf(item), true); });
-    connect(m_tvwEvent, &QTreeWidget::itemCollapsed, this,
-            [this](QTreeWidgetItem *item) { m_model.screen().tvwEvent.setExpanded(RuleTreeWidget::nodeOf(item), false); });
+    connect(m_tvwEvent, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem *item) {
+        m_model.screen().tvwEvent.setExpanded(RuleTreeWidget::nodeOf(item), true);
+    });
+    connect(m_tvwEvent, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem *item) {
+        m_model.screen().tvwEvent.setExpanded(RuleTreeWidget::nodeOf(item), false);
+    });
     connect(m_imgcboEvent, &QComboBox::currentIndexChanged, this, [this](int i) {
         m_model.screen().imgcboEvent.setCurrentIndex(i);
         m_model.imgcboEvent_Click();
         m_lblEventHelp->setText(m_model.screen().lblEventHelp);
     });
-    connect(m_imgcboPending, &QComboBox::currentIndexChanged, this,
-            [this](int i) { m_model.screen().imgcboPending.setCurrentIndex(i); });
+    connect(m_imgcboPending, &QComboBox::currentIndexChanged, this, [this](int i) {
+        m_model.screen().imgcboPending.setCurrentIndex(i);
+    });
     connect(m_chkPending, &QCheckBox::toggled, this, [this](bool on) {
         m_model.screen().chkPending = on;
         m_model.chkPending_Click();
@@ -131,8 +142,9 @@ void frmCodingConvention::buildConditionTab()
     layout->addWidget(help, 0, 0, 1, 2);
     layout->addWidget(m_txtCondition, 1, 0);
     layout->addWidget(edit, 1, 1, Qt::AlignTop);
-    connect(m_txtCondition, &QPlainTextEdit::textChanged, this,
-            [this] { m_model.screen().txtCondition = m_txtCondition->toPlainText(); });
+    connect(m_txtCondition, &QPlainTextEdit::textChanged, this, [this] {
+        m_model.screen().txtCondition = m_txtCondition->toPlainText();
+    });
     connect(edit, &QPushButton::clicked, this, [this] {
         editCondition(CodingConventionForm::conditionRuleType, m_model.screen().txtCondition);
         refresh();
@@ -141,7 +153,8 @@ void frmCodingConvention::buildConditionTab()
 
 bool frmCodingConvention::eventFilter(QObject *watched, QEvent *event)
 {
-    if (m_txtCondition && watched == m_txtCondition->viewport() && event->type() == QEvent::MouseButtonDblClick) {
+    if (m_txtCondition && watched == m_txtCondition->viewport()
+        && event->type() == QEvent::MouseButtonDblClick) {
         editCondition(CodingConventionForm::conditionRuleType, m_model.screen().txtCondition);
         refresh();
         return true;
@@ -186,6 +199,7 @@ void frmCodingConvention::pickObjectProperty(int index)
     picker.exec();
     if (picker.Cancelled())
         return;
-    const QString field = index == 0 ? QStringLiteral("txtVDescription") : QStringLiteral("txtVAdvice");
+    const QString field
+        = index == 0 ? QStringLiteral("txtVDescription") : QStringLiteral("txtVAdvice");
     InsertText(findChild<QWidget *>(field), picker.UserSelection());
 }

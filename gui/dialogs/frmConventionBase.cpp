@@ -45,8 +45,11 @@ void frmConventionBase::buildCommon()
     buildTabs();
 
     auto *bottom = new QHBoxLayout;
-    m_chkRuleActive = checkBox(QStringLiteral("chkRuleActive"), QStringLiteral("Rule &Active"), this);
-    connect(m_chkRuleActive, &QCheckBox::toggled, this, [this](bool on) { m_model.common().chkRuleActive = on; });
+    m_chkRuleActive
+        = checkBox(QStringLiteral("chkRuleActive"), QStringLiteral("Rule &Active"), this);
+    connect(m_chkRuleActive, &QCheckBox::toggled, this, [this](bool on) {
+        m_model.common().chkRuleActive = on;
+    });
     bottom->addWidget(m_chkRuleActive);
     bottom->addStretch();
     QPushButton *ok = button(QStringLiteral("cmdOK"), QStringLiteral("OK"), this);
@@ -56,7 +59,8 @@ void frmConventionBase::buildCommon()
     ok->setAutoDefault(true);
     connect(ok, &QPushButton::clicked, this, &frmConventionBase::cmdOK_Click);
     connect(cancel, &QPushButton::clicked, this, &frmConventionBase::reject);
-    const auto showHelp = [this] { UserInterface::current().showHelp(HelpCommand::Topic, m_helpTopic, 0); };
+    const auto showHelp
+        = [this] { UserInterface::current().showHelp(HelpCommand::Topic, m_helpTopic, 0); };
     connect(help, &QPushButton::clicked, this, showHelp);
     bottom->addWidget(ok);
     bottom->addWidget(cancel);
@@ -131,20 +135,33 @@ int frmConventionBase::addRuleFields(QGridLayout *grid, int row)
     m_cboCategory = comboBox(QStringLiteral("cboCategory"), panel);
     QPushButton *cmdCategory = button(QStringLiteral("cmdCategory"), QStringLiteral("..."), panel);
     cmdCategory->setToolTip(QStringLiteral("Category List"));
-    grid->addWidget(label(QStringLiteral("lblTitle"), QStringLiteral("&Title"), m_txtTitle, panel), row, 0);
+    grid->addWidget(
+        label(QStringLiteral("lblTitle"), QStringLiteral("&Title"), m_txtTitle, panel), row, 0);
     grid->addWidget(m_txtTitle, row++, 1, 1, 2);
-    grid->addWidget(label(QStringLiteral("lblDescription"), QStringLiteral("&Description"), m_txtDescription, panel),
-                    row, 0, Qt::AlignTop);
+    grid->addWidget(label(QStringLiteral("lblDescription"),
+                          QStringLiteral("&Description"),
+                          m_txtDescription,
+                          panel),
+                    row,
+                    0,
+                    Qt::AlignTop);
     grid->addWidget(m_txtDescription, row++, 1, 1, 2);
-    grid->addWidget(label(QStringLiteral("lblCategory"), QStringLiteral("&Category"), m_cboCategory, panel), row, 0);
+    grid->addWidget(
+        label(QStringLiteral("lblCategory"), QStringLiteral("&Category"), m_cboCategory, panel),
+        row,
+        0);
     grid->addWidget(m_cboCategory, row, 1);
     grid->addWidget(cmdCategory, row++, 2);
 
-    connect(m_txtTitle, &QLineEdit::textChanged, this, [this](const QString &t) { m_model.common().txtTitle = t; });
-    connect(m_txtDescription, &QPlainTextEdit::textChanged, this,
-            [this] { m_model.common().txtDescription = m_txtDescription->toPlainText(); });
-    connect(m_cboCategory, &QComboBox::currentIndexChanged, this,
-            [this](int i) { m_model.common().cboCategory.setCurrentIndex(i); });
+    connect(m_txtTitle, &QLineEdit::textChanged, this, [this](const QString &t) {
+        m_model.common().txtTitle = t;
+    });
+    connect(m_txtDescription, &QPlainTextEdit::textChanged, this, [this] {
+        m_model.common().txtDescription = m_txtDescription->toPlainText();
+    });
+    connect(m_cboCategory, &QComboBox::currentIndexChanged, this, [this](int i) {
+        m_model.common().cboCategory.setCurrentIndex(i);
+    });
     connect(cmdCategory, &QPushButton::clicked, this, [this] {
         m_model.cmdCategory_Click();
         refresh();
@@ -152,7 +169,10 @@ int frmConventionBase::addRuleFields(QGridLayout *grid, int row)
     return row;
 }
 
-void frmConventionBase::addViolationTab(const QString &caption, bool withAdvice, int descriptionPicker, int advicePicker)
+void frmConventionBase::addViolationTab(const QString &caption,
+                                        bool withAdvice,
+                                        int descriptionPicker,
+                                        int advicePicker)
 {
     QWidget *panel = addTab(caption);
     auto *grid = new QGridLayout(panel);
@@ -165,41 +185,68 @@ void frmConventionBase::addViolationTab(const QString &caption, bool withAdvice,
     digitsOnly(m_txtVImpact);
 
     int row = 0;
-    grid->addWidget(label(QStringLiteral("lblVTitle"), QStringLiteral("&Title"), m_txtVTitle, panel), row, 0);
+    grid->addWidget(
+        label(QStringLiteral("lblVTitle"), QStringLiteral("&Title"), m_txtVTitle, panel), row, 0);
     grid->addWidget(m_txtVTitle, row++, 1, 1, 3);
-    grid->addWidget(label(QStringLiteral("lblVDescription"), QStringLiteral("&Description"), m_txtVDescription, panel),
-                    row, 0, Qt::AlignTop);
+    grid->addWidget(label(QStringLiteral("lblVDescription"),
+                          QStringLiteral("&Description"),
+                          m_txtVDescription,
+                          panel),
+                    row,
+                    0,
+                    Qt::AlignTop);
     grid->addWidget(m_txtVDescription, row, 1, 1, 3);
-    QPushButton *descriptionButton = button(QStringLiteral("cmdObjectProperty_") + QString::number(descriptionPicker),
-                                            QStringLiteral("..."), panel);
+    QPushButton *descriptionButton
+        = button(QStringLiteral("cmdObjectProperty_") + QString::number(descriptionPicker),
+                 QStringLiteral("..."),
+                 panel);
     descriptionButton->setToolTip(QStringLiteral("Insert Object Property"));
     grid->addWidget(descriptionButton, row++, 4, Qt::AlignTop);
-    connect(descriptionButton, &QPushButton::clicked, this, [this, descriptionPicker] { pickObjectProperty(descriptionPicker); });
-    grid->addWidget(label(QStringLiteral("lblSeverity"), QStringLiteral("&Severity"), m_cboSeverity, panel), row, 0);
+    connect(descriptionButton, &QPushButton::clicked, this, [this, descriptionPicker] {
+        pickObjectProperty(descriptionPicker);
+    });
+    grid->addWidget(
+        label(QStringLiteral("lblSeverity"), QStringLiteral("&Severity"), m_cboSeverity, panel),
+        row,
+        0);
     grid->addWidget(m_cboSeverity, row, 1);
     grid->addWidget(m_imgIcon, row, 2);
     auto *impactRow = new QHBoxLayout;
-    impactRow->addWidget(label(QStringLiteral("lblVImpact"), QStringLiteral("&Impact"), m_txtVImpact, panel));
+    impactRow->addWidget(
+        label(QStringLiteral("lblVImpact"), QStringLiteral("&Impact"), m_txtVImpact, panel));
     impactRow->addWidget(m_txtVImpact);
     grid->addLayout(impactRow, row++, 3);
     if (withAdvice) {
         m_txtVAdvice = textEdit(QStringLiteral("txtVAdvice"), panel);
-        grid->addWidget(label(QStringLiteral("lblVAdvice"), QStringLiteral("&Advice"), m_txtVAdvice, panel), row, 0,
-                        Qt::AlignTop);
+        grid->addWidget(
+            label(QStringLiteral("lblVAdvice"), QStringLiteral("&Advice"), m_txtVAdvice, panel),
+            row,
+            0,
+            Qt::AlignTop);
         grid->addWidget(m_txtVAdvice, row, 1, 1, 3);
-        QPushButton *adviceButton = button(QStringLiteral("cmdObjectProperty_") + QString::number(advicePicker),
-                                           QStringLiteral("..."), panel);
+        QPushButton *adviceButton
+            = button(QStringLiteral("cmdObjectProperty_") + QString::number(advicePicker),
+                     QStringLiteral("..."),
+                     panel);
         adviceButton->setToolTip(QStringLiteral("Insert Object Property"));
         grid->addWidget(adviceButton, row++, 4, Qt::AlignTop);
-        connect(adviceButton, &QPushButton::clicked, this, [this, advicePicker] { pickObjectProperty(advicePicker); });
-        connect(m_txtVAdvice, &QPlainTextEdit::textChanged, this,
-                [this] { m_model.common().txtVAdvice = m_txtVAdvice->toPlainText(); });
+        connect(adviceButton, &QPushButton::clicked, this, [this, advicePicker] {
+            pickObjectProperty(advicePicker);
+        });
+        connect(m_txtVAdvice, &QPlainTextEdit::textChanged, this, [this] {
+            m_model.common().txtVAdvice = m_txtVAdvice->toPlainText();
+        });
     }
 
-    connect(m_txtVTitle, &QLineEdit::textChanged, this, [this](const QString &t) { m_model.common().txtVTitle = t; });
-    connect(m_txtVDescription, &QPlainTextEdit::textChanged, this,
-            [this] { m_model.common().txtVDescription = m_txtVDescription->toPlainText(); });
-    connect(m_txtVImpact, &QLineEdit::textChanged, this, [this](const QString &t) { m_model.common().txtVImpact = t; });
+    connect(m_txtVTitle, &QLineEdit::textChanged, this, [this](const QString &t) {
+        m_model.common().txtVTitle = t;
+    });
+    connect(m_txtVDescription, &QPlainTextEdit::textChanged, this, [this] {
+        m_model.common().txtVDescription = m_txtVDescription->toPlainText();
+    });
+    connect(m_txtVImpact, &QLineEdit::textChanged, this, [this](const QString &t) {
+        m_model.common().txtVImpact = t;
+    });
     connect(m_cboSeverity, &QComboBox::currentIndexChanged, this, [this](int i) {
         m_model.common().cboSeverity.setCurrentIndex(i);
         m_model.cboSeverity_Click();
@@ -312,7 +359,8 @@ QPlainTextEdit *frmConventionBase::textEdit(const QString &name, QWidget *parent
     return field;
 }
 
-QLabel *frmConventionBase::label(const QString &name, const QString &text, QWidget *buddy, QWidget *parent)
+QLabel *
+frmConventionBase::label(const QString &name, const QString &text, QWidget *buddy, QWidget *parent)
 {
     auto *l = new QLabel(text, parent);
     l->setObjectName(name);
@@ -345,7 +393,8 @@ QComboBox *frmConventionBase::comboBox(const QString &name, QWidget *parent)
 
 void frmConventionBase::digitsOnly(QLineEdit *field)
 {
-    field->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), field));
+    field->setValidator(
+        new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), field));
 }
 
 bool frmConventionBase::eventFilter(QObject *watched, QEvent *event)

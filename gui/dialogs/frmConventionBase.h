@@ -38,7 +38,10 @@ public:
     static void fillCombo(QComboBox *combo, const ChoiceList &choices);
 
 protected:
-    frmConventionBase(QWidget *parent, ConventionFormBase &model, const QString &caption, const QString &helpTopic);
+    frmConventionBase(QWidget *parent,
+                      ConventionFormBase &model,
+                      const QString &caption,
+                      const QString &helpTopic);
 
     // Builds the tabs; called by the subclass once its own members are made.
     void buildCommon();
@@ -52,7 +55,10 @@ protected:
     // "Rule" tab: title, description, category with its button, into the grid from `row` on.
     int addRuleFields(QGridLayout *grid, int row);
     // "Violation" tab, with the advice and its picker when asked.
-    void addViolationTab(const QString &caption, bool withAdvice, int descriptionPicker, int advicePicker);
+    void addViolationTab(const QString &caption,
+                         bool withAdvice,
+                         int descriptionPicker,
+                         int advicePicker);
 
     QLineEdit *lineEdit(const QString &name, QWidget *parent);
     QPlainTextEdit *textEdit(const QString &name, QWidget *parent);

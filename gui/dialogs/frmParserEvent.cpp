@@ -63,7 +63,8 @@ frmParserEvent::frmParserEvent(QWidget *parent)
             accept();
     });
     connect(cancel, &QPushButton::clicked, this, &frmParserEvent::reject);
-    const auto showHelp = [] { UserInterface::current().showHelp(HelpCommand::Topic, helpTopic, 0); };
+    const auto showHelp
+        = [] { UserInterface::current().showHelp(HelpCommand::Topic, helpTopic, 0); };
     connect(help, &QPushButton::clicked, this, showHelp);
     connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this, showHelp);
 }

@@ -64,16 +64,20 @@ frmPatternTest::frmPatternTest(QWidget *parent)
         m_model.screen().txtPattern = text;
         enableTest();
     });
-    connect(m_txtText, &QPlainTextEdit::textChanged, this,
-            [this] { m_model.screen().txtText = m_txtText->toPlainText(); });
-    connect(m_chkCaseSensitive, &QCheckBox::toggled, this, [this](bool on) { m_model.screen().chkCaseSensitive = on; });
+    connect(m_txtText, &QPlainTextEdit::textChanged, this, [this] {
+        m_model.screen().txtText = m_txtText->toPlainText();
+    });
+    connect(m_chkCaseSensitive, &QCheckBox::toggled, this, [this](bool on) {
+        m_model.screen().chkCaseSensitive = on;
+    });
     connect(m_cmdTest, &QPushButton::clicked, this, [this] { m_model.cmdTest_Click(); });
     connect(ok, &QPushButton::clicked, this, [this] {
         m_model.cmdOK_Click();
         accept();
     });
     connect(cancel, &QPushButton::clicked, this, &frmPatternTest::reject);
-    const auto showHelp = [] { UserInterface::current().showHelp(HelpCommand::Topic, helpTopic, 0); };
+    const auto showHelp
+        = [] { UserInterface::current().showHelp(HelpCommand::Topic, helpTopic, 0); };
     connect(help, &QPushButton::clicked, this, showHelp);
     connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this, showHelp);
     m_txtPattern->installEventFilter(this);

@@ -51,9 +51,15 @@ public:
 class ScriptedForm final : public IConventionForm
 {
 public:
-    explicit ScriptedForm(ScriptedForms &forms) : m_forms(forms) {}
+    explicit ScriptedForm(ScriptedForms &forms)
+        : m_forms(forms)
+    {
+    }
     void setConvention(const std::shared_ptr<IRule> &rule) override { m_rule = rule; }
-    void setApplication(Application *application) override { m_forms.lastApplication = application; }
+    void setApplication(Application *application) override
+    {
+        m_forms.lastApplication = application;
+    }
     bool Cancelled() const override { return m_cancelled; }
     void Show() override
     {
@@ -95,7 +101,8 @@ protected:
         TestEnvironment::clearSettings();
         gobjAdminData = std::make_shared<QuorinAdminData>();
         app = std::make_unique<Application>(&form, createView);
-        ASSERT_TRUE(app->OpenRulebase(Application::OpenMode::CommandLine, TestEnvironment::sampleRulebase()));
+        ASSERT_TRUE(app->OpenRulebase(Application::OpenMode::CommandLine,
+                                      TestEnvironment::sampleRulebase()));
     }
     void TearDown() override
     {

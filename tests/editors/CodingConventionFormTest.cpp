@@ -21,8 +21,14 @@ struct Opened
         form.setRulebase(EditorsTest::rulebaseWithCategories());
         form.Load();
     }
-    int nodeOf(qint32 event) const { return form.screen().tvwEvent.find(VBParserEvents::ParserEventKey(event)); }
-    void tick(qint32 event, bool on = true) { form.screen().tvwEvent.setChecked(nodeOf(event), on); }
+    int nodeOf(qint32 event) const
+    {
+        return form.screen().tvwEvent.find(VBParserEvents::ParserEventKey(event));
+    }
+    void tick(qint32 event, bool on = true)
+    {
+        form.screen().tvwEvent.setChecked(nodeOf(event), on);
+    }
 };
 
 } // namespace
@@ -40,10 +46,12 @@ TEST(CodingConventionForm, NewRuleOpensWithFirstSeverityAndNoCategoryOrEvent)
     EXPECT_TRUE(screen.tvwEventVisible);
     EXPECT_FALSE(screen.imgcboPendingEnabled);
     EXPECT_FALSE(screen.imgcboPending.hasSelection());
-    EXPECT_EQ(screen.fraEvent, QStringLiteral("Select the parser event(s) appropriate to this coding convention."));
+    EXPECT_EQ(screen.fraEvent,
+              QStringLiteral("Select the parser event(s) appropriate to this coding convention."));
     // No event: the first node is selected and its help shown.
     ASSERT_NE(screen.tvwEvent.selected(), 0);
-    EXPECT_EQ(screen.lblEventHelp, VBParserEvents::ParserEventHelp(screen.tvwEvent.value(screen.tvwEvent.selected())));
+    EXPECT_EQ(screen.lblEventHelp,
+              VBParserEvents::ParserEventHelp(screen.tvwEvent.value(screen.tvwEvent.selected())));
     EXPECT_EQ(CodingConventionForm::CollapseToolTip(0), QStringLiteral("Expand All"));
     EXPECT_EQ(CodingConventionForm::CollapseToolTip(1), QStringLiteral("Select None"));
     EXPECT_EQ(CodingConventionForm::CollapseToolTip(2), QStringLiteral("Collapse All"));
@@ -62,7 +70,8 @@ TEST(CodingConventionForm, ValidationWalksTheFaultsInOrder)
     ASSERT_TRUE(o.form.lastFault());
     EXPECT_EQ(o.form.lastFault()->tab, 1);
     EXPECT_EQ(o.form.lastFault()->controlName(), QStringLiteral("txtTitle"));
-    EXPECT_EQ(ui.messages.back().text, QStringLiteral("Please enter a title for the coding convention."));
+    EXPECT_EQ(ui.messages.back().text,
+              QStringLiteral("Please enter a title for the coding convention."));
     EXPECT_EQ(ui.messages.back().icon, MessageIcon::Exclamation);
 
     // A violation title alone does not excuse a rule without events.
@@ -71,7 +80,8 @@ TEST(CodingConventionForm, ValidationWalksTheFaultsInOrder)
     EXPECT_FALSE(o.form.cmdOK_Click(mover));
     EXPECT_EQ(o.form.lastFault()->tab, 2);
     EXPECT_EQ(o.form.lastFault()->field, QStringLiteral("tvwEvent"));
-    EXPECT_EQ(ui.messages.back().text, QStringLiteral("Please assign the coding convention to at least one parser event."));
+    EXPECT_EQ(ui.messages.back().text,
+              QStringLiteral("Please assign the coding convention to at least one parser event."));
 
     o.tick(30);
     screen.txtVTitle.clear();
@@ -171,7 +181,8 @@ TEST(CodingConventionForm, PendingFaceHasOneStartAndOneEndEvent)
     o.form.chkPending_Click();
     EXPECT_FALSE(screen.tvwEventVisible);
     EXPECT_TRUE(screen.imgcboPendingEnabled);
-    EXPECT_EQ(screen.fraEvent, QStringLiteral("Select the parser event appropriate to this coding convention."));
+    EXPECT_EQ(screen.fraEvent,
+              QStringLiteral("Select the parser event appropriate to this coding convention."));
     // Two events on the rule: the combo starts at event 1, not either of them.
     EXPECT_EQ(screen.imgcboEvent.currentKey(), QStringLiteral("1Key"));
     EXPECT_EQ(screen.lblEventHelp, VBParserEvents::ParserEventHelp(1));

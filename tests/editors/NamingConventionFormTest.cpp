@@ -1,5 +1,5 @@
-#include "collections/ObjectArrayList.h"
 #include "editors/NamingConventionForm.h"
+#include "collections/ObjectArrayList.h"
 #include "rulebase/NamingConvention.h"
 #include "rulebase/PrefixSuffixItem.h"
 #include "rulebase/ViolationDefinition.h"
@@ -34,7 +34,8 @@ struct Opened
     }
     void selectObject(qint32 id)
     {
-        screen().imgcboObject.setCurrentIndex(screen().imgcboObject.findKey(QString::number(id) + "Key"));
+        screen().imgcboObject.setCurrentIndex(
+            screen().imgcboObject.findKey(QString::number(id) + "Key"));
         form.imgcboObject_Click();
     }
 };
@@ -289,7 +290,9 @@ TEST(NamingConventionForm, ConditionDeleteAsksFirst)
     EXPECT_TRUE(o.screen().txtCondition.isEmpty());
     EXPECT_FALSE(o.form.cmdDeleteEnabled());
     ASSERT_EQ(ui.messages.size(), 2u);
-    EXPECT_EQ(ui.messages[0].text, QStringLiteral("Are you sure you wish to delete the condition for this naming convention?"));
+    EXPECT_EQ(ui.messages[0].text,
+              QStringLiteral(
+                  "Are you sure you wish to delete the condition for this naming convention?"));
     EXPECT_EQ(ui.messages[0].icon, MessageIcon::Question);
     EXPECT_EQ(ui.messages[0].buttons, MessageButtons::YesNo);
 }

@@ -38,8 +38,10 @@ TEST(ScriptPattern, TellsTheFiveFaultsWithTheirPosition)
     for (const auto &c : cases) {
         const ScriptPattern pattern(QString::fromLatin1(c.pattern), false);
         EXPECT_FALSE(pattern.isValid()) << c.pattern;
-        EXPECT_EQ(pattern.fault(), c.fault) << c.pattern << " " << pattern.engineError().toStdString();
-        EXPECT_TRUE(pattern.faultMessage().startsWith(ScriptPattern::FaultText(c.fault))) << c.pattern;
+        EXPECT_EQ(pattern.fault(), c.fault)
+            << c.pattern << " " << pattern.engineError().toStdString();
+        EXPECT_TRUE(pattern.faultMessage().startsWith(ScriptPattern::FaultText(c.fault)))
+            << c.pattern;
         EXPECT_FALSE(pattern.test("abc"));
     }
     // Positions count in the author's pattern, past the "$" the engine sees differently.
@@ -65,17 +67,20 @@ TEST(PatternTestForm, TestsWithoutClosingAndHandsThePatternBack)
     s.txtText = "public Sub Foo";
     form.cmdTest_Click();
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_EQ(ui.messages[0].text, QStringLiteral("A match for the pattern was found in the text."));
+    EXPECT_EQ(ui.messages[0].text,
+              QStringLiteral("A match for the pattern was found in the text."));
     EXPECT_EQ(ui.messages[0].icon, MessageIcon::Information);
     s.chkCaseSensitive = true;
     form.cmdTest_Click();
-    EXPECT_EQ(ui.messages.back().text, QStringLiteral("No match for the pattern was found in the text."));
+    EXPECT_EQ(ui.messages.back().text,
+              QStringLiteral("No match for the pattern was found in the text."));
 
     // A faulty pattern gives its warning and stays in the field.
     s.txtPattern = "^(Public ";
     form.cmdTest_Click();
     EXPECT_EQ(ui.messages.back().icon, MessageIcon::Exclamation);
-    EXPECT_TRUE(ui.messages.back().text.startsWith(QStringLiteral("There is a missing ')' in the regular expression.")));
+    EXPECT_TRUE(ui.messages.back().text.startsWith(
+        QStringLiteral("There is a missing ')' in the regular expression.")));
     EXPECT_EQ(s.txtPattern, QStringLiteral("^(Public "));
 
     // Cancel keeps the pattern the dialog was given; OK takes the faulty one untested.

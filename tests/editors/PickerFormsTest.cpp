@@ -39,7 +39,8 @@ TEST(ObjectPropertyForm, PropertyModePicksAPropertyOrANameByHand)
     ASSERT_FALSE(s.lvwProperty.empty());
     form.lvwProperty_Click(0);
     EXPECT_TRUE(form.cmdOKEnabled());
-    EXPECT_EQ(s.txtDescription, ObjectHelper::ObjectPropertyDescription(s.lvwObject[0].id, s.lvwProperty[0].id));
+    EXPECT_EQ(s.txtDescription,
+              ObjectHelper::ObjectPropertyDescription(s.lvwObject[0].id, s.lvwProperty[0].id));
     form.cmdOK_Click();
     EXPECT_EQ(form.UserSelection(), "%" + s.lvwObject[0].text + "." + s.lvwProperty[0].text + "%");
     EXPECT_EQ(form.PropertyType(), s.lvwProperty[0].id);
@@ -58,7 +59,8 @@ TEST(ObjectPropertyForm, PropertyModePicksAPropertyOrANameByHand)
     EXPECT_TRUE(form.cmdOKEnabled());
     form.cmdOK_Click();
     EXPECT_EQ(form.UserSelection(), QStringLiteral("%ControlProperties.Caption%"));
-    EXPECT_TRUE(ObjectPropertyForm::ManualEntryFieldList(8).contains(QStringLiteral("WindowState")));
+    EXPECT_TRUE(
+        ObjectPropertyForm::ManualEntryFieldList(8).contains(QStringLiteral("WindowState")));
     EXPECT_TRUE(ObjectPropertyForm::ManualEntryFieldList(1).isEmpty());
 
     form.cmdCancel_Click();
@@ -102,7 +104,8 @@ TEST(ObjectPropertyForm, WorkfieldModesExtendTheCallersList)
     EXPECT_EQ(s.lvwProperty[std::size_t(pseudo)].text, QStringLiteral("Workfields"));
     EXPECT_EQ(s.lvwProperty[std::size_t(pseudo)].key, QStringLiteral("1000KEY"));
     form.lvwProperty_Click(pseudo);
-    EXPECT_EQ(s.txtDescription, QStringLiteral("Enter/select the name of the workfield attached to this object."));
+    EXPECT_EQ(s.txtDescription,
+              QStringLiteral("Enter/select the name of the workfield attached to this object."));
     EXPECT_TRUE(s.cboManualEntryEnabled);
     EXPECT_EQ(s.cboManualEntryItems.size(), 2);
     s.cboManualEntry = "Scope";

@@ -30,7 +30,8 @@ TEST(UnauthorisedKeywordForm, ValidationOrderAndWhatOkWrites)
     expectFault(2, "txtCondition", "Please enter a pattern to match an unauthorised keyword.");
     // A faulty pattern is not this dialog's business.
     s.txtCondition = "^\\s*End(\\s|$";
-    expectFault(2, "chkDeclaration", "Please select a parser event for the unauthorised keyword rule.");
+    expectFault(
+        2, "chkDeclaration", "Please select a parser event for the unauthorised keyword rule.");
     s.chkProcedureBody = true;
     s.chkDeclaration = true;
     expectFault(3, "txtVTitle", "Please enter a title for the violation.");

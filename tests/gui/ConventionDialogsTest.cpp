@@ -149,10 +149,12 @@ TEST_F(ConventionDialogs, CreatesACodingConventionFromTheMainWindowAndSavesIt)
         EXPECT_TRUE(dialog.isVisible());
         EXPECT_EQ(tabs->currentIndex(), 0);
         ASSERT_FALSE(ui.messages.empty());
-        EXPECT_EQ(ui.messages.back().text, QStringLiteral("Please enter a title for the coding convention."));
+        EXPECT_EQ(ui.messages.back().text,
+                  QStringLiteral("Please enter a title for the coding convention."));
 
         child<QLineEdit>(dialog, "txtTitle")->setText(QStringLiteral("No Stop statements"));
-        child<QPlainTextEdit>(dialog, "txtCondition")->setPlainText(QStringLiteral("Sub Main\r\nEnd Sub"));
+        child<QPlainTextEdit>(dialog, "txtCondition")
+            ->setPlainText(QStringLiteral("Sub Main\r\nEnd Sub"));
         child<QLineEdit>(dialog, "txtVTitle")->setText(QStringLiteral("Stop statement found"));
         auto *severity = child<QComboBox>(dialog, "cboSeverity");
         severity->setCurrentIndex(2);
@@ -162,7 +164,8 @@ TEST_F(ConventionDialogs, CreatesACodingConventionFromTheMainWindowAndSavesIt)
     window->tool(QStringLiteral("tlCodingConvention"))->trigger();
     ASSERT_TRUE(seen);
 
-    const auto rule = std::dynamic_pointer_cast<CodingConvention>(findByTitle(QStringLiteral("No Stop statements")));
+    const auto rule = std::dynamic_pointer_cast<CodingConvention>(
+        findByTitle(QStringLiteral("No Stop statements")));
     ASSERT_TRUE(rule);
     EXPECT_EQ(rule->ParserEventList(), QStringLiteral("30"));
     EXPECT_EQ(rule->ViolationDefinition()->Severity(), 3);
@@ -226,8 +229,10 @@ TEST_F(ConventionDialogs, NamingAndKeywordDialogsCarryTheirControls)
         QStringList captions;
         for (int i = 0; i < tabs->count(); ++i)
             captions << tabs->tabText(i);
-        EXPECT_EQ(captions, (QStringList{"Rule", "Condition", "Prefix", "Body", "Suffix", "Violation"}));
-        EXPECT_EQ(child<QComboBox>(dialog, "imgcboObject")->currentText().trimmed(), QStringLiteral("Variable"));
+        EXPECT_EQ(captions,
+                  (QStringList{"Rule", "Condition", "Prefix", "Body", "Suffix", "Violation"}));
+        EXPECT_EQ(child<QComboBox>(dialog, "imgcboObject")->currentText().trimmed(),
+                  QStringLiteral("Variable"));
         // Rows open top-down as kinds are chosen.
         auto *active = child<QCheckBox>(dialog, "chkPrefixActive");
         auto *second = child<QComboBox>(dialog, "cboPrefix_1");
@@ -238,11 +243,20 @@ TEST_F(ConventionDialogs, NamingAndKeywordDialogsCarryTheirControls)
         child<QComboBox>(dialog, "cboPrefix_0")->setCurrentIndex(1);
         EXPECT_TRUE(second->isEnabled());
         EXPECT_TRUE(child<QLineEdit>(dialog, "txtPrefix_0")->isEnabled());
-        for (const char *name : {"txtBody_0", "txtBody_1", "txtBody_2", "txtSuffix_3", "cmdObjectProperty_5", "cmdDelete",
-                                 "txtExclusionList", "chkCaseSensitive", "imgcboProperty", "imgIcon"})
+        for (const char *name : {"txtBody_0",
+                                 "txtBody_1",
+                                 "txtBody_2",
+                                 "txtSuffix_3",
+                                 "cmdObjectProperty_5",
+                                 "cmdDelete",
+                                 "txtExclusionList",
+                                 "chkCaseSensitive",
+                                 "imgcboProperty",
+                                 "imgIcon"})
             EXPECT_NE(dialog.findChild<QWidget *>(QLatin1String(name)), nullptr) << name;
         click(dialog, "cmdOK");
-        EXPECT_EQ(ui.messages.back().text, QStringLiteral("Please enter a title for the naming convention."));
+        EXPECT_EQ(ui.messages.back().text,
+                  QStringLiteral("Please enter a title for the naming convention."));
         click(dialog, "cmdCancel");
     });
     const int before = app->rulebase()->RuleLists()->NamingConventions()->Count();
@@ -259,7 +273,8 @@ TEST_F(ConventionDialogs, NamingAndKeywordDialogsCarryTheirControls)
             EXPECT_EQ(test.windowTitle(), QStringLiteral("Pattern Test"));
             EXPECT_EQ(child<QLineEdit>(test, "txtPattern")->text(), QStringLiteral("^End("));
             click(test, "cmdTest");
-            EXPECT_TRUE(ui.messages.back().text.startsWith(QStringLiteral("There is a missing ')' in the regular expression.")));
+            EXPECT_TRUE(ui.messages.back().text.startsWith(
+                QStringLiteral("There is a missing ')' in the regular expression.")));
             child<QLineEdit>(test, "txtPattern")->setText(QStringLiteral("^End$"));
             click(test, "cmdOK");
         });
@@ -279,7 +294,8 @@ TEST_F(ConventionDialogs, NamingAndKeywordDialogsCarryTheirControls)
 TEST_F(ConventionDialogs, CloneMarkAndDeleteFromTheMainWindowInEveryRuleView)
 {
     const auto lists = app->rulebase()->RuleLists();
-    for (const char *view : {"tlCodingConventions", "tlNamingConventions", "tlCategoryView", "tlSeverityView"}) {
+    for (const char *view :
+         {"tlCodingConventions", "tlNamingConventions", "tlCategoryView", "tlSeverityView"}) {
         SCOPED_TRACE(view);
         window->tool(QLatin1String(view))->trigger();
         ListControl *list = window->list();
