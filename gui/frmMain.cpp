@@ -517,8 +517,8 @@ bool frmMain::eventFilter(QObject *watched, QEvent *event)
             return true;
         }
         // Enter on a row opens it, as a double click does.
-        if ((key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) && key->modifiers() == Qt::NoModifier
-            && m_list->currentIndex().isValid()) {
+        const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+        if (enter && key->modifiers() == Qt::NoModifier && m_list->currentIndex().isValid()) {
             toolClicked(QStringLiteral("tlOpenRule"));
             return true;
         }

@@ -70,10 +70,13 @@ void preselectViolation(const QString &viewName, ViolationDefinition &definition
 }
 
 // Shows the rule's dialog; unless cancelled the rule joins the rulebase as a new one.
-std::shared_ptr<IRule> runNewRule(Application &application, const std::shared_ptr<IRule> &rule, bool &cancelled)
+std::shared_ptr<IRule> runNewRule(Application &application,
+                                  const std::shared_ptr<IRule> &rule,
+                                  bool &cancelled)
 {
     cancelled = true;
-    std::unique_ptr<IConventionForm> form = IFormFactory::current().createConventionForm(rule->RuleType());
+    std::unique_ptr<IConventionForm> form
+        = IFormFactory::current().createConventionForm(rule->RuleType());
     if (!form || !application.rulebase())
         return nullptr;
     form->setConvention(rule);
