@@ -646,6 +646,12 @@ bool frmMain::eventFilter(QObject *watched, QEvent *event)
             m_list->selectAll();
             return true;
         }
+        // Enter on a row opens it, as a double click does.
+        const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+        if (enter && key->modifiers() == Qt::NoModifier && m_list->currentIndex().isValid()) {
+            toolClicked(QStringLiteral("tlOpenRule"));
+            return true;
+        }
     }
     return QMainWindow::eventFilter(watched, event);
 }

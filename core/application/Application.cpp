@@ -3,7 +3,9 @@
 #include "application/IMainForm.h"
 #include "collections/ObjectKeyedListAdapter.h"
 #include "editors/CategorySeverityForm.h"
+#include "editors/FormLauncher.h"
 #include "editors/DefaultViolationsForm.h"
+#include "editors/IConventionForm.h"
 #include "editors/IFormFactory.h"
 #include "editors/RulebasePropertiesForm.h"
 #include "editors/TagListForm.h"
@@ -18,10 +20,16 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseLoadCriteria.h"
 #include "rulebase/RulebaseManager.h"
+#include "rulebase/CodingConvention.h"
+#include "rulebase/NamingConvention.h"
+#include "rulebase/RuleLists.h"
 #include "rulebase/SeverityItem.h"
 #include "rulebase/TagItem.h"
+#include "rulebase/UnauthorisedKeyword.h"
+#include "rulebase/ViolationDefinition.h"
 #include "views/AuthorisedItemsView.h"
 #include "views/IViewController.h"
+#include "views/TreeControl.h"
 
 #include <QDir>
 
@@ -52,14 +60,64 @@ const ViewInfo *findView(const QString &name)
     return nullptr;
 }
 
+// The number at the start of the key of the main window's selected tree node; 0 for none.
+qint32 selectedNodeNumber(IMainForm *mainForm)
+{
+    TreeControl *tree = mainForm ? mainForm->tree() : nullptr;
+    if (!tree || tree->selectedItem() == 0)
+        return 0;
+    return Text::valLong(tree->key(tree->selectedItem()));
+}
+
+// A new rule made under a category or severity node lands in it.
+void preselectViolation(const QString &viewName, ViolationDefinition &definition, qint32 number)
+{
+    if (Text::same(viewName, QStringLiteral("tlCategoryView")))
+        definition.setCategoryID(number);
+    else if (Text::same(viewName, QStringLiteral("tlSeverityView")))
+        definition.setSeverity(number);
+}
+
+// Shows the rule's dialog; unless cancelled the rule joins the rulebase as a new one.
+std::shared_ptr<IRule> runNewRule(Application &application,
+                                  const std::shared_ptr<IRule> &rule,
+                                  bool &cancelled)
+{
+    cancelled = true;
+    std::unique_ptr<IConventionForm> form
+        = IFormFactory::current().createConventionForm(rule->RuleType());
+    if (!form || !application.rulebase())
+        return nullptr;
+    form->setConvention(rule);
+    form->setApplication(&application);
+    form->Show();
+    cancelled = form->Cancelled();
+    if (cancelled)
+        return nullptr;
+    application.rulebase()->RuleLists()->AddConvention(rule, true);
+    return rule;
+}
+
+// The property a new naming convention of an object names first: its Name.
+constexpr qint32 namePropertyType = 37;
+
 } // namespace
 
 Application::Application(IMainForm *mainForm, ViewFactory viewFactory)
     : m_mainForm(mainForm)
     , m_viewFactory(std::move(viewFactory))
-{}
+    , m_ruleEditors(std::make_unique<FormLauncher>(this))
+{
+    // A launcher put in place before, such as a test's, keeps its place.
+    if (!IRuleEditorLauncher::installed())
+        IRuleEditorLauncher::install(m_ruleEditors.get());
+}
 
-Application::~Application() = default;
+Application::~Application()
+{
+    if (IRuleEditorLauncher::installed() == m_ruleEditors.get())
+        IRuleEditorLauncher::install(nullptr);
+}
 
 void Application::Show()
 {
@@ -386,19 +444,43 @@ void Application::ShowTagList(int tagType)
 std::shared_ptr<IRule> Application::NewCodingConvention(bool &cancelled)
 {
     cancelled = true;
-    return nullptr;
+    return guarded("NewCodingConvention", module, std::shared_ptr<IRule>(), [&] {
+        auto rule = std::make_shared<CodingConvention>();
+        const qint32 number = selectedNodeNumber(m_mainForm);
+        if (number != 0) {
+            if (Text::same(m_currentViewName, QStringLiteral("tlCodingConventions")))
+                rule->AddParserEventID(number);
+            else
+                preselectViolation(m_currentViewName, *rule->ViolationDefinition(), number);
+        }
+        return runNewRule(*this, rule, cancelled);
+    });
 }
 
 std::shared_ptr<IRule> Application::NewNamingConvention(bool &cancelled)
 {
     cancelled = true;
-    return nullptr;
+    return guarded("NewNamingConvention", module, std::shared_ptr<IRule>(), [&] {
+        auto rule = std::make_shared<NamingConvention>();
+        const qint32 number = selectedNodeNumber(m_mainForm);
+        if (number != 0) {
+            if (Text::same(m_currentViewName, QStringLiteral("tlNamingConventions"))) {
+                rule->setObjectType(number);
+                rule->setPropertyType(namePropertyType);
+            } else {
+                preselectViolation(m_currentViewName, *rule->ViolationDefinition(), number);
+            }
+        }
+        return runNewRule(*this, rule, cancelled);
+    });
 }
 
 std::shared_ptr<IRule> Application::NewUnauthorisedKeyword(bool &cancelled)
 {
     cancelled = true;
-    return nullptr;
+    return guarded("NewUnauthorisedKeyword", module, std::shared_ptr<IRule>(), [&] {
+        return runNewRule(*this, std::make_shared<UnauthorisedKeyword>(), cancelled);
+    });
 }
 
 // The authorised item commands belong to the authorised items view alone; with any other

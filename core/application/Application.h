@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 
+class FormLauncher;
 class IMainForm;
 class IRule;
 class IViewController;
@@ -71,4 +72,6 @@ private:
     std::unique_ptr<IViewController> m_currentView;
     QString m_currentViewName;
     ViewFactory m_viewFactory;
+    // Opens the rules the views ask to edit, in their dialogs.
+    std::unique_ptr<FormLauncher> m_ruleEditors;
 };

@@ -7,8 +7,8 @@ class IRule;
 class SeverityItem;
 
 // Shows the editors a view opens: a rule's dialog, and the category and severity dialogs of a
-// tree node. Each runs modally and says whether it was confirmed (false: cancelled). Until the
-// dialogs exist the installed launcher cancels everything.
+// tree node. Each runs modally and says whether it was confirmed (false: cancelled). Until one
+// is installed, everything is cancelled.
 class IRuleEditorLauncher
 {
 public:
@@ -22,4 +22,6 @@ public:
     static IRuleEditorLauncher &current();
     // Not owned; nullptr goes back to the cancelling one.
     static void install(IRuleEditorLauncher *launcher);
+    // The launcher installed, or nullptr while the cancelling one stands in.
+    static IRuleEditorLauncher *installed();
 };

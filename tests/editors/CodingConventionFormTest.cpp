@@ -1,0 +1,262 @@
+#include "editors/CodingConventionForm.h"
+#include "rulebase/CodingConvention.h"
+#include "rulebase/ViolationDefinition.h"
+#include "vocabulary/VBParserEvents.h"
+
+#include "EditorsTestSupport.h"
+#include "support/ScriptedUserInterface.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Opened
+{
+    std::shared_ptr<CodingConvention> rule = std::make_shared<CodingConvention>();
+    CodingConventionForm form;
+
+    void open()
+    {
+        form.setConvention(rule);
+        form.setRulebase(EditorsTest::rulebaseWithCategories());
+        form.Load();
+    }
+    int nodeOf(qint32 event) const
+    {
+        return form.screen().tvwEvent.find(VBParserEvents::ParserEventKey(event));
+    }
+    void tick(qint32 event, bool on = true)
+    {
+        form.screen().tvwEvent.setChecked(nodeOf(event), on);
+    }
+};
+
+} // namespace
+
+TEST(CodingConventionForm, NewRuleOpensWithFirstSeverityAndNoCategoryOrEvent)
+{
+    Opened o;
+    o.open();
+    const auto &screen = o.form.screen();
+    EXPECT_EQ(screen.cboCategory.count(), 2);
+    EXPECT_FALSE(screen.cboCategory.hasSelection());
+    EXPECT_EQ(screen.cboSeverity.currentItemData(), 1);
+    EXPECT_EQ(screen.txtVImpact, QStringLiteral("900"));
+    EXPECT_EQ(screen.imgIcon, 14);
+    EXPECT_TRUE(screen.tvwEventVisible);
+    EXPECT_FALSE(screen.imgcboPendingEnabled);
+    EXPECT_FALSE(screen.imgcboPending.hasSelection());
+    EXPECT_EQ(screen.fraEvent,
+              QStringLiteral("Select the parser event(s) appropriate to this coding convention."));
+    // No event: the first node is selected and its help shown.
+    ASSERT_NE(screen.tvwEvent.selected(), 0);
+    EXPECT_EQ(screen.lblEventHelp,
+              VBParserEvents::ParserEventHelp(screen.tvwEvent.value(screen.tvwEvent.selected())));
+    EXPECT_EQ(CodingConventionForm::CollapseToolTip(0), QStringLiteral("Expand All"));
+    EXPECT_EQ(CodingConventionForm::CollapseToolTip(1), QStringLiteral("Select None"));
+    EXPECT_EQ(CodingConventionForm::CollapseToolTip(2), QStringLiteral("Collapse All"));
+}
+
+TEST(CodingConventionForm, ValidationWalksTheFaultsInOrder)
+{
+    ScriptedUserInterface ui;
+    Opened o;
+    o.open();
+    auto &screen = o.form.screen();
+    std::vector<FormFault> moved;
+    const auto mover = [&](const FormFault &f) { moved.push_back(f); };
+
+    EXPECT_FALSE(o.form.cmdOK_Click(mover));
+    ASSERT_TRUE(o.form.lastFault());
+    EXPECT_EQ(o.form.lastFault()->tab, 1);
+    EXPECT_EQ(o.form.lastFault()->controlName(), QStringLiteral("txtTitle"));
+    EXPECT_EQ(ui.messages.back().text,
+              QStringLiteral("Please enter a title for the coding convention."));
+    EXPECT_EQ(ui.messages.back().icon, MessageIcon::Exclamation);
+
+    // A violation title alone does not excuse a rule without events.
+    screen.txtTitle = QStringLiteral("No GoTo");
+    screen.txtVTitle = QStringLiteral("GoTo used");
+    EXPECT_FALSE(o.form.cmdOK_Click(mover));
+    EXPECT_EQ(o.form.lastFault()->tab, 2);
+    EXPECT_EQ(o.form.lastFault()->field, QStringLiteral("tvwEvent"));
+    EXPECT_EQ(ui.messages.back().text,
+              QStringLiteral("Please assign the coding convention to at least one parser event."));
+
+    o.tick(30);
+    screen.txtVTitle.clear();
+    EXPECT_FALSE(o.form.cmdOK_Click(mover));
+    EXPECT_EQ(o.form.lastFault()->tab, 4);
+    EXPECT_EQ(o.form.lastFault()->field, QStringLiteral("txtVTitle"));
+    EXPECT_EQ(ui.messages.back().text, QStringLiteral("Please enter a title for the violation."));
+    ASSERT_EQ(moved.size(), 3u);
+    EXPECT_EQ(moved[1].tab, 2);
+    // Nothing reached the rule, and the dialog still counts as cancelled.
+    EXPECT_TRUE(o.rule->Title().isEmpty());
+    EXPECT_EQ(o.rule->EventCount(), 0);
+    EXPECT_TRUE(o.form.Cancelled());
+
+    screen.txtVTitle = QStringLiteral("GoTo used");
+    EXPECT_TRUE(o.form.cmdOK_Click(mover));
+    EXPECT_FALSE(o.form.Cancelled());
+    EXPECT_EQ(ui.messages.size(), 3u);
+}
+
+TEST(CodingConventionForm, OkWritesEveryFieldInTreeOrder)
+{
+    ScriptedUserInterface ui;
+    Opened o;
+    o.open();
+    auto &screen = o.form.screen();
+    screen.txtTitle = QStringLiteral("Title");
+    screen.txtDescription = QStringLiteral("Description");
+    screen.cboCategory.setCurrentIndex(screen.cboCategory.FindItemWithItemData(2));
+    screen.txtCondition = QStringLiteral("Sub Main\r\nEnd Sub");
+    o.tick(30);
+    o.tick(1);
+    screen.chkRuleActive = false;
+    screen.txtVTitle = QStringLiteral("VTitle");
+    screen.txtVDescription = QStringLiteral("%Procedure.Name%");
+    screen.cboSeverity.setCurrentIndex(screen.cboSeverity.FindItemWithItemData(3));
+    o.form.cboSeverity_Click();
+    EXPECT_EQ(screen.txtVImpact, QStringLiteral("500"));
+    screen.txtVImpact = QStringLiteral("42abc");
+    screen.txtVAdvice = QStringLiteral("Advice");
+    ASSERT_TRUE(o.form.cmdOK_Click());
+
+    const CodingConvention &rule = *o.rule;
+    EXPECT_EQ(rule.Title(), QStringLiteral("Title"));
+    EXPECT_EQ(rule.Description(), QStringLiteral("Description"));
+    EXPECT_EQ(rule.CategoryID(), 2);
+    EXPECT_EQ(rule.Condition(), QStringLiteral("Sub Main\r\nEnd Sub"));
+    // "begin Project" stands before "Procedure <body>" in the tree.
+    EXPECT_EQ(rule.ParserEventList(), QStringLiteral("1|30"));
+    EXPECT_FALSE(rule.PendingViolation());
+    EXPECT_EQ(rule.EndEventID(), -1);
+    EXPECT_FALSE(rule.RuleActive());
+    const auto def = rule.ViolationDefinition();
+    EXPECT_EQ(def->Title(), QStringLiteral("VTitle"));
+    EXPECT_EQ(def->Description(), QStringLiteral("%Procedure.Name%"));
+    EXPECT_EQ(def->Severity(), 3);
+    EXPECT_EQ(def->Impact(), 42);
+    EXPECT_EQ(def->Advice(), QStringLiteral("Advice"));
+}
+
+TEST(CodingConventionForm, CancelLeavesTheRuleAsItWas)
+{
+    Opened o;
+    o.rule->setTitle(QStringLiteral("Kept"));
+    o.rule->AddParserEventID(12);
+    o.rule->AddParserEventID(30);
+    o.rule->ViolationDefinition()->setSeverity(2);
+    o.rule->ViolationDefinition()->setImpact(7);
+    o.rule->setDirty(false);
+    o.open();
+    auto &screen = o.form.screen();
+    // The definition's own impact is shown, not the severity's.
+    EXPECT_EQ(screen.txtVImpact, QStringLiteral("7"));
+    EXPECT_TRUE(screen.tvwEvent.isChecked(o.nodeOf(12)));
+    EXPECT_TRUE(screen.tvwEvent.isChecked(o.nodeOf(30)));
+    screen.txtTitle = QStringLiteral("Changed");
+    o.form.cmdCollapse_Click(1);
+    EXPECT_FALSE(screen.tvwEvent.isChecked(o.nodeOf(12)));
+    o.form.cmdCancel_Click();
+    EXPECT_TRUE(o.form.Cancelled());
+    EXPECT_EQ(o.rule->Title(), QStringLiteral("Kept"));
+    EXPECT_EQ(o.rule->ParserEventList(), QStringLiteral("12|30"));
+    EXPECT_FALSE(o.rule->Dirty());
+}
+
+TEST(CodingConventionForm, PendingFaceHasOneStartAndOneEndEvent)
+{
+    ScriptedUserInterface ui;
+    Opened o;
+    o.rule->setTitle(QStringLiteral("T"));
+    o.rule->ViolationDefinition()->setTitle(QStringLiteral("V"));
+    o.rule->AddParserEventID(12);
+    o.rule->AddParserEventID(30);
+    o.open();
+    auto &screen = o.form.screen();
+    screen.chkPending = true;
+    o.form.chkPending_Click();
+    EXPECT_FALSE(screen.tvwEventVisible);
+    EXPECT_TRUE(screen.imgcboPendingEnabled);
+    EXPECT_EQ(screen.fraEvent,
+              QStringLiteral("Select the parser event appropriate to this coding convention."));
+    // Two events on the rule: the combo starts at event 1, not either of them.
+    EXPECT_EQ(screen.imgcboEvent.currentKey(), QStringLiteral("1Key"));
+    EXPECT_EQ(screen.lblEventHelp, VBParserEvents::ParserEventHelp(1));
+    EXPECT_EQ(screen.imgcboPending.currentIndex(), 0);
+    screen.imgcboEvent.setCurrentIndex(screen.imgcboEvent.findKey(QStringLiteral("28Key")));
+    o.form.imgcboEvent_Click();
+    EXPECT_EQ(screen.lblEventHelp, VBParserEvents::ParserEventHelp(28));
+    screen.imgcboPending.setCurrentIndex(screen.imgcboPending.findKey(QStringLiteral("34Key")));
+    ASSERT_TRUE(o.form.cmdOK_Click());
+    EXPECT_TRUE(o.rule->PendingViolation());
+    EXPECT_EQ(o.rule->EventCount(), 1);
+    EXPECT_EQ(o.rule->ParserEventID(0), 28);
+    EXPECT_EQ(o.rule->EndEventID(), 34);
+}
+
+TEST(CodingConventionForm, SwitchingPendingBackShowsWhatTheRuleHoldsAndResetsTheEndEvent)
+{
+    ScriptedUserInterface ui;
+    Opened o;
+    o.rule->setTitle(QStringLiteral("T"));
+    o.rule->ViolationDefinition()->setTitle(QStringLiteral("V"));
+    o.rule->setPendingViolation(true);
+    o.rule->AddParserEventID(28);
+    o.rule->setEndEventID(34);
+    o.open();
+    auto &screen = o.form.screen();
+    EXPECT_EQ(screen.imgcboEvent.currentKey(), QStringLiteral("28Key"));
+    EXPECT_EQ(screen.imgcboPending.currentKey(), QStringLiteral("34Key"));
+
+    screen.chkPending = false;
+    o.form.chkPending_Click();
+    EXPECT_FALSE(screen.imgcboPending.hasSelection());
+    EXPECT_TRUE(screen.tvwEvent.isChecked(o.nodeOf(28)));
+    EXPECT_EQ(screen.tvwEvent.selected(), o.nodeOf(28));
+    o.tick(28, false);
+    o.tick(10);
+    // Off and on again: the tree is rebuilt from the rule, not from the ticks of a moment ago.
+    screen.chkPending = true;
+    o.form.chkPending_Click();
+    screen.chkPending = false;
+    o.form.chkPending_Click();
+    EXPECT_TRUE(screen.tvwEvent.isChecked(o.nodeOf(28)));
+    EXPECT_FALSE(screen.tvwEvent.isChecked(o.nodeOf(10)));
+    ASSERT_TRUE(o.form.cmdOK_Click());
+    EXPECT_FALSE(o.rule->PendingViolation());
+    EXPECT_EQ(o.rule->EndEventID(), -1);
+    EXPECT_EQ(o.rule->ParserEventList(), QStringLiteral("28"));
+}
+
+TEST(CodingConventionForm, HandMadePendingRuleWithoutEndEventStartsAtTheFirstEndEvent)
+{
+    Opened o;
+    o.rule->setPendingViolation(true);
+    o.rule->AddParserEventID(4);
+    o.open();
+    EXPECT_EQ(o.form.screen().imgcboPending.currentIndex(), 0);
+    EXPECT_EQ(o.form.screen().imgcboEvent.currentKey(), QStringLiteral("4Key"));
+}
+
+TEST(CodingConventionForm, CollapseButtonsAndCategoryOfADeletedCategory)
+{
+    Opened o;
+    o.rule->setCategoryID(99);
+    o.open();
+    auto &screen = o.form.screen();
+    EXPECT_FALSE(screen.cboCategory.hasSelection());
+    o.form.cmdCollapse_Click(0);
+    for (int node = 1; node <= screen.tvwEvent.count(); ++node)
+        EXPECT_TRUE(screen.tvwEvent.isExpanded(node));
+    o.form.cmdCollapse_Click(2);
+    for (int node = 1; node <= screen.tvwEvent.count(); ++node)
+        EXPECT_FALSE(screen.tvwEvent.isExpanded(node));
+    o.tick(2);
+    screen.txtTitle = screen.txtVTitle = QStringLiteral("x");
+    ASSERT_TRUE(o.form.cmdOK_Click());
+    EXPECT_EQ(o.rule->CategoryID(), -1);
+}
