@@ -1,13 +1,17 @@
 #include "application/Application.h"
 #include "collections/ObjectArrayList.h"
+#include "editors/CategoryEditorForm.h"
 #include "editors/IConventionForm.h"
 #include "editors/IFormFactory.h"
+#include "editors/SeverityEditorForm.h"
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
 #include "platform/TextUtils.h"
+#include "rulebase/CategoryItem.h"
 #include "rulebase/CodingConvention.h"
 #include "rulebase/NamingConvention.h"
 #include "rulebase/RuleLists.h"
+#include "rulebase/SeverityItem.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/UnauthorisedKeyword.h"
 #include "rulebase/ViolationDefinition.h"
@@ -290,4 +294,49 @@ TEST(FormLauncher, TheApplicationInstallsItOnlyWhereNoneStands)
         EXPECT_EQ(IRuleEditorLauncher::installed(), launcher);
     }
     EXPECT_EQ(IRuleEditorLauncher::installed(), nullptr);
+}
+
+// The launcher the Application installs also carries the views' category and severity edits.
+TEST(FormLauncher, CategoryAndSeverityEditsRunTheirEditorsAndWriteOnlyOnOK)
+{
+    class Editors final : public IFormFactory
+    {
+    public:
+        Editors() { install(this); }
+        ~Editors() override { install(nullptr); }
+        bool runCategoryEditor(CategoryEditorForm &form) override
+        {
+            form.setTitle(QStringLiteral("Layout"));
+            form.setDescription(QStringLiteral("Indentation and spacing"));
+            return confirm ? form.OK() : (form.Cancel(), false);
+        }
+        bool runSeverityEditor(SeverityEditorForm &form) override
+        {
+            form.setTitle(QStringLiteral("Blocking"));
+            return confirm ? form.OK() : (form.Cancel(), false);
+        }
+        bool confirm = false;
+    } editors;
+
+    MemoryMainForm form;
+    Application app(&form);
+    IRuleEditorLauncher &launcher = IRuleEditorLauncher::current();
+    auto category = std::make_shared<CategoryItem>();
+    category->setTitle(QStringLiteral("Old"));
+    category->setDescription(QStringLiteral("Old text"));
+    auto severity = std::make_shared<SeverityItem>();
+    severity->setTitle(QStringLiteral("High"));
+    severity->setDescription(QStringLiteral("Fix before release"));
+
+    EXPECT_FALSE(launcher.EditCategory(category));
+    EXPECT_FALSE(launcher.EditSeverity(severity));
+    EXPECT_EQ(category->Title(), QStringLiteral("Old"));
+    EXPECT_EQ(severity->Title(), QStringLiteral("High"));
+
+    editors.confirm = true;
+    EXPECT_TRUE(launcher.EditCategory(category));
+    EXPECT_TRUE(launcher.EditSeverity(severity));
+    EXPECT_EQ(category->Title(), QStringLiteral("Layout"));
+    EXPECT_EQ(category->Description(), QStringLiteral("Indentation and spacing"));
+    EXPECT_EQ(severity->Title(), QStringLiteral("Blocking"));
 }
