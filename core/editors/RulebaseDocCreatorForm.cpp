@@ -125,6 +125,13 @@ void RulebaseDocCreatorForm::CreateReportSections()
 
 void RulebaseDocCreatorForm::UpdateReportSections()
 {
+    // A category shown but without active rules comes in and goes again below; a plan that
+    // ends as it began must not count as changed for that.
+    std::vector<std::shared_ptr<IListItem>> before;
+    for (qint32 i = 1; i <= m_sections->Count(); ++i)
+        before.push_back(m_sections->Item(i));
+    const bool dirtyBefore = m_sections->Dirty();
+
     const auto &categories = *m_rulebase->CategoryList();
     const auto visible = [&categories](qint32 id) {
         return categories.ContainsID(id) && !categories.Item(CategoryList::CategoryIDToKey(id))->Hidden();
@@ -172,6 +179,11 @@ void RulebaseDocCreatorForm::UpdateReportSections()
     }
     for (const auto &section : gone)
         m_sections->RemoveByValue(section);
+    bool unchanged = m_sections->Count() == qint32(before.size());
+    for (qint32 i = 1; unchanged && i <= m_sections->Count(); ++i)
+        unchanged = m_sections->Item(i) == before[std::size_t(i - 1)];
+    if (unchanged)
+        m_sections->setDirty(dirtyBefore);
 
     // A stored table becomes the one the "Tables" tab edits, so that its texts show there and
     // an edit reaches the plan.
