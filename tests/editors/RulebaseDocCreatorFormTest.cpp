@@ -8,6 +8,7 @@
 #include "rulebase/Report.h"
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
+#include "rulebase/RulebaseManager.h"
 #include "rulebase/TableItem.h"
 #include "rulebase/UnauthorisedKeyword.h"
 
@@ -457,4 +458,30 @@ TEST(RulebaseDocCreatorForm, GenerateWritesTheDocumentOpensItAndStaysOpen)
     EXPECT_TRUE(html.contains("<a href=\"#category_Errors\">Errors</a>"));
     EXPECT_TRUE(html.contains("<h2>Harbour Lines</h2>"));
     EXPECT_FALSE(html.contains("Hidden rule"));
+}
+
+TEST(RulebaseDocCreatorForm, TheSamplePlanGainsItsMissingCategoriesAndCancelTakesThemBack)
+{
+    ScriptedUserInterface ui;
+    const auto rulebase = RulebaseManager().LoadRulebase(TestEnvironment::sampleRulebase());
+    ASSERT_NE(rulebase, nullptr);
+    ASSERT_FALSE(rulebase->Dirty());
+    const QStringList stored = sectionKeys(*rulebase->Report()->Sections());
+    ASSERT_EQ(stored.size(), 13);
+    RulebaseDocCreatorForm form;
+    form.setRulebase(rulebase);
+    form.Load();
+    // Visible categories with active rules that the stored plan lacks join at its end, in the
+    // order of the category list; the hidden one stays out.
+    const QStringList added{QStringLiteral("9K"), QStringLiteral("6K"), QStringLiteral("5K"), QStringLiteral("8K")};
+    EXPECT_EQ(sectionKeys(*rulebase->Report()->Sections()), stored + added);
+    EXPECT_TRUE(form.DocHasChanged());
+    EXPECT_TRUE(rulebase->Dirty());
+
+    ui.answers.push_back(MessageResult::Yes);
+    EXPECT_TRUE(form.Cancel());
+    EXPECT_EQ(ui.messageTexts(),
+              QStringList{QStringLiteral("Document content has changed. Continue without saving changes?")});
+    EXPECT_EQ(sectionKeys(*rulebase->Report()->Sections()), stored);
+    EXPECT_FALSE(rulebase->Dirty());
 }
