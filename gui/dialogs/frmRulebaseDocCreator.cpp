@@ -84,7 +84,7 @@ frmRulebaseDocCreator::frmRulebaseDocCreator(RulebaseDocCreatorForm &form, QWidg
     setWindowTitle(QStringLiteral("Documentation Wizard"));
     setSizeGripEnabled(true);
     buildWidgets();
-    resize(640, 520);
+    resize(760, 540);
     m_form.Load();
     refresh();
 }
@@ -120,6 +120,7 @@ void frmRulebaseDocCreator::buildWidgets()
     auto *rulesFrame = new QGroupBox(QStringLiteral("Rules"));
     rulesFrame->setObjectName(QStringLiteral("fraRules"));
     m_rules = rowList(QStringLiteral("lvwRules"), {QStringLiteral("Rule ID"), QStringLiteral("Rule Title")});
+    m_rules->setColumnWidth(0, 80);
     m_ruleDescription = readOnlyText(QStringLiteral("txtRuleDescription"));
     m_moveRuleUp = button(QStringLiteral("cmdMoveRuleUp"), QStringLiteral("Move Up"));
     m_moveRuleDown = button(QStringLiteral("cmdMoveRuleDown"), QStringLiteral("Move Down"));
