@@ -15,6 +15,8 @@
 #include "rulebase/TableItem.h"
 #include "rulebase/ViolationDefinition.h"
 
+#include <QSet>
+
 #include <utility>
 
 namespace {
@@ -42,25 +44,6 @@ const TableDefinition tableDefinitions[] = {
      "other reference."},
     {"6T", "Severity Details", ""},
 };
-
-bool holdsActiveRule(const ObjectArrayList<IRule> &rules, qint32 ruleID)
-{
-    for (qint32 i = 1; i <= rules.Count(); ++i) {
-        const auto rule = rules.Item(i);
-        if (rule->RuleID() == ruleID && rule->RuleActive())
-            return true;
-    }
-    return false;
-}
-
-bool holdsRule(const ObjectArrayList<IRule> &rules, qint32 ruleID)
-{
-    for (qint32 i = 1; i <= rules.Count(); ++i) {
-        if (rules.Item(i)->RuleID() == ruleID)
-            return true;
-    }
-    return false;
-}
 
 } // namespace
 
@@ -204,15 +187,25 @@ void RulebaseDocCreatorForm::ReconcileRules(ObjectArrayList<IRule> &sectionRules
                                             const ObjectArrayList<IRule> &categoryRules)
 {
     guardedVoid("ReconcileRules", module, [&] {
+        // Sets of ids keep a category of thousands of rules from costing millions of compares.
+        QSet<qint32> inSection;
+        for (qint32 i = 1; i <= sectionRules.Count(); ++i)
+            inSection.insert(sectionRules.Item(i)->RuleID());
+        QSet<qint32> active;
         for (qint32 i = 1; i <= categoryRules.Count(); ++i) {
             const auto rule = categoryRules.Item(i);
-            if (rule->RuleActive() && !holdsRule(sectionRules, rule->RuleID()))
+            if (!rule->RuleActive())
+                continue;
+            active.insert(rule->RuleID());
+            if (!inSection.contains(rule->RuleID())) {
                 sectionRules.Add(rule);
+                inSection.insert(rule->RuleID());
+            }
         }
         std::vector<std::shared_ptr<IRule>> gone;
         for (qint32 i = 1; i <= sectionRules.Count(); ++i) {
             const auto rule = sectionRules.Item(i);
-            if (!holdsActiveRule(categoryRules, rule->RuleID()))
+            if (!active.contains(rule->RuleID()))
                 gone.push_back(rule);
         }
         for (const auto &rule : gone)
