@@ -19,7 +19,6 @@
 #include "rulebase/TagItem.h"
 #include "rulebase/ViolationDefinition.h"
 
-#include <QFileInfo>
 #include <QLocale>
 #include <QSaveFile>
 
@@ -108,10 +107,10 @@ void writeFile(const QString &filename, const QByteArray &bytes)
     if (ok)
         ok = file.commit();
     if (!ok)
-        throw QuorinError(PathFileAccessError,
-                          QStringLiteral("RulebaseDocCreator::CreateDocumentation"),
-                          QStringLiteral("Can't write the document '%1': %2.")
-                              .arg(filename, file.errorString()));
+        throw QuorinError(
+            PathFileAccessError,
+            QStringLiteral("RulebaseDocCreator::CreateDocumentation"),
+            QStringLiteral("Can't write the document '%1': %2.").arg(filename, file.errorString()));
 }
 
 } // namespace
@@ -123,16 +122,19 @@ bool RulebaseDocCreator::CreateDocumentation(const Rulebase &rulebase, QString &
         filename = DocumentFilename(rulebase.Filename());
         const QString source = QStringLiteral("RulebaseDocCreator::CreateDocumentation");
         if (filename.isEmpty())
-            throw QuorinError(ErrorNumber::NoFilename, source,
+            throw QuorinError(ErrorNumber::NoFilename,
+                              source,
                               QStringLiteral("The rulebase has no file name yet. Save it first: "
                                              "its document is written beside it."));
-        if (QFileInfo(filename) == QFileInfo(rulebase.Filename()))
-            throw QuorinError(PathFileAccessError, source,
+        if (filename == rulebase.Filename())
+            throw QuorinError(PathFileAccessError,
+                              source,
                               QStringLiteral("The document of '%1' would replace the rulebase "
                                              "itself. Save the rulebase with the extension "
                                              "\".qrb\" first.")
                                   .arg(rulebase.Filename()));
 
+        // A copy with today and the organisation filled in; this writer keeps what it was told.
         RulebaseDocCreator writer = *this;
         if (!writer.m_organisation) {
             QString organisation;
@@ -167,7 +169,8 @@ bool RulebaseDocCreator::ResolveOrganisation(QString &organisation)
         if (!UserInterface::current().getText(
                 QStringLiteral("Enter the name of the organisation for which the coding standards "
                                "are published:"),
-                programTitle(), answer))
+                programTitle(),
+                answer))
             return false;
         answer = Text::trimBlanks(answer);
         if (answer.isEmpty())
@@ -209,17 +212,26 @@ void RulebaseDocCreator::GetStyleSheet(QString &out)
     // The pages ask for "back_refs" and never use ".pagebody_table"; both stay as they are.
     static const char16_t *const sheet[] = {
         u"<!--",
-        u"body {margin-top: 0px; margin-bottom : 0px; margin-left : 5px; margin-right : 5px; font-family: Verdana, Geneva, Arial, Helvetica, sans-serif; background : White;}",
-        u".header_table {width: 100%; background-color : #0099FF; font-family: Verdana, Geneva, Arial, Helvetica, sans-serif; font-weight: bold; font-size: medium; color: White;}",
+        u"body {margin-top: 0px; margin-bottom : 0px; margin-left : 5px; margin-right : 5px; "
+        u"font-family: Verdana, Geneva, Arial, Helvetica, sans-serif; background : White;}",
+        u".header_table {width: 100%; background-color : #0099FF; font-family: Verdana, Geneva, "
+        u"Arial, Helvetica, sans-serif; font-weight: bold; font-size: medium; color: White;}",
         u".header_title_column{text-align : center; height : 30px;}",
-        u".title_table {width: 100%; height: 30px; background-color : #000000; font-family: Verdana, Geneva, Arial, Helvetica, sans-serif; font-size: small; color : White; font-weight : bold;}",
-        u".pagebody_table {width: 100%; background-color : #FFFFFF; font-family: Verdana, Geneva, Arial, Helvetica, sans-serif; font-size: x-small; color : Black;}",
-        u".tags_table{border : thin solid Black; font-family: Verdana, Geneva, Arial, Helvetica, sans-serif; font-size: x-small; color : Black; margin-left : 2px; width : 60%;}",
+        u".title_table {width: 100%; height: 30px; background-color : #000000; font-family: "
+        u"Verdana, Geneva, Arial, Helvetica, sans-serif; font-size: small; color : White; "
+        u"font-weight : bold;}",
+        u".pagebody_table {width: 100%; background-color : #FFFFFF; font-family: Verdana, Geneva, "
+        u"Arial, Helvetica, sans-serif; font-size: x-small; color : Black;}",
+        u".tags_table{border : thin solid Black; font-family: Verdana, Geneva, Arial, Helvetica, "
+        u"sans-serif; font-size: x-small; color : Black; margin-left : 2px; width : 60%;}",
         u".tbbordered_innercell{border-top : thin solid Silver; border-right : thin solid Silver}",
         u".tbbordered_cell{border-top : thin solid Silver}",
-        u".authorised_items_table{border : thin solid Black; font-family: Verdana, Geneva, Arial, Helvetica, sans-serif; font-size: x-small; color : Black; margin-left : 2px; width : 95%;}",
+        u".authorised_items_table{border : thin solid Black; font-family: Verdana, Geneva, Arial, "
+        u"Helvetica, sans-serif; font-size: x-small; color : Black; margin-left : 2px; width : "
+        u"95%;}",
         u".footer_table{width: 100%; height: 30px; background-color: #0099FF;}",
-        u".footer_text{font: Arial, Helvetica, sans-serif; font-size: xx-small; text-align: center;}",
+        u".footer_text{font: Arial, Helvetica, sans-serif; font-size: xx-small; text-align: "
+        u"center;}",
         u".level1_li{font-weight : bold; color : Black;}",
         u".level2_li{font-weight : normal;color : Black;}",
         u".rule_title{font-weight : bold;}",
@@ -237,9 +249,13 @@ bool RulebaseDocCreator::WriteHeader(QString &out, const QString &text) const
 {
     return guarded("WriteHeader", module, false, [&] {
         line(out, 0, u"<!-- Header Table -->");
-        line(out, 0, u"<table border=\"0\" cellpadding=\"0\" cellspacing=\"0\" class=\"header_table\">");
+        line(out,
+             0,
+             u"<table border=\"0\" cellpadding=\"0\" cellspacing=\"0\" class=\"header_table\">");
         line(out, 1, u"<tr>");
-        line(out, 2, QStringLiteral("<td class=\"header_title_column\">") + text + QStringLiteral("</td>"));
+        line(out,
+             2,
+             QStringLiteral("<td class=\"header_title_column\">") + text + QStringLiteral("</td>"));
         line(out, 1, u"</tr>");
         line(out, 0, u"</table>");
         line(out, 0, u"<!-- End Of Header Table -->");
@@ -248,7 +264,9 @@ bool RulebaseDocCreator::WriteHeader(QString &out, const QString &text) const
     });
 }
 
-bool RulebaseDocCreator::WritePageTitle(QString &out, const QString &title, const QString &anchor) const
+bool RulebaseDocCreator::WritePageTitle(QString &out,
+                                        const QString &title,
+                                        const QString &anchor) const
 {
     return guarded("WritePageTitle", module, false, [&] {
         line(out, 0, u"<!-- Page Title Table -->");
@@ -274,7 +292,10 @@ bool RulebaseDocCreator::CreateTitlePage(QString &out, const Rulebase &rulebase)
             return false;
         const QString date = QLocale::system().toString(m_published, QLocale::LongFormat);
         line(out, 0, u"<!-- Title Page Table -->");
-        line(out, 0, u"<table border=\"0\" cellpadding=\"0\" cellspacing=\"0\" width=\"100%\" height=\"500\">");
+        line(out,
+             0,
+             u"<table border=\"0\" cellpadding=\"0\" cellspacing=\"0\" width=\"100%\" "
+             u"height=\"500\">");
         line(out, 1, u"<tr align=\"center\" valign=\"middle\">");
         line(out, 2, u"<td>");
         line(out, 3, u"<br>");
@@ -282,7 +303,9 @@ bool RulebaseDocCreator::CreateTitlePage(QString &out, const Rulebase &rulebase)
         line(out, 3, QStringLiteral("<h3>") + rulebase.Version() + QStringLiteral("</h3>"));
         line(out, 3, QStringLiteral("<h3>") + rulebase.FileTitle() + QStringLiteral("</h3>"));
         line(out, 3, u"<h3>for</h3>");
-        line(out, 3, QStringLiteral("<h2>") + m_organisation.value_or(QString()) + QStringLiteral("</h2>"));
+        line(out,
+             3,
+             QStringLiteral("<h2>") + m_organisation.value_or(QString()) + QStringLiteral("</h2>"));
         line(out, 3, u"<br><br><br>");
         line(out, 3, QStringLiteral("<h3>Published: ") + date + QStringLiteral("</h3>"));
         line(out, 3, u"<br><br><br>");
@@ -302,7 +325,10 @@ bool RulebaseDocCreator::CreateContentsPage(QString &out, const Sections &sectio
         if (!WritePageTitle(out, QStringLiteral("Table Of Contents"), contentsAnchor))
             return false;
         line(out, 0, u"<!-- Table Of Contents Table -->");
-        line(out, 0, u"<table border=\"0\" cellpadding=\"0\" cellspacing=\"0\" width=\"100%\" height=\"500\">");
+        line(out,
+             0,
+             u"<table border=\"0\" cellpadding=\"0\" cellspacing=\"0\" width=\"100%\" "
+             u"height=\"500\">");
         line(out, 1, u"<tr>");
         line(out, 2, u"<td>");
         line(out, 3, u"<br>");
@@ -314,16 +340,21 @@ bool RulebaseDocCreator::CreateContentsPage(QString &out, const Sections &sectio
             const QString anchor = category ? MakeCatIDAttribute(category->Title())
                                    : table  ? TableAnchor(table->TableType())
                                             : QString();
-            line(out, 4, QStringLiteral("<li class=\"level1_li\"><a href=\"#") + anchor
-                             + QStringLiteral("\">") + section->Title() + QStringLiteral("</a></li>"));
+            line(out,
+                 4,
+                 QStringLiteral("<li class=\"level1_li\"><a href=\"#") + anchor
+                     + QStringLiteral("\">") + section->Title() + QStringLiteral("</a></li>"));
             if (!category)
                 continue;
             line(out, 5, u"<ul type=\"circle\">");
             const auto rules = category->CategoryRules();
             for (qint32 r = 1; r <= rules->Count(); ++r) {
                 const auto rule = rules->Item(r);
-                line(out, 6, QStringLiteral("<li class=\"level2_li\"><a href=\"#") + MakeRuleAnchor(rule->RuleID())
-                                 + QStringLiteral("\">") + rule->Title() + QStringLiteral("</a></li>"));
+                line(out,
+                     6,
+                     QStringLiteral("<li class=\"level2_li\"><a href=\"#")
+                         + MakeRuleAnchor(rule->RuleID()) + QStringLiteral("\">") + rule->Title()
+                         + QStringLiteral("</a></li>"));
             }
             line(out, 5, u"</ul>");
         }
@@ -337,7 +368,9 @@ bool RulebaseDocCreator::CreateContentsPage(QString &out, const Sections &sectio
     });
 }
 
-bool RulebaseDocCreator::CreateSectionPages(QString &out, const Rulebase &rulebase, const Sections &sections) const
+bool RulebaseDocCreator::CreateSectionPages(QString &out,
+                                            const Rulebase &rulebase,
+                                            const Sections &sections) const
 {
     return guarded("CreateSectionPages", module, false, [&] {
         for (qint32 i = 1; i <= sections.Count(); ++i) {
@@ -348,29 +381,43 @@ bool RulebaseDocCreator::CreateSectionPages(QString &out, const Rulebase &ruleba
                 switch (type) {
                 case 0:
                     SortTagList(*rulebase.ControlTags());
-                    ok = CreateTagsPage(out, *rulebase.ControlTags(), *table, TableAnchor(type),
-                                        QStringLiteral("Control"), 1);
+                    ok = CreateTagsPage(out,
+                                        *rulebase.ControlTags(),
+                                        *table,
+                                        TableAnchor(type),
+                                        QStringLiteral("Control"),
+                                        1);
                     break;
                 case 1:
                     SortTagList(*rulebase.DataTypeTags());
-                    ok = CreateTagsPage(out, *rulebase.DataTypeTags(), *table, TableAnchor(type),
-                                        QStringLiteral("Data Type"), 2, rulebase.ArrayTag());
+                    ok = CreateTagsPage(out,
+                                        *rulebase.DataTypeTags(),
+                                        *table,
+                                        TableAnchor(type),
+                                        QStringLiteral("Data Type"),
+                                        2,
+                                        rulebase.ArrayTag());
                     break;
                 case 2:
                     // Scope tags keep the order of their list.
-                    ok = CreateTagsPage(out, *rulebase.ScopeTags(), *table, TableAnchor(type),
-                                        QStringLiteral("Scope"), 3);
+                    ok = CreateTagsPage(out,
+                                        *rulebase.ScopeTags(),
+                                        *table,
+                                        TableAnchor(type),
+                                        QStringLiteral("Scope"),
+                                        3);
                     break;
                 case 3:
-                    ok = CreateAuthItemsPage(out, *table, TableAnchor(type), QStringLiteral("Component"),
-                                             rulebase);
+                    ok = CreateAuthItemsPage(
+                        out, *table, TableAnchor(type), QStringLiteral("Component"), rulebase);
                     break;
                 case 4:
-                    ok = CreateAuthItemsPage(out, *table, TableAnchor(type), QStringLiteral("Reference"),
-                                             rulebase);
+                    ok = CreateAuthItemsPage(
+                        out, *table, TableAnchor(type), QStringLiteral("Reference"), rulebase);
                     break;
                 case 5:
-                    ok = CreateSeverityDetailsPage(out, *table, TableAnchor(type), *rulebase.SeverityList());
+                    ok = CreateSeverityDetailsPage(
+                        out, *table, TableAnchor(type), *rulebase.SeverityList());
                     break;
                 default:
                     break; // a table this program does not know prints nothing
@@ -385,7 +432,9 @@ bool RulebaseDocCreator::CreateSectionPages(QString &out, const Rulebase &ruleba
     });
 }
 
-bool RulebaseDocCreator::CreateCategoryPage(QString &out, const Rulebase &rulebase, const CategoryItem &category) const
+bool RulebaseDocCreator::CreateCategoryPage(QString &out,
+                                            const Rulebase &rulebase,
+                                            const CategoryItem &category) const
 {
     if (!WritePageTitle(out, category.Title(), MakeCatIDAttribute(category.Title())))
         return false;
@@ -408,17 +457,27 @@ bool RulebaseDocCreator::CreateCategoryPage(QString &out, const Rulebase &ruleba
     line(out, 1, u"</tr>");
     line(out, 1, u"<tr valign=\"top\">");
     line(out, 2, u"<td>");
-    line(out, 3, u"<table align=\"center\" border=\"0\" cellpadding=\"0\" cellspacing=\"0\" width=\"98%\">");
+    line(
+        out,
+        3,
+        u"<table align=\"center\" border=\"0\" cellpadding=\"0\" cellspacing=\"0\" width=\"98%\">");
     const auto rules = category.CategoryRules();
     for (qint32 r = 1; r <= rules->Count(); ++r) {
         const IRule &rule = *rules->Item(r);
-        line(out, 4, QStringLiteral("<tr id=\"") + MakeRuleAnchor(rule.RuleID()) + QStringLiteral("\">"));
-        line(out, 5, QStringLiteral("<td width=\"80%\"><span class=\"rule_title\">") + rule.Title()
-                         + QStringLiteral("</span> <span class=\"rule_id\">[")
-                         + Text::zeroPadded(rule.RuleID(), 4) + QStringLiteral("]</span></td>"));
-        line(out, 5, QStringLiteral("<td align=\"left\" class=\"rule_title\" width=\"20%\">")
-                         + GetSeverityTitle(rule, severities) + QStringLiteral(" (")
-                         + QString::number(rule.ViolationDefinition()->Impact()) + QStringLiteral(")</td>"));
+        line(out,
+             4,
+             QStringLiteral("<tr id=\"") + MakeRuleAnchor(rule.RuleID()) + QStringLiteral("\">"));
+        line(out,
+             5,
+             QStringLiteral("<td width=\"80%\"><span class=\"rule_title\">") + rule.Title()
+                 + QStringLiteral("</span> <span class=\"rule_id\">[")
+                 + Text::zeroPadded(rule.RuleID(), 4) + QStringLiteral("]</span></td>"));
+        line(out,
+             5,
+             QStringLiteral("<td align=\"left\" class=\"rule_title\" width=\"20%\">")
+                 + GetSeverityTitle(rule, severities) + QStringLiteral(" (")
+                 + QString::number(rule.ViolationDefinition()->Impact())
+                 + QStringLiteral(")</td>"));
         line(out, 4, u"</tr>");
         line(out, 4, u"<tr>");
         line(out, 5, QStringLiteral("<td>") + rule.Description() + QStringLiteral("</td>"));
@@ -437,20 +496,27 @@ bool RulebaseDocCreator::CreateCategoryPage(QString &out, const Rulebase &ruleba
     return true;
 }
 
-void RulebaseDocCreator::WriteTablePageTop(QString &out, const TableItem &table, const QString &tableClass) const
+void RulebaseDocCreator::WriteTablePageTop(QString &out,
+                                           const TableItem &table,
+                                           const QString &tableClass) const
 {
     line(out, 0, u"<!-- Page Body Table -->");
     line(out, 0, u"<table border=\"0\" cellpadding=\"0\" cellspacing=\"0\" width=\"100%\">");
     line(out, 1, u"<tr>");
     line(out, 3, u"<td class=\"back_refs\">");
-    line(out, 4, QStringLiteral("<a href=\"#contents_page\">Table Of Contents</a> &gt; ") + table.TableTitle());
+    line(out,
+         4,
+         QStringLiteral("<a href=\"#contents_page\">Table Of Contents</a> &gt; ")
+             + table.TableTitle());
     line(out, 3, u"</td>");
     line(out, 1, u"</tr>");
     line(out, 1, u"<tr>");
     line(out, 2, u"<td>");
     line(out, 3, QStringLiteral("<br><p>") + table.TableText() + QStringLiteral("</p>"));
-    line(out, 3, QStringLiteral("<table align=\"center\" class=\"") + tableClass
-                     + QStringLiteral("\" cellspacing=\"0\">"));
+    line(out,
+         3,
+         QStringLiteral("<table align=\"center\" class=\"") + tableClass
+             + QStringLiteral("\" cellspacing=\"0\">"));
 }
 
 void RulebaseDocCreator::WriteTablePageBottom(QString &out) const
@@ -480,10 +546,15 @@ bool RulebaseDocCreator::CreateTagsPage(QString &out,
         line(out, 4, u"<tr>");
         if (kind == 1)
             line(out, 5, u"<th align=\"left\" width=\"30%\">Description</th>");
-        line(out, 5, QStringLiteral("<th align=\"left\" width=\"") + width + QStringLiteral("\">") + heading
-                         + QStringLiteral("</th>"));
+        line(out,
+             5,
+             QStringLiteral("<th align=\"left\" width=\"") + width + QStringLiteral("\">") + heading
+                 + QStringLiteral("</th>"));
         line(out, 5, u"<th align=\"left\" width=\"10%\">Tag</th>");
-        line(out, 5, QStringLiteral("<th align=\"left\" width=\"") + width + QStringLiteral("\">Examples</th>"));
+        line(out,
+             5,
+             QStringLiteral("<th align=\"left\" width=\"") + width
+                 + QStringLiteral("\">Examples</th>"));
         line(out, 4, u"</tr>");
         for (qint32 i = 1; i <= tags.Count(); ++i) {
             if (!CreateTagRow(out, *tags.Item(i), kind))
@@ -526,9 +597,11 @@ bool RulebaseDocCreator::CreateAuthItemsPage(QString &out,
         const bool components = table.TableType() == 3;
         WriteTablePageTop(out, table, QStringLiteral("authorised_items_table"));
         line(out, 4, u"<tr>");
-        line(out, 5, QStringLiteral("<th align=\"left\" width=\"")
-                         + (components ? QStringLiteral("25%") : QStringLiteral("30%")) + QStringLiteral("\">")
-                         + heading + QStringLiteral("</th>"));
+        line(out,
+             5,
+             QStringLiteral("<th align=\"left\" width=\"")
+                 + (components ? QStringLiteral("25%") : QStringLiteral("30%"))
+                 + QStringLiteral("\">") + heading + QStringLiteral("</th>"));
         line(out, 5, u"<th align=\"left\" width=\"20%\">Version(s)</th>");
         line(out, 5, u"<th align=\"left\">GUID</th>");
         line(out, 4, u"</tr>");
@@ -541,7 +614,8 @@ bool RulebaseDocCreator::CreateAuthItemsPage(QString &out,
     });
 }
 
-bool RulebaseDocCreator::AddAuthorisedComponents(QString &out, const ObjectArrayList<AuthorisedComponent> &list) const
+bool RulebaseDocCreator::AddAuthorisedComponents(
+    QString &out, const ObjectArrayList<AuthorisedComponent> &list) const
 {
     const QString cls = QStringLiteral("tbbordered_cell");
     for (qint32 i = 1; i <= list.Count(); ++i) {
@@ -555,7 +629,8 @@ bool RulebaseDocCreator::AddAuthorisedComponents(QString &out, const ObjectArray
     return true;
 }
 
-bool RulebaseDocCreator::AddAuthorisedReferences(QString &out, const ObjectArrayList<AuthorisedReference> &list) const
+bool RulebaseDocCreator::AddAuthorisedReferences(
+    QString &out, const ObjectArrayList<AuthorisedReference> &list) const
 {
     const QString cls = QStringLiteral("tbbordered_cell");
     for (qint32 i = 1; i <= list.Count(); ++i) {
@@ -569,10 +644,11 @@ bool RulebaseDocCreator::AddAuthorisedReferences(QString &out, const ObjectArray
     return true;
 }
 
-bool RulebaseDocCreator::CreateSeverityDetailsPage(QString &out,
-                                                   const TableItem &table,
-                                                   const QString &anchor,
-                                                   const ObjectKeyedArrayList<SeverityItem> &severities) const
+bool RulebaseDocCreator::CreateSeverityDetailsPage(
+    QString &out,
+    const TableItem &table,
+    const QString &anchor,
+    const ObjectKeyedArrayList<SeverityItem> &severities) const
 {
     return guarded("CreateSeverityDetailsPage", module, false, [&] {
         if (!WritePageTitle(out, table.TableTitle(), anchor))
@@ -585,8 +661,10 @@ bool RulebaseDocCreator::CreateSeverityDetailsPage(QString &out,
         for (qint32 i = 1; i <= severities.Count(); ++i) {
             const SeverityItem &severity = *severities.Item(i);
             line(out, 4, u"<tr>");
-            line(out, 5, QStringLiteral("<td class=\"tbbordered_cell\" valign=\"top\">") + severity.Title()
-                             + QStringLiteral("</td>"));
+            line(out,
+                 5,
+                 QStringLiteral("<td class=\"tbbordered_cell\" valign=\"top\">") + severity.Title()
+                     + QStringLiteral("</td>"));
             line(out, 5, cell(QStringLiteral("tbbordered_cell"), orNbsp(severity.Description())));
             line(out, 4, u"</tr>");
         }
@@ -599,11 +677,15 @@ bool RulebaseDocCreator::WriteFooter(QString &out) const
 {
     return guarded("WriteFooter", module, false, [&] {
         line(out, 0, u"<!-- Footer Table -->");
-        line(out, 0, u"<table border=\"0\" cellpadding=\"0\" cellspacing=\"0\" class=\"footer_table\">");
+        line(out,
+             0,
+             u"<table border=\"0\" cellpadding=\"0\" cellspacing=\"0\" class=\"footer_table\">");
         line(out, 1, u"<tr align=\"middle\">");
         line(out, 2, u"<td colspan=\"2\" class=\"footer_text\">");
-        line(out, 3, QStringLiteral("\u00A9 ") + QString::number(m_published.year()) + QLatin1Char(' ')
-                         + m_organisation.value_or(QString()) + QStringLiteral(". All rights reserved."));
+        line(out,
+             3,
+             QStringLiteral("\u00A9 ") + QString::number(m_published.year()) + QLatin1Char(' ')
+                 + m_organisation.value_or(QString()) + QStringLiteral(". All rights reserved."));
         line(out, 2, u"</td>");
         line(out, 1, u"</tr>");
         line(out, 0, u"</table>");
@@ -637,15 +719,19 @@ QString RulebaseDocCreator::MakeRuleAnchor(qint32 ruleID)
 
 QString RulebaseDocCreator::TableAnchor(qint32 tableType)
 {
-    static const char *const anchors[] = {"control_tags_page",          "data_type_tags_page",
-                                          "scope_tags_page",            "authorised_components_page",
-                                          "authorised_references_page", "severity_details_page"};
+    static const char *const anchors[] = {"control_tags_page",
+                                          "data_type_tags_page",
+                                          "scope_tags_page",
+                                          "authorised_components_page",
+                                          "authorised_references_page",
+                                          "severity_details_page"};
     if (tableType < 0 || tableType > 5)
         return QString();
     return QLatin1String(anchors[tableType]);
 }
 
-QString RulebaseDocCreator::GetSeverityTitle(const IRule &rule, const ObjectKeyedArrayList<SeverityItem> &severities)
+QString RulebaseDocCreator::GetSeverityTitle(const IRule &rule,
+                                             const ObjectKeyedArrayList<SeverityItem> &severities)
 {
     const qint32 level = rule.ViolationDefinition()->Severity();
     for (qint32 i = 1; i <= severities.Count(); ++i) {
@@ -663,25 +749,29 @@ void RulebaseDocCreator::SortTagList(TagList &tags)
     });
 }
 
-std::shared_ptr<ObjectArrayList<AuthorisedComponent>> RulebaseDocCreator::CreateAndSortACList(const Rulebase &rulebase)
+std::shared_ptr<ObjectArrayList<AuthorisedComponent>>
+RulebaseDocCreator::CreateAndSortACList(const Rulebase &rulebase)
 {
     auto list = std::make_shared<ObjectArrayList<AuthorisedComponent>>();
     const auto &components = *rulebase.AuthorisedComponents();
     for (qint32 i = 1; i <= components.Count(); ++i)
         list->Add(components.Item(i));
-    list->SortBy([](const std::shared_ptr<AuthorisedComponent> &a, const std::shared_ptr<AuthorisedComponent> &b) {
+    list->SortBy([](const std::shared_ptr<AuthorisedComponent> &a,
+                    const std::shared_ptr<AuthorisedComponent> &b) {
         return a->Filename().compare(b->Filename(), Qt::CaseInsensitive) < 0;
     });
     return list;
 }
 
-std::shared_ptr<ObjectArrayList<AuthorisedReference>> RulebaseDocCreator::CreateAndSortARList(const Rulebase &rulebase)
+std::shared_ptr<ObjectArrayList<AuthorisedReference>>
+RulebaseDocCreator::CreateAndSortARList(const Rulebase &rulebase)
 {
     auto list = std::make_shared<ObjectArrayList<AuthorisedReference>>();
     const auto &references = *rulebase.AuthorisedReferences();
     for (qint32 i = 1; i <= references.Count(); ++i)
         list->Add(references.Item(i));
-    list->SortBy([](const std::shared_ptr<AuthorisedReference> &a, const std::shared_ptr<AuthorisedReference> &b) {
+    list->SortBy([](const std::shared_ptr<AuthorisedReference> &a,
+                    const std::shared_ptr<AuthorisedReference> &b) {
         return a->Description().compare(b->Description(), Qt::CaseInsensitive) < 0;
     });
     return list;

@@ -50,7 +50,8 @@ private:
     bool CreateTitlePage(QString &out, const Rulebase &rulebase) const;
     bool CreateContentsPage(QString &out, const Sections &sections) const;
     bool CreateSectionPages(QString &out, const Rulebase &rulebase, const Sections &sections) const;
-    bool CreateCategoryPage(QString &out, const Rulebase &rulebase, const CategoryItem &category) const;
+    bool
+    CreateCategoryPage(QString &out, const Rulebase &rulebase, const CategoryItem &category) const;
     bool CreateTagsPage(QString &out,
                         const TagList &tags,
                         const TableItem &table,
@@ -64,8 +65,10 @@ private:
                              const QString &anchor,
                              const QString &heading,
                              const Rulebase &rulebase) const;
-    bool AddAuthorisedComponents(QString &out, const ObjectArrayList<AuthorisedComponent> &list) const;
-    bool AddAuthorisedReferences(QString &out, const ObjectArrayList<AuthorisedReference> &list) const;
+    bool AddAuthorisedComponents(QString &out,
+                                 const ObjectArrayList<AuthorisedComponent> &list) const;
+    bool AddAuthorisedReferences(QString &out,
+                                 const ObjectArrayList<AuthorisedReference> &list) const;
     bool CreateSeverityDetailsPage(QString &out,
                                    const TableItem &table,
                                    const QString &anchor,
@@ -81,11 +84,14 @@ private:
     static void GetStyleSheet(QString &out);
     static QString MakeCatIDAttribute(const QString &title);
     static QString MakeRuleAnchor(qint32 ruleID);
-    static QString GetSeverityTitle(const IRule &rule, const ObjectKeyedArrayList<SeverityItem> &severities);
+    static QString GetSeverityTitle(const IRule &rule,
+                                    const ObjectKeyedArrayList<SeverityItem> &severities);
     static QString TableAnchor(qint32 tableType);
     static void SortTagList(TagList &tags);
-    static std::shared_ptr<ObjectArrayList<AuthorisedComponent>> CreateAndSortACList(const Rulebase &rulebase);
-    static std::shared_ptr<ObjectArrayList<AuthorisedReference>> CreateAndSortARList(const Rulebase &rulebase);
+    static std::shared_ptr<ObjectArrayList<AuthorisedComponent>>
+    CreateAndSortACList(const Rulebase &rulebase);
+    static std::shared_ptr<ObjectArrayList<AuthorisedReference>>
+    CreateAndSortARList(const Rulebase &rulebase);
 
     std::optional<QString> m_organisation;
     QDate m_published;

@@ -31,16 +31,26 @@ struct TableDefinition
 };
 
 const TableDefinition tableDefinitions[] = {
-    {"1T", "Control Tags", "Control tags are the prefixes/suffixes that should be used when naming controls."},
-    {"2T", "Data Type Tags",
-     "Data type tags are the prefixes/suffixes that should be used when naming variables/constants."},
-    {"3T", "Scope Tags",
-     "Scope tags are the prefixes/suffixes that should be used to indicate the scope of the variable/constant."},
-    {"4T", "Authorised Components",
-     "The following components are authorised for use in projects. Approval must be obtained before using any "
+    {"1T",
+     "Control Tags",
+     "Control tags are the prefixes/suffixes that should be used when naming controls."},
+    {"2T",
+     "Data Type Tags",
+     "Data type tags are the prefixes/suffixes that should be used when naming "
+     "variables/constants."},
+    {"3T",
+     "Scope Tags",
+     "Scope tags are the prefixes/suffixes that should be used to indicate the scope of the "
+     "variable/constant."},
+    {"4T",
+     "Authorised Components",
+     "The following components are authorised for use in projects. Approval must be obtained "
+     "before using any "
      "other component."},
-    {"5T", "Authorised References",
-     "The following references are authorised for use in projects. Approval must be obtained before using any "
+    {"5T",
+     "Authorised References",
+     "The following references are authorised for use in projects. Approval must be obtained "
+     "before using any "
      "other reference."},
     {"6T", "Severity Details", ""},
 };
@@ -75,7 +85,8 @@ void RulebaseDocCreatorForm::setRulebase(std::shared_ptr<::Rulebase> rulebase)
     });
 }
 
-std::shared_ptr<CategoryItem> RulebaseDocCreatorForm::copyCategory(const CategoryItem &category) const
+std::shared_ptr<CategoryItem>
+RulebaseDocCreatorForm::copyCategory(const CategoryItem &category) const
 {
     auto copy = std::make_shared<CategoryItem>();
     copy->setTitle(category.Title());
@@ -117,7 +128,8 @@ void RulebaseDocCreatorForm::UpdateReportSections()
 
     const auto &categories = *m_rulebase->CategoryList();
     const auto visible = [&categories](qint32 id) {
-        return categories.ContainsID(id) && !categories.Item(CategoryList::CategoryIDToKey(id))->Hidden();
+        return categories.ContainsID(id)
+               && !categories.Item(CategoryList::CategoryIDToKey(id))->Hidden();
     };
 
     // Categories shown since the plan was stored come in at the end.
@@ -385,7 +397,9 @@ void RulebaseDocCreatorForm::EnableDisableRuleMoveButtons()
     m_moveRuleDown = selected && m_selectedRule < count - 1;
 }
 
-void RulebaseDocCreatorForm::MoveListItem(std::vector<DocCreatorRow> &rows, int &selected, int offset)
+void RulebaseDocCreatorForm::MoveListItem(std::vector<DocCreatorRow> &rows,
+                                          int &selected,
+                                          int offset)
 {
     const DocCreatorRow row = rows[std::size_t(selected)];
     rows.erase(rows.begin() + selected);
@@ -534,7 +548,8 @@ bool RulebaseDocCreatorForm::Cancel()
 {
     return guarded("cmdCancel_Click", module, false, [&] {
         if (DocHasChanged()
-            && askYesNo(QStringLiteral("Document content has changed. Continue without saving changes?"))
+            && askYesNo(
+                   QStringLiteral("Document content has changed. Continue without saving changes?"))
                    == MessageResult::No)
             return false;
         RestorePlan();

@@ -20,7 +20,7 @@ struct DocCreatorRow
     QString text;
     QString subItem; // rules: the rule's title
     QString image;
-    QString tag; // sections: "C" for a category, "T" for a table
+    QString tag;          // sections: "C" for a category, "T" for a table
     bool checked = false; // tables: the table stands in the document
 };
 
@@ -45,7 +45,8 @@ public:
     void PopulateTablesList();
     // New active rules of the category join the section at its end; rules no longer active
     // in it leave. The section's own order stands.
-    static void ReconcileRules(ObjectArrayList<IRule> &sectionRules, const ObjectArrayList<IRule> &categoryRules);
+    static void ReconcileRules(ObjectArrayList<IRule> &sectionRules,
+                               const ObjectArrayList<IRule> &categoryRules);
     // The plan's order, or any section's rules, changed since the rulebase was set.
     bool DocHasChanged() const;
 

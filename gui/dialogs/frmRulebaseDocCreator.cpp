@@ -119,7 +119,8 @@ void frmRulebaseDocCreator::buildWidgets()
     }
     auto *rulesFrame = new QGroupBox(QStringLiteral("Rules"));
     rulesFrame->setObjectName(QStringLiteral("fraRules"));
-    m_rules = rowList(QStringLiteral("lvwRules"), {QStringLiteral("Rule ID"), QStringLiteral("Rule Title")});
+    m_rules = rowList(QStringLiteral("lvwRules"),
+                      {QStringLiteral("Rule ID"), QStringLiteral("Rule Title")});
     m_rules->setColumnWidth(0, 80);
     m_ruleDescription = readOnlyText(QStringLiteral("txtRuleDescription"));
     m_moveRuleUp = button(QStringLiteral("cmdMoveRuleUp"), QStringLiteral("Move Up"));
@@ -242,7 +243,10 @@ void frmRulebaseDocCreator::buildWidgets()
     connect(help, &QPushButton::clicked, this, &frmRulebaseDocCreator::showHelp);
 }
 
-void frmRulebaseDocCreator::fillTree(QTreeWidget *tree, const std::vector<DocCreatorRow> &rows, int selected, bool rules)
+void frmRulebaseDocCreator::fillTree(QTreeWidget *tree,
+                                     const std::vector<DocCreatorRow> &rows,
+                                     int selected,
+                                     bool rules)
 {
     // Rebuilt only when the rows differ, so that scrolling and focus survive a plain click.
     bool same = tree->topLevelItemCount() == int(rows.size());

@@ -40,7 +40,8 @@ private:
     void buildWidgets();
     // Brings every widget up to the model's state; the widgets' own signals stay quiet meanwhile.
     void refresh();
-    void fillTree(QTreeWidget *tree, const std::vector<DocCreatorRow> &rows, int selected, bool rules);
+    void
+    fillTree(QTreeWidget *tree, const std::vector<DocCreatorRow> &rows, int selected, bool rules);
     void showHelp();
 
     RulebaseDocCreatorForm &m_form;

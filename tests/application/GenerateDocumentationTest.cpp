@@ -133,7 +133,8 @@ TEST_F(GenerateDocumentationTest, CancelledOrAlreadyGeneratedAsksNothing)
     app.GenerateDocumentation();
     EXPECT_EQ(factory.runs, 1);
     EXPECT_EQ(ui.messageTexts(),
-              QStringList{QStringLiteral("Document content has changed. Continue without saving changes?")});
+              QStringList{QStringLiteral(
+                  "Document content has changed. Continue without saving changes?")});
     EXPECT_FALSE(QFile::exists(document));
 
     factory.script = [](RulebaseDocCreatorForm &form) {

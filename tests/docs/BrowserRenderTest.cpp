@@ -77,15 +77,20 @@ TEST(BrowserRender, EveryLinkOfTheSampleDocumentReachesItsAnchor)
     const QString page = folder + QStringLiteral("/check.html");
     QFile check(page);
     ASSERT_TRUE(check.open(QIODevice::WriteOnly));
-    check.write(QByteArray(checkPage).replace("DOCUMENT", QUrl::fromLocalFile(document).fileName().toUtf8()));
+    check.write(QByteArray(checkPage).replace("DOCUMENT",
+                                              QUrl::fromLocalFile(document).fileName().toUtf8()));
     check.close();
 
     QProcess browser;
-    browser.start(chromium, {QStringLiteral("--headless"), QStringLiteral("--no-sandbox"),
-                             QStringLiteral("--disable-gpu"), QStringLiteral("--allow-file-access-from-files"),
-                             QStringLiteral("--user-data-dir=") + folder + QStringLiteral("/profile"),
-                             QStringLiteral("--virtual-time-budget=10000"), QStringLiteral("--dump-dom"),
-                             QUrl::fromLocalFile(page).toString()});
+    browser.start(chromium,
+                  {QStringLiteral("--headless"),
+                   QStringLiteral("--no-sandbox"),
+                   QStringLiteral("--disable-gpu"),
+                   QStringLiteral("--allow-file-access-from-files"),
+                   QStringLiteral("--user-data-dir=") + folder + QStringLiteral("/profile"),
+                   QStringLiteral("--virtual-time-budget=10000"),
+                   QStringLiteral("--dump-dom"),
+                   QUrl::fromLocalFile(page).toString()});
     ASSERT_TRUE(browser.waitForFinished(120000)) << "the browser did not finish";
     const QString dom = QString::fromUtf8(browser.readAllStandardOutput());
     const QRegularExpression result(QStringLiteral("<pre id=\"result\">(.*?)</pre>"),

@@ -21,7 +21,8 @@ namespace DocTestSupport {
 
 namespace {
 
-std::shared_ptr<CategoryItem> category(Rulebase &rulebase, const QString &title, const QString &description)
+std::shared_ptr<CategoryItem>
+category(Rulebase &rulebase, const QString &title, const QString &description)
 {
     auto item = std::make_shared<CategoryItem>();
     item->setTitle(title);
@@ -31,8 +32,12 @@ std::shared_ptr<CategoryItem> category(Rulebase &rulebase, const QString &title,
 }
 
 template<typename Rule>
-std::shared_ptr<Rule> rule(Rulebase &rulebase, const QString &title, const QString &description,
-                           qint32 categoryID, qint32 severity, qint16 impact)
+std::shared_ptr<Rule> rule(Rulebase &rulebase,
+                           const QString &title,
+                           const QString &description,
+                           qint32 categoryID,
+                           qint32 severity,
+                           qint16 impact)
 {
     auto item = std::make_shared<Rule>();
     item->setTitle(title);
@@ -44,8 +49,11 @@ std::shared_ptr<Rule> rule(Rulebase &rulebase, const QString &title, const QStri
     return item;
 }
 
-void tag(ObjectKeyedArrayList<TagItem> &list, const QString &name, const QString &value,
-         const QString &description, const QString &example)
+void tag(ObjectKeyedArrayList<TagItem> &list,
+         const QString &name,
+         const QString &value,
+         const QString &description,
+         const QString &example)
 {
     auto item = std::make_shared<TagItem>();
     item->setTagName(name);
@@ -55,7 +63,8 @@ void tag(ObjectKeyedArrayList<TagItem> &list, const QString &name, const QString
     list.Add(name, item, false, true);
 }
 
-std::shared_ptr<TableItem> table(qint32 type, const QString &key, const QString &title, const QString &text)
+std::shared_ptr<TableItem>
+table(qint32 type, const QString &key, const QString &title, const QString &text)
 {
     auto item = std::make_shared<TableItem>();
     item->setTableType(type);
@@ -76,42 +85,85 @@ std::shared_ptr<Rulebase> smallRulebase(const QString &folder)
     rulebase->setArrayTag(QStringLiteral("a"));
     rulebase->setFilename(folder + QStringLiteral("/Depot.qrb"));
 
-    const auto errors = category(*rulebase, QStringLiteral("Error Handling"),
+    const auto errors = category(*rulebase,
+                                 QStringLiteral("Error Handling"),
                                  QStringLiteral("Trapping and logging of errors."));
-    const auto naming = category(*rulebase, QStringLiteral("Naming & Style"), QStringLiteral("Names."));
+    const auto naming
+        = category(*rulebase, QStringLiteral("Naming & Style"), QStringLiteral("Names."));
     const auto empty = category(*rulebase, QStringLiteral("Empty"), QString());
 
-    const auto handler = rule<CodingConvention>(*rulebase, QStringLiteral("Error handler required"),
-                                                QStringLiteral("Every public procedure has an error handler."),
-                                                errors->ID(), 1, 500);
-    const auto resume = rule<UnauthorisedKeyword>(*rulebase, QStringLiteral("No Resume Next"),
-                                                  QStringLiteral("<b>On Error Resume Next</b> hides errors."),
-                                                  errors->ID(), 99, 250);
-    const auto prefix = rule<NamingConvention>(*rulebase, QStringLiteral("Form prefix"),
-                                               QStringLiteral("Forms start with frm."), naming->ID(), 3, 10);
+    const auto handler
+        = rule<CodingConvention>(*rulebase,
+                                 QStringLiteral("Error handler required"),
+                                 QStringLiteral("Every public procedure has an error handler."),
+                                 errors->ID(),
+                                 1,
+                                 500);
+    const auto resume
+        = rule<UnauthorisedKeyword>(*rulebase,
+                                    QStringLiteral("No Resume Next"),
+                                    QStringLiteral("<b>On Error Resume Next</b> hides errors."),
+                                    errors->ID(),
+                                    99,
+                                    250);
+    const auto prefix = rule<NamingConvention>(*rulebase,
+                                               QStringLiteral("Form prefix"),
+                                               QStringLiteral("Forms start with frm."),
+                                               naming->ID(),
+                                               3,
+                                               10);
 
     auto &controlTags = *rulebase->ControlTags();
     controlTags.Clear();
-    tag(controlTags, QStringLiteral("VB.TextBox"), QStringLiteral("txt"), QStringLiteral("Text box"),
+    tag(controlTags,
+        QStringLiteral("VB.TextBox"),
+        QStringLiteral("txt"),
+        QStringLiteral("Text box"),
         QStringLiteral("txtName"));
-    tag(controlTags, QStringLiteral("VB.CommandButton"), QStringLiteral("cmd"), QString(), QString());
+    tag(controlTags,
+        QStringLiteral("VB.CommandButton"),
+        QStringLiteral("cmd"),
+        QString(),
+        QString());
     auto &dataTypeTags = *rulebase->DataTypeTags();
     dataTypeTags.Clear();
-    tag(dataTypeTags, QStringLiteral("String"), QStringLiteral("s"), QString(), QStringLiteral("sName"));
-    tag(dataTypeTags, QStringLiteral("Long"), QStringLiteral("l"), QString(), QStringLiteral("lCount"));
+    tag(dataTypeTags,
+        QStringLiteral("String"),
+        QStringLiteral("s"),
+        QString(),
+        QStringLiteral("sName"));
+    tag(dataTypeTags,
+        QStringLiteral("Long"),
+        QStringLiteral("l"),
+        QString(),
+        QStringLiteral("lCount"));
     auto &scopeTags = *rulebase->ScopeTags();
     scopeTags.Clear();
-    tag(scopeTags, QStringLiteral("Module"), QStringLiteral("m"), QString(), QStringLiteral("msName"));
+    tag(scopeTags,
+        QStringLiteral("Module"),
+        QStringLiteral("m"),
+        QString(),
+        QStringLiteral("msName"));
     tag(scopeTags, QStringLiteral("Global"), QStringLiteral("g"), QString(), QString());
 
-    rulebase->AuthorisedComponents()->Add(QStringLiteral("{B-GUID}"), QStringLiteral("mscomctl.ocx"),
-                                          QStringLiteral("2.0"), QString());
-    rulebase->AuthorisedComponents()->Add(QStringLiteral("{A-GUID}"), QStringLiteral("Grid.ocx"),
-                                          QStringLiteral("1.0|1.1"), QString());
-    rulebase->AuthorisedReferences()->Add(QStringLiteral("{D-GUID}"), QStringLiteral("Scripting Runtime"),
-                                          QStringLiteral("scrrun.dll"), QStringLiteral("1.0"), QString());
-    rulebase->AuthorisedReferences()->Add(QStringLiteral("{C-GUID}"), QStringLiteral("ADO 2.8"),
-                                          QStringLiteral("msado15.dll"), QString(), QString());
+    rulebase->AuthorisedComponents()->Add(QStringLiteral("{B-GUID}"),
+                                          QStringLiteral("mscomctl.ocx"),
+                                          QStringLiteral("2.0"),
+                                          QString());
+    rulebase->AuthorisedComponents()->Add(QStringLiteral("{A-GUID}"),
+                                          QStringLiteral("Grid.ocx"),
+                                          QStringLiteral("1.0|1.1"),
+                                          QString());
+    rulebase->AuthorisedReferences()->Add(QStringLiteral("{D-GUID}"),
+                                          QStringLiteral("Scripting Runtime"),
+                                          QStringLiteral("scrrun.dll"),
+                                          QStringLiteral("1.0"),
+                                          QString());
+    rulebase->AuthorisedReferences()->Add(QStringLiteral("{C-GUID}"),
+                                          QStringLiteral("ADO 2.8"),
+                                          QStringLiteral("msado15.dll"),
+                                          QString(),
+                                          QString());
 
     auto &sections = *rulebase->Report()->Sections();
     const auto errorsPage = std::make_shared<CategoryItem>();
@@ -132,11 +184,20 @@ std::shared_ptr<Rulebase> smallRulebase(const QString &folder)
     emptyPage->setTitle(empty->Title());
     emptyPage->setID(empty->ID());
     sections.Add(emptyPage);
-    sections.Add(table(0, QStringLiteral("1T"), QStringLiteral("Control Tags"), QStringLiteral("Control tags.")));
-    sections.Add(table(1, QStringLiteral("2T"), QStringLiteral("Data Type Tags"), QStringLiteral("Data tags.")));
-    sections.Add(table(2, QStringLiteral("3T"), QStringLiteral("Scope Tags"), QStringLiteral("Scope tags.")));
-    sections.Add(table(3, QStringLiteral("4T"), QStringLiteral("Authorised Components"), QStringLiteral("Components.")));
-    sections.Add(table(4, QStringLiteral("5T"), QStringLiteral("Authorised References"), QStringLiteral("References.")));
+    sections.Add(table(
+        0, QStringLiteral("1T"), QStringLiteral("Control Tags"), QStringLiteral("Control tags.")));
+    sections.Add(table(
+        1, QStringLiteral("2T"), QStringLiteral("Data Type Tags"), QStringLiteral("Data tags.")));
+    sections.Add(table(
+        2, QStringLiteral("3T"), QStringLiteral("Scope Tags"), QStringLiteral("Scope tags.")));
+    sections.Add(table(3,
+                       QStringLiteral("4T"),
+                       QStringLiteral("Authorised Components"),
+                       QStringLiteral("Components.")));
+    sections.Add(table(4,
+                       QStringLiteral("5T"),
+                       QStringLiteral("Authorised References"),
+                       QStringLiteral("References.")));
     sections.Add(table(5, QStringLiteral("6T"), QStringLiteral("Severity Details"), QString()));
     return rulebase;
 }

@@ -37,8 +37,10 @@ QString writeDocument(const Rulebase &rulebase)
 
 QString expectedDocument(const QString &name)
 {
-    QString text = readDocument(TestEnvironment::sourceDir() + QStringLiteral("/tests/docs/expected/") + name);
-    return text.replace(QStringLiteral("{DATE}"), QLocale::system().toString(publishedDate(), QLocale::LongFormat));
+    QString text = readDocument(TestEnvironment::sourceDir()
+                                + QStringLiteral("/tests/docs/expected/") + name);
+    return text.replace(QStringLiteral("{DATE}"),
+                        QLocale::system().toString(publishedDate(), QLocale::LongFormat));
 }
 
 // With the log in place, so that a failure reaches the error box as in the program.
@@ -66,7 +68,8 @@ TEST(RulebaseDocCreator, WritesTheSmallRulebaseLineForLine)
     EXPECT_EQ(bytes.count("\n"), bytes.count("\r\n"));
 
     const QStringList actual = readDocument(filename).split(QStringLiteral("\r\n"));
-    const QStringList expected = expectedDocument(QStringLiteral("SmallDocument.html")).split(QStringLiteral("\r\n"));
+    const QStringList expected
+        = expectedDocument(QStringLiteral("SmallDocument.html")).split(QStringLiteral("\r\n"));
     ASSERT_FALSE(expected.isEmpty());
     for (qsizetype i = 0; i < std::min(actual.size(), expected.size()); ++i)
         ASSERT_EQ(actual.at(i), expected.at(i)) << "line " << i + 1;
@@ -76,11 +79,14 @@ TEST(RulebaseDocCreator, WritesTheSmallRulebaseLineForLine)
 
 TEST(RulebaseDocCreator, NamesTheDocumentAfterTheRulebase)
 {
-    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team.qrb")), QStringLiteral("/data/Team.html"));
+    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team.qrb")),
+              QStringLiteral("/data/Team.html"));
     EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team.v2.qrb")),
               QStringLiteral("/data/Team.v2.html"));
-    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team.")), QStringLiteral("/data/Team.html"));
-    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team")), QStringLiteral("/data/Team"));
+    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team.")),
+              QStringLiteral("/data/Team.html"));
+    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team")),
+              QStringLiteral("/data/Team"));
     EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QString()), QString());
 }
 
@@ -99,7 +105,8 @@ TEST_F(RulebaseDocCreatorWithLog, NeverWritesOverTheRulebaseItselfNorWithoutAFil
     EXPECT_TRUE(writeDocument(*rulebase).isEmpty());
     EXPECT_EQ(readBytes(bare), QByteArray("<Quorin_Rulebase/>"));
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_TRUE(ui.messages.back().text.contains(QStringLiteral("would replace the rulebase itself")));
+    EXPECT_TRUE(
+        ui.messages.back().text.contains(QStringLiteral("would replace the rulebase itself")));
 
     // An unsaved rulebase has no place for its document.
     rulebase->setFilename(QString());
@@ -116,11 +123,14 @@ TEST(RulebaseDocCreator, AnEmptyPlanGivesTitleContentsAndFooter)
     rulebase->Report()->Sections()->Clear();
     const QString text = readDocument(writeDocument(*rulebase));
     EXPECT_TRUE(text.contains(QStringLiteral("<h2>Tarnwick Freight</h2>")));
-    EXPECT_TRUE(text.contains(QStringLiteral("            <ul type=\"square\">\r\n            </ul>\r\n")));
-    EXPECT_TRUE(text.contains(QStringLiteral("\u00A9 2024 Tarnwick Freight. All rights reserved.")));
+    EXPECT_TRUE(
+        text.contains(QStringLiteral("            <ul type=\"square\">\r\n            </ul>\r\n")));
+    EXPECT_TRUE(
+        text.contains(QStringLiteral("\u00A9 2024 Tarnwick Freight. All rights reserved.")));
     EXPECT_FALSE(text.contains(QStringLiteral("Page Body Table")));
     EXPECT_FALSE(text.contains(QStringLiteral("<!-- Category:")));
-    EXPECT_TRUE(text.endsWith(QStringLiteral("<!-- End Of Footer Table -->\r\n\r\n\r\n</body>\r\n</html>\r\n")));
+    EXPECT_TRUE(text.endsWith(
+        QStringLiteral("<!-- End Of Footer Table -->\r\n\r\n\r\n</body>\r\n</html>\r\n")));
 }
 
 TEST(RulebaseDocCreator, CopiesTextsAsTheyStandAndEncodesWhatTheCodePageLacks)
@@ -128,7 +138,8 @@ TEST(RulebaseDocCreator, CopiesTextsAsTheyStandAndEncodesWhatTheCodePageLacks)
     ScriptedUserInterface ui;
     const QString folder = TestEnvironment::makeTempDir();
     const auto rulebase = smallRulebase(folder);
-    const auto page = std::dynamic_pointer_cast<CategoryItem>(rulebase->Report()->Sections()->Item(1));
+    const auto page
+        = std::dynamic_pointer_cast<CategoryItem>(rulebase->Report()->Sections()->Item(1));
     page->setTitle(QStringLiteral("Z\u00FCrich & <Co>"));
     rulebase->setDescription(QStringLiteral("Costs \u20AC; \u6F22 and \U0001F600."));
     const auto rule = page->CategoryRules()->Item(2);
@@ -160,7 +171,8 @@ TEST(RulebaseDocCreator, SortsTheTagSetsInPlaceButNotTheAuthorisedItems)
     EXPECT_EQ(rulebase->ControlTags()->Key(1), QStringLiteral("VB.CommandButton"));
     EXPECT_EQ(rulebase->DataTypeTags()->Key(1), QStringLiteral("Long"));
     EXPECT_EQ(rulebase->ScopeTags()->Key(1), QStringLiteral("Module"));
-    EXPECT_EQ(rulebase->AuthorisedComponents()->Item(1)->Filename(), QStringLiteral("mscomctl.ocx"));
+    EXPECT_EQ(rulebase->AuthorisedComponents()->Item(1)->Filename(),
+              QStringLiteral("mscomctl.ocx"));
 }
 
 TEST(RulebaseDocCreator, RepeatedSectionsAndAnchorsAreWrittenAsTheyCome)
@@ -202,7 +214,8 @@ TEST_F(RulebaseDocCreatorWithLog, AFolderThatCannotBeWrittenLeavesTheOldDocument
     EXPECT_EQ(readBytes(filename), before);
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Unexpected Error"));
-    EXPECT_TRUE(ui.messages[0].text.contains(QStringLiteral("Can't write the document '") + filename));
+    EXPECT_TRUE(
+        ui.messages[0].text.contains(QStringLiteral("Can't write the document '") + filename));
     EXPECT_TRUE(ui.messages[0].text.contains(QStringLiteral("module clsStandardsDocCreator")));
 }
 
@@ -230,7 +243,8 @@ TEST(RulebaseDocCreator, TakesTheRememberedOrganisationOrAsksOnce)
     EXPECT_TRUE(RulebaseDocCreator().CreateDocumentation(*rulebase, filename));
     EXPECT_EQ(ui.textPrompts.size(), 2);
     EXPECT_TRUE(readDocument(filename).contains(
-        QStringLiteral("\u00A9 %1 Harbour Lines. All rights reserved.").arg(QDate::currentDate().year())));
+        QStringLiteral("\u00A9 %1 Harbour Lines. All rights reserved.")
+            .arg(QDate::currentDate().year())));
     EXPECT_TRUE(ui.messages.empty());
     DestroyGlobalObjects();
 }

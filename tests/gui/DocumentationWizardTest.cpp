@@ -84,7 +84,8 @@ TEST(DocumentationWizard, OpensFromTheMainWindowAndHandsThePlanBack)
             for (int i = 0; i < tables->count(); ++i)
                 checkedTables += tables->item(i)->checkState() == Qt::Checked ? 1 : 0;
             firstSection = sections->topLevelItem(0)->text(0);
-            upEnabledAtTop = wizard->findChild<QPushButton *>(QStringLiteral("cmdMoveSectionUp"))->isEnabled();
+            upEnabledAtTop
+                = wizard->findChild<QPushButton *>(QStringLiteral("cmdMoveSectionUp"))->isEnabled();
             wizard->findChild<QPushButton *>(QStringLiteral("cmdMoveSectionDown"))->click();
             secondSectionAfterMove = sections->topLevelItem(1)->text(0);
             tableTitle = wizard->findChild<QLineEdit *>(QStringLiteral("txtTitle"))->text();
@@ -108,8 +109,9 @@ TEST(DocumentationWizard, OpensFromTheMainWindowAndHandsThePlanBack)
         EXPECT_EQ(secondSectionAfterMove, QStringLiteral("Naming"));
         EXPECT_EQ(tableTitle, QStringLiteral("Control Tags"));
         EXPECT_EQ(openWizard(), nullptr);
-        EXPECT_EQ(ui.messageTexts(),
-                  QStringList{QStringLiteral("Do you wish to generate the Rulebase documentation?")});
+        EXPECT_EQ(
+            ui.messageTexts(),
+            QStringList{QStringLiteral("Do you wish to generate the Rulebase documentation?")});
         EXPECT_FALSE(QFile::exists(folder + QStringLiteral("/Sample.html")));
         // The plan the dialog left is the rulebase's now, moved section and all.
         EXPECT_TRUE(app.rulebase()->Dirty());
