@@ -7,6 +7,7 @@
 
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QTextStream>
 #include <QUrl>
@@ -188,4 +189,15 @@ bool GuiUserInterface::shellOpen(const QString &document)
         return false;
     const QUrl url = document.contains(QLatin1String("://")) ? QUrl(document) : QUrl::fromLocalFile(document);
     return QDesktopServices::openUrl(url);
+}
+
+bool GuiUserInterface::getText(const QString &prompt, const QString &title, QString &value)
+{
+    if (!m_interactive)
+        return false;
+    bool ok = false;
+    const QString answer = QInputDialog::getText(m_parent, title, prompt, QLineEdit::Normal, value, &ok);
+    if (ok)
+        value = answer;
+    return ok;
 }

@@ -22,6 +22,7 @@ public:
     bool getSaveFilename(FileDialogRequest &request) override;
     void showHelp(HelpCommand command, const QString &topic, int context) override;
     bool shellOpen(const QString &document) override;
+    bool getText(const QString &prompt, const QString &title, QString &value) override;
 
     // "Quorin Rulebases (*.qrb)|*.qrb|All Files (*.*)|*.*" in the form Qt's dialogs take.
     static QString qtFilter(int fileType, bool forSave);

@@ -2,11 +2,13 @@
 
 #include "application/IMainForm.h"
 #include "collections/ObjectKeyedListAdapter.h"
+#include "docs/RulebaseDocCreator.h"
 #include "editors/CategorySeverityForm.h"
-#include "editors/FormLauncher.h"
 #include "editors/DefaultViolationsForm.h"
+#include "editors/FormLauncher.h"
 #include "editors/IConventionForm.h"
 #include "editors/IFormFactory.h"
+#include "editors/RulebaseDocCreatorForm.h"
 #include "editors/RulebasePropertiesForm.h"
 #include "editors/TagListForm.h"
 #include "platform/ErrorFrame.h"
@@ -334,7 +336,10 @@ void Application::HelpTarnTechSupport()
 
 void Application::ShellDocumentFile(const QString &document)
 {
-    UserInterface::current().shellOpen(document);
+    // Where the desktop has no handler for the type there is no chooser to offer here; the
+    // person at least learns where the document is.
+    if (!UserInterface::current().shellOpen(document))
+        showWarning(QStringLiteral("No program could be found to open '%1'.").arg(document));
 }
 
 void Application::ShowCategoryList()
@@ -509,4 +514,36 @@ void Application::NewAuthorisedReference()
     });
 }
 
-void Application::GenerateDocumentation() {}
+void Application::GenerateDocumentation()
+{
+    guardedVoid("GenerateDocumentation", module, [this] {
+        if (!m_rulebase)
+            return;
+        bool cancelled = false;
+        bool generated = false;
+        {
+            RulebaseDocCreatorForm form;
+            form.setRulebase(m_rulebase);
+            // Without a dialog to show, the plan stays as it was found.
+            if (!IFormFactory::current().runDocCreator(form) && !form.Cancelled())
+                form.RestorePlan();
+            cancelled = form.Cancelled();
+            generated = form.Generated();
+        }
+        if (cancelled || generated)
+            return;
+        if (askYesNo(QStringLiteral("Do you wish to generate the Rulebase documentation?")) != MessageResult::Yes)
+            return;
+        // Asked before the hourglass, which would otherwise stand over the question.
+        QString organisation;
+        if (!RulebaseDocCreator::ResolveOrganisation(organisation))
+            return;
+        m_mainForm->SetBusy(true);
+        RulebaseDocCreator writer;
+        writer.setOrganisation(organisation);
+        QString document;
+        if (writer.CreateDocumentation(*m_rulebase, document))
+            ShellDocumentFile(document);
+    });
+    m_mainForm->SetBusy(false);
+}

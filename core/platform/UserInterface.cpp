@@ -39,6 +39,11 @@ UserInterface::~UserInterface() = default;
 
 void UserInterface::addToRecentDocs(const QString &) {}
 
+bool UserInterface::getText(const QString &, const QString &, QString &)
+{
+    return false;
+}
+
 UserInterface &UserInterface::current()
 {
     return installed ? *installed : headless;

@@ -36,6 +36,9 @@ public:
     // Opens a document or address with the desktop's handler; false when nothing could.
     virtual bool shellOpen(const QString &document) = 0;
     virtual void addToRecentDocs(const QString &filename);
+    // Asks for one line of text, `value` holding the proposal and then the answer; false when
+    // the person declined (and always here, where nobody can be asked).
+    virtual bool getText(const QString &prompt, const QString &title, QString &value);
 
     // The process-wide interface; a headless one (stderr, default answers) until one is installed.
     static UserInterface &current();

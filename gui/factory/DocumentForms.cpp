@@ -1,3 +1,10 @@
 #include "gui/factory/GuiFormFactory.h"
 
-bool GuiFormFactory::runDocCreator(RulebaseDocCreatorForm &form) { return IFormFactory::runDocCreator(form); }
+#include "editors/RulebaseDocCreatorForm.h"
+#include "gui/dialogs/frmRulebaseDocCreator.h"
+
+bool GuiFormFactory::runDocCreator(RulebaseDocCreatorForm &form)
+{
+    frmRulebaseDocCreator dialog(form, parentWidget());
+    return dialog.exec() == QDialog::Accepted;
+}

@@ -73,6 +73,19 @@ void ScriptedUserInterface::addToRecentDocs(const QString &filename)
     recentDocs << filename;
 }
 
+bool ScriptedUserInterface::getText(const QString &prompt, const QString &, QString &value)
+{
+    textPrompts << prompt;
+    if (textAnswers.empty())
+        return false;
+    const std::optional<QString> answer = textAnswers.front();
+    textAnswers.pop_front();
+    if (!answer)
+        return false;
+    value = *answer;
+    return true;
+}
+
 QStringList ScriptedUserInterface::messageTexts() const
 {
     QStringList texts;

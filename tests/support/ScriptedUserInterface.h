@@ -40,6 +40,7 @@ public:
     void showHelp(HelpCommand command, const QString &topic, int context) override;
     bool shellOpen(const QString &document) override;
     void addToRecentDocs(const QString &filename) override;
+    bool getText(const QString &prompt, const QString &title, QString &value) override;
 
     QStringList messageTexts() const;
 
@@ -49,11 +50,14 @@ public:
     // Paths chosen in file dialogs, in order; nullopt or an empty script means Cancel.
     std::deque<std::optional<QString>> openAnswers;
     std::deque<std::optional<QString>> saveAnswers;
+    // Answers to text prompts, in order; nullopt or an empty script means Cancel.
+    std::deque<std::optional<QString>> textAnswers;
 
     std::vector<ShownMessage> messages;
     std::vector<FileDialogRequest> fileRequests;
     std::vector<HelpRequest> helpRequests;
     QStringList opened;
     QStringList recentDocs;
+    QStringList textPrompts;
     int unscriptedQuestions = 0;
 };

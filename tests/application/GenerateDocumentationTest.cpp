@@ -1,0 +1,182 @@
+#include "application/Application.h"
+#include "application/IMainForm.h"
+#include "editors/IFormFactory.h"
+#include "editors/RulebaseDocCreatorForm.h"
+#include "platform/GlobalObjects.h"
+#include "platform/QuorinAdminData.h"
+#include "rulebase/Report.h"
+#include "rulebase/Rulebase.h"
+
+#include "support/ScriptedUserInterface.h"
+#include "support/TestEnvironment.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace {
+
+// Only what the command asks of the window: the hourglass.
+class BusyRecordingForm final : public IMainForm
+{
+public:
+    void Update() override {}
+    void AddToMRUList(const QString &) override {}
+    void RemoveFromMRUList(const QString &) override {}
+    void SetCurrentViewTool(const QString &) override {}
+    void SetHelpContext(int) override {}
+    void SetBusy(bool busy) override { busyCalls.push_back(busy); }
+    void ShowSplashScreen() override {}
+    void ShowWindow() override {}
+    int RunTipOfDay(int lastTip) override { return lastTip; }
+    void RunAbout() override {}
+    TreeControl *tree() override { return nullptr; }
+    ListControl *list() override { return nullptr; }
+    void setDocumentation(const QString &) override {}
+    void setStatusText(const QString &) override {}
+    void setTreeTitle(const QString &) override {}
+    void setListTitle(const QString &) override {}
+    void setListHeaderImage(const QString &) override {}
+    void setNoItemsVisible(bool) override {}
+    void setToolEnabled(const QString &, bool) override {}
+
+    std::vector<bool> busyCalls;
+};
+
+// Runs the wizard as a person would, through the form's own buttons.
+class ScriptedDocFactory final : public IFormFactory
+{
+public:
+    ScriptedDocFactory() { IFormFactory::install(this); }
+    ~ScriptedDocFactory() override { IFormFactory::install(nullptr); }
+
+    bool runDocCreator(RulebaseDocCreatorForm &form) override
+    {
+        ++runs;
+        form.Load();
+        sectionsSeen = int(form.sectionRows().size());
+        return script ? script(form) : false;
+    }
+
+    std::function<bool(RulebaseDocCreatorForm &)> script;
+    int runs = 0;
+    int sectionsSeen = 0;
+};
+
+class GenerateDocumentationTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        TestEnvironment::clearSettings();
+        ASSERT_EQ(CreateGlobalObjects(), 0);
+        gobjAdminData->setLastCompanyName(QStringLiteral("Harbour Lines"));
+        folder = TestEnvironment::makeTempDir();
+        const QString rulebaseFile = folder + QStringLiteral("/Sample.qrb");
+        ASSERT_TRUE(QFile::copy(TestEnvironment::sampleRulebase(), rulebaseFile));
+        QFile::setPermissions(rulebaseFile, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+        ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, rulebaseFile));
+        document = folder + QStringLiteral("/Sample.html");
+    }
+    void TearDown() override { DestroyGlobalObjects(); }
+
+    const QString question = QStringLiteral("Do you wish to generate the Rulebase documentation?");
+    ScriptedUserInterface ui;
+    ScriptedDocFactory factory;
+    BusyRecordingForm window;
+    Application app{&window};
+    QString folder;
+    QString document;
+};
+
+} // namespace
+
+TEST_F(GenerateDocumentationTest, AfterOKTheQuestionDecidesWhetherTheDocumentIsWritten)
+{
+    factory.script = [](RulebaseDocCreatorForm &form) {
+        form.OK();
+        return true;
+    };
+    ui.answers.push_back(MessageResult::No);
+    app.GenerateDocumentation();
+    EXPECT_EQ(factory.runs, 1);
+    EXPECT_GT(factory.sectionsSeen, 6);
+    EXPECT_EQ(ui.messageTexts(), QStringList{question});
+    EXPECT_EQ(ui.messages[0].buttons, MessageButtons::YesNo);
+    EXPECT_FALSE(QFile::exists(document));
+    EXPECT_TRUE(ui.opened.isEmpty());
+    EXPECT_EQ(window.busyCalls, std::vector<bool>{false});
+
+    ui.answers.push_back(MessageResult::Yes);
+    app.GenerateDocumentation();
+    EXPECT_EQ(ui.messageTexts(), (QStringList{question, question}));
+    ASSERT_TRUE(QFile::exists(document));
+    EXPECT_EQ(ui.opened, QStringList{document});
+    // The hourglass while writing, and the default pointer after every run.
+    EXPECT_EQ(window.busyCalls, (std::vector<bool>{false, true, false}));
+    QFile file(document);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("<h2>Harbour Lines</h2>"));
+    EXPECT_EQ(ui.unscriptedQuestions, 0);
+}
+
+TEST_F(GenerateDocumentationTest, CancelledOrAlreadyGeneratedAsksNothing)
+{
+    factory.script = [](RulebaseDocCreatorForm &form) {
+        EXPECT_TRUE(form.Cancel());
+        return false;
+    };
+    // The sample's plan gains categories on opening, so Cancel asks first.
+    ui.answers.push_back(MessageResult::Yes);
+    app.GenerateDocumentation();
+    EXPECT_EQ(factory.runs, 1);
+    EXPECT_EQ(ui.messageTexts(),
+              QStringList{QStringLiteral(
+                  "Document content has changed. Continue without saving changes?")});
+    EXPECT_FALSE(QFile::exists(document));
+
+    factory.script = [](RulebaseDocCreatorForm &form) {
+        EXPECT_TRUE(form.Generate());
+        form.OK();
+        return true;
+    };
+    app.GenerateDocumentation();
+    EXPECT_FALSE(ui.messageTexts().contains(question));
+    EXPECT_TRUE(QFile::exists(document));
+    EXPECT_EQ(ui.opened, QStringList{document});
+    EXPECT_EQ(window.busyCalls, (std::vector<bool>{false, false}));
+}
+
+TEST_F(GenerateDocumentationTest, WithoutADialogThePlanStaysAsItWasFound)
+{
+    app.rulebase()->setDirty(false);
+    const auto sections = app.rulebase()->Report()->Sections();
+    const qint32 count = sections->Count();
+    IFormFactory::install(nullptr); // the factory without dialogs
+    app.GenerateDocumentation();
+    IFormFactory::install(&factory);
+    EXPECT_EQ(app.rulebase()->Report()->Sections()->Count(), count);
+    EXPECT_FALSE(app.rulebase()->Dirty());
+    EXPECT_TRUE(ui.messages.empty());
+    EXPECT_FALSE(QFile::exists(document));
+}
+
+TEST_F(GenerateDocumentationTest, AnUnwritableFolderIsReportedAndNothingOpens)
+{
+    factory.script = [](RulebaseDocCreatorForm &form) {
+        form.OK();
+        return true;
+    };
+    if (!TestEnvironment::makeReadOnly(folder))
+        GTEST_SKIP() << "no way to make a folder read-only here";
+    ui.answers.push_back(MessageResult::Yes);
+    app.GenerateDocumentation();
+    TestEnvironment::makeWritable(folder);
+    ASSERT_EQ(ui.messages.size(), 2u);
+    EXPECT_EQ(ui.messages[1].title, QStringLiteral("Quorin Unexpected Error"));
+    EXPECT_TRUE(ui.messages[1].text.contains(QStringLiteral("Can't write the document")));
+    EXPECT_TRUE(ui.opened.isEmpty());
+    EXPECT_EQ(window.busyCalls, (std::vector<bool>{true, false}));
+}

@@ -1,0 +1,250 @@
+#include "DocTestSupport.h"
+
+#include "docs/RulebaseDocCreator.h"
+#include "platform/GlobalObjects.h"
+#include "platform/LogFile.h"
+#include "platform/QuorinAdminData.h"
+#include "rulebase/AuthorisedComponents.h"
+#include "rulebase/CategoryItem.h"
+#include "rulebase/CodingConvention.h"
+#include "rulebase/Report.h"
+#include "rulebase/RuleLists.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/TagItem.h"
+#include "rulebase/ViolationDefinition.h"
+
+#include "support/ScriptedUserInterface.h"
+#include "support/TestEnvironment.h"
+
+#include <QFile>
+#include <QLocale>
+
+#include <gtest/gtest.h>
+
+using namespace DocTestSupport;
+
+namespace {
+
+// Writes the document with the known organisation and date; gives its name, or empty.
+QString writeDocument(const Rulebase &rulebase)
+{
+    RulebaseDocCreator writer;
+    writer.setOrganisation(organisation());
+    writer.setPublished(publishedDate());
+    QString filename;
+    return writer.CreateDocumentation(rulebase, filename) ? filename : QString();
+}
+
+QString expectedDocument(const QString &name)
+{
+    QString text = readDocument(TestEnvironment::sourceDir()
+                                + QStringLiteral("/tests/docs/expected/") + name);
+    return text.replace(QStringLiteral("{DATE}"),
+                        QLocale::system().toString(publishedDate(), QLocale::LongFormat));
+}
+
+// With the log in place, so that a failure reaches the error box as in the program.
+class RulebaseDocCreatorWithLog : public ::testing::Test
+{
+protected:
+    void SetUp() override { ASSERT_EQ(CreateGlobalObjects(), 0); }
+    void TearDown() override { DestroyGlobalObjects(); }
+    ScriptedUserInterface ui;
+};
+
+} // namespace
+
+TEST(RulebaseDocCreator, WritesTheSmallRulebaseLineForLine)
+{
+    ScriptedUserInterface ui;
+    const QString folder = TestEnvironment::makeTempDir();
+    const auto rulebase = smallRulebase(folder);
+    const QString filename = writeDocument(*rulebase);
+    ASSERT_EQ(filename, folder + QStringLiteral("/Depot.html"));
+
+    const QByteArray bytes = readBytes(filename);
+    // Every line ends in CR LF, and no bare LF hides anywhere.
+    EXPECT_TRUE(bytes.endsWith("</html>\r\n"));
+    EXPECT_EQ(bytes.count("\n"), bytes.count("\r\n"));
+
+    const QStringList actual = readDocument(filename).split(QStringLiteral("\r\n"));
+    const QStringList expected
+        = expectedDocument(QStringLiteral("SmallDocument.html")).split(QStringLiteral("\r\n"));
+    ASSERT_FALSE(expected.isEmpty());
+    for (qsizetype i = 0; i < std::min(actual.size(), expected.size()); ++i)
+        ASSERT_EQ(actual.at(i), expected.at(i)) << "line " << i + 1;
+    EXPECT_EQ(actual.size(), expected.size());
+    EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST(RulebaseDocCreator, NamesTheDocumentAfterTheRulebase)
+{
+    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team.qrb")),
+              QStringLiteral("/data/Team.html"));
+    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team.v2.qrb")),
+              QStringLiteral("/data/Team.v2.html"));
+    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team.")),
+              QStringLiteral("/data/Team.html"));
+    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team")),
+              QStringLiteral("/data/Team"));
+    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QString()), QString());
+}
+
+TEST_F(RulebaseDocCreatorWithLog, NeverWritesOverTheRulebaseItselfNorWithoutAFile)
+{
+    const QString folder = TestEnvironment::makeTempDir();
+    const auto rulebase = smallRulebase(folder);
+
+    // A rulebase file without a point would be its own document.
+    const QString bare = folder + QStringLiteral("/Standards");
+    QFile file(bare);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("<Quorin_Rulebase/>");
+    file.close();
+    rulebase->setFilename(bare);
+    EXPECT_TRUE(writeDocument(*rulebase).isEmpty());
+    EXPECT_EQ(readBytes(bare), QByteArray("<Quorin_Rulebase/>"));
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_TRUE(
+        ui.messages.back().text.contains(QStringLiteral("would replace the rulebase itself")));
+
+    // An unsaved rulebase has no place for its document.
+    rulebase->setFilename(QString());
+    EXPECT_TRUE(writeDocument(*rulebase).isEmpty());
+    ASSERT_EQ(ui.messages.size(), 2u);
+    EXPECT_TRUE(ui.messages.back().text.contains(QStringLiteral("Save it first")));
+}
+
+TEST(RulebaseDocCreator, AnEmptyPlanGivesTitleContentsAndFooter)
+{
+    ScriptedUserInterface ui;
+    const QString folder = TestEnvironment::makeTempDir();
+    const auto rulebase = smallRulebase(folder);
+    rulebase->Report()->Sections()->Clear();
+    const QString text = readDocument(writeDocument(*rulebase));
+    EXPECT_TRUE(text.contains(QStringLiteral("<h2>Tarnwick Freight</h2>")));
+    EXPECT_TRUE(
+        text.contains(QStringLiteral("            <ul type=\"square\">\r\n            </ul>\r\n")));
+    EXPECT_TRUE(
+        text.contains(QStringLiteral("\u00A9 2024 Tarnwick Freight. All rights reserved.")));
+    EXPECT_FALSE(text.contains(QStringLiteral("Page Body Table")));
+    EXPECT_FALSE(text.contains(QStringLiteral("<!-- Category:")));
+    EXPECT_TRUE(text.endsWith(
+        QStringLiteral("<!-- End Of Footer Table -->\r\n\r\n\r\n</body>\r\n</html>\r\n")));
+}
+
+TEST(RulebaseDocCreator, CopiesTextsAsTheyStandAndEncodesWhatTheCodePageLacks)
+{
+    ScriptedUserInterface ui;
+    const QString folder = TestEnvironment::makeTempDir();
+    const auto rulebase = smallRulebase(folder);
+    const auto page
+        = std::dynamic_pointer_cast<CategoryItem>(rulebase->Report()->Sections()->Item(1));
+    page->setTitle(QStringLiteral("Z\u00FCrich & <Co>"));
+    rulebase->setDescription(QStringLiteral("Costs \u20AC; \u6F22 and \U0001F600."));
+    const auto rule = page->CategoryRules()->Item(2);
+    rule->setRuleID(12345);
+    const auto first = page->CategoryRules()->Item(1);
+    first->setRuleID(7);
+
+    const QString filename = writeDocument(*rulebase);
+    const QByteArray bytes = readBytes(filename);
+    // Markup goes through untouched, blanks alone become underscores in the anchor.
+    EXPECT_TRUE(bytes.contains("id=\"category_Z\xFCrich_&_<Co>\""));
+    EXPECT_TRUE(bytes.contains("<a href=\"#category_Z\xFCrich_&_<Co>\">Z\xFCrich & <Co></a>"));
+    EXPECT_TRUE(bytes.contains("&gt; Z\xFCrich & <Co>\r\n"));
+    // The euro sign has a byte of the code page; others go as numeric references.
+    EXPECT_TRUE(bytes.contains("<h4>Costs \x80; &#28450; and &#128512;.</h4>"));
+    // Ids print with four digits at least, and all of them above 9999.
+    EXPECT_TRUE(bytes.contains("<tr id=\"rule_page_0007\">"));
+    EXPECT_TRUE(bytes.contains("<span class=\"rule_id\">[0007]</span>"));
+    EXPECT_TRUE(bytes.contains("<a href=\"#rule_page_12345\">"));
+    EXPECT_TRUE(bytes.contains("<span class=\"rule_id\">[12345]</span>"));
+}
+
+TEST(RulebaseDocCreator, SortsTheTagSetsInPlaceButNotTheAuthorisedItems)
+{
+    ScriptedUserInterface ui;
+    const QString folder = TestEnvironment::makeTempDir();
+    const auto rulebase = smallRulebase(folder);
+    ASSERT_FALSE(writeDocument(*rulebase).isEmpty());
+    EXPECT_EQ(rulebase->ControlTags()->Key(1), QStringLiteral("VB.CommandButton"));
+    EXPECT_EQ(rulebase->DataTypeTags()->Key(1), QStringLiteral("Long"));
+    EXPECT_EQ(rulebase->ScopeTags()->Key(1), QStringLiteral("Module"));
+    EXPECT_EQ(rulebase->AuthorisedComponents()->Item(1)->Filename(),
+              QStringLiteral("mscomctl.ocx"));
+}
+
+TEST(RulebaseDocCreator, RepeatedSectionsAndAnchorsAreWrittenAsTheyCome)
+{
+    ScriptedUserInterface ui;
+    const QString folder = TestEnvironment::makeTempDir();
+    const auto rulebase = smallRulebase(folder);
+    auto &sections = *rulebase->Report()->Sections();
+    // The scope table twice, and a category whose title differs from another only by blanks.
+    sections.Add(sections.Item(6));
+    const auto twin = std::make_shared<CategoryItem>();
+    twin->setTitle(QStringLiteral("Error_Handling"));
+    twin->setID(40);
+    sections.Add(twin);
+    const QString text = readDocument(writeDocument(*rulebase));
+    EXPECT_EQ(text.count(QStringLiteral("id=\"scope_tags_page\"")), 2);
+    EXPECT_EQ(text.count(QStringLiteral("id=\"category_Error_Handling\"")), 2);
+}
+
+TEST_F(RulebaseDocCreatorWithLog, AFolderThatCannotBeWrittenLeavesTheOldDocument)
+{
+    const QString folder = TestEnvironment::makeTempDir();
+    const auto rulebase = smallRulebase(folder);
+    const QString filename = writeDocument(*rulebase);
+    ASSERT_FALSE(filename.isEmpty());
+    const QByteArray before = readBytes(filename);
+
+    if (!TestEnvironment::makeReadOnly(folder))
+        GTEST_SKIP() << "no way to make a folder read-only here";
+    rulebase->setTitle(QStringLiteral("Changed Title"));
+    RulebaseDocCreator writer;
+    writer.setOrganisation(organisation());
+    QString second;
+    const bool written = writer.CreateDocumentation(*rulebase, second);
+    TestEnvironment::makeWritable(folder);
+
+    EXPECT_FALSE(written);
+    EXPECT_EQ(second, filename);
+    EXPECT_EQ(readBytes(filename), before);
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Unexpected Error"));
+    EXPECT_TRUE(
+        ui.messages[0].text.contains(QStringLiteral("Can't write the document '") + filename));
+    EXPECT_TRUE(ui.messages[0].text.contains(QStringLiteral("module clsStandardsDocCreator")));
+}
+
+TEST(RulebaseDocCreator, TakesTheRememberedOrganisationOrAsksOnce)
+{
+    TestEnvironment::clearSettings();
+    ScriptedUserInterface ui;
+    ASSERT_EQ(CreateGlobalObjects(), 0);
+    const QString folder = TestEnvironment::makeTempDir();
+    const auto rulebase = smallRulebase(folder);
+    QString filename;
+
+    // Declined: nothing is written and nothing remembered.
+    gobjAdminData->setLastCompanyName(QString());
+    EXPECT_FALSE(RulebaseDocCreator().CreateDocumentation(*rulebase, filename));
+    EXPECT_FALSE(QFile::exists(folder + QStringLiteral("/Depot.html")));
+    EXPECT_EQ(ui.textPrompts.size(), 1);
+
+    ui.textAnswers.push_back(QStringLiteral("  Harbour Lines  "));
+    EXPECT_TRUE(RulebaseDocCreator().CreateDocumentation(*rulebase, filename));
+    EXPECT_EQ(gobjAdminData->LastCompanyName(), QStringLiteral("Harbour Lines"));
+    EXPECT_TRUE(readDocument(filename).contains(QStringLiteral("<h2>Harbour Lines</h2>")));
+
+    // Remembered from now on: no more questions.
+    EXPECT_TRUE(RulebaseDocCreator().CreateDocumentation(*rulebase, filename));
+    EXPECT_EQ(ui.textPrompts.size(), 2);
+    EXPECT_TRUE(readDocument(filename).contains(
+        QStringLiteral("\u00A9 %1 Harbour Lines. All rights reserved.")
+            .arg(QDate::currentDate().year())));
+    EXPECT_TRUE(ui.messages.empty());
+    DestroyGlobalObjects();
+}

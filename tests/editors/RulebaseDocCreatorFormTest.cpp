@@ -1,0 +1,507 @@
+#include "editors/RulebaseDocCreatorForm.h"
+
+#include "collections/IListItem.h"
+#include "rulebase/CategoryItem.h"
+#include "rulebase/CategoryList.h"
+#include "rulebase/CodingConvention.h"
+#include "rulebase/NamingConvention.h"
+#include "rulebase/Report.h"
+#include "rulebase/RuleLists.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/RulebaseManager.h"
+#include "rulebase/TableItem.h"
+#include "rulebase/UnauthorisedKeyword.h"
+
+#include "support/ScriptedUserInterface.h"
+#include "support/TestEnvironment.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QStringList sixTables = {QStringLiteral("1T"),
+                               QStringLiteral("2T"),
+                               QStringLiteral("3T"),
+                               QStringLiteral("4T"),
+                               QStringLiteral("5T"),
+                               QStringLiteral("6T")};
+
+std::shared_ptr<CategoryItem>
+addCategory(Rulebase &rulebase, const QString &title, bool hidden = false)
+{
+    auto item = std::make_shared<CategoryItem>();
+    item->setTitle(title);
+    item->setDescription(title + QStringLiteral(" rules."));
+    item->setHidden(hidden);
+    rulebase.CategoryList()->Add(item, true);
+    return item;
+}
+
+template<typename Rule = CodingConvention>
+std::shared_ptr<Rule>
+addRule(Rulebase &rulebase, const QString &title, qint32 categoryID, bool active = true)
+{
+    auto rule = std::make_shared<Rule>();
+    rule->setTitle(title);
+    rule->setDescription(QStringLiteral("About ") + title);
+    rule->setCategoryID(categoryID);
+    rule->setRuleActive(active);
+    rulebase.RuleLists()->AddConvention(rule, true);
+    return rule;
+}
+
+QStringList sectionKeys(const ObjectArrayList<IListItem> &sections)
+{
+    QStringList keys;
+    for (qint32 i = 1; i <= sections.Count(); ++i)
+        keys << sections.Item(i)->Key();
+    return keys;
+}
+
+QStringList rowKeys(const std::vector<DocCreatorRow> &rows)
+{
+    QStringList keys;
+    for (const DocCreatorRow &row : rows)
+        keys << row.key;
+    return keys;
+}
+
+std::vector<qint32> ruleIDs(const CategoryItem &section)
+{
+    std::vector<qint32> ids;
+    const auto rules = section.CategoryRules();
+    for (qint32 i = 1; i <= rules->Count(); ++i)
+        ids.push_back(rules->Item(i)->RuleID());
+    return ids;
+}
+
+std::shared_ptr<CategoryItem> sectionOf(const Rulebase &rulebase, qint32 categoryID)
+{
+    const auto sections = rulebase.Report()->Sections();
+    for (qint32 i = 1; i <= sections->Count(); ++i) {
+        const auto category = std::dynamic_pointer_cast<CategoryItem>(sections->Item(i));
+        if (category && category->ID() == categoryID)
+            return category;
+    }
+    return nullptr;
+}
+
+// Three visible categories (one of them with inactive rules only), a hidden one, and a rule
+// of no category: rules 5000 to 5007.
+struct Fixture
+{
+    Fixture()
+    {
+        errors = addCategory(*rulebase, QStringLiteral("Errors"));                        // 1K
+        naming = addCategory(*rulebase, QStringLiteral("Naming"));                        // 2K
+        dormant = addCategory(*rulebase, QStringLiteral("Dormant"));                      // 3K
+        secret = addCategory(*rulebase, QStringLiteral("Secret"), true);                  // 4K
+        addRule(*rulebase, QStringLiteral("Zeta handler"), errors->ID());                 // 5000
+        addRule<NamingConvention>(*rulebase, QStringLiteral("Form names"), naming->ID()); // 5001
+        addRule<UnauthorisedKeyword>(
+            *rulebase, QStringLiteral("Alpha keyword"), errors->ID());             // 5002
+        addRule(*rulebase, QStringLiteral("Sleeping"), dormant->ID(), false);      // 5003
+        addRule(*rulebase, QStringLiteral("Hidden rule"), secret->ID());           // 5004
+        addRule(*rulebase, QStringLiteral("Loose rule"), -1);                      // 5005
+        addRule(*rulebase, QStringLiteral("Inactive error"), errors->ID(), false); // 5006
+        addRule(*rulebase, QStringLiteral("Beta logging"), errors->ID());          // 5007
+    }
+
+    std::shared_ptr<Rulebase> rulebase = std::make_shared<Rulebase>();
+    std::shared_ptr<CategoryItem> errors, naming, dormant, secret;
+};
+
+} // namespace
+
+TEST(RulebaseDocCreatorForm, ANewPlanHoldsVisibleCategoriesWithActiveRulesThenTheSixTables)
+{
+    ScriptedUserInterface ui;
+    Fixture f;
+    RulebaseDocCreatorForm form;
+    form.setRulebase(f.rulebase);
+    const auto &sections = *f.rulebase->Report()->Sections();
+    EXPECT_EQ(form.Sections().get(), &sections);
+    EXPECT_EQ(sectionKeys(sections),
+              QStringList({QStringLiteral("1K"), QStringLiteral("2K")}) + sixTables);
+    // The order of all the rules, not of titles; inactive rules stand nowhere.
+    EXPECT_EQ(ruleIDs(*sectionOf(*f.rulebase, 1)), (std::vector<qint32>{5000, 5002, 5007}));
+    EXPECT_EQ(ruleIDs(*sectionOf(*f.rulebase, 2)), (std::vector<qint32>{5001}));
+    const auto copy = sectionOf(*f.rulebase, 1);
+    EXPECT_NE(copy, f.errors);
+    EXPECT_EQ(copy->Title(), QStringLiteral("Errors"));
+    EXPECT_EQ(copy->Description(), QStringLiteral("Errors rules."));
+
+    const auto control = std::dynamic_pointer_cast<TableItem>(sections.Item(3));
+    ASSERT_NE(control, nullptr);
+    EXPECT_EQ(control->TableTitle(), QStringLiteral("Control Tags"));
+    EXPECT_EQ(
+        control->TableText(),
+        QStringLiteral(
+            "Control tags are the prefixes/suffixes that should be used when naming controls."));
+    const auto severity = std::dynamic_pointer_cast<TableItem>(sections.Item(8));
+    EXPECT_EQ(severity->TableType(), 5);
+    EXPECT_EQ(severity->TableTitle(), QStringLiteral("Severity Details"));
+    EXPECT_TRUE(severity->TableText().isEmpty());
+    EXPECT_FALSE(form.Cancelled());
+    EXPECT_FALSE(form.Generated());
+
+    // Without categories the plan is the six tables alone.
+    RulebaseDocCreatorForm bare;
+    const auto empty = std::make_shared<Rulebase>();
+    bare.setRulebase(empty);
+    EXPECT_EQ(sectionKeys(*empty->Report()->Sections()), sixTables);
+}
+
+TEST(RulebaseDocCreatorForm, ReconcilingKeepsTheStoredOrderAndPutsNewRulesLast)
+{
+    ObjectArrayList<IRule> section;
+    ObjectArrayList<IRule> category;
+    std::vector<std::shared_ptr<CodingConvention>> rules;
+    for (qint32 id : {10, 11, 12, 13, 14}) {
+        auto rule = std::make_shared<CodingConvention>();
+        rule->setRuleID(id);
+        rules.push_back(rule);
+    }
+    // Stored: 12, 10, 11. Now: 11 inactive, 13 and 14 new, 12 gone to another category.
+    section.Add(rules[2]);
+    section.Add(rules[0]);
+    section.Add(rules[1]);
+    section.setDirty(false);
+    rules[1]->setRuleActive(false);
+    for (qint32 i : {4, 0, 1, 3})
+        category.Add(rules[std::size_t(i)]);
+    RulebaseDocCreatorForm::ReconcileRules(section, category);
+    std::vector<qint32> ids;
+    for (qint32 i = 1; i <= section.Count(); ++i)
+        ids.push_back(section.Item(i)->RuleID());
+    EXPECT_EQ(ids, (std::vector<qint32>{10, 14, 13}));
+    EXPECT_TRUE(section.Dirty());
+
+    // In step: nothing moves and nothing is marked.
+    ObjectArrayList<IRule> same;
+    same.Add(rules[3]);
+    same.Add(rules[0]);
+    same.setDirty(false);
+    ObjectArrayList<IRule> current;
+    current.Add(rules[0]);
+    current.Add(rules[3]);
+    RulebaseDocCreatorForm::ReconcileRules(same, current);
+    EXPECT_EQ(same.Count(), 2);
+    EXPECT_EQ(same.Item(1), rules[3]);
+    EXPECT_FALSE(same.Dirty());
+}
+
+TEST(RulebaseDocCreatorForm, AStoredPlanFollowsTheRulebaseAcrossRuns)
+{
+    ScriptedUserInterface ui;
+    Fixture f;
+    {
+        RulebaseDocCreatorForm first;
+        first.setRulebase(f.rulebase);
+        first.Load();
+        // Beta logging to the top of Errors, Naming above Errors, and the scope table out.
+        first.clickSection(0);
+        first.clickRule(2);
+        first.moveRuleUp();
+        first.moveRuleUp();
+        first.moveSectionDown();
+        first.checkTable(2, false);
+        first.OK();
+    }
+    EXPECT_EQ(ruleIDs(*sectionOf(*f.rulebase, 1)), (std::vector<qint32>{5007, 5000, 5002}));
+
+    // Between runs: a new rule, a rule switched off, Errors' partner category hidden, the
+    // hidden one shown again, and the dormant category woken up.
+    addRule(*f.rulebase, QStringLiteral("Aardvark check"), f.errors->ID()); // 5008
+    f.rulebase->RuleLists()
+        ->AllConventions()
+        ->Item(QStringLiteral("5000Key"))
+        ->setRuleActive(false);
+    f.naming->setHidden(true);
+    f.secret->setHidden(false);
+    f.rulebase->RuleLists()->AllConventions()->Item(QStringLiteral("5003Key"))->setRuleActive(true);
+    f.errors->setTitle(QStringLiteral("Error Handling"));
+
+    RulebaseDocCreatorForm second;
+    second.setRulebase(f.rulebase);
+    const auto &sections = *f.rulebase->Report()->Sections();
+    EXPECT_EQ(sectionKeys(sections),
+              (QStringList{QStringLiteral("1K"),
+                           QStringLiteral("1T"),
+                           QStringLiteral("2T"),
+                           QStringLiteral("4T"),
+                           QStringLiteral("5T"),
+                           QStringLiteral("6T"),
+                           QStringLiteral("3K"),
+                           QStringLiteral("4K")}));
+    EXPECT_EQ(ruleIDs(*sectionOf(*f.rulebase, 1)), (std::vector<qint32>{5007, 5002, 5008}));
+    EXPECT_EQ(sectionOf(*f.rulebase, 1)->Title(), QStringLiteral("Error Handling"));
+    EXPECT_EQ(ruleIDs(*sectionOf(*f.rulebase, 3)), (std::vector<qint32>{5003}));
+    EXPECT_EQ(ruleIDs(*sectionOf(*f.rulebase, 4)), (std::vector<qint32>{5004}));
+    EXPECT_TRUE(second.DocHasChanged());
+
+    // A category whose rules are all switched off, or which is deleted, loses its page.
+    f.rulebase->RuleLists()
+        ->AllConventions()
+        ->Item(QStringLiteral("5003Key"))
+        ->setRuleActive(false);
+    f.rulebase->CategoryList()->Remove(QStringLiteral("4K"));
+    RulebaseDocCreatorForm third;
+    third.setRulebase(f.rulebase);
+    EXPECT_EQ(sectionOf(*f.rulebase, 3), nullptr);
+    EXPECT_EQ(sectionOf(*f.rulebase, 4), nullptr);
+    EXPECT_NE(sectionOf(*f.rulebase, 1), nullptr);
+
+    // Tables the plan holds are checked, the one taken out is not.
+    third.Load();
+    std::vector<bool> checks;
+    for (const DocCreatorRow &row : third.tableRows())
+        checks.push_back(row.checked);
+    EXPECT_EQ(checks, (std::vector<bool>{true, true, false, true, true, true}));
+}
+
+TEST(RulebaseDocCreatorForm, LoadSelectsTheFirstSectionAndTableAndShowsTheirTexts)
+{
+    ScriptedUserInterface ui;
+    Fixture f;
+    RulebaseDocCreatorForm form;
+    form.setRulebase(f.rulebase);
+    form.Load();
+
+    ASSERT_EQ(form.sectionRows().size(), 8u);
+    const DocCreatorRow &category = form.sectionRows()[0];
+    EXPECT_EQ(QStringList({category.key, category.text, category.image, category.tag}),
+              QStringList({QStringLiteral("1K"),
+                           QStringLiteral("Errors"),
+                           QStringLiteral("Category"),
+                           QStringLiteral("C")}));
+    const DocCreatorRow &table = form.sectionRows()[2];
+    EXPECT_EQ(QStringList({table.key, table.image, table.tag}),
+              QStringList({QStringLiteral("1T"), QStringLiteral("Table"), QStringLiteral("T")}));
+    EXPECT_EQ(form.selectedSection(), 0);
+    EXPECT_EQ(form.sectionDescription(), QStringLiteral("Errors rules."));
+
+    EXPECT_EQ(
+        rowKeys(form.ruleRows()),
+        (QStringList{QStringLiteral("5000R"), QStringLiteral("5002R"), QStringLiteral("5007R")}));
+    const DocCreatorRow &rule = form.ruleRows()[1];
+    EXPECT_EQ(QStringList({rule.text, rule.subItem, rule.image}),
+              QStringList({QStringLiteral("5002"),
+                           QStringLiteral("Alpha keyword"),
+                           QStringLiteral("UnauthorisedKeyword")}));
+    EXPECT_EQ(form.selectedRule(), 0);
+    EXPECT_EQ(form.ruleDescription(), QStringLiteral("About Zeta handler"));
+    EXPECT_FALSE(form.moveRuleUpEnabled());
+    EXPECT_TRUE(form.moveRuleDownEnabled());
+    EXPECT_FALSE(form.moveSectionUpEnabled());
+    EXPECT_TRUE(form.moveSectionDownEnabled());
+    EXPECT_EQ(form.selectedTable(), 0);
+    EXPECT_EQ(form.tableTitle(), QStringLiteral("Control Tags"));
+
+    // A table row clears the rules; the last row can't go down.
+    form.clickSection(7);
+    EXPECT_TRUE(form.ruleRows().empty());
+    EXPECT_TRUE(form.ruleDescription().isEmpty());
+    EXPECT_FALSE(form.moveRuleDownEnabled());
+    EXPECT_TRUE(form.moveSectionUpEnabled());
+    EXPECT_FALSE(form.moveSectionDownEnabled());
+    form.clickSection(3);
+    EXPECT_TRUE(form.sectionDescription().startsWith(QStringLiteral("Data type tags are")));
+}
+
+TEST(RulebaseDocCreatorForm, MovesChangeThePlanAndTheRowsTogether)
+{
+    ScriptedUserInterface ui;
+    Fixture f;
+    RulebaseDocCreatorForm form;
+    form.setRulebase(f.rulebase);
+    form.Load();
+    form.clickSection(1);
+    form.moveSectionUp();
+    EXPECT_EQ(sectionKeys(*form.Sections()).mid(0, 3),
+              (QStringList{QStringLiteral("2K"), QStringLiteral("1K"), QStringLiteral("1T")}));
+    EXPECT_EQ(rowKeys(form.sectionRows()), sectionKeys(*form.Sections()));
+    EXPECT_EQ(form.selectedSection(), 0);
+    EXPECT_FALSE(form.moveSectionUpEnabled());
+    // Up at the top does nothing.
+    form.moveSectionUp();
+    EXPECT_EQ(form.sectionRows()[0].key, QStringLiteral("2K"));
+
+    form.clickSection(1);
+    form.clickRule(0);
+    form.moveRuleDown();
+    EXPECT_EQ(ruleIDs(*sectionOf(*f.rulebase, 1)), (std::vector<qint32>{5002, 5000, 5007}));
+    EXPECT_EQ(
+        rowKeys(form.ruleRows()),
+        (QStringList{QStringLiteral("5002R"), QStringLiteral("5000R"), QStringLiteral("5007R")}));
+    EXPECT_EQ(form.selectedRule(), 1);
+    EXPECT_TRUE(form.moveRuleUpEnabled());
+    EXPECT_TRUE(form.moveRuleDownEnabled());
+    form.moveRuleDown();
+    EXPECT_FALSE(form.moveRuleDownEnabled());
+    form.moveRuleDown();
+    EXPECT_EQ(ruleIDs(*sectionOf(*f.rulebase, 1)), (std::vector<qint32>{5002, 5007, 5000}));
+    EXPECT_TRUE(form.DocHasChanged());
+}
+
+TEST(RulebaseDocCreatorForm, AnUncheckedTableComesBackLastWithItsText)
+{
+    ScriptedUserInterface ui;
+    Fixture f;
+    {
+        RulebaseDocCreatorForm first;
+        first.setRulebase(f.rulebase);
+        first.OK();
+    }
+    // A stored plan: its tables are the ones the "Tables" tab edits.
+    f.rulebase->Report()->setDirty(false);
+    RulebaseDocCreatorForm form;
+    form.setRulebase(f.rulebase);
+    form.Load();
+    form.clickSection(2);
+    form.clickTable(0);
+    form.editTableTitle(QStringLiteral("Controls"));
+    form.editTableDescription(QStringLiteral("Prefixes of controls."));
+    EXPECT_EQ(form.tableRows()[0].text, QStringLiteral("Controls"));
+    EXPECT_EQ(form.sectionRows()[2].text, QStringLiteral("Controls"));
+    EXPECT_EQ(form.sectionDescription(), QStringLiteral("Prefixes of controls."));
+    const auto table = std::dynamic_pointer_cast<TableItem>(form.Sections()->Item(3));
+    EXPECT_EQ(table->TableTitle(), QStringLiteral("Controls"));
+    EXPECT_TRUE(f.rulebase->Report()->Dirty());
+
+    form.checkTable(0, false);
+    EXPECT_FALSE(sectionKeys(*form.Sections()).contains(QStringLiteral("1T")));
+    EXPECT_EQ(rowKeys(form.sectionRows()), sectionKeys(*form.Sections()));
+    EXPECT_EQ(form.selectedSection(), -1);
+    EXPECT_FALSE(form.tableRows()[0].checked);
+    // Checking twice adds once.
+    form.checkTable(0, true);
+    form.checkTable(0, true);
+    EXPECT_EQ(sectionKeys(*form.Sections()).count(QStringLiteral("1T")), 1);
+    EXPECT_EQ(sectionKeys(*form.Sections()).last(), QStringLiteral("1T"));
+    EXPECT_EQ(form.sectionRows().back().text, QStringLiteral("Controls"));
+    const auto back
+        = std::dynamic_pointer_cast<TableItem>(form.Sections()->Item(form.Sections()->Count()));
+    EXPECT_EQ(back->TableText(), QStringLiteral("Prefixes of controls."));
+
+    // The texts of a table outside the plan are kept for when it comes back.
+    form.checkTable(1, false);
+    form.clickTable(1);
+    form.editTableTitle(QStringLiteral("Types"));
+    form.checkTable(1, true);
+    EXPECT_EQ(form.sectionRows().back().text, QStringLiteral("Types"));
+}
+
+TEST(RulebaseDocCreatorForm, CancelPutsBackThePlanAsItWasFound)
+{
+    ScriptedUserInterface ui;
+    Fixture f;
+    {
+        RulebaseDocCreatorForm first;
+        first.setRulebase(f.rulebase);
+        first.OK();
+    }
+    f.rulebase->setDirty(false);
+
+    // In step with the rulebase and untouched: nothing to ask, and nothing dirty afterwards.
+    {
+        RulebaseDocCreatorForm form;
+        form.setRulebase(f.rulebase);
+        form.Load();
+        EXPECT_FALSE(form.DocHasChanged());
+        EXPECT_TRUE(form.Cancel());
+        EXPECT_TRUE(form.Cancelled());
+        EXPECT_TRUE(ui.messages.empty());
+        EXPECT_FALSE(f.rulebase->Dirty());
+    }
+
+    const auto before = sectionKeys(*f.rulebase->Report()->Sections());
+    RulebaseDocCreatorForm form;
+    form.setRulebase(f.rulebase);
+    form.Load();
+    form.clickSection(1);
+    form.moveSectionUp();
+    form.clickSection(1);
+    form.clickRule(1);
+    form.moveRuleUp();
+    form.clickTable(5);
+    form.editTableTitle(QStringLiteral("Severities"));
+
+    // No: the dialog stays, and nothing is put back.
+    ui.answers.push_back(MessageResult::No);
+    EXPECT_FALSE(form.Cancel());
+    EXPECT_FALSE(form.Cancelled());
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(ui.messages[0].text,
+              QStringLiteral("Document content has changed. Continue without saving changes?"));
+    EXPECT_EQ(ui.messages[0].buttons, MessageButtons::YesNo);
+    EXPECT_EQ(f.rulebase->Report()->Sections(), form.Sections());
+
+    ui.answers.push_back(MessageResult::Yes);
+    EXPECT_TRUE(form.Cancel());
+    EXPECT_TRUE(form.Cancelled());
+    const auto &restored = *f.rulebase->Report()->Sections();
+    EXPECT_EQ(sectionKeys(restored), before);
+    const auto severity = std::dynamic_pointer_cast<TableItem>(restored.Item(restored.Count()));
+    EXPECT_EQ(severity->TableTitle(), QStringLiteral("Severity Details"));
+    // Category pages are shared with the saved plan: a rule order changed stays changed.
+    EXPECT_EQ(ruleIDs(*sectionOf(*f.rulebase, 1)), (std::vector<qint32>{5002, 5000, 5007}));
+}
+
+TEST(RulebaseDocCreatorForm, GenerateWritesTheDocumentOpensItAndStaysOpen)
+{
+    ScriptedUserInterface ui;
+    Fixture f;
+    RulebaseDocCreatorForm form;
+    form.setRulebase(f.rulebase);
+    form.Load();
+
+    // Unsaved: no document, and nothing claims otherwise.
+    EXPECT_FALSE(form.Generate());
+    EXPECT_FALSE(form.Generated());
+    EXPECT_TRUE(ui.opened.isEmpty());
+
+    const QString folder = TestEnvironment::makeTempDir();
+    f.rulebase->setFilename(folder + QStringLiteral("/Team.qrb"));
+    ui.textAnswers.push_back(QStringLiteral("Harbour Lines"));
+    EXPECT_TRUE(form.Generate());
+    EXPECT_TRUE(form.Generated());
+    EXPECT_FALSE(form.Cancelled());
+    EXPECT_EQ(ui.opened, QStringList{folder + QStringLiteral("/Team.html")});
+    QFile document(folder + QStringLiteral("/Team.html"));
+    ASSERT_TRUE(document.open(QIODevice::ReadOnly));
+    const QByteArray html = document.readAll();
+    EXPECT_TRUE(html.contains("<a href=\"#category_Errors\">Errors</a>"));
+    EXPECT_TRUE(html.contains("<h2>Harbour Lines</h2>"));
+    EXPECT_FALSE(html.contains("Hidden rule"));
+}
+
+TEST(RulebaseDocCreatorForm, TheSamplePlanGainsItsMissingCategoriesAndCancelTakesThemBack)
+{
+    ScriptedUserInterface ui;
+    const auto rulebase = RulebaseManager().LoadRulebase(TestEnvironment::sampleRulebase());
+    ASSERT_NE(rulebase, nullptr);
+    ASSERT_FALSE(rulebase->Dirty());
+    const QStringList stored = sectionKeys(*rulebase->Report()->Sections());
+    ASSERT_EQ(stored.size(), 13);
+    RulebaseDocCreatorForm form;
+    form.setRulebase(rulebase);
+    form.Load();
+    // Visible categories with active rules that the stored plan lacks join at its end, in the
+    // order of the category list; the hidden one stays out.
+    const QStringList added{
+        QStringLiteral("9K"), QStringLiteral("6K"), QStringLiteral("5K"), QStringLiteral("8K")};
+    EXPECT_EQ(sectionKeys(*rulebase->Report()->Sections()), stored + added);
+    EXPECT_TRUE(form.DocHasChanged());
+    EXPECT_TRUE(rulebase->Dirty());
+
+    ui.answers.push_back(MessageResult::Yes);
+    EXPECT_TRUE(form.Cancel());
+    EXPECT_EQ(ui.messageTexts(),
+              QStringList{QStringLiteral(
+                  "Document content has changed. Continue without saving changes?")});
+    EXPECT_EQ(sectionKeys(*rulebase->Report()->Sections()), stored);
+    EXPECT_FALSE(rulebase->Dirty());
+}
