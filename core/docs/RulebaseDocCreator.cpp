@@ -119,7 +119,8 @@ bool RulebaseDocCreator::CreateDocumentation(const Rulebase &rulebase, QString &
 {
     return guarded("CreateDocumentation", module, false, [&] {
         const auto sections = rulebase.Report()->Sections();
-        filename = DocumentFilename(rulebase.Filename());
+        filename
+            = m_targetFilename.isEmpty() ? DocumentFilename(rulebase.Filename()) : m_targetFilename;
         const QString source = QStringLiteral("RulebaseDocCreator::CreateDocumentation");
         if (filename.isEmpty())
             throw QuorinError(ErrorNumber::NoFilename,

@@ -30,6 +30,11 @@ public:
     // error has been reported, and any earlier document is left as it was.
     bool CreateDocumentation(const Rulebase &rulebase, QString &filename);
 
+    // The file to write instead of the one beside the rulebase; empty (the default) keeps to
+    // the rulebase's name.
+    void setTargetFilename(const QString &filename) { m_targetFilename = filename; }
+    QString TargetFilename() const { return m_targetFilename; }
+
     // The organisation the standards are published for. Unless set, CreateDocumentation takes
     // the remembered one, or asks for it.
     void setOrganisation(const QString &organisation) { m_organisation = organisation; }
@@ -95,4 +100,5 @@ private:
 
     std::optional<QString> m_organisation;
     QDate m_published;
+    QString m_targetFilename;
 };

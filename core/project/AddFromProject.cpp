@@ -7,6 +7,7 @@
 #include "platform/ErrorFrame.h"
 #include "platform/FileUtils.h"
 #include "platform/UserInterface.h"
+#include "project/AuthorisedItemsMerger.h"
 #include "project/VirtualComponent.h"
 #include "project/VirtualProject.h"
 #include "project/VirtualReference.h"
@@ -19,18 +20,14 @@ namespace {
 
 constexpr const char *module = "AddFromProject";
 
-// A plain substring search ignoring case: "1.1" counts as held by "11.1; 2.0". An empty
-// version is held by every list.
-bool holdsVersion(const QString &versionList, const QString &version)
-{
-    return versionList.contains(version, Qt::CaseInsensitive);
-}
-
-// Whether a list holds the library at a version that covers this one.
+// Whether a list holds the library but not at this version. The versions are held by a plain
+// substring search ignoring case: "1.1" counts as held by "11.1; 2.0", and an empty version is
+// held by every list.
 template<typename List>
 bool holdsLibraryWithoutVersion(const List &list, const QString &guid, const QString &version)
 {
-    return list.Contains(guid) && !holdsVersion(list.Item(guid)->VersionList(), version);
+    return list.Contains(guid)
+           && !AuthorisedItemsMerger::HoldsVersion(list.Item(guid)->VersionList(), version);
 }
 
 } // namespace
@@ -80,6 +77,15 @@ void AddFromProject::ParseFileList(const std::optional<QStringList> &files,
     });
 }
 
+void AddFromProject::GatherCandidates(const QStringList &files, std::shared_ptr<Rulebase> rulebase)
+{
+    guardedVoid("GatherCandidates", module, [&] {
+        m_rulebase = std::move(rulebase);
+        for (const QString &filename : files)
+            ParseFile(filename);
+    });
+}
+
 void AddFromProject::ParseFile(const QString &filename)
 {
     if (modQuorinUtils::IsVBPFile(filename))
@@ -91,9 +97,11 @@ void AddFromProject::ParseFile(const QString &filename)
 void AddFromProject::ParseProject(const QString &filename)
 {
     auto project = std::make_shared<VirtualProject>();
-    // A project that can't be read adds nothing and says nothing.
-    if (project->LoadProject(filename) != ProjectLoadStatus::Read)
+    // A project that can't be read adds nothing and says nothing; a program may ask later.
+    if (project->LoadProject(filename) != ProjectLoadStatus::Read) {
+        m_unreadFiles << filename;
         return;
+    }
     FilterReferences(*project->References());
     FilterComponents(*project->Components());
 }

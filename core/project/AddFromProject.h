@@ -16,8 +16,8 @@ class ObjectKeyedArrayList;
 
 // Gathers the components and references that Visual Basic projects use and that a rulebase
 // does not yet authorise (or not at the version found), as candidates the user ticks in the
-// import dialog. The candidate lists belong to no rulebase; merging the ticked ones is the
-// authorised items view's job.
+// import dialog. The candidate lists belong to no rulebase; AuthorisedItemsMerger puts the
+// ticked ones into it.
 class AddFromProject final
 {
 public:
@@ -39,6 +39,11 @@ public:
     // Files dropped on the view; without a list (nullopt) no file is read and no box comes.
     // The dialog follows only when there is at least one candidate.
     void ParseFileList(const std::optional<QStringList> &files, std::shared_ptr<Rulebase> rulebase);
+    // The same reading with nobody to ask: no box, no dialog, and every candidate stays
+    // Selected. For programs that take all that is found.
+    void GatherCandidates(const QStringList &files, std::shared_ptr<Rulebase> rulebase);
+    // The projects that could not be read since this object was made, in the order met.
+    QStringList UnreadFiles() const { return m_unreadFiles; }
 
     // "2 new components and 1 new reference was found for the project 'a.vbp'." and the like;
     // an empty project name speaks of the selected projects.
@@ -60,4 +65,5 @@ private:
     std::shared_ptr<AuthorisedReferences> m_referenceList;
     std::shared_ptr<Rulebase> m_rulebase;
     QStringList m_filesList;
+    QStringList m_unreadFiles;
 };

@@ -12,10 +12,8 @@
 #include "platform/TextUtils.h"
 #include "platform/UserInterface.h"
 #include "project/AddFromProject.h"
-#include "project/VirtualComponent.h"
-#include "project/VirtualReference.h"
+#include "project/AuthorisedItemsMerger.h"
 #include "project/modQuorinUtils.h"
-#include "project/modTypelib.h"
 #include "rulebase/AuthorisedComponents.h"
 #include "rulebase/AuthorisedReferences.h"
 #include "rulebase/CategoryList.h"
@@ -66,17 +64,6 @@ QString nodeText(const QString &key)
 int columnCountOf(const QString &key)
 {
     return Text::same(key, componentsKey) ? 3 : 4;
-}
-
-// Not a plain InStr of the versions: the same "contained" rule as the import's.
-bool holdsVersion(const QString &versionList, const QString &version)
-{
-    return versionList.contains(version, Qt::CaseInsensitive);
-}
-
-QString lastThreeUpper(const QString &filename)
-{
-    return filename.right(3).toUpper();
 }
 
 } // namespace
@@ -717,6 +704,20 @@ void AuthorisedItemsView::UpdateVersionsInRow(const QString &nodeKey,
         m_lvwList->setSubItemText(row, 1, versionsText(versions));
 }
 
+void AuthorisedItemsView::ShowChanges(const std::vector<AuthorisedItemChange> &changes)
+{
+    for (const AuthorisedItemChange &change : changes) {
+        const bool component = change.kind == AuthorisedItemChange::Kind::Component;
+        if (change.added && component)
+            AddComponent(*change.component);
+        else if (change.added)
+            AddReference(*change.reference);
+        else
+            UpdateVersionsInRow(
+                component ? componentsKey : referencesKey, change.libID(), change.versionList());
+    }
+}
+
 void AuthorisedItemsView::NewAuthorisedComponent()
 {
     guardedVoid("NewAuthorisedComponent", module, [this] {
@@ -774,44 +775,9 @@ void AuthorisedItemsView::AddAuthorisedItemsFromProject(const std::optional<QStr
         if (importer.Cancelled())
             return;
 
-        AuthorisedComponents &components = *m_rulebase->AuthorisedComponents();
-        const AuthorisedComponents &newComponents = *importer.ComponentList();
-        for (qint32 i = 1; i <= newComponents.Count(); ++i) {
-            const std::shared_ptr<AuthorisedComponent> item = newComponents.Item(i);
-            if (!item->Selected())
-                continue;
-            const qint32 index = components.FindByLibID(item->LibID());
-            if (index == -1) {
-                components.AddComponent(item);
-                AddComponent(*item);
-                continue;
-            }
-            // A known library: the new version joins its list, repeats and all.
-            const std::shared_ptr<AuthorisedComponent> known = components.Item(index);
-            known->setVersionList(known->VersionList() + QStringLiteral("; ")
-                                  + item->VersionList());
-            components.setDirty(true);
-            UpdateVersionsInRow(componentsKey, known->LibID(), known->VersionList());
-        }
-
-        AuthorisedReferences &references = *m_rulebase->AuthorisedReferences();
-        const AuthorisedReferences &newReferences = *importer.ReferenceList();
-        for (qint32 i = 1; i <= newReferences.Count(); ++i) {
-            const std::shared_ptr<AuthorisedReference> item = newReferences.Item(i);
-            if (!item->Selected())
-                continue;
-            const qint32 index = references.FindByLibID(item->LibID());
-            if (index == -1) {
-                references.AddReference(item);
-                AddReference(*item);
-                continue;
-            }
-            const std::shared_ptr<AuthorisedReference> known = references.Item(index);
-            known->setVersionList(known->VersionList() + QStringLiteral("; ")
-                                  + item->VersionList());
-            references.setDirty(true);
-            UpdateVersionsInRow(referencesKey, known->LibID(), known->VersionList());
-        }
+        AuthorisedItemsMerger merger(*m_rulebase);
+        merger.MergeSelected(*importer.ComponentList(), *importer.ReferenceList());
+        ShowChanges(merger.Changes());
 
         ResetNode(componentsKey);
         ResetNode(referencesKey);
@@ -825,64 +791,17 @@ void AuthorisedItemsView::AddAXComponentsFromFile(const QStringList &fileList)
     guardedVoid("AddAXComponentsFromFile", module, [&] {
         if (!m_rulebase)
             return;
-        AuthorisedComponents &components = *m_rulebase->AuthorisedComponents();
-        AuthorisedReferences &references = *m_rulebase->AuthorisedReferences();
+        AuthorisedItemsMerger merger(*m_rulebase);
         int notActiveX = 0;
         QString report;
         for (const QString &filename : fileList) {
-            bool ok = false;
-            if (lastThreeUpper(filename) == QLatin1String("OCX")) {
-                const std::shared_ptr<VirtualComponent> file
-                    = modTypelib::LoadComponentFromFile(filename, ok);
-                // A control without a library is passed over without a word.
-                if (!ok)
-                    continue;
-                const qint32 index = components.FindByLibID(file->GUID());
-                if (index != -1) {
-                    const std::shared_ptr<AuthorisedComponent> known = components.Item(index);
-                    if (!holdsVersion(known->VersionList(), file->Version())) {
-                        known->setVersionList(known->VersionList() + QStringLiteral("; ")
-                                              + file->Version());
-                        components.setDirty(true);
-                        UpdateVersionsInRow(componentsKey, known->LibID(), known->VersionList());
-                    }
-                    continue;
-                }
-                auto item = std::make_shared<AuthorisedComponent>();
-                item->setFilename(file->Filename());
-                item->setLibID(file->GUID());
-                item->setVersionList(file->Version());
-                components.AddComponent(item);
-                AddComponent(*item);
-                continue;
-            }
-
-            const std::shared_ptr<VirtualReference> file
-                = modTypelib::LoadReferenceFromFile(filename, ok);
-            if (!ok) {
+            // A control without a library is passed over without a word.
+            if (merger.MergeActiveXFile(filename) == ActiveXFileResult::NotActiveX) {
                 ++notActiveX;
                 report += crlf + filename;
-                continue;
-            }
-            const qint32 index = references.FindByLibID(file->GUID());
-            if (index == -1) {
-                auto item = std::make_shared<AuthorisedReference>();
-                item->setFilename(file->Filename());
-                item->setDescription(file->Description());
-                item->setLibID(file->GUID());
-                item->setVersionList(file->Version());
-                references.AddReference(item);
-                AddReference(*item);
-                continue;
-            }
-            const std::shared_ptr<AuthorisedReference> known = references.Item(index);
-            if (!holdsVersion(known->VersionList(), file->Version())) {
-                known->setVersionList(known->VersionList() + QStringLiteral("; ")
-                                      + file->Version());
-                references.setDirty(true);
-                UpdateVersionsInRow(referencesKey, known->LibID(), known->VersionList());
             }
         }
+        ShowChanges(merger.Changes());
 
         if (notActiveX > 0) {
             const bool one = notActiveX == 1;
@@ -923,8 +842,7 @@ void AuthorisedItemsView::AddAXComponentsFromFile(const QStringList &fileList)
 
 bool AuthorisedItemsView::IsComponentFile(const QString &filename)
 {
-    const QString type = lastThreeUpper(filename);
-    return !type.isEmpty() && QStringLiteral("DLL|EXE|OCX|TLB|OLB").contains(type);
+    return AuthorisedItemsMerger::IsActiveXFilename(filename);
 }
 
 void AuthorisedItemsView::FilesDropped(const QStringList &files)

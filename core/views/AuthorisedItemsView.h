@@ -9,8 +9,10 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 class AuthorisedComponent;
+struct AuthorisedItemChange;
 class AuthorisedReference;
 
 // The "Authority Items" view: three top-level nodes, the authorised components ("AC"), the
@@ -91,6 +93,8 @@ private:
     void SaveSortSettings(const QString &key, int column, int order);
     // The row of a LibID rewrites its versions, when its node is showing.
     void UpdateVersionsInRow(const QString &nodeKey, const QString &libID, const QString &versions);
+    // Rows for what a merge into the rulebase changed.
+    void ShowChanges(const std::vector<AuthorisedItemChange> &changes);
     void ResetItemNodes();
     bool hasControls() const { return m_tvwTree && m_lvwList; }
     bool keywordsShowing() const;

@@ -58,18 +58,7 @@ TEST(QrbTool, CommandsOfFeaturesNotInThisBuildCheckTheirArgumentsThenSaySo)
     const QString dir = TestEnvironment::makeTempDir();
     const QString project = writeBytes(dir + QStringLiteral("/P.vbp"), "Type=Exe\r\n");
     const QList<QStringList> calls{
-        {QStringLiteral("doc"),
-         sample,
-         QStringLiteral("-o"),
-         dir + QStringLiteral("/Out.html"),
-         QStringLiteral("--organisation"),
-         QStringLiteral("Kestrel")},
         {QStringLiteral("scripts"), sample, QStringLiteral("-o"), dir + QStringLiteral("/Out.qrs")},
-        {QStringLiteral("import"),
-         sample,
-         QStringLiteral("--from"),
-         project,
-         QStringLiteral("--dry-run")},
     };
     for (const QStringList &call : calls) {
         const ToolRun run = runQrbTool(call);
@@ -79,7 +68,7 @@ TEST(QrbTool, CommandsOfFeaturesNotInThisBuildCheckTheirArgumentsThenSaySo)
             QStringLiteral("qrbtool: '%1' is not available in this build\n").arg(call.first()));
         EXPECT_TRUE(run.out.isEmpty());
     }
-    EXPECT_FALSE(QFileInfo::exists(dir + QStringLiteral("/Out.html")));
+    EXPECT_FALSE(QFileInfo::exists(dir + QStringLiteral("/Out.qrs")));
 
     // Usage comes first: a missing -o or --from is said as such.
     const ToolRun noOutput = runQrbTool({QStringLiteral("doc"), sample});
@@ -88,6 +77,12 @@ TEST(QrbTool, CommandsOfFeaturesNotInThisBuildCheckTheirArgumentsThenSaySo)
         noOutput.err.contains(QLatin1String("qrbtool doc: no output file given (-o OUT.html)")));
     const ToolRun noSource = runQrbTool({QStringLiteral("import"), sample});
     EXPECT_TRUE(noSource.err.contains(QLatin1String("qrbtool import: nothing to import from")));
+    const ToolRun noProject = runQrbTool({QStringLiteral("import"),
+                                          sample,
+                                          QStringLiteral("--from"),
+                                          project + QStringLiteral("x")});
+    EXPECT_EQ(noProject.exitCode, 2);
+    EXPECT_TRUE(noProject.err.contains(QLatin1String("P.vbpx: No such file")));
     const ToolRun missing = runQrbTool({QStringLiteral("scripts"),
                                         dir + QStringLiteral("/None.qrb"),
                                         QStringLiteral("-o"),
@@ -169,10 +164,21 @@ TEST(QrbTool, TheBuiltProgramGivesItsExitCodes)
     EXPECT_EQ(exitOf({QStringLiteral("diff"), sample, broken}), 2);
     EXPECT_EQ(exitOf({QStringLiteral("check"), dir + QStringLiteral("/None.qrb")}), 2);
     EXPECT_EQ(exitOf({}), 2);
-    EXPECT_EQ(
-        exitOf(
-            {QStringLiteral("doc"), sample, QStringLiteral("-o"), dir + QStringLiteral("/x.html")}),
-        2);
+    EXPECT_EQ(exitOf({QStringLiteral("doc"),
+                      sample,
+                      QStringLiteral("-o"),
+                      dir + QStringLiteral("/x.html"),
+                      QStringLiteral("--organisation"),
+                      QStringLiteral("K")}),
+              0);
+    EXPECT_TRUE(QFileInfo::exists(dir + QStringLiteral("/x.html")));
+    EXPECT_EQ(exitOf({QStringLiteral("doc"),
+                      sample,
+                      QStringLiteral("-o"),
+                      dir + QStringLiteral("/none/x.html"),
+                      QStringLiteral("--organisation"),
+                      QStringLiteral("K")}),
+              2);
     // The program writes no log beside itself.
     EXPECT_FALSE(
         QFileInfo::exists(QFileInfo(program).absolutePath() + QStringLiteral("/Error.log")));

@@ -1,0 +1,197 @@
+#include "ToolTestSupport.h"
+
+#include "docs/RulebaseDocCreator.h"
+#include "platform/QuorinAdminData.h"
+#include "platform/RegistryUtils.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/RulebaseManager.h"
+#include "support/ScriptedUserInterface.h"
+#include "support/TestEnvironment.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Every stored setting with its value, to see that a run wrote none.
+QMap<QString, QString> allSettings()
+{
+    QSettings settings(QSettings::NativeFormat,
+                       QSettings::UserScope,
+                       QStringLiteral("Tarnwick"),
+                       QStringLiteral("Quorin"));
+    QMap<QString, QString> values;
+    for (const QString &key : settings.allKeys())
+        values.insert(key, settings.value(key).toString());
+    return values;
+}
+
+void rememberOrganisation(const QString &name)
+{
+    RegistryUtils::SetRegString(QuorinAdminData::settingsKey(),
+                                QStringLiteral("LastCompanyName"),
+                                name,
+                                RegistryUtils::HKEY_CURRENT_USER);
+}
+
+QString copyOfSample(const QString &dir)
+{
+    return writeBytes(dir + QStringLiteral("/Team.qrb"), sampleBytes());
+}
+
+QString sampleTitle()
+{
+    ScriptedUserInterface ui;
+    RulebaseManager::setAdministratorOverride(true);
+    const auto rulebase = RulebaseManager().LoadRulebase(TestEnvironment::sampleRulebase());
+    return rulebase ? rulebase->Title() : QString();
+}
+
+QStringList filesIn(const QString &dir)
+{
+    return QDir(dir).entryList(QDir::Files | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+} // namespace
+
+TEST(DocCommand, WritesTheDocumentToOutAloneAndLeavesTheSettingsAlone)
+{
+    TestEnvironment::clearSettings();
+    const QString dir = TestEnvironment::makeTempDir();
+    const QString rulebase = copyOfSample(dir);
+    const QString out = dir + QStringLiteral("/site/standards.html");
+    QDir().mkpath(dir + QStringLiteral("/site"));
+    const QString title = sampleTitle();
+    ASSERT_FALSE(title.isEmpty());
+
+    const ToolRun run = runQrbTool({QStringLiteral("doc"),
+                                    rulebase,
+                                    QStringLiteral("-o"),
+                                    out,
+                                    QStringLiteral("--organisation"),
+                                    QStringLiteral("Kestrel Ltd")});
+    ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
+    EXPECT_TRUE(run.err.isEmpty()) << run.err.toStdString();
+    EXPECT_EQ(run.out, rulebase + QStringLiteral(": document written to ") + out + '\n');
+    const QByteArray html = readBytes(out);
+    EXPECT_TRUE(html.startsWith("<!DOCTYPE HTML PUBLIC"));
+    EXPECT_TRUE(html.endsWith("</html>\r\n"));
+    EXPECT_TRUE(html.contains(("<h1>" + title + "</h1>").toLatin1()));
+    EXPECT_TRUE(html.contains("<h2>Kestrel Ltd</h2>"));
+    // Nothing beside the rulebase, and the organisation given is not remembered.
+    EXPECT_EQ(filesIn(dir), QStringList{QStringLiteral("Team.qrb")});
+    EXPECT_EQ(filesIn(dir + QStringLiteral("/site")),
+              QStringList{QStringLiteral("standards.html")});
+    EXPECT_TRUE(allSettings().isEmpty());
+
+    // A second run replaces the document.
+    const ToolRun again = runQrbTool({QStringLiteral("doc"),
+                                      rulebase,
+                                      QStringLiteral("-o"),
+                                      out,
+                                      QStringLiteral("--organisation"),
+                                      QStringLiteral("Other Ltd")});
+    EXPECT_EQ(again.exitCode, 0);
+    EXPECT_TRUE(readBytes(out).contains("<h2>Other Ltd</h2>"));
+}
+
+TEST(DocCommand, WithoutAnOrganisationTakesTheRememberedOneOrNoneAndNeverAsks)
+{
+    TestEnvironment::clearSettings();
+    const QString dir = TestEnvironment::makeTempDir();
+    const QString rulebase = copyOfSample(dir);
+    const QString out = dir + QStringLiteral("/doc.html");
+
+    const ToolRun none = runQrbTool({QStringLiteral("doc"), rulebase, QStringLiteral("-o"), out});
+    ASSERT_EQ(none.exitCode, 0) << none.err.toStdString();
+    EXPECT_TRUE(none.err.isEmpty()) << none.err.toStdString();
+    EXPECT_TRUE(readBytes(out).contains("<h3>for</h3>\r\n            <h2></h2>"));
+    EXPECT_TRUE(allSettings().isEmpty());
+
+    rememberOrganisation(QStringLiteral("Remembered & Co"));
+    const QMap<QString, QString> before = allSettings();
+    const ToolRun remembered
+        = runQrbTool({QStringLiteral("doc"), rulebase, QStringLiteral("-o"), out});
+    ASSERT_EQ(remembered.exitCode, 0) << remembered.err.toStdString();
+    EXPECT_TRUE(readBytes(out).contains("<h2>Remembered & Co</h2>"));
+    EXPECT_EQ(allSettings(), before);
+    TestEnvironment::clearSettings();
+}
+
+TEST(DocCommand, AFolderThatTakesNoFileFailsNamingTheFileAndLeavesNothing)
+{
+    const QString dir = TestEnvironment::makeTempDir();
+    const QString rulebase = copyOfSample(dir);
+
+    // A folder that isn't there.
+    const QString missing = dir + QStringLiteral("/none/doc.html");
+    const ToolRun noFolder = runQrbTool({QStringLiteral("doc"),
+                                         rulebase,
+                                         QStringLiteral("-o"),
+                                         missing,
+                                         QStringLiteral("--organisation"),
+                                         QStringLiteral("K")});
+    EXPECT_EQ(noFolder.exitCode, 2);
+    EXPECT_TRUE(noFolder.err.startsWith(QStringLiteral("qrbtool doc: ") + missing))
+        << noFolder.err.toStdString();
+    EXPECT_TRUE(noFolder.out.isEmpty());
+    EXPECT_FALSE(QFileInfo::exists(missing));
+
+    // The rulebase itself is never the target.
+    const ToolRun itself = runQrbTool({QStringLiteral("doc"),
+                                       rulebase,
+                                       QStringLiteral("-o"),
+                                       QDir(dir).filePath(QStringLiteral("./Team.qrb"))});
+    EXPECT_EQ(itself.exitCode, 2);
+    EXPECT_TRUE(itself.err.contains(QLatin1String("is the rulebase itself")));
+    EXPECT_EQ(readBytes(rulebase), sampleBytes());
+
+    // A folder that refuses new files.
+    const QString locked = dir + QStringLiteral("/locked");
+    QDir().mkpath(locked);
+    if (!TestEnvironment::makeReadOnly(locked))
+        GTEST_SKIP() << "no read-only folder can be made here";
+    const QString out = locked + QStringLiteral("/doc.html");
+    const ToolRun run = runQrbTool({QStringLiteral("doc"),
+                                    rulebase,
+                                    QStringLiteral("-o"),
+                                    out,
+                                    QStringLiteral("--organisation"),
+                                    QStringLiteral("K")});
+    const QStringList left
+        = QDir(locked).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
+    TestEnvironment::makeWritable(locked);
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_TRUE(run.err.startsWith(QStringLiteral("qrbtool doc: ") + out)) << run.err.toStdString();
+    EXPECT_TRUE(run.err.contains(QStringLiteral("'") + out + QStringLiteral("'")));
+    EXPECT_TRUE(left.isEmpty()) << left.join(QLatin1Char(' ')).toStdString();
+}
+
+TEST(DocCommand, TheWriterTakesATargetAndKeepsToTheRulebasesNameWithoutOne)
+{
+    ScriptedUserInterface ui;
+    const QString dir = TestEnvironment::makeTempDir();
+    RulebaseManager::setAdministratorOverride(true);
+    const auto rulebase = RulebaseManager().LoadRulebase(copyOfSample(dir));
+    ASSERT_NE(rulebase, nullptr);
+
+    RulebaseDocCreator writer;
+    writer.setOrganisation(QStringLiteral("K"));
+    EXPECT_TRUE(writer.TargetFilename().isEmpty());
+    const QString target = dir + QStringLiteral("/elsewhere.htm");
+    writer.setTargetFilename(target);
+    QString written;
+    ASSERT_TRUE(writer.CreateDocumentation(*rulebase, written));
+    EXPECT_EQ(written, target);
+    EXPECT_FALSE(QFileInfo::exists(dir + QStringLiteral("/Team.html")));
+
+    writer.setTargetFilename(QString());
+    ASSERT_TRUE(writer.CreateDocumentation(*rulebase, written));
+    EXPECT_EQ(written, dir + QStringLiteral("/Team.html"));
+    EXPECT_TRUE(QFileInfo::exists(written));
+    EXPECT_TRUE(ui.messages.empty());
+}
