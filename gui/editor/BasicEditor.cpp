@@ -2,6 +2,7 @@
 
 #include "basic/BasicSyntaxChecker.h"
 #include "basic/ScriptText.h"
+#include "editors/RuleEditorModel.h"
 #include "gui/editor/BasicEditorMargin.h"
 #include "gui/editor/BasicHighlighter.h"
 
@@ -86,12 +87,14 @@ void BasicEditor::insertAtCaret(const QString &text, int caretOffset)
 {
     const QString inserted = ScriptText::toEditor(text);
     const int caret = caretPosition();
-    // Through a cursor rather than by replacing the text, so that undo takes it back out; a
-    // selection stays in place.
+    const RuleEditorModel::Insertion after
+        = RuleEditorModel::InsertScriptText(toPlainText(), caret, inserted, caretOffset);
+    // The text goes in through a cursor rather than as a new whole, so that undo takes it back
+    // out; a selection stays in place.
     QTextCursor cursor(document());
     cursor.setPosition(caret);
     cursor.insertText(inserted);
-    setCaretPosition(caretOffset == -1 ? caret + int(inserted.size()) : caret + caretOffset);
+    setCaretPosition(after.caret);
     setFocus();
 }
 

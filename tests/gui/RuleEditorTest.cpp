@@ -202,5 +202,11 @@ TEST(RuleEditor, PickersAndCompletionInsertTheVocabulary)
     ASSERT_TRUE(completer->popup()->isVisible());
     emit completer->activated(QStringLiteral("Procedure"));
     EXPECT_TRUE(editor->toPlainText().endsWith(QStringLiteral("GetObjectProperty(\"Procedure\"")));
+
+    // With the caret at the start the line goes in front of everything, the caret behind it.
+    editor->setCaretPosition(0);
+    dialog.tool(QStringLiteral("tlRaiseViolation"))->trigger();
+    EXPECT_TRUE(editor->toPlainText().startsWith(QStringLiteral("Call Quorin.RaiseViolation()\nQuorin.GetObjectProperty")));
+    EXPECT_EQ(editor->caretPosition(), 29);
     EXPECT_TRUE(ui.messages.empty());
 }
