@@ -62,7 +62,16 @@ BasicEditor::~BasicEditor() = default;
 
 QString BasicEditor::script() const
 {
-    return ScriptText::fromEditor(toPlainText());
+    return ScriptText::fromEditor(editorText());
+}
+
+// Like toPlainText, but a no-break space stays what it is; positions are the same.
+QString BasicEditor::editorText() const
+{
+    QString text = document()->toRawText();
+    text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+    text.replace(QChar::LineSeparator, QLatin1Char('\n'));
+    return text;
 }
 
 void BasicEditor::setScript(const QString &script)
@@ -88,7 +97,7 @@ void BasicEditor::insertAtCaret(const QString &text, int caretOffset)
     const QString inserted = ScriptText::toEditor(text);
     const int caret = caretPosition();
     const RuleEditorModel::Insertion after
-        = RuleEditorModel::InsertScriptText(toPlainText(), caret, inserted, caretOffset);
+        = RuleEditorModel::InsertScriptText(editorText(), caret, inserted, caretOffset);
     // The text goes in through a cursor rather than as a new whole, so that undo takes it back
     // out; a selection stays in place.
     QTextCursor cursor(document());
@@ -222,7 +231,7 @@ void BasicEditor::showErrorUnderlines()
 
 bool BasicEditor::complete()
 {
-    m_completion = BasicCompletion::contextAt(toPlainText(), caretPosition());
+    m_completion = BasicCompletion::contextAt(editorText(), caretPosition());
     const QStringList words = BasicCompletion::words(m_completion, m_workfields ? m_workfields() : QStringList());
     if (words.isEmpty()) {
         m_completer->popup()->hide();

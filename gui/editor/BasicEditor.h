@@ -30,6 +30,8 @@ public:
 
     QString script() const;
     void setScript(const QString &script);
+    // The text with LF line ends.
+    QString editorText() const;
     int caretPosition() const;
     void setCaretPosition(int position);
     // Puts `text` (any line ends) at the caret as one undoable step, as InsertScriptText does.

@@ -203,6 +203,12 @@ TEST(RuleEditor, PickersAndCompletionInsertTheVocabulary)
     emit completer->activated(QStringLiteral("Procedure"));
     EXPECT_TRUE(editor->toPlainText().endsWith(QStringLiteral("GetObjectProperty(\"Procedure\"")));
 
+    // Text comes back as it went in, no-break spaces and all, with CR LF line ends.
+    const QString odd = QStringLiteral("Sub Main\n  x = \"a\u00a0b\u00e9\"\r\rEnd Sub\r\n");
+    editor->setScript(odd);
+    EXPECT_EQ(editor->script(), QStringLiteral("Sub Main\r\n  x = \"a\u00a0b\u00e9\"\r\n\r\nEnd Sub\r\n"));
+    editor->setScript(QStringLiteral("Quorin.GetObjectProperty"));
+
     // With the caret at the start the line goes in front of everything, the caret behind it.
     editor->setCaretPosition(0);
     dialog.tool(QStringLiteral("tlRaiseViolation"))->trigger();
