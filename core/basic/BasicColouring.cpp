@@ -57,9 +57,10 @@ std::vector<StyledRange> colourLine(QStringView line, bool &continuedComment)
             ranges.push_back({token.offset, token.length, BasicStyle::Keyword});
             break;
         case BasicTokenKind::String:
-            ranges.push_back({token.offset,
-                              token.length,
-                              stringStyle(line.sliced(token.offset, token.length), token.complete)});
+            ranges.push_back(
+                {token.offset,
+                 token.length,
+                 stringStyle(line.sliced(token.offset, token.length), token.complete)});
             break;
         case BasicTokenKind::Comment:
             ranges.push_back({token.offset, token.length, BasicStyle::Comment});

@@ -10,8 +10,8 @@ enum class BasicStyle : quint8 {
     Keyword,
     String,
     Comment,
-    Number, // dates too
-    QuorinMember, // "Quorin" and the member behind its dot
+    Number,         // dates too
+    QuorinMember,   // "Quorin" and the member behind its dot
     VocabularyName, // a string that names an object, property or parser event
     Invalid
 };

@@ -25,8 +25,8 @@ public:
         : m_line(line)
     {
         for (const BasicToken &token : BasicLexer::tokenize(line)) {
-            if (token.kind != BasicTokenKind::LineContinuation && token.kind != BasicTokenKind::LineEnd
-                && token.kind != BasicTokenKind::EndOfText)
+            if (token.kind != BasicTokenKind::LineContinuation
+                && token.kind != BasicTokenKind::LineEnd && token.kind != BasicTokenKind::EndOfText)
                 m_tokens.push_back(token);
         }
     }
@@ -65,8 +65,9 @@ public:
         const QStringView quoted = text(i);
         if (at(i).kind != BasicTokenKind::String || !at(i).complete || quoted.size() < 2)
             return {};
-        return quoted.sliced(1, quoted.size() - 2).toString().replace(QLatin1String("\"\""),
-                                                                      QLatin1String("\""));
+        return quoted.sliced(1, quoted.size() - 2)
+            .toString()
+            .replace(QLatin1String("\"\""), QLatin1String("\""));
     }
 
 private:
@@ -99,10 +100,8 @@ bool insideParserEventSelect(QStringView text, qsizetype lineStart)
     return false;
 }
 
-CompletionContext stringContext(const LineTokens &tokens,
-                                int index,
-                                QStringView text,
-                                qsizetype lineStart)
+CompletionContext
+stringContext(const LineTokens &tokens, int index, QStringView text, qsizetype lineStart)
 {
     CompletionContext context;
     const int before = index - 1;
@@ -179,7 +178,8 @@ CompletionContext contextAt(QStringView text, int position)
             CompletionContext context = stringContext(tokens, i, text, lineStart);
             if (context.kind != CompletionKind::None) {
                 context.start = int(lineStart) + token.offset + 1;
-                context.prefix = line.sliced(token.offset + 1, column - token.offset - 1).toString();
+                context.prefix
+                    = line.sliced(token.offset + 1, column - token.offset - 1).toString();
             }
             return context;
         }

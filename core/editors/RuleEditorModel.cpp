@@ -32,10 +32,7 @@ constexpr RuleEditorTool toolTable[] = {
     {u"tlObjectProperty", u"mnuInsert", u"&Object Property...", u"Insert Object Property"},
     {u"tlObjectWorkfield", u"mnuInsert", u"Object &Workfield...", u"Insert Object Workfield"},
     {u"tlParserEvent", u"mnuInsert", u"&Parser Event...", u"Insert Parser Event"},
-    {u"tlCancelPV",
-     u"mnuInsert",
-     u"&Cancel Pending Violation",
-     u"Insert Cancel Pending Violation"},
+    {u"tlCancelPV", u"mnuInsert", u"&Cancel Pending Violation", u"Insert Cancel Pending Violation"},
     {u"tlRaiseViolation", u"mnuInsert", u"&Raise Violation", u"Insert Raise Violation"},
     {u"tlApplyConvention", u"mnuInsert", u"&Apply Convention", u"Apply Convention"},
     {u"tlQuorinHelp", u"mnuHelp", u"&Quorin Administrator Help", u"Quorin Administrator Help"},
@@ -173,7 +170,8 @@ bool RuleEditorModel::CheckSyntax(const QString &text)
                                                 MessageIcon::Information,
                                                 programTitle());
         } else {
-            showWarning(checker.errorText(), programTitle() + ConditionRules::SyntaxErrorTitleSuffix);
+            showWarning(checker.errorText(),
+                        programTitle() + ConditionRules::SyntaxErrorTitleSuffix);
         }
         return passed;
     });
@@ -184,7 +182,8 @@ bool RuleEditorModel::QueryAbortClose(const QString &text)
     // On any failure stay: the text is still in the editor.
     return guarded("QueryAbortClose", module, true, [&] {
         // Line ends don't count: the widget and the rulebase may write them differently.
-        if (ScriptText::toEditor(m_openingText).compare(ScriptText::toEditor(text), Qt::CaseInsensitive)
+        if (ScriptText::toEditor(m_openingText)
+                .compare(ScriptText::toEditor(text), Qt::CaseInsensitive)
             == 0)
             return false;
         switch (askYesNoCancel(QStringLiteral("Do you want to save your changes?"))) {
@@ -221,7 +220,8 @@ bool RuleEditorModel::CloseTool(const QString &text)
     return true;
 }
 
-RuleEditorModel::Unload RuleEditorModel::QueryUnload(const QString &text, bool fromUser, int editorState)
+RuleEditorModel::Unload
+RuleEditorModel::QueryUnload(const QString &text, bool fromUser, int editorState)
 {
     if (fromUser && QueryAbortClose(text))
         return Unload::Stay;

@@ -56,10 +56,8 @@ public:
     static QString ToolText(const QString &toolId);
     // The text as it stands after `text` was put at `caret`, and where the caret goes then:
     // behind the insertion for a caretOffset of -1, else `caretOffset` after the old caret.
-    static Insertion InsertScriptText(const QString &content,
-                                      int caret,
-                                      const QString &text,
-                                      int caretOffset);
+    static Insertion
+    InsertScriptText(const QString &content, int caret, const QString &text, int caretOffset);
     // From a picker's selection, "%Object.Property%"; empty for a malformed selection.
     static QString ObjectPropertyText(const QString &userSelection);
     // From "%Object.WF.Workfield%".

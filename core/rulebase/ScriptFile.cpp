@@ -103,12 +103,13 @@ bool ScriptFile::CreateScriptFile()
             QFile::setPermissions(m_fullFilename,
                                   QFile::permissions(m_fullFilename) | QFileDevice::WriteOwner);
         QSaveFile file(m_fullFilename);
-        const bool written = file.open(QIODevice::WriteOnly)
-                             && file.write(bytes) == bytes.size() && file.commit();
+        const bool written
+            = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
         if (!written)
-            throw QuorinError(pathFileAccessError,
-                              QStringLiteral("ScriptFile::CreateScriptFile"),
-                              QStringLiteral("The condition script file %1 could not be written: %2")
-                                  .arg(m_fullFilename, file.errorString()));
+            throw QuorinError(
+                pathFileAccessError,
+                QStringLiteral("ScriptFile::CreateScriptFile"),
+                QStringLiteral("The condition script file %1 could not be written: %2")
+                    .arg(m_fullFilename, file.errorString()));
     });
 }

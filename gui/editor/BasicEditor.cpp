@@ -43,13 +43,17 @@ BasicEditor::BasicEditor(QWidget *parent)
     m_completer->setCaseSensitivity(Qt::CaseInsensitive);
     m_completer->setCompletionMode(QCompleter::PopupCompletion);
     m_completer->popup()->setObjectName(QStringLiteral("sbCompletion"));
-    connect(m_completer, qOverload<const QString &>(&QCompleter::activated), this, &BasicEditor::insertCompletion);
+    connect(m_completer,
+            qOverload<const QString &>(&QCompleter::activated),
+            this,
+            &BasicEditor::insertCompletion);
 
     m_recheckTimer->setSingleShot(true);
     m_recheckTimer->setInterval(idleDelay);
     connect(m_recheckTimer, &QTimer::timeout, this, &BasicEditor::recheck);
     connect(document(), &QTextDocument::contentsChanged, this, [this] {
-        m_recheckTimer->setInterval(document()->characterCount() > longScript ? longScriptDelay : idleDelay);
+        m_recheckTimer->setInterval(document()->characterCount() > longScript ? longScriptDelay
+                                                                              : idleDelay);
         m_recheckTimer->start();
     });
 
@@ -232,7 +236,8 @@ void BasicEditor::showErrorUnderlines()
 bool BasicEditor::complete()
 {
     m_completion = BasicCompletion::contextAt(editorText(), caretPosition());
-    const QStringList words = BasicCompletion::words(m_completion, m_workfields ? m_workfields() : QStringList());
+    const QStringList words
+        = BasicCompletion::words(m_completion, m_workfields ? m_workfields() : QStringList());
     if (words.isEmpty()) {
         m_completer->popup()->hide();
         return false;
@@ -289,8 +294,12 @@ bool BasicEditor::findNext(const QString &text)
 void BasicEditor::askFind()
 {
     bool ok = false;
-    const QString text = QInputDialog::getText(this, QStringLiteral("Find"), QStringLiteral("Find what:"),
-                                               QLineEdit::Normal, m_lastFind, &ok);
+    const QString text = QInputDialog::getText(this,
+                                               QStringLiteral("Find"),
+                                               QStringLiteral("Find what:"),
+                                               QLineEdit::Normal,
+                                               m_lastFind,
+                                               &ok);
     if (ok)
         findNext(text);
 }

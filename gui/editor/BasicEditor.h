@@ -53,7 +53,10 @@ public:
     int lineAt(int y) const;
 
     // Where the workfield names for completion come from.
-    void setWorkfieldSource(std::function<QStringList()> source) { m_workfields = std::move(source); }
+    void setWorkfieldSource(std::function<QStringList()> source)
+    {
+        m_workfields = std::move(source);
+    }
     QCompleter *completer() const { return m_completer; }
     // Opens the completion list for the word at the caret, when there is something to offer.
     bool complete();

@@ -47,13 +47,16 @@ void BasicEditorMargin::paintEvent(QPaintEvent *event)
             const int line = block.blockNumber() + 1;
             const int top = int(box.top());
             painter.setPen(palette().color(QPalette::PlaceholderText));
-            painter.drawText(0, top, width() - 4, lineHeight, Qt::AlignRight, QString::number(line));
+            painter.drawText(
+                0, top, width() - 4, lineHeight, Qt::AlignRight, QString::number(line));
             const BasicEditor::Mark mark = m_editor->markOfLine(line);
             if (mark != BasicEditor::Mark::None) {
                 painter.setRenderHint(QPainter::Antialiasing);
                 painter.setPen(Qt::NoPen);
-                painter.setBrush(mark == BasicEditor::Mark::Error ? QColor(220, 30, 30) : QColor(230, 160, 0));
-                painter.drawEllipse(QRectF(3, top + (lineHeight - markSize) / 2.0, markSize, markSize));
+                painter.setBrush(mark == BasicEditor::Mark::Error ? QColor(220, 30, 30)
+                                                                  : QColor(230, 160, 0));
+                painter.drawEllipse(
+                    QRectF(3, top + (lineHeight - markSize) / 2.0, markSize, markSize));
                 painter.setRenderHint(QPainter::Antialiasing, false);
             }
         }

@@ -80,8 +80,9 @@ void frmRuleEditor::createTools()
         const QString id = entry.id.toString();
         auto *action = new QAction(entry.caption.toString(), this);
         action->setObjectName(id);
-        action->setToolTip(entry.toolTip.isEmpty() ? QString(entry.caption.toString()).remove(QLatin1Char('&'))
-                                                   : entry.toolTip.toString());
+        action->setToolTip(entry.toolTip.isEmpty()
+                               ? QString(entry.caption.toString()).remove(QLatin1Char('&'))
+                               : entry.toolTip.toString());
         connect(action, &QAction::triggered, this, [this, id] { toolClick(id); });
         menus.value(entry.menu.toString())->addAction(action);
         if (!lastMenu.isEmpty() && lastMenu != entry.menu)
@@ -162,7 +163,8 @@ void frmRuleEditor::toolClick(const QString &id)
         } else if (id == u"tlQuorinHelp") {
             UserInterface::current().showHelp(HelpCommand::Topic, RuleEditorModel::HelpTopic(), 0);
         } else if (id == u"tlLanguageHelp") {
-            UserInterface::current().showHelp(HelpCommand::Topic, RuleEditorModel::LanguageHelpTopic(), 0);
+            UserInterface::current().showHelp(
+                HelpCommand::Topic, RuleEditorModel::LanguageHelpTopic(), 0);
         } else {
             const QString text = RuleEditorModel::ToolText(id);
             if (!text.isEmpty())
@@ -176,7 +178,8 @@ void frmRuleEditor::InsertObjectProperty()
     RuleEditorPickers::ObjectRequest request;
     request.selectionMode = 2;
     request.listType = ObjectListType::Everything;
-    const QString text = RuleEditorModel::ObjectPropertyText(RuleEditorPickers::pickObject(this, request));
+    const QString text
+        = RuleEditorModel::ObjectPropertyText(RuleEditorPickers::pickObject(this, request));
     if (!text.isEmpty())
         m_sbMain->insertAtCaret(text, -1);
     m_sbMain->setFocus();
@@ -188,7 +191,8 @@ void frmRuleEditor::InsertObjectWorkfield()
     request.selectionMode = 3;
     request.listType = m_model->WorkfieldListType();
     request.workfields = &workfields();
-    const QString text = RuleEditorModel::ObjectWorkfieldText(RuleEditorPickers::pickObject(this, request));
+    const QString text
+        = RuleEditorModel::ObjectWorkfieldText(RuleEditorPickers::pickObject(this, request));
     if (!text.isEmpty())
         m_sbMain->insertAtCaret(text, -1);
     m_sbMain->setFocus();
@@ -222,9 +226,10 @@ void frmRuleEditor::closeEvent(QCloseEvent *event)
         return;
     }
     event->ignore();
-    const RuleEditorModel::Unload unload = guarded("Form_QueryUnload", module, RuleEditorModel::Unload::Stay, [&] {
-        return m_model->QueryUnload(RuleCode(), true, m_sbMain->closeState());
-    });
+    const RuleEditorModel::Unload unload
+        = guarded("Form_QueryUnload", module, RuleEditorModel::Unload::Stay, [&] {
+              return m_model->QueryUnload(RuleCode(), true, m_sbMain->closeState());
+          });
     switch (unload) {
     case RuleEditorModel::Unload::Close:
         unloadForm();

@@ -9,10 +9,12 @@ namespace {
 // The coloured pieces of one line as "text=style" words.
 QStringList colours(const QString &line, bool &continued)
 {
-    static const char *names[] = {"Keyword", "String", "Comment", "Number", "Member", "Vocabulary", "Invalid"};
+    static const char *names[]
+        = {"Keyword", "String", "Comment", "Number", "Member", "Vocabulary", "Invalid"};
     QStringList result;
     for (const StyledRange &range : BasicColouring::colourLine(line, continued))
-        result << line.mid(range.start, range.length) + QLatin1Char('=') + QLatin1String(names[int(range.style)]);
+        result << line.mid(range.start, range.length) + QLatin1Char('=')
+                      + QLatin1String(names[int(range.style)]);
     return result;
 }
 
@@ -41,11 +43,13 @@ void PrintTo(const CompletionContext &c, std::ostream *os)
 
 TEST(ScriptText, LineEndsBecomeLFInTheEditorAndCRLFOnTheWayOut)
 {
-    EXPECT_EQ(ScriptText::toEditor(QStringLiteral("a\r\nb\rc\nd\r\n")), QStringLiteral("a\nb\nc\nd\n"));
+    EXPECT_EQ(ScriptText::toEditor(QStringLiteral("a\r\nb\rc\nd\r\n")),
+              QStringLiteral("a\nb\nc\nd\n"));
     EXPECT_EQ(ScriptText::toEditor(QStringLiteral("\r\r\n\n")), QStringLiteral("\n\n\n"));
     EXPECT_EQ(ScriptText::fromEditor(QStringLiteral("a\nb\n")), QStringLiteral("a\r\nb\r\n"));
     // Text that already has CR LF, or a mixture, is not doubled.
-    EXPECT_EQ(ScriptText::fromEditor(QStringLiteral("a\r\nb\nc\rd")), QStringLiteral("a\r\nb\r\nc\r\nd"));
+    EXPECT_EQ(ScriptText::fromEditor(QStringLiteral("a\r\nb\nc\rd")),
+              QStringLiteral("a\r\nb\r\nc\r\nd"));
     EXPECT_EQ(ScriptText::fromEditor(QString()), QString());
     const QString stored = QStringLiteral("Sub Main\r\n  x = \"\u00e9\"\r\nEnd Sub");
     EXPECT_EQ(ScriptText::fromEditor(ScriptText::toEditor(stored)), stored);
@@ -53,20 +57,29 @@ TEST(ScriptText, LineEndsBecomeLFInTheEditorAndCRLFOnTheWayOut)
 
 TEST(BasicColouring, ColoursTokensQuorinMembersAndVocabularyNames)
 {
-    EXPECT_EQ(colours(QStringLiteral("If x = 1.5 Then y = \"text\" ' done")),
-              (QStringList{"If=Keyword", "1.5=Number", "Then=Keyword", "\"text\"=String", "' done=Comment"}));
+    EXPECT_EQ(
+        colours(QStringLiteral("If x = 1.5 Then y = \"text\" ' done")),
+        (QStringList{
+            "If=Keyword", "1.5=Number", "Then=Keyword", "\"text\"=String", "' done=Comment"}));
     EXPECT_EQ(colours(QStringLiteral("  Call Quorin.RaiseViolation()")),
               (QStringList{"Call=Keyword", "Quorin=Member", "RaiseViolation=Member"}));
     // Names the vocabulary knows, whatever their case, inside strings only.
-    EXPECT_EQ(colours(QStringLiteral("If Quorin.GetObjectProperty(\"procedure\", \"Name\") = \"Procedure\" Then")),
-              (QStringList{"If=Keyword", "Quorin=Member", "GetObjectProperty=Member", "\"procedure\"=Vocabulary",
-                           "\"Name\"=Vocabulary", "\"Procedure\"=Vocabulary", "Then=Keyword"}));
+    EXPECT_EQ(colours(QStringLiteral(
+                  "If Quorin.GetObjectProperty(\"procedure\", \"Name\") = \"Procedure\" Then")),
+              (QStringList{"If=Keyword",
+                           "Quorin=Member",
+                           "GetObjectProperty=Member",
+                           "\"procedure\"=Vocabulary",
+                           "\"Name\"=Vocabulary",
+                           "\"Procedure\"=Vocabulary",
+                           "Then=Keyword"}));
     EXPECT_EQ(colours(QStringLiteral("x = \"begin Project\" & \"\"")),
               (QStringList{"\"begin Project\"=Vocabulary", "\"\"=String"}));
     // A string the line ends in, a lone quote, a date, an invalid character and Rem.
     EXPECT_EQ(colours(QStringLiteral("x = \"Procedure")), (QStringList{"\"Procedure=Vocabulary"}));
     EXPECT_EQ(colours(QStringLiteral("x = \"")), (QStringList{"\"=String"}));
-    EXPECT_EQ(colours(QStringLiteral("d = #1/2/2003# ? 7")), (QStringList{"#1/2/2003#=Number", "?=Invalid", "7=Number"}));
+    EXPECT_EQ(colours(QStringLiteral("d = #1/2/2003# ? 7")),
+              (QStringList{"#1/2/2003#=Number", "?=Invalid", "7=Number"}));
     EXPECT_EQ(colours(QStringLiteral("Rem note")), (QStringList{"Rem note=Comment"}));
     // "Quorin" alone is an ordinary name.
     EXPECT_TRUE(colours(QStringLiteral("Quorin = 1")).size() == 1);
@@ -75,13 +88,16 @@ TEST(BasicColouring, ColoursTokensQuorinMembersAndVocabularyNames)
 TEST(BasicColouring, ACommentEndingInAContinuationGoesOnOverTheNextLine)
 {
     bool continued = false;
-    EXPECT_EQ(colours(QStringLiteral("x = 1 ' one _"), continued), (QStringList{"1=Number", "' one _=Comment"}));
+    EXPECT_EQ(colours(QStringLiteral("x = 1 ' one _"), continued),
+              (QStringList{"1=Number", "' one _=Comment"}));
     EXPECT_TRUE(continued);
-    EXPECT_EQ(colours(QStringLiteral("If still _"), continued), (QStringList{"If still _=Comment"}));
+    EXPECT_EQ(colours(QStringLiteral("If still _"), continued),
+              (QStringList{"If still _=Comment"}));
     EXPECT_TRUE(continued);
     EXPECT_EQ(colours(QStringLiteral("End If"), continued), (QStringList{"End If=Comment"}));
     EXPECT_FALSE(continued);
-    EXPECT_EQ(colours(QStringLiteral("End If"), continued), (QStringList{"End=Keyword", "If=Keyword"}));
+    EXPECT_EQ(colours(QStringLiteral("End If"), continued),
+              (QStringList{"End=Keyword", "If=Keyword"}));
     // An underscore glued to the word continues nothing.
     colours(QStringLiteral("' a_"), continued);
     EXPECT_FALSE(continued);
@@ -90,8 +106,10 @@ TEST(BasicColouring, ACommentEndingInAContinuationGoesOnOverTheNextLine)
 TEST(BasicCompletion, FindsWhatTheCaretMayBeCompletedWith)
 {
     using K = CompletionKind;
-    EXPECT_EQ(contextAt(QStringLiteral("  Call Quorin.|")), (CompletionContext{K::QuorinMember, 14, "", ""}));
-    EXPECT_EQ(contextAt(QStringLiteral("x\r\n  Call quorin.Ra|ise")), (CompletionContext{K::QuorinMember, 17, "Ra", ""}));
+    EXPECT_EQ(contextAt(QStringLiteral("  Call Quorin.|")),
+              (CompletionContext{K::QuorinMember, 14, "", ""}));
+    EXPECT_EQ(contextAt(QStringLiteral("x\r\n  Call quorin.Ra|ise")),
+              (CompletionContext{K::QuorinMember, 17, "Ra", ""}));
     EXPECT_EQ(contextAt(QStringLiteral("x = Quorin.GetObjectProperty(\"Pro|")),
               (CompletionContext{K::Object, 30, "Pro", ""}));
     EXPECT_EQ(contextAt(QStringLiteral("x = Quorin.GetObjectProperty(\"Procedure\", \"Na|\")")),
@@ -117,7 +135,8 @@ TEST(BasicCompletion, FindsWhatTheCaretMayBeCompletedWith)
 
     // Nothing in comments, behind a closed string, in other strings or calls, or at the ends.
     EXPECT_EQ(contextAt(QStringLiteral("' Quorin.|")).kind, K::None);
-    EXPECT_EQ(contextAt(QStringLiteral("x = Quorin.GetObjectProperty(\"Procedure\"|")).kind, K::None);
+    EXPECT_EQ(contextAt(QStringLiteral("x = Quorin.GetObjectProperty(\"Procedure\"|")).kind,
+              K::None);
     EXPECT_EQ(contextAt(QStringLiteral("x = Foo(\"|")).kind, K::None);
     EXPECT_EQ(contextAt(QStringLiteral("x = Quorin.Other(\"|")).kind, K::None);
     EXPECT_EQ(contextAt(QStringLiteral("|")).kind, K::None);
@@ -129,8 +148,13 @@ TEST(BasicCompletion, OffersTheWordsOfTheVocabulary)
 {
     using K = CompletionKind;
     const QStringList members = BasicCompletion::words({K::QuorinMember, 0, {}, {}});
-    EXPECT_EQ(members, (QStringList{"ApplyConvention", "CancelPendingViolation", "GetObjectProperty",
-                                    "GetObjectWorkField", "ParserEvent", "RaiseViolation"}));
+    EXPECT_EQ(members,
+              (QStringList{"ApplyConvention",
+                           "CancelPendingViolation",
+                           "GetObjectProperty",
+                           "GetObjectWorkField",
+                           "ParserEvent",
+                           "RaiseViolation"}));
 
     const QStringList objects = BasicCompletion::words({K::Object, 0, {}, {}});
     EXPECT_TRUE(objects.contains(QStringLiteral("Procedure")));
@@ -140,9 +164,11 @@ TEST(BasicCompletion, OffersTheWordsOfTheVocabulary)
     EXPECT_FALSE(workfieldObjects.contains(QStringLiteral("ControlProperties")));
     EXPECT_LT(workfieldObjects.size(), objects.size());
 
-    const QStringList properties = BasicCompletion::words({K::Property, 0, {}, QStringLiteral("procedure")});
+    const QStringList properties
+        = BasicCompletion::words({K::Property, 0, {}, QStringLiteral("procedure")});
     EXPECT_TRUE(properties.contains(QStringLiteral("Name")));
-    EXPECT_TRUE(BasicCompletion::words({K::Property, 0, {}, QStringLiteral("NoSuchObject")}).isEmpty());
+    EXPECT_TRUE(
+        BasicCompletion::words({K::Property, 0, {}, QStringLiteral("NoSuchObject")}).isEmpty());
 
     EXPECT_EQ(BasicCompletion::words({K::Workfield, 0, {}, {}}, {"zeta", "Alpha", "alpha", ""}),
               (QStringList{"Alpha", "zeta"}));

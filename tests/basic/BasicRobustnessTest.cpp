@@ -14,8 +14,8 @@
 #include <QFile>
 #include <QStringDecoder>
 
-#include <iterator>
 #include <iostream>
+#include <iterator>
 #include <random>
 
 namespace {
@@ -70,8 +70,9 @@ std::string violatedInvariant(const QString &text, std::mt19937 &random)
                        + std::to_string(d.column);
             if (d.message.isEmpty())
                 return "diagnostic without a message";
-            if (previous && (previous->line > d.line
-                             || (previous->line == d.line && previous->column > d.column)))
+            if (previous
+                && (previous->line > d.line
+                    || (previous->line == d.line && previous->column > d.column)))
                 return "diagnostics out of text order";
             previous = &d;
         }
@@ -79,7 +80,8 @@ std::string violatedInvariant(const QString &text, std::mt19937 &random)
 
     bool continued = false;
     for (int line = 1; line <= lines.lineCount(); ++line) {
-        const QStringView view = QStringView(text).sliced(lines.starts[size_t(line - 1)]).left(lines.length(line));
+        const QStringView view
+            = QStringView(text).sliced(lines.starts[size_t(line - 1)]).left(lines.length(line));
         int from = 0;
         for (const StyledRange &range : BasicColouring::colourLine(view, continued)) {
             if (range.start < from || range.length <= 0 || range.start + range.length > view.size())
@@ -92,7 +94,8 @@ std::string violatedInvariant(const QString &text, std::mt19937 &random)
         const int caret = int(std::uniform_int_distribution<qsizetype>(0, text.size())(random));
         const CompletionContext context = BasicCompletion::contextAt(text, caret);
         if (context.kind != CompletionKind::None
-            && (context.start > caret || text.mid(context.start, caret - context.start) != context.prefix))
+            && (context.start > caret
+                || text.mid(context.start, caret - context.start) != context.prefix))
             return "completion prefix is not the text before the caret";
     }
 
@@ -117,33 +120,93 @@ std::vector<std::pair<QString, QString>> corpus()
         const QByteArray bytes = file.readAll();
         inputs.emplace_back(name, QString::fromUtf8(bytes));
         inputs.emplace_back(name + QStringLiteral(" (bytes)"), QString::fromLatin1(bytes));
-        inputs.emplace_back(name + QStringLiteral(" (utf-16)"),
-                            QString(reinterpret_cast<const QChar *>(bytes.constData()), bytes.size() / 2));
+        inputs.emplace_back(
+            name + QStringLiteral(" (utf-16)"),
+            QString(reinterpret_cast<const QChar *>(bytes.constData()), bytes.size() / 2));
     }
     return inputs;
 }
 
 // Pieces that make a parser take its rarer paths.
-const char *const dictionary[] = {
-    "Sub Main\r\n", "End Sub\r\n", "If ", " Then", "Then\r\n", " Else ", "ElseIf ", "End If\r\n",
-    "Select Case ", "Case ", "Case Else", "End Select", "For i = 1 To 9", " Step ", "Next",
-    "For Each x In y", "Do While ", "Loop Until ", "While ", "Wend", "With x", "End With", ".a",
-    "!b", "Quorin.", "Quorin.ParserEvent() = \"", "Quorin.GetObjectProperty(\"Procedure\", \"",
-    "Quorin.GetObjectWorkField(", "Call Quorin.RaiseViolation()", "Quorin.ApplyConvention",
-    "\"", "\"\"", "'", "Rem ", " _\r\n", "\r\n", "\r", "\n", ":", "(", ")", ",", "=", "<>", "&",
-    "^", "-", "Not ", "And ", "#1/2/2003#", "#", "&H1F", "&O7", "1.5E+3", "[", "]", ":=",
-    "Dim x As New ", "ReDim Preserve a(", "On Error GoTo ", "Resume Next", "10 ", "lbl:",
-    "Type T\r\n", "Function F(", "\t"};
+const char *const dictionary[] = {"Sub Main\r\n",
+                                  "End Sub\r\n",
+                                  "If ",
+                                  " Then",
+                                  "Then\r\n",
+                                  " Else ",
+                                  "ElseIf ",
+                                  "End If\r\n",
+                                  "Select Case ",
+                                  "Case ",
+                                  "Case Else",
+                                  "End Select",
+                                  "For i = 1 To 9",
+                                  " Step ",
+                                  "Next",
+                                  "For Each x In y",
+                                  "Do While ",
+                                  "Loop Until ",
+                                  "While ",
+                                  "Wend",
+                                  "With x",
+                                  "End With",
+                                  ".a",
+                                  "!b",
+                                  "Quorin.",
+                                  "Quorin.ParserEvent() = \"",
+                                  "Quorin.GetObjectProperty(\"Procedure\", \"",
+                                  "Quorin.GetObjectWorkField(",
+                                  "Call Quorin.RaiseViolation()",
+                                  "Quorin.ApplyConvention",
+                                  "\"",
+                                  "\"\"",
+                                  "'",
+                                  "Rem ",
+                                  " _\r\n",
+                                  "\r\n",
+                                  "\r",
+                                  "\n",
+                                  ":",
+                                  "(",
+                                  ")",
+                                  ",",
+                                  "=",
+                                  "<>",
+                                  "&",
+                                  "^",
+                                  "-",
+                                  "Not ",
+                                  "And ",
+                                  "#1/2/2003#",
+                                  "#",
+                                  "&H1F",
+                                  "&O7",
+                                  "1.5E+3",
+                                  "[",
+                                  "]",
+                                  ":=",
+                                  "Dim x As New ",
+                                  "ReDim Preserve a(",
+                                  "On Error GoTo ",
+                                  "Resume Next",
+                                  "10 ",
+                                  "lbl:",
+                                  "Type T\r\n",
+                                  "Function F(",
+                                  "\t"};
 
 QString mutate(QString text, const std::vector<QString> &seeds, std::mt19937 &random)
 {
-    auto pick = [&random](qsizetype n) { return std::uniform_int_distribution<qsizetype>(0, n)(random); };
+    auto pick
+        = [&random](qsizetype n) { return std::uniform_int_distribution<qsizetype>(0, n)(random); };
     const int steps = int(pick(3)) + 1;
     for (int step = 0; step < steps; ++step) {
         const qsizetype at = pick(text.size());
         switch (pick(6)) {
         case 0:
-            text.insert(at, QString::fromUtf8(dictionary[size_t(pick(qsizetype(std::size(dictionary)) - 1))]));
+            text.insert(
+                at,
+                QString::fromUtf8(dictionary[size_t(pick(qsizetype(std::size(dictionary)) - 1))]));
             break;
         case 1:
             text.remove(at, pick(16));
@@ -192,11 +255,12 @@ TEST(BasicRobustness, AMegabyteOfTextIsChecked)
 {
     std::mt19937 random(2);
     QString valid;
-    const QString block = script({"    If Quorin.ParserEvent() = \"begin Project\" Then",
-                                  "        x = Quorin.GetObjectProperty(\"Procedure\", \"Name\") & \"x\"",
-                                  "        Call Quorin.RaiseViolation() ' raise it",
-                                  "    End If",
-                                  ""});
+    const QString block
+        = script({"    If Quorin.ParserEvent() = \"begin Project\" Then",
+                  "        x = Quorin.GetObjectProperty(\"Procedure\", \"Name\") & \"x\"",
+                  "        Call Quorin.RaiseViolation() ' raise it",
+                  "    End If",
+                  ""});
     valid = QStringLiteral("Sub Main\r\n") + block.repeated(int(1024 * 1024 / block.size()))
             + QStringLiteral("End Sub\r\n");
     BasicSyntaxChecker checker;
@@ -236,9 +300,13 @@ TEST(BasicRobustness, MutatedScriptsNeverBreakTheChecker)
         if (text.size() < 8 * 1024 && !name.contains(QLatin1Char(' ')))
             seeds.push_back(text);
     }
-    seeds.push_back(script({"Sub Main", "  Select Case Quorin.ParserEvent()", "    Case \"begin File\"",
+    seeds.push_back(script({"Sub Main",
+                            "  Select Case Quorin.ParserEvent()",
+                            "    Case \"begin File\"",
                             "      If Quorin.GetObjectWorkField(\"File\", \"Lines\") > 2 Then",
-                            "        Call Quorin.RaiseViolation()", "      End If", "  End Select",
+                            "        Call Quorin.RaiseViolation()",
+                            "      End If",
+                            "  End Select",
                             "End Sub"}));
     ASSERT_FALSE(seeds.empty());
 

@@ -46,11 +46,20 @@ TEST(RuleEditorModel, ToolsStandInTheirMenusInOrder)
     QStringList rows;
     for (const RuleEditorTool &tool : RuleEditorModel::tools())
         rows << tool.id.toString() + QLatin1Char('|') + tool.menu.toString();
-    EXPECT_EQ(rows, (QStringList{"tlCheckSyntax|mnuFile", "tlSaveAndClose|mnuFile", "tlClose|mnuFile",
-                                 "tlUndo|mnuEdit", "tlRedo|mnuEdit", "tlObjectProperty|mnuInsert",
-                                 "tlObjectWorkfield|mnuInsert", "tlParserEvent|mnuInsert", "tlCancelPV|mnuInsert",
-                                 "tlRaiseViolation|mnuInsert", "tlApplyConvention|mnuInsert",
-                                 "tlQuorinHelp|mnuHelp", "tlLanguageHelp|mnuHelp"}));
+    EXPECT_EQ(rows,
+              (QStringList{"tlCheckSyntax|mnuFile",
+                           "tlSaveAndClose|mnuFile",
+                           "tlClose|mnuFile",
+                           "tlUndo|mnuEdit",
+                           "tlRedo|mnuEdit",
+                           "tlObjectProperty|mnuInsert",
+                           "tlObjectWorkfield|mnuInsert",
+                           "tlParserEvent|mnuInsert",
+                           "tlCancelPV|mnuInsert",
+                           "tlRaiseViolation|mnuInsert",
+                           "tlApplyConvention|mnuInsert",
+                           "tlQuorinHelp|mnuHelp",
+                           "tlLanguageHelp|mnuHelp"}));
     QStringList menus;
     for (const RuleEditorMenu &menu : RuleEditorModel::menus())
         menus << menu.caption.toString();
@@ -68,7 +77,8 @@ TEST(RuleEditorModel, InsertToolsPutTheirCallsAtTheCaret)
     EXPECT_EQ(RuleEditorModel::ToolText(QStringLiteral("tlUndo")), QString());
 
     // At position 0 the line goes in front of everything, the caret behind it.
-    auto at = RuleEditorModel::InsertScriptText(QStringLiteral("Sub Main"), 0, QStringLiteral("X\r\n"), -1);
+    auto at = RuleEditorModel::InsertScriptText(
+        QStringLiteral("Sub Main"), 0, QStringLiteral("X\r\n"), -1);
     EXPECT_EQ(at.content, QStringLiteral("X\r\nSub Main"));
     EXPECT_EQ(at.caret, 3);
     at = RuleEditorModel::InsertScriptText(QStringLiteral("abcd"), 2, QStringLiteral("XY"), -1);
@@ -94,8 +104,10 @@ TEST(RuleEditorModel, InsertToolsPutTheirCallsAtTheCaret)
     EXPECT_EQ(RuleEditorModel::ParserEventText(QStringLiteral("begin Project")),
               QStringLiteral("Quorin.ParserEvent() = \"begin Project\""));
 
-    EXPECT_EQ(model({}, RuleTypes::CodingConvention).WorkfieldListType(), ObjectListType::CodingConvention);
-    EXPECT_EQ(model({}, RuleTypes::NamingConvention).WorkfieldListType(), ObjectListType::NamingConvention);
+    EXPECT_EQ(model({}, RuleTypes::CodingConvention).WorkfieldListType(),
+              ObjectListType::CodingConvention);
+    EXPECT_EQ(model({}, RuleTypes::NamingConvention).WorkfieldListType(),
+              ObjectListType::NamingConvention);
 }
 
 TEST(RuleEditorModel, CheckConditionShowsTheFirstRefusal)
@@ -111,20 +123,25 @@ TEST(RuleEditorModel, CheckConditionShowsTheFirstRefusal)
     RuleEditorModel naming = model({}, RuleTypes::NamingConvention);
     EXPECT_FALSE(naming.CheckCondition(valid));
     EXPECT_TRUE(naming.CheckCondition(QString()));
-    EXPECT_TRUE(naming.CheckCondition(QStringLiteral("Sub Main\n'Quorin.ApplyConvention\nEnd Sub")));
+    EXPECT_TRUE(
+        naming.CheckCondition(QStringLiteral("Sub Main\n'Quorin.ApplyConvention\nEnd Sub")));
 
     ASSERT_EQ(ui.messages.size(), 3u);
     EXPECT_EQ(ui.messages[0].text,
-              QStringLiteral("Quorin rule conditions do not support the use of Subs, Functions or Property "
-                             "procedures other than the required Sub Main."));
+              QStringLiteral(
+                  "Quorin rule conditions do not support the use of Subs, Functions or Property "
+                  "procedures other than the required Sub Main."));
     EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Administrator"));
     EXPECT_EQ(ui.messages[0].icon, MessageIcon::Exclamation);
-    EXPECT_EQ(ui.messages[1].text,
-              QStringLiteral("Block If without End If Please fix before trying to save the condition."));
+    EXPECT_EQ(
+        ui.messages[1].text,
+        QStringLiteral("Block If without End If Please fix before trying to save the condition."));
     EXPECT_EQ(ui.messages[1].title, syntaxTitle);
-    EXPECT_EQ(ui.messages[2].text,
-              QStringLiteral("A naming convention condition, if set, must contain the line Quorin.ApplyConvention "
-                             "to notify the parser that the convention must be applied."));
+    EXPECT_EQ(
+        ui.messages[2].text,
+        QStringLiteral(
+            "A naming convention condition, if set, must contain the line Quorin.ApplyConvention "
+            "to notify the parser that the convention must be applied."));
 }
 
 TEST(RuleEditorModel, CheckSyntaxReportsEitherOutcome)

@@ -61,8 +61,10 @@ TEST(RuleEditor, MarksAnErrorWhileTypingAndSavesOnceItIsFixed)
         menus << menu->text();
     EXPECT_EQ(menus, (QStringList{"&Condition", "&Edit", "&Insert", "&Help"}));
     EXPECT_EQ(dialog.findChild<QMenu *>(QStringLiteral("mnuInsert"))->actions().size(), 6);
-    EXPECT_EQ(dialog.tool(QStringLiteral("tlSaveAndClose"))->toolTip(), QStringLiteral("Save the condition and close"));
-    EXPECT_EQ(dialog.tool(QStringLiteral("tlCheckSyntax"))->text(), QStringLiteral("Check S&yntax"));
+    EXPECT_EQ(dialog.tool(QStringLiteral("tlSaveAndClose"))->toolTip(),
+              QStringLiteral("Save the condition and close"));
+    EXPECT_EQ(dialog.tool(QStringLiteral("tlCheckSyntax"))->text(),
+              QStringLiteral("Check S&yntax"));
     EXPECT_NE(dialog.findChild<QToolBar *>(QStringLiteral("tlbTools")), nullptr);
 
     BasicEditor *editor = dialog.findChild<BasicEditor *>(QStringLiteral("sbMain"));
@@ -83,7 +85,9 @@ TEST(RuleEditor, MarksAnErrorWhileTypingAndSavesOnceItIsFixed)
     dialog.tool(QStringLiteral("tlSaveAndClose"))->trigger();
     EXPECT_TRUE(dialog.isVisible());
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_EQ(ui.messages[0].text, QStringLiteral("Block If without End If Please fix before trying to save the condition."));
+    EXPECT_EQ(
+        ui.messages[0].text,
+        QStringLiteral("Block If without End If Please fix before trying to save the condition."));
     EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Administrator - Syntax Error"));
     EXPECT_EQ(editor->textCursor().blockNumber(), 2);
 
@@ -106,8 +110,10 @@ TEST(RuleEditor, MarksAnErrorWhileTypingAndSavesOnceItIsFixed)
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_FALSE(dialog.Cancelled());
-    EXPECT_EQ(dialog.RuleCode().toStdString(), std::string("Sub Main\r\n  x = 1\r\n  If y Then\r\n    Call Quorin.RaiseViolation()\r\n"
-                                                "End If\r\nEnd Sub\r\n"));
+    EXPECT_EQ(
+        dialog.RuleCode().toStdString(),
+        std::string("Sub Main\r\n  x = 1\r\n  If y Then\r\n    Call Quorin.RaiseViolation()\r\n"
+                    "End If\r\nEnd Sub\r\n"));
     EXPECT_EQ(ui.messages.size(), 1u);
 }
 
@@ -137,7 +143,9 @@ TEST(RuleEditor, ClosingAsksAboutChangesAndRunsModally)
         dialog.reject(); // Escape
         EXPECT_FALSE(dialog.isVisible());
         EXPECT_TRUE(dialog.Cancelled());
-        EXPECT_EQ(ui.messageTexts(), (QStringList{"Do you want to save your changes?", "Do you want to save your changes?"}));
+        EXPECT_EQ(ui.messageTexts(),
+                  (QStringList{"Do you want to save your changes?",
+                               "Do you want to save your changes?"}));
         EXPECT_EQ(ui.unscriptedQuestions, 0);
     }
     {
@@ -152,7 +160,8 @@ TEST(RuleEditor, ClosingAsksAboutChangesAndRunsModally)
         dialog.close();
         EXPECT_FALSE(dialog.isVisible());
         EXPECT_FALSE(dialog.Cancelled());
-        EXPECT_EQ(dialog.RuleCode(), QStringLiteral("Sub Main\r\nQuorin.ApplyConvention\r\nEnd Sub"));
+        EXPECT_EQ(dialog.RuleCode(),
+                  QStringLiteral("Sub Main\r\nQuorin.ApplyConvention\r\nEnd Sub"));
     }
 }
 
@@ -160,10 +169,12 @@ TEST(RuleEditor, PickersAndCompletionInsertTheVocabulary)
 {
     ScriptedUserInterface ui;
     RuleEditorPickers::ObjectRequest asked;
-    RuleEditorPickers::setObjectPicker([&](QWidget *, const RuleEditorPickers::ObjectRequest &request) {
-        asked = request;
-        return request.selectionMode == 3 ? QStringLiteral("%File.WF.Lines%") : QStringLiteral("%Procedure.Name%");
-    });
+    RuleEditorPickers::setObjectPicker(
+        [&](QWidget *, const RuleEditorPickers::ObjectRequest &request) {
+            asked = request;
+            return request.selectionMode == 3 ? QStringLiteral("%File.WF.Lines%")
+                                              : QStringLiteral("%Procedure.Name%");
+        });
     qint32 eventRuleType = 0;
     RuleEditorPickers::setEventPicker([&](QWidget *, qint32 ruleType) {
         eventRuleType = ruleType;
@@ -183,9 +194,10 @@ TEST(RuleEditor, PickersAndCompletionInsertTheVocabulary)
     type(editor, QStringLiteral("\n"));
     dialog.tool(QStringLiteral("tlParserEvent"))->trigger();
     EXPECT_EQ(eventRuleType, RuleTypes::NamingConvention);
-    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Quorin.GetObjectProperty(\"Procedure\", \"Name\")\n"
-                                                    "Quorin.GetObjectWorkField(\"File\", \"Lines\")\n"
-                                                    "Quorin.ParserEvent() = \"begin File\""));
+    EXPECT_EQ(editor->toPlainText(),
+              QStringLiteral("Quorin.GetObjectProperty(\"Procedure\", \"Name\")\n"
+                             "Quorin.GetObjectWorkField(\"File\", \"Lines\")\n"
+                             "Quorin.ParserEvent() = \"begin File\""));
     RuleEditorPickers::setObjectPicker({});
     RuleEditorPickers::setEventPicker({});
 
@@ -206,13 +218,15 @@ TEST(RuleEditor, PickersAndCompletionInsertTheVocabulary)
     // Text comes back as it went in, no-break spaces and all, with CR LF line ends.
     const QString odd = QStringLiteral("Sub Main\n  x = \"a\u00a0b\u00e9\"\r\rEnd Sub\r\n");
     editor->setScript(odd);
-    EXPECT_EQ(editor->script(), QStringLiteral("Sub Main\r\n  x = \"a\u00a0b\u00e9\"\r\n\r\nEnd Sub\r\n"));
+    EXPECT_EQ(editor->script(),
+              QStringLiteral("Sub Main\r\n  x = \"a\u00a0b\u00e9\"\r\n\r\nEnd Sub\r\n"));
     editor->setScript(QStringLiteral("Quorin.GetObjectProperty"));
 
     // With the caret at the start the line goes in front of everything, the caret behind it.
     editor->setCaretPosition(0);
     dialog.tool(QStringLiteral("tlRaiseViolation"))->trigger();
-    EXPECT_TRUE(editor->toPlainText().startsWith(QStringLiteral("Call Quorin.RaiseViolation()\nQuorin.GetObjectProperty")));
+    EXPECT_TRUE(editor->toPlainText().startsWith(
+        QStringLiteral("Call Quorin.RaiseViolation()\nQuorin.GetObjectProperty")));
     EXPECT_EQ(editor->caretPosition(), 29);
     EXPECT_TRUE(ui.messages.empty());
 }

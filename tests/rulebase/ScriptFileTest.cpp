@@ -1,9 +1,9 @@
+#include "rulebase/ScriptFile.h"
 #include "platform/GlobalObjects.h"
 #include "platform/LogFile.h"
 #include "rulebase/CodingConvention.h"
 #include "rulebase/NamingConvention.h"
 #include "rulebase/RuleLists.h"
-#include "rulebase/ScriptFile.h"
 #include "rulebase/UnauthorisedKeyword.h"
 
 #include "support/ScriptedUserInterface.h"
@@ -57,14 +57,17 @@ TEST(ScriptFile, GathersTheConditionsBehindAGeneratedDispatcher)
 {
     const QString folder = TestEnvironment::makeTempDir();
     ScriptFile file(folder);
-    EXPECT_EQ(file.FullFilename(), QDir::toNativeSeparators(folder + QStringLiteral("/QuorinScripts.qrs")));
-    EXPECT_EQ(ScriptFile::ScriptPrototype(), QStringLiteral("Public Sub RunScript(ByVal v_lRuleID As Long)"));
+    EXPECT_EQ(file.FullFilename(),
+              QDir::toNativeSeparators(folder + QStringLiteral("/QuorinScripts.qrs")));
+    EXPECT_EQ(ScriptFile::ScriptPrototype(),
+              QStringLiteral("Public Sub RunScript(ByVal v_lRuleID As Long)"));
 
-    file.AddScript(5000, QStringLiteral("sub main\r\n  Call Quorin.RaiseViolation()\r\nEnd Sub\r\n"));
-    file.AddScript(5001, QString());                                // nothing to run: no Case
-    file.AddScript(5000, QStringLiteral("Sub Main\r\nEnd Sub"));    // the first of an id stays
+    file.AddScript(5000,
+                   QStringLiteral("sub main\r\n  Call Quorin.RaiseViolation()\r\nEnd Sub\r\n"));
+    file.AddScript(5001, QString());                             // nothing to run: no Case
+    file.AddScript(5000, QStringLiteral("Sub Main\r\nEnd Sub")); // the first of an id stays
     file.AddScript(5002, QStringLiteral("Sub Main\r\nEnd Sub\r\nSub Main\r\nEnd Sub"));
-    file.AddScript(5003, QStringLiteral("x = 1"));                  // no entry line: as it is
+    file.AddScript(5003, QStringLiteral("x = 1")); // no entry line: as it is
     ASSERT_TRUE(file.CreateScriptFile());
 
     const QString expected = lines({"Attribute VB_Name = \"QuorinScripts\"",
@@ -160,10 +163,12 @@ TEST(ScriptFile, RuleListsWriteCodingThenNamingConditionsToTheTemporaryFolder)
     lists.AddConvention(coding, true);  // 5002
 
     const QString filename = lists.CreateScriptFile();
-    EXPECT_EQ(filename, QDir::toNativeSeparators(temp.path() + QStringLiteral("/QuorinScripts.qrs")));
+    EXPECT_EQ(filename,
+              QDir::toNativeSeparators(temp.path() + QStringLiteral("/QuorinScripts.qrs")));
     const QString text = readText(filename);
     EXPECT_TRUE(text.contains(QStringLiteral("        Case 5002\r\n            Call Method_5002\r\n"
                                              "        Case 5000\r\n")));
     EXPECT_FALSE(text.contains(QStringLiteral("5001")));
-    EXPECT_TRUE(text.endsWith(QStringLiteral("Sub Method_5000\r\nQuorin.ApplyConvention\r\nEnd Sub\r\n\r\n")));
+    EXPECT_TRUE(text.endsWith(
+        QStringLiteral("Sub Method_5000\r\nQuorin.ApplyConvention\r\nEnd Sub\r\n\r\n")));
 }
