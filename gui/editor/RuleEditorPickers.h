@@ -8,8 +8,8 @@
 class QWidget;
 enum class ObjectListType;
 
-// The pickers the condition editor opens. Until the full picker dialogs take their place, each
-// offers the vocabulary's names in a simple list; tests install their own answers.
+// The pickers the condition editor opens: the object and parser event picker dialogs, unless
+// tests install their own answers.
 namespace RuleEditorPickers {
 
 struct ObjectRequest
@@ -27,7 +27,7 @@ using EventPicker = std::function<QString(QWidget *parent, qint32 ruleType)>;
 QString pickObject(QWidget *parent, const ObjectRequest &request);
 QString pickParserEvent(QWidget *parent, qint32 ruleType);
 
-// An empty function puts back the built-in list.
+// An empty function puts back the picker dialog.
 void setObjectPicker(ObjectPicker picker);
 void setEventPicker(EventPicker picker);
 
