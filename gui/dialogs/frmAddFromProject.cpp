@@ -142,9 +142,8 @@ void frmAddFromProject::FillList()
     }
     // The sorted column's header shows the picture of its order.
     for (int c = 0; c < m_items->columnCount(); ++c)
-        m_items->headerItem()->setIcon(c,
-                                       Images::icon(QStringLiteral("ilsImages"),
-                                                    m_form.ColumnIcon(c + 1)));
+        m_items->headerItem()->setIcon(
+            c, Images::icon(QStringLiteral("ilsImages"), m_form.ColumnIcon(c + 1)));
     for (int c = 0; c < 3; ++c)
         m_items->resizeColumnToContents(c);
     const int column = m_form.SortColumn();

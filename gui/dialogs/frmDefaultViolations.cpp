@@ -28,9 +28,8 @@ namespace {
 // The catalogue's picker, offering every object and its properties.
 QString pickObjectProperty(QWidget *parent)
 {
-    return frmObjectProperty::pick(parent,
-                                   ObjectPropertyForm::PropertyMode,
-                                   ObjectListType::Everything);
+    return frmObjectProperty::pick(
+        parent, ObjectPropertyForm::PropertyMode, ObjectListType::Everything);
 }
 
 frmDefaultViolations::ObjectPicker &installedPicker()

@@ -93,9 +93,8 @@ frmObjectProperty::frmObjectProperty(QWidget *parent)
     });
     connect(cancel, &QPushButton::clicked, this, &frmObjectProperty::reject);
     const auto showHelp = [] {
-        UserInterface::current().showHelp(HelpCommand::Topic,
-                                          HelpTopics::topicPath(HelpTopics::ObjectPicker),
-                                          0);
+        UserInterface::current().showHelp(
+            HelpCommand::Topic, HelpTopics::topicPath(HelpTopics::ObjectPicker), 0);
     };
     connect(help, &QPushButton::clicked, this, showHelp);
     connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this, showHelp);

@@ -1,7 +1,7 @@
 #include "gui/dialogs/frmParserEvent.h"
 
-#include "gui/dialogs/RuleTreeWidget.h"
 #include "application/HelpTopics.h"
+#include "gui/dialogs/RuleTreeWidget.h"
 #include "platform/UserInterface.h"
 
 #include <QGridLayout>
@@ -61,9 +61,8 @@ frmParserEvent::frmParserEvent(QWidget *parent)
     });
     connect(cancel, &QPushButton::clicked, this, &frmParserEvent::reject);
     const auto showHelp = [] {
-        UserInterface::current().showHelp(HelpCommand::Topic,
-                                          HelpTopics::topicPath(HelpTopics::EventPicker),
-                                          0);
+        UserInterface::current().showHelp(
+            HelpCommand::Topic, HelpTopics::topicPath(HelpTopics::EventPicker), 0);
     };
     connect(help, &QPushButton::clicked, this, showHelp);
     connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this, showHelp);

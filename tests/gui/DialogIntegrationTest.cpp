@@ -224,7 +224,8 @@ protected:
     {
         const std::shared_ptr<IRule> rule = firstRuleOfType(ruleType);
         ASSERT_NE(rule, nullptr) << ruleType;
-        std::unique_ptr<IConventionForm> form = IFormFactory::current().createConventionForm(ruleType);
+        std::unique_ptr<IConventionForm> form
+            = IFormFactory::current().createConventionForm(ruleType);
         ASSERT_NE(form, nullptr);
         form->setConvention(rule);
         form->setApplication(app.get());
@@ -270,22 +271,26 @@ TEST_F(DialogIntegration, DefaultViolationsInsertThePickedPropertyAtTheCaretOfTh
             picked = true;
             EXPECT_EQ(picker.windowTitle(), QStringLiteral("Object Property Selection"));
             auto *objects = child<QListWidget>(picker, "lvwObject");
-            const auto reference = objects->findItems(QStringLiteral("Reference"), Qt::MatchExactly);
+            const auto reference
+                = objects->findItems(QStringLiteral("Reference"), Qt::MatchExactly);
             ASSERT_EQ(reference.size(), 1);
             objects->setCurrentItem(reference.first());
             auto *properties = child<QListWidget>(picker, "lvwProperty");
             ASSERT_GT(properties->count(), 0);
             properties->setCurrentRow(0);
-            chosen = QStringLiteral("%Reference.") + properties->item(0)->text() + QStringLiteral("%");
+            chosen
+                = QStringLiteral("%Reference.") + properties->item(0)->text() + QStringLiteral("%");
             click(picker, "cmdOK");
         });
         button->click();
-        EXPECT_EQ(advice->toPlainText(), QStringLiteral("Use ") + chosen + QStringLiteral(" instead."));
+        EXPECT_EQ(advice->toPlainText(),
+                  QStringLiteral("Use ") + chosen + QStringLiteral(" instead."));
         EXPECT_EQ(advice->textCursor().position(), 4 + chosen.size());
 
         // Cancelled, the picker inserts nothing.
         const QString before = advice->toPlainText();
-        whenModal(QStringLiteral("frmObjectProperty"), [&](QDialog &picker) { click(picker, "cmdCancel"); });
+        whenModal(QStringLiteral("frmObjectProperty"),
+                  [&](QDialog &picker) { click(picker, "cmdCancel"); });
         button->click();
         EXPECT_EQ(advice->toPlainText(), before);
         click(dialog, "cmdOK");
@@ -293,41 +298,44 @@ TEST_F(DialogIntegration, DefaultViolationsInsertThePickedPropertyAtTheCaretOfTh
     window->tool(QStringLiteral("tlDefaultViolations"))->trigger();
     EXPECT_TRUE(seen);
     EXPECT_TRUE(picked);
-    EXPECT_TRUE(rulebase->DefaultViolations()->Item(1)->Advice().startsWith(QStringLiteral("Use %Reference.")));
+    EXPECT_TRUE(rulebase->DefaultViolations()->Item(1)->Advice().startsWith(
+        QStringLiteral("Use %Reference.")));
 }
 
 TEST_F(DialogIntegration, AuthorisedItemsPickAPropertyOfTheirOwnObject)
 {
-    const auto check = [](QDialog &dialog, const QString &object, const std::function<QString()> &advice) {
-        auto *button = child<QPushButton>(dialog, "cmdObjectProperty");
-        ASSERT_NE(button, nullptr);
-        EXPECT_FALSE(button->isEnabled());
-        child<QLineEdit>(dialog, "txtVersions")->setText(QStringLiteral("1.0"));
-        ASSERT_TRUE(button->isEnabled());
+    const auto check
+        = [](QDialog &dialog, const QString &object, const std::function<QString()> &advice) {
+              auto *button = child<QPushButton>(dialog, "cmdObjectProperty");
+              ASSERT_NE(button, nullptr);
+              EXPECT_FALSE(button->isEnabled());
+              child<QLineEdit>(dialog, "txtVersions")->setText(QStringLiteral("1.0"));
+              ASSERT_TRUE(button->isEnabled());
 
-        QString chosen;
-        whenModal(QStringLiteral("frmObjectProperty"), [&](QDialog &picker) {
-            EXPECT_EQ(picker.windowTitle(), QStringLiteral("Object Property Selection"));
-            auto *objects = child<QListWidget>(picker, "lvwObject");
-            ASSERT_NE(objects->currentItem(), nullptr);
-            // Every object is offered, the item's own selected.
-            EXPECT_GT(objects->count(), 20);
-            EXPECT_EQ(objects->currentItem()->text(), object);
-            auto *properties = child<QListWidget>(picker, "lvwProperty");
-            ASSERT_GT(properties->count(), 1);
-            properties->setCurrentRow(1);
-            chosen = QStringLiteral("%") + object + QStringLiteral(".") + properties->item(1)->text()
-                     + QStringLiteral("%");
-            click(picker, "cmdOK");
-        });
-        button->click();
-        EXPECT_EQ(child<QPlainTextEdit>(dialog, "txtAdvice")->toPlainText(), chosen);
-        EXPECT_EQ(advice(), chosen);
+              QString chosen;
+              whenModal(QStringLiteral("frmObjectProperty"), [&](QDialog &picker) {
+                  EXPECT_EQ(picker.windowTitle(), QStringLiteral("Object Property Selection"));
+                  auto *objects = child<QListWidget>(picker, "lvwObject");
+                  ASSERT_NE(objects->currentItem(), nullptr);
+                  // Every object is offered, the item's own selected.
+                  EXPECT_GT(objects->count(), 20);
+                  EXPECT_EQ(objects->currentItem()->text(), object);
+                  auto *properties = child<QListWidget>(picker, "lvwProperty");
+                  ASSERT_GT(properties->count(), 1);
+                  properties->setCurrentRow(1);
+                  chosen = QStringLiteral("%") + object + QStringLiteral(".")
+                           + properties->item(1)->text() + QStringLiteral("%");
+                  click(picker, "cmdOK");
+              });
+              button->click();
+              EXPECT_EQ(child<QPlainTextEdit>(dialog, "txtAdvice")->toPlainText(), chosen);
+              EXPECT_EQ(advice(), chosen);
 
-        whenModal(QStringLiteral("frmObjectProperty"), [&](QDialog &picker) { click(picker, "cmdCancel"); });
-        button->click();
-        EXPECT_EQ(advice(), chosen);
-    };
+              whenModal(QStringLiteral("frmObjectProperty"),
+                        [&](QDialog &picker) { click(picker, "cmdCancel"); });
+              button->click();
+              EXPECT_EQ(advice(), chosen);
+          };
 
     AuthorisedComponentForm component(std::make_shared<AuthorisedComponent>());
     frmAuthorisedComponent componentDialog(component);
@@ -430,7 +438,8 @@ TEST_F(DialogIntegration, PickersDrawTheirObjectsPropertiesAndEvents)
         for (int row = 0; row < objects->count(); ++row) {
             objects->setCurrentRow(row);
             EXPECT_TRUE(withoutIcon(*properties).isEmpty())
-                << objects->item(row)->text().toStdString() << ": " << joined(withoutIcon(*properties));
+                << objects->item(row)->text().toStdString() << ": "
+                << joined(withoutIcon(*properties));
         }
         click(dialog, "cmdCancel");
     });
@@ -446,7 +455,8 @@ TEST_F(DialogIntegration, PickersDrawTheirObjectsPropertiesAndEvents)
             seen = true;
             auto *tree = child<QTreeWidget>(dialog, "tvwEvent");
             ASSERT_GT(tree->topLevelItemCount(), 0);
-            EXPECT_TRUE(withoutIcon(*tree).isEmpty()) << ruleType << ": " << joined(withoutIcon(*tree));
+            EXPECT_TRUE(withoutIcon(*tree).isEmpty())
+                << ruleType << ": " << joined(withoutIcon(*tree));
             click(dialog, "cmdCancel");
         });
         events.exec();
@@ -534,22 +544,46 @@ TEST_F(DialogIntegration, EveryDialogsHelpButtonAndF1OpenItsOwnPage)
         std::function<std::unique_ptr<QDialog>()> make;
     };
     const std::vector<Case> cases = {
-        {"frmAddFromProject", "AddFromProject.htm", [&] { return std::make_unique<frmAddFromProject>(addFromProject); }},
-        {"frmAuthorisedComponent", "AuthorisedComponent.htm", [&] { return std::make_unique<frmAuthorisedComponent>(component); }},
-        {"frmAuthorisedReference", "AuthorisedReference.htm", [&] { return std::make_unique<frmAuthorisedReference>(reference); }},
-        {"frmCategoryEditor", "CategoryEditor.htm", [&] { return std::make_unique<frmCategoryEditor>(categoryEditor); }},
-        {"frmCategorySeverity", "CategoryList.htm", [&] { return std::make_unique<frmCategorySeverity>(categories); }},
-        {"frmCategorySeverity", "SeverityList.htm", [&] { return std::make_unique<frmCategorySeverity>(severities); }},
-        {"frmCodingConvention", "CodingConvention.htm", [] { return std::make_unique<frmCodingConvention>(); }},
-        {"frmDefaultViolations", "DefaultViolations.htm", [&] { return std::make_unique<frmDefaultViolations>(violations); }},
-        {"frmNamingConvention", "NamingConvention.htm", [] { return std::make_unique<frmNamingConvention>(); }},
+        {"frmAddFromProject",
+         "AddFromProject.htm",
+         [&] { return std::make_unique<frmAddFromProject>(addFromProject); }},
+        {"frmAuthorisedComponent",
+         "AuthorisedComponent.htm",
+         [&] { return std::make_unique<frmAuthorisedComponent>(component); }},
+        {"frmAuthorisedReference",
+         "AuthorisedReference.htm",
+         [&] { return std::make_unique<frmAuthorisedReference>(reference); }},
+        {"frmCategoryEditor",
+         "CategoryEditor.htm",
+         [&] { return std::make_unique<frmCategoryEditor>(categoryEditor); }},
+        {"frmCategorySeverity",
+         "CategoryList.htm",
+         [&] { return std::make_unique<frmCategorySeverity>(categories); }},
+        {"frmCategorySeverity",
+         "SeverityList.htm",
+         [&] { return std::make_unique<frmCategorySeverity>(severities); }},
+        {"frmCodingConvention",
+         "CodingConvention.htm",
+         [] { return std::make_unique<frmCodingConvention>(); }},
+        {"frmDefaultViolations",
+         "DefaultViolations.htm",
+         [&] { return std::make_unique<frmDefaultViolations>(violations); }},
+        {"frmNamingConvention",
+         "NamingConvention.htm",
+         [] { return std::make_unique<frmNamingConvention>(); }},
         {"frmObjectProperty", "Pickers.htm", [] { return std::make_unique<frmObjectProperty>(); }},
         {"frmParserEvent", "Pickers.htm", [] { return std::make_unique<frmParserEvent>(); }},
         {"frmPatternTest", "PatternTest.htm", [] { return std::make_unique<frmPatternTest>(); }},
-        {"frmRulebaseProperties", "RulebaseProperties.htm", [&] { return std::make_unique<frmRulebaseProperties>(properties); }},
-        {"frmSeverityEditor", "SeverityEditor.htm", [&] { return std::make_unique<frmSeverityEditor>(severityEditor); }},
+        {"frmRulebaseProperties",
+         "RulebaseProperties.htm",
+         [&] { return std::make_unique<frmRulebaseProperties>(properties); }},
+        {"frmSeverityEditor",
+         "SeverityEditor.htm",
+         [&] { return std::make_unique<frmSeverityEditor>(severityEditor); }},
         {"frmTagList", "TagList.htm", [&] { return std::make_unique<frmTagList>(tags); }},
-        {"frmUnauthorisedKeyword", "UnauthorisedKeyword.htm", [] { return std::make_unique<frmUnauthorisedKeyword>(); }},
+        {"frmUnauthorisedKeyword",
+         "UnauthorisedKeyword.htm",
+         [] { return std::make_unique<frmUnauthorisedKeyword>(); }},
         {"frmAbout", "About.htm", [] { return std::make_unique<frmAbout>(); }},
         {"frmTip", "TipOfTheDay.htm", [] { return std::make_unique<frmTip>(); }},
     };
@@ -569,7 +603,8 @@ TEST_F(DialogIntegration, EveryDialogsHelpButtonAndF1OpenItsOwnPage)
             ASSERT_EQ(ui.helpRequests.size(), 1u);
             EXPECT_EQ(pageOf(ui.helpRequests.front()), c.page);
         } else {
-            EXPECT_TRUE(c.dialog == QLatin1String("frmAbout") || c.dialog == QLatin1String("frmTip"));
+            EXPECT_TRUE(c.dialog == QLatin1String("frmAbout")
+                        || c.dialog == QLatin1String("frmTip"));
         }
         ui.helpRequests.clear();
         pressF1(*dialog);
