@@ -172,6 +172,7 @@ void BasicParser::parseScript()
     for (;;) {
         m_lineHasError = false;
         m_inlineIfs = 0;
+        m_depth = 0;
         // Expression trees live no longer than their line; reuse keeps the arena small and warm.
         m_nodes.clear();
         m_args.clear();
@@ -818,6 +819,7 @@ void BasicParser::parseIf()
     }
     if (m_inlineFloor < 0)
         m_inlineFloor = int(m_blocks.size());
+    const DepthGuard guard(*this);
     ++m_inlineIfs;
     parseInlineBranch();
     if (accept(K::Else))

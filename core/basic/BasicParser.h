@@ -90,6 +90,21 @@ private:
     {
     };
 
+    // Bounds the recursion of nested expressions and single-line Ifs, so that no text can run
+    // the parser out of stack; beyond it the line is an error.
+    static constexpr int MaxDepth = 200;
+    class DepthGuard
+    {
+    public:
+        explicit DepthGuard(BasicParser &parser);
+        ~DepthGuard() { --m_parser.m_depth; }
+        DepthGuard(const DepthGuard &) = delete;
+        DepthGuard &operator=(const DepthGuard &) = delete;
+
+    private:
+        BasicParser &m_parser;
+    };
+
     // Tokens.
     const BasicToken &tok() const { return m_tokens[size_t(m_sig[m_pos])]; }
     const BasicToken &tokenAt(int index) const { return m_tokens[size_t(index)]; }
@@ -203,6 +218,7 @@ private:
     const std::vector<BasicToken> &m_tokens;
     std::vector<int> m_sig; // indices of the tokens the grammar sees: no comments, continuations
     int m_pos = 0;
+    int m_depth = 0; // of DepthGuards alive
 
     std::vector<Node> m_nodes;
     std::vector<int> m_args;

@@ -29,6 +29,14 @@ bool isComparison(const BasicToken &t)
 
 } // namespace
 
+BasicParser::DepthGuard::DepthGuard(BasicParser &parser)
+    : m_parser(parser)
+{
+    if (m_parser.m_depth >= MaxDepth)
+        m_parser.fail(QStringLiteral("Expression too complex"));
+    ++m_parser.m_depth;
+}
+
 int BasicParser::addNode(NodeKind kind, int token, int first, int second)
 {
     m_nodes.push_back({kind, token, first, second});
@@ -103,6 +111,7 @@ int BasicParser::notExpression()
 {
     if (!isKeyword(K::Not))
         return comparison();
+    const DepthGuard guard(*this);
     const int op = tokIndex();
     advance();
     return addNode(NodeKind::Unary, op, notExpression());
@@ -180,6 +189,7 @@ int BasicParser::unary()
 {
     const int op = tokIndex();
     if (isSymbol(S::Minus) || isSymbol(S::Plus)) {
+        const DepthGuard guard(*this);
         advance();
         return addNode(NodeKind::Unary, op, unary());
     }
@@ -205,6 +215,7 @@ int BasicParser::power()
 int BasicParser::powerOperand()
 {
     if (isSymbol(S::Minus) || isSymbol(S::Plus)) {
+        const DepthGuard guard(*this);
         const int op = tokIndex();
         advance();
         return addNode(NodeKind::Unary, op, powerOperand());
@@ -240,6 +251,7 @@ int BasicParser::postfix()
 
 int BasicParser::primary()
 {
+    const DepthGuard guard(*this);
     const BasicToken &t = tok();
     const int index = tokIndex();
     switch (t.kind) {
@@ -323,6 +335,7 @@ int BasicParser::primary()
 // At the "(" behind a callee.
 int BasicParser::callArguments(int callee)
 {
+    const DepthGuard guard(*this);
     const int paren = m_pos;
     advance();
     std::vector<int> arguments;
@@ -555,49 +568,56 @@ QString BasicParser::dump(int index) const
 
 // ---- the Quorin calls ------------------------------------------------------------------------
 
-void BasicParser::inspect(int index)
+// Walks the tree in text order with a stack of its own: a chain of a thousand operators is a
+// tree a thousand deep, which recursion would pay for in stack.
+void BasicParser::inspect(int root)
 {
-    if (index < 0)
-        return;
-    const Node node = m_nodes[size_t(index)];
-    switch (node.kind) {
-    case NodeKind::Call:
-        if (isQuorinMember(node.first)) {
-            checkQuorinCall(node.first, node.argStart, node.argCount);
-            inspect(m_nodes[size_t(node.first)].first);
-        } else {
-            inspect(node.first);
+    std::vector<int> pending{root};
+    while (!pending.empty()) {
+        const int index = pending.back();
+        pending.pop_back();
+        if (index < 0)
+            continue;
+        const Node node = m_nodes[size_t(index)];
+        switch (node.kind) {
+        case NodeKind::Call:
+            for (int i = node.argCount - 1; i >= 0; --i)
+                pending.push_back(m_args[size_t(node.argStart + i)]);
+            if (isQuorinMember(node.first)) {
+                checkQuorinCall(node.first, node.argStart, node.argCount);
+                pending.push_back(m_nodes[size_t(node.first)].first);
+            } else {
+                pending.push_back(node.first);
+            }
+            break;
+        case NodeKind::Member:
+            if (isQuorinMember(index))
+                checkQuorinCall(index, 0, 0);
+            pending.push_back(node.first);
+            break;
+        case NodeKind::Binary: {
+            const BasicSymbol op = tokenAt(node.token).symbol;
+            if (op == S::Equal || op == S::NotEqual) {
+                if (isParserEventReference(node.first))
+                    checkEventName(node.second);
+                else if (isParserEventReference(node.second))
+                    checkEventName(node.first);
+            }
+            pending.push_back(node.second);
+            pending.push_back(node.first);
+            break;
         }
-        for (int i = 0; i < node.argCount; ++i)
-            inspect(m_args[size_t(node.argStart + i)]);
-        return;
-    case NodeKind::Member:
-        if (isQuorinMember(index))
-            checkQuorinCall(index, 0, 0);
-        inspect(node.first);
-        return;
-    case NodeKind::Binary: {
-        const BasicSymbol op = tokenAt(node.token).symbol;
-        if (op == S::Equal || op == S::NotEqual) {
-            if (isParserEventReference(node.first))
-                checkEventName(node.second);
-            else if (isParserEventReference(node.second))
-                checkEventName(node.first);
+        case NodeKind::Unary:
+        case NodeKind::Paren:
+        case NodeKind::Named:
+        case NodeKind::TypeOf:
+        case NodeKind::AddressOf:
+        case NodeKind::FileNumber:
+            pending.push_back(node.first);
+            break;
+        default:
+            break;
         }
-        inspect(node.first);
-        inspect(node.second);
-        return;
-    }
-    case NodeKind::Unary:
-    case NodeKind::Paren:
-    case NodeKind::Named:
-    case NodeKind::TypeOf:
-    case NodeKind::AddressOf:
-    case NodeKind::FileNumber:
-        inspect(node.first);
-        return;
-    default:
-        return;
     }
 }
 

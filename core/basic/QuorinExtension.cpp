@@ -139,4 +139,12 @@ QString parserEventWarning(const QString &event)
     return QStringLiteral("Unknown parser event: ") + quoted(event);
 }
 
+bool isVocabularyName(const QString &name)
+{
+    const QString key = name.toCaseFolded();
+    const NameIndex &index = names();
+    return index.objects.contains(key) || index.properties.contains(key)
+           || index.events.contains(key);
+}
+
 } // namespace QuorinExtension

@@ -33,4 +33,8 @@ QString propertyWarning(const QString &object, const QString &property);
 QString workfieldObjectWarning(const QString &object);
 QString parserEventWarning(const QString &event);
 
+// True for the name of a catalogue object, a property or a parser event, ignoring case; an
+// editor colours such names inside strings.
+bool isVocabularyName(const QString &name);
+
 } // namespace QuorinExtension

@@ -5,6 +5,7 @@
 #include "rulebase/CodingConvention.h"
 #include "rulebase/IRule.h"
 #include "rulebase/NamingConvention.h"
+#include "rulebase/ScriptFile.h"
 #include "rulebase/UnauthorisedKeyword.h"
 #include "rulebase/ViolationDefinition.h"
 
@@ -290,4 +291,20 @@ void RuleLists::SortRuleList(ObjectArrayList<IRule> &list)
     list.SortBy([](const std::shared_ptr<IRule> &a, const std::shared_ptr<IRule> &b) {
         return a->Title().compare(b->Title(), Qt::CaseInsensitive) < 0;
     });
+}
+
+QString RuleLists::CreateScriptFile() const
+{
+    ScriptFile file;
+    for (qint32 i = 1; i <= m_codingConventions->Count(); ++i) {
+        if (const auto rule = m_codingConventions->Item(i))
+            file.AddScript(rule->RuleID(), rule->Condition());
+    }
+    // Unauthorised keywords' conditions never reach the file.
+    for (qint32 i = 1; i <= m_namingConventions->Count(); ++i) {
+        if (const auto rule = m_namingConventions->Item(i))
+            file.AddScript(rule->RuleID(), rule->Condition());
+    }
+    file.CreateScriptFile();
+    return file.FullFilename();
 }

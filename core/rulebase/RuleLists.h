@@ -74,6 +74,9 @@ public:
     void MoveNamingConvention(qint32 ruleID, qint32 fromObject, qint32 toObject);
     // A new list of the rules of one category, sorted by title ignoring case.
     std::shared_ptr<ObjectArrayList<IRule>> ConventionsListByCatID(qint32 categoryID) const;
+    // Writes the conditions of the coding and naming conventions, in list order, to the
+    // condition script file and gives its full name, whether or not the write succeeded.
+    QString CreateScriptFile() const;
 
 private:
     qint32 ObjectNCRuleCount(qint32 objectType) const;

@@ -1,8 +1,10 @@
 #include "gui/dialogs/AuthorisedItemDialog.h"
 
+#include "gui/dialogs/frmObjectProperty.h"
+
 #include "editors/AuthorisedItemForm.h"
+#include "editors/ObjectPropertyForm.h"
 #include "platform/UserInterface.h"
-#include "vocabulary/ObjectHelper.h"
 #include "vocabulary/ObjectListType.h"
 
 #include <QDialogButtonBox>
@@ -11,7 +13,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTimer>
@@ -160,20 +161,17 @@ void AuthorisedItemDialog::UpdateControls()
 
 void AuthorisedItemDialog::InsertObjectProperty()
 {
-    QStringList names;
-    QList<qint32> ids;
-    ObjectHelper::GetPropertyList(ObjectListType::Everything, m_form.ObjectType(), names, ids);
-    QMenu menu(this);
-    for (const QString &name : std::as_const(names))
-        menu.addAction(name);
-    QAction *chosen
-        = menu.exec(m_objectProperty->mapToGlobal(QPoint(0, m_objectProperty->height())));
-    if (!chosen)
+    // The picker opens on the item's own object, a component or a reference.
+    const QString chosen = frmObjectProperty::pick(this,
+                                                   ObjectPropertyForm::PropertyMode,
+                                                   ObjectListType::Everything,
+                                                   nullptr,
+                                                   m_form.ObjectType());
+    if (chosen.isEmpty())
         return;
     QTextCursor cursor = m_advice->textCursor();
     const int start = cursor.selectionStart();
-    const int caret = m_form.InsertIntoAdvice(
-        m_form.ObjectPropertyMacro(chosen->text()), start, cursor.selectionEnd() - start);
+    const int caret = m_form.InsertIntoAdvice(chosen, start, cursor.selectionEnd() - start);
     m_showing = true;
     m_advice->setPlainText(m_form.Advice());
     m_showing = false;

@@ -1,5 +1,7 @@
 #include "gui/dialogs/RuleTreeWidget.h"
 
+#include "gui/window/Images.h"
+
 #include "editors/CheckableTree.h"
 
 #include <QSignalBlocker>
@@ -16,6 +18,8 @@ void addItem(QTreeWidgetItem *item, const CheckableTree &tree, int node, bool ch
 {
     const RuleTreeNode &n = tree.tree().node(node);
     item->setText(0, n.text);
+    // Rule trees name their pictures by the keys of the event tree's image list.
+    item->setIcon(0, Images::icon(QStringLiteral("ilsEventTree"), n.image));
     item->setData(0, nodeRole, node);
     if (n.bold) {
         QFont font = item->font(0);

@@ -1,7 +1,10 @@
 #include "gui/dialogs/frmAddFromProject.h"
 
+#include "gui/dialogs/DialogSupport.h"
+#include "gui/window/Images.h"
+
+#include "application/HelpTopics.h"
 #include "editors/AddFromProjectForm.h"
-#include "platform/UserInterface.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -9,16 +12,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStyle>
 #include <QTabBar>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
-
-namespace {
-// The authorised items view's help: the import is one of its commands.
-constexpr int helpContext = 67;
-} // namespace
 
 frmAddFromProject::frmAddFromProject(AddFromProjectForm &form, QWidget *parent)
     : QDialog(parent)
@@ -47,10 +44,11 @@ frmAddFromProject::frmAddFromProject(AddFromProjectForm &form, QWidget *parent)
     m_componentsPicture = new QLabel;
     m_componentsPicture->setObjectName(QStringLiteral("imgComponents"));
     m_componentsPicture->setPixmap(
-        style()->standardIcon(QStyle::SP_FileDialogDetailedView).pixmap(16));
+        Images::icon(QStringLiteral("ilsImages"), QStringLiteral("Component")).pixmap(16));
     m_referencesPicture = new QLabel;
     m_referencesPicture->setObjectName(QStringLiteral("imgReferences"));
-    m_referencesPicture->setPixmap(style()->standardIcon(QStyle::SP_FileDialogInfoView).pixmap(16));
+    m_referencesPicture->setPixmap(
+        Images::icon(QStringLiteral("ilsImages"), QStringLiteral("Reference")).pixmap(16));
     auto *tabRow = new QHBoxLayout;
     tabRow->addWidget(m_tabs, 1);
     tabRow->addWidget(m_componentsPicture);
@@ -120,9 +118,7 @@ frmAddFromProject::frmAddFromProject(AddFromProjectForm &form, QWidget *parent)
         m_form.Cancel();
         reject();
     });
-    connect(help, &QPushButton::clicked, this, [] {
-        UserInterface::current().showHelp(HelpCommand::Context, QString(), helpContext);
-    });
+    DialogSupport::connectHelp(this, help, HelpTopics::topicPath(HelpTopics::AddFromProject));
 
     FillList();
     resize(640, 420);
@@ -144,6 +140,10 @@ void frmAddFromProject::FillList()
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(0, row.checked ? Qt::Checked : Qt::Unchecked);
     }
+    // The sorted column's header shows the picture of its order.
+    for (int c = 0; c < m_items->columnCount(); ++c)
+        m_items->headerItem()->setIcon(
+            c, Images::icon(QStringLiteral("ilsImages"), m_form.ColumnIcon(c + 1)));
     for (int c = 0; c < 3; ++c)
         m_items->resizeColumnToContents(c);
     const int column = m_form.SortColumn();

@@ -5,6 +5,7 @@
 #include "editors/FormFault.h"
 #include "gui/dialogs/frmPatternTest.h"
 #include "gui/editor/frmRuleEditor.h"
+#include "gui/window/Images.h"
 #include "platform/UserInterface.h"
 
 #include <QCheckBox>
@@ -263,6 +264,7 @@ void frmConventionBase::refresh()
     setText(m_txtVTitle, s.txtVTitle);
     setText(m_txtVDescription, s.txtVDescription);
     showChoices(m_cboSeverity, s.cboSeverity, m_severityRevision);
+    m_imgIcon->setPixmap(Images::severity(s.imgIcon).pixmap(16, 16));
     m_imgIcon->setToolTip(s.cboSeverity.currentText());
     setText(m_txtVImpact, s.txtVImpact);
     if (m_txtVAdvice)
@@ -276,8 +278,11 @@ void frmConventionBase::fillCombo(QComboBox *combo, const ChoiceList &choices)
     combo->clear();
     for (int i = 0; i < choices.count(); ++i) {
         const ChoiceList::Entry &e = choices.entry(i);
-        // Indentation draws the tree-like lists of events and objects.
-        combo->addItem(QString(e.indentation * 3, QLatin1Char(' ')) + e.text, e.itemData);
+        // Indentation draws the tree-like lists of events and objects; their pictures are keys
+        // of the event tree's image list.
+        combo->addItem(Images::icon(QStringLiteral("ilsEventTree"), e.image),
+                       QString(e.indentation * 3, QLatin1Char(' ')) + e.text,
+                       e.itemData);
     }
 }
 

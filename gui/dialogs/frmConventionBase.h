@@ -34,7 +34,7 @@ public:
 
     // A text field's caret insertion, used for the picker's macro strings.
     static void InsertText(QWidget *field, const QString &text);
-    // Items of a combo from the model's rows, pictures left to the image lists.
+    // Items of a combo from the model's rows, with their pictures.
     static void fillCombo(QComboBox *combo, const ChoiceList &choices);
 
 protected:

@@ -2,8 +2,11 @@
 
 #include "gui/dialogs/DialogImages.h"
 #include "gui/dialogs/DialogSupport.h"
+#include "gui/dialogs/frmObjectProperty.h"
 
 #include "editors/DefaultViolationsForm.h"
+#include "editors/ObjectPropertyForm.h"
+#include "vocabulary/ObjectListType.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -22,9 +25,16 @@
 
 namespace {
 
+// The catalogue's picker, offering every object and its properties.
+QString pickObjectProperty(QWidget *parent)
+{
+    return frmObjectProperty::pick(
+        parent, ObjectPropertyForm::PropertyMode, ObjectListType::Everything);
+}
+
 frmDefaultViolations::ObjectPicker &installedPicker()
 {
-    static frmDefaultViolations::ObjectPicker picker;
+    static frmDefaultViolations::ObjectPicker picker = pickObjectProperty;
     return picker;
 }
 
@@ -39,7 +49,7 @@ QLabel *labelFor(const QString &caption, QWidget *buddy)
 
 void frmDefaultViolations::setObjectPicker(ObjectPicker picker)
 {
-    installedPicker() = std::move(picker);
+    installedPicker() = picker ? std::move(picker) : ObjectPicker(pickObjectProperty);
 }
 
 frmDefaultViolations::frmDefaultViolations(DefaultViolationsForm &form, QWidget *parent)
@@ -103,7 +113,6 @@ frmDefaultViolations::frmDefaultViolations(DefaultViolationsForm &form, QWidget 
     m_advice->setObjectName(QStringLiteral("txtAdvice"));
     m_advice->setTabChangesFocus(true);
     auto *objectProperty = DialogSupport::button(QStringLiteral("cmdObjectProperty"), QStringLiteral("Insert Object Property"));
-    objectProperty->setEnabled(static_cast<bool>(installedPicker()));
 
     for (const DefaultViolationsForm::Entry &entry : m_form.SeverityEntries())
         m_severity->addItem(entry.text, entry.itemData);
@@ -194,8 +203,6 @@ void frmDefaultViolations::PopulateControls()
 
 void frmDefaultViolations::InsertObjectProperty()
 {
-    if (!installedPicker())
-        return;
     const QString selection = installedPicker()(this);
     if (selection.isEmpty())
         return;

@@ -24,7 +24,7 @@ public:
 
     explicit frmDefaultViolations(DefaultViolationsForm &form, QWidget *parent = nullptr);
 
-    // Installed by whoever provides the picker; without one "Insert Object Property" is disabled.
+    // Replaces the catalogue's picker, as a test does; an empty one puts the catalogue's back.
     static void setObjectPicker(ObjectPicker picker);
 
     void accept() override;

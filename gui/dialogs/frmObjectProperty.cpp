@@ -1,5 +1,8 @@
 #include "gui/dialogs/frmObjectProperty.h"
 
+#include "gui/window/Images.h"
+
+#include "application/HelpTopics.h"
 #include "platform/UserInterface.h"
 
 #include <QComboBox>
@@ -15,8 +18,12 @@
 #include <QSignalBlocker>
 
 namespace {
-const QString helpTopic = QStringLiteral("::/ObjectProperty.htm");
+// The picture of an entry, as the event tree's image list draws objects and properties.
+QIcon entryIcon(const ObjectPropertyForm::ListEntry &entry)
+{
+    return Images::icon(QStringLiteral("ilsEventTree"), entry.icon);
 }
+} // namespace
 
 frmObjectProperty::frmObjectProperty(QWidget *parent)
     : QDialog(parent)
@@ -85,10 +92,27 @@ frmObjectProperty::frmObjectProperty(QWidget *parent)
         accept();
     });
     connect(cancel, &QPushButton::clicked, this, &frmObjectProperty::reject);
-    const auto showHelp
-        = [] { UserInterface::current().showHelp(HelpCommand::Topic, helpTopic, 0); };
+    const auto showHelp = [] {
+        UserInterface::current().showHelp(
+            HelpCommand::Topic, HelpTopics::topicPath(HelpTopics::ObjectPicker), 0);
+    };
     connect(help, &QPushButton::clicked, this, showHelp);
     connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this, showHelp);
+}
+
+QString frmObjectProperty::pick(QWidget *parent,
+                                int selectionMode,
+                                ObjectListType listType,
+                                QStringList *workfields,
+                                qint32 objectType)
+{
+    frmObjectProperty picker(parent);
+    picker.setSelectionMode(selectionMode);
+    picker.setObjectListType(listType);
+    picker.setWorkfields(workfields);
+    picker.setObjectType(objectType);
+    picker.exec();
+    return picker.UserSelection();
 }
 
 int frmObjectProperty::exec()
@@ -101,7 +125,7 @@ int frmObjectProperty::exec()
     {
         const QSignalBlocker block(m_lvwObject);
         for (const ObjectPropertyForm::ListEntry &entry : m_model.screen().lvwObject)
-            m_lvwObject->addItem(entry.text);
+            m_lvwObject->addItem(new QListWidgetItem(entryIcon(entry), entry.text));
     }
     refresh();
     return QDialog::exec();
@@ -127,7 +151,7 @@ void frmObjectProperty::refresh()
         const QSignalBlocker blockList(m_lvwProperty);
         m_lvwProperty->clear();
         for (const ObjectPropertyForm::ListEntry &entry : s.lvwProperty)
-            m_lvwProperty->addItem(entry.text);
+            m_lvwProperty->addItem(new QListWidgetItem(entryIcon(entry), entry.text));
         const QSignalBlocker blockCombo(m_cboManualEntry);
         m_cboManualEntry->clear();
         m_cboManualEntry->addItems(s.cboManualEntryItems);

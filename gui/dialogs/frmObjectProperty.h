@@ -23,8 +23,17 @@ public:
     void setObjectListType(ObjectListType listType) { m_model.setObjectListType(listType); }
     void setSelectionMode(int mode) { m_model.setSelectionMode(mode); }
     void setWorkfields(QStringList *workfields) { m_model.setWorkfields(workfields); }
+    // The object to select at the start; 0 for the first of the list.
+    void setObjectType(qint32 id) { m_model.setObjectType(id); }
     bool Cancelled() const { return m_model.Cancelled(); }
     QString UserSelection() const { return m_model.UserSelection(); }
+
+    // Runs the picker modally and gives its macro string, empty when cancelled.
+    static QString pick(QWidget *parent,
+                        int selectionMode,
+                        ObjectListType listType,
+                        QStringList *workfields = nullptr,
+                        qint32 objectType = 0);
 
     int exec() override;
     void reject() override;

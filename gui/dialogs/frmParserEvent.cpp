@@ -1,5 +1,6 @@
 #include "gui/dialogs/frmParserEvent.h"
 
+#include "application/HelpTopics.h"
 #include "gui/dialogs/RuleTreeWidget.h"
 #include "platform/UserInterface.h"
 
@@ -9,10 +10,6 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QTreeWidget>
-
-namespace {
-const QString helpTopic = QStringLiteral("::/ParserEvent.htm");
-}
 
 frmParserEvent::frmParserEvent(QWidget *parent)
     : QDialog(parent)
@@ -63,8 +60,10 @@ frmParserEvent::frmParserEvent(QWidget *parent)
             accept();
     });
     connect(cancel, &QPushButton::clicked, this, &frmParserEvent::reject);
-    const auto showHelp
-        = [] { UserInterface::current().showHelp(HelpCommand::Topic, helpTopic, 0); };
+    const auto showHelp = [] {
+        UserInterface::current().showHelp(
+            HelpCommand::Topic, HelpTopics::topicPath(HelpTopics::EventPicker), 0);
+    };
     connect(help, &QPushButton::clicked, this, showHelp);
     connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, this, showHelp);
 }

@@ -42,6 +42,9 @@ const QHash<QString, QString> &aliases()
         {"enumelement", "EnumItem"},         {"layoutproperties", "Layout"},
         {"controlproperties", "Control"},    {"declaration", "Variable"},
         {"namingconvention", "Variable"},
+        // The pictures of the picker's properties: tags and statistics.
+        {"statistic", "Statistics"},         {"controltag", "Control"},
+        {"datatypetag", "Type"},             {"scopetag", "PublicVariable"},
     };
     return table;
 }

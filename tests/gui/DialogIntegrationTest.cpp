@@ -1,0 +1,628 @@
+#include "application/Application.h"
+#include "application/HelpTopics.h"
+#include "application/Startup.h"
+#include "editors/AddFromProjectForm.h"
+#include "editors/AuthorisedComponentForm.h"
+#include "editors/AuthorisedReferenceForm.h"
+#include "editors/CategoryEditorForm.h"
+#include "editors/CategorySeverityForm.h"
+#include "editors/DefaultViolationsForm.h"
+#include "editors/IConventionForm.h"
+#include "editors/RulebasePropertiesForm.h"
+#include "editors/SeverityEditorForm.h"
+#include "editors/TagListForm.h"
+#include "gui/dialogs/frmAddFromProject.h"
+#include "gui/dialogs/frmAuthorisedComponent.h"
+#include "gui/dialogs/frmAuthorisedReference.h"
+#include "gui/dialogs/frmCategoryEditor.h"
+#include "gui/dialogs/frmCategorySeverity.h"
+#include "gui/dialogs/frmCodingConvention.h"
+#include "gui/dialogs/frmDefaultViolations.h"
+#include "gui/dialogs/frmNamingConvention.h"
+#include "gui/dialogs/frmObjectProperty.h"
+#include "gui/dialogs/frmParserEvent.h"
+#include "gui/dialogs/frmPatternTest.h"
+#include "gui/dialogs/frmRulebaseProperties.h"
+#include "gui/dialogs/frmSeverityEditor.h"
+#include "gui/dialogs/frmTagList.h"
+#include "gui/dialogs/frmUnauthorisedKeyword.h"
+#include "gui/factory/GuiFormFactory.h"
+#include "gui/frmMain.h"
+#include "gui/window/Images.h"
+#include "gui/window/frmAbout.h"
+#include "gui/window/frmTip.h"
+#include "platform/GlobalObjects.h"
+#include "platform/QuorinAdminData.h"
+#include "project/AddFromProject.h"
+#include "rulebase/AuthorisedComponent.h"
+#include "rulebase/AuthorisedComponents.h"
+#include "rulebase/AuthorisedReference.h"
+#include "rulebase/CategoryItem.h"
+#include "rulebase/CategoryList.h"
+#include "rulebase/DefaultViolations.h"
+#include "rulebase/IRule.h"
+#include "rulebase/RuleLists.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/SeverityItem.h"
+#include "rulebase/ViolationDefinition.h"
+#include "views/IViewController.h"
+#include "views/ViewFactory.h"
+#include "vocabulary/ObjectListType.h"
+
+#include "collections/ObjectKeyedListAdapter.h"
+#include "support/ScriptedUserInterface.h"
+#include "support/TestEnvironment.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSet>
+#include <QTabBar>
+#include <QTimer>
+#include <QTreeWidget>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+// Runs `act` on the modal dialog of this name once it is up, without blocking the test: a
+// dialog that never comes fails, and one that `act` leaves open is closed with a failure.
+void whenModal(const QString &name, std::function<void(QDialog &)> act)
+{
+    auto *poll = new QTimer;
+    auto clock = std::make_shared<QElapsedTimer>();
+    clock->start();
+    QObject::connect(poll, &QTimer::timeout, [poll, clock, name, act] {
+        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        const bool found = dialog && dialog->objectName() == name;
+        if (!found && clock->elapsed() < 5000)
+            return;
+        poll->stop();
+        poll->deleteLater();
+        if (!found) {
+            ADD_FAILURE() << "no dialog " << name.toStdString();
+            if (dialog)
+                dialog->done(QDialog::Rejected);
+            return;
+        }
+        act(*dialog);
+        if (dialog->isVisible()) {
+            ADD_FAILURE() << name.toStdString() << " stayed open";
+            dialog->done(QDialog::Rejected);
+        }
+    });
+    poll->start(10);
+}
+
+template<typename T>
+T *child(QWidget &parent, const char *name)
+{
+    T *widget = parent.findChild<T *>(QLatin1String(name));
+    EXPECT_NE(widget, nullptr) << name;
+    return widget;
+}
+
+void click(QWidget &parent, const char *button)
+{
+    if (auto *push = child<QPushButton>(parent, button))
+        push->click();
+}
+
+// Rows of a list or combo without a picture, by text.
+QStringList withoutIcon(const QListWidget &list)
+{
+    QStringList bare;
+    for (int i = 0; i < list.count(); ++i) {
+        if (list.item(i)->icon().isNull())
+            bare << list.item(i)->text();
+    }
+    return bare;
+}
+
+QStringList withoutIcon(const QComboBox &combo)
+{
+    QStringList bare;
+    for (int i = 0; i < combo.count(); ++i) {
+        if (combo.itemIcon(i).isNull())
+            bare << combo.itemText(i).trimmed();
+    }
+    return bare;
+}
+
+QStringList withoutIcon(QTreeWidget &tree)
+{
+    QStringList bare;
+    for (QTreeWidgetItemIterator it(&tree); *it; ++it) {
+        if ((*it)->icon(0).isNull())
+            bare << (*it)->text(0);
+    }
+    return bare;
+}
+
+std::string joined(const QStringList &texts)
+{
+    return texts.join(QStringLiteral(", ")).toStdString();
+}
+
+// The page a help request lands on, "" when it names none.
+QString pageOf(const HelpRequest &request)
+{
+    return request.command == HelpCommand::Context ? HelpTopics::pageForContext(request.context)
+                                                   : HelpTopics::pageForTopic(request.topic);
+}
+
+// Presses F1 as the user would: on the active window's focused control.
+void pressF1(QDialog &dialog)
+{
+    dialog.show();
+    QApplication::setActiveWindow(&dialog);
+    QWidget *target = dialog.focusWidget() ? dialog.focusWidget() : &dialog;
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+    QApplication::sendEvent(target, &press);
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_F1, Qt::NoModifier);
+    QApplication::sendEvent(target, &release);
+}
+
+class DialogIntegration : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        TestEnvironment::clearSettings();
+        ASSERT_EQ(CreateGlobalObjects(), 0);
+        gobjAdminData->setFirstUse(false);
+        gobjAdminData->setDisplayTips(false);
+        Images::initialise();
+        window = std::make_unique<frmMain>(false);
+        app = std::make_unique<Application>(window.get(), createView);
+        window->setApplication(app.get());
+        forms = std::make_unique<GuiFormFactory>(window.get());
+        IFormFactory::install(forms.get());
+        window->ShowWindow();
+        ASSERT_TRUE(RunStartup(*app, TestEnvironment::sampleRulebase()));
+        rulebase = app->rulebase();
+    }
+
+    void TearDown() override
+    {
+        IFormFactory::install(nullptr);
+        frmDefaultViolations::setObjectPicker({});
+        rulebase.reset();
+        window->setApplication(nullptr);
+        app->TerminateApplication();
+        forms.reset();
+        app.reset();
+        window.reset();
+        DestroyGlobalObjects();
+    }
+
+    std::shared_ptr<IRule> firstRuleOfType(qint32 ruleType) const
+    {
+        const auto all = rulebase->RuleLists()->AllConventions();
+        for (qint32 i = 1; i <= all->Count(); ++i) {
+            if (all->Item(i)->RuleType() == ruleType)
+                return all->Item(i);
+        }
+        return nullptr;
+    }
+
+    // Opens the rule in its dialog from the factory and runs `act` on it.
+    void openRule(qint32 ruleType, const char *dialogName, std::function<void(QDialog &)> act)
+    {
+        const std::shared_ptr<IRule> rule = firstRuleOfType(ruleType);
+        ASSERT_NE(rule, nullptr) << ruleType;
+        std::unique_ptr<IConventionForm> form
+            = IFormFactory::current().createConventionForm(ruleType);
+        ASSERT_NE(form, nullptr);
+        form->setConvention(rule);
+        form->setApplication(app.get());
+        bool seen = false;
+        whenModal(QLatin1String(dialogName), [&](QDialog &dialog) {
+            seen = true;
+            act(dialog);
+            click(dialog, "cmdCancel");
+        });
+        form->Show();
+        EXPECT_TRUE(seen) << dialogName;
+        EXPECT_TRUE(form->Cancelled());
+    }
+
+    ScriptedUserInterface ui;
+    std::unique_ptr<frmMain> window;
+    std::unique_ptr<Application> app;
+    std::unique_ptr<GuiFormFactory> forms;
+    std::shared_ptr<Rulebase> rulebase;
+};
+
+} // namespace
+
+TEST_F(DialogIntegration, DefaultViolationsInsertThePickedPropertyAtTheCaretOfTheAdvice)
+{
+    bool picked = false;
+    bool seen = false;
+    whenModal(QStringLiteral("frmDefaultViolations"), [&](QDialog &dialog) {
+        seen = true;
+        auto *button = child<QPushButton>(dialog, "cmdObjectProperty");
+        ASSERT_NE(button, nullptr);
+        EXPECT_TRUE(button->isEnabled());
+        EXPECT_EQ(button->text(), QStringLiteral("Insert Object Property"));
+        auto *advice = child<QPlainTextEdit>(dialog, "txtAdvice");
+        advice->setPlainText(QStringLiteral("Use  instead."));
+        QTextCursor cursor = advice->textCursor();
+        cursor.setPosition(4);
+        advice->setTextCursor(cursor);
+
+        // The catalogue's picker for one property of any object.
+        QString chosen;
+        whenModal(QStringLiteral("frmObjectProperty"), [&](QDialog &picker) {
+            picked = true;
+            EXPECT_EQ(picker.windowTitle(), QStringLiteral("Object Property Selection"));
+            auto *objects = child<QListWidget>(picker, "lvwObject");
+            const auto reference
+                = objects->findItems(QStringLiteral("Reference"), Qt::MatchExactly);
+            ASSERT_EQ(reference.size(), 1);
+            objects->setCurrentItem(reference.first());
+            auto *properties = child<QListWidget>(picker, "lvwProperty");
+            ASSERT_GT(properties->count(), 0);
+            properties->setCurrentRow(0);
+            chosen
+                = QStringLiteral("%Reference.") + properties->item(0)->text() + QStringLiteral("%");
+            click(picker, "cmdOK");
+        });
+        button->click();
+        EXPECT_EQ(advice->toPlainText(),
+                  QStringLiteral("Use ") + chosen + QStringLiteral(" instead."));
+        EXPECT_EQ(advice->textCursor().position(), 4 + chosen.size());
+
+        // Cancelled, the picker inserts nothing.
+        const QString before = advice->toPlainText();
+        whenModal(QStringLiteral("frmObjectProperty"),
+                  [&](QDialog &picker) { click(picker, "cmdCancel"); });
+        button->click();
+        EXPECT_EQ(advice->toPlainText(), before);
+        click(dialog, "cmdOK");
+    });
+    window->tool(QStringLiteral("tlDefaultViolations"))->trigger();
+    EXPECT_TRUE(seen);
+    EXPECT_TRUE(picked);
+    EXPECT_TRUE(rulebase->DefaultViolations()->Item(1)->Advice().startsWith(
+        QStringLiteral("Use %Reference.")));
+}
+
+TEST_F(DialogIntegration, AuthorisedItemsPickAPropertyOfTheirOwnObject)
+{
+    const auto check
+        = [](QDialog &dialog, const QString &object, const std::function<QString()> &advice) {
+              auto *button = child<QPushButton>(dialog, "cmdObjectProperty");
+              ASSERT_NE(button, nullptr);
+              EXPECT_FALSE(button->isEnabled());
+              child<QLineEdit>(dialog, "txtVersions")->setText(QStringLiteral("1.0"));
+              ASSERT_TRUE(button->isEnabled());
+
+              QString chosen;
+              whenModal(QStringLiteral("frmObjectProperty"), [&](QDialog &picker) {
+                  EXPECT_EQ(picker.windowTitle(), QStringLiteral("Object Property Selection"));
+                  auto *objects = child<QListWidget>(picker, "lvwObject");
+                  ASSERT_NE(objects->currentItem(), nullptr);
+                  // Every object is offered, the item's own selected.
+                  EXPECT_GT(objects->count(), 20);
+                  EXPECT_EQ(objects->currentItem()->text(), object);
+                  auto *properties = child<QListWidget>(picker, "lvwProperty");
+                  ASSERT_GT(properties->count(), 1);
+                  properties->setCurrentRow(1);
+                  chosen = QStringLiteral("%") + object + QStringLiteral(".")
+                           + properties->item(1)->text() + QStringLiteral("%");
+                  click(picker, "cmdOK");
+              });
+              button->click();
+              EXPECT_EQ(child<QPlainTextEdit>(dialog, "txtAdvice")->toPlainText(), chosen);
+              EXPECT_EQ(advice(), chosen);
+
+              whenModal(QStringLiteral("frmObjectProperty"),
+                        [&](QDialog &picker) { click(picker, "cmdCancel"); });
+              button->click();
+              EXPECT_EQ(advice(), chosen);
+          };
+
+    AuthorisedComponentForm component(std::make_shared<AuthorisedComponent>());
+    frmAuthorisedComponent componentDialog(component);
+    componentDialog.show();
+    check(componentDialog, QStringLiteral("Component"), [&] { return component.Advice(); });
+
+    AuthorisedReferenceForm reference(std::make_shared<AuthorisedReference>());
+    frmAuthorisedReference referenceDialog(reference);
+    referenceDialog.show();
+    check(referenceDialog, QStringLiteral("Reference"), [&] { return reference.Advice(); });
+}
+
+TEST_F(DialogIntegration, CodingConventionShowsItsPicturesAndPicksPropertiesOrWorkfields)
+{
+    // A rule of one event shows it in the image combos.
+    openRule(RuleTypes::CodingConvention, "frmCodingConvention", [&](QDialog &dialog) {
+        auto *icon = child<QLabel>(dialog, "imgIcon");
+        EXPECT_FALSE(icon->pixmap().isNull());
+        auto *eventCombo = child<QComboBox>(dialog, "imgcboEvent");
+        auto *pendingCombo = child<QComboBox>(dialog, "imgcboPending");
+        ASSERT_GT(eventCombo->count(), 0);
+        EXPECT_TRUE(withoutIcon(*eventCombo).isEmpty()) << joined(withoutIcon(*eventCombo));
+        ASSERT_GT(pendingCombo->count(), 0);
+        EXPECT_TRUE(withoutIcon(*pendingCombo).isEmpty()) << joined(withoutIcon(*pendingCombo));
+
+        // Another severity, another picture.
+        auto *severity = child<QComboBox>(dialog, "cboSeverity");
+        const qint64 before = icon->pixmap().cacheKey();
+        severity->setCurrentIndex(severity->currentIndex() == 0 ? 1 : 0);
+        EXPECT_FALSE(icon->pixmap().isNull());
+        EXPECT_NE(icon->pixmap().cacheKey(), before);
+    });
+
+    // A new rule picks its events in the tree, and the violation's texts take placeholders.
+    window->tool(QStringLiteral("tlCodingConventions"))->trigger();
+    bool seen = false;
+    bool picked = false;
+    whenModal(QStringLiteral("frmCodingConvention"), [&](QDialog &dialog) {
+        seen = true;
+        auto *events = child<QTreeWidget>(dialog, "tvwEvent");
+        ASSERT_GT(events->topLevelItemCount(), 0);
+        EXPECT_TRUE(withoutIcon(*events).isEmpty()) << joined(withoutIcon(*events));
+
+        auto *description = child<QPlainTextEdit>(dialog, "txtVDescription");
+        whenModal(QStringLiteral("frmObjectProperty"), [&](QDialog &picker) {
+            picked = true;
+            EXPECT_EQ(picker.windowTitle(), QStringLiteral("Object Property/Workfield Selection"));
+            auto *objects = child<QListWidget>(picker, "lvwObject");
+            EXPECT_TRUE(withoutIcon(*objects).isEmpty()) << joined(withoutIcon(*objects));
+            auto *properties = child<QListWidget>(picker, "lvwProperty");
+            ASSERT_GT(properties->count(), 0);
+            properties->setCurrentRow(0);
+            click(picker, "cmdOK");
+        });
+        click(dialog, "cmdObjectProperty_0");
+        EXPECT_TRUE(description->toPlainText().startsWith(QLatin1Char('%')));
+        EXPECT_TRUE(description->toPlainText().endsWith(QLatin1Char('%')));
+        click(dialog, "cmdCancel");
+    });
+    window->tool(QStringLiteral("tlCodingConvention"))->trigger();
+    EXPECT_TRUE(seen);
+    EXPECT_TRUE(picked);
+}
+
+TEST_F(DialogIntegration, NamingConventionAndKeywordShowObjectPropertyAndSeverityPictures)
+{
+    openRule(RuleTypes::NamingConvention, "frmNamingConvention", [&](QDialog &dialog) {
+        EXPECT_FALSE(child<QLabel>(dialog, "imgIcon")->pixmap().isNull());
+        auto *objects = child<QComboBox>(dialog, "imgcboObject");
+        auto *properties = child<QComboBox>(dialog, "imgcboProperty");
+        ASSERT_GT(objects->count(), 0);
+        EXPECT_TRUE(withoutIcon(*objects).isEmpty()) << joined(withoutIcon(*objects));
+        EXPECT_TRUE(withoutIcon(*properties).isEmpty()) << joined(withoutIcon(*properties));
+    });
+    openRule(RuleTypes::UnauthorisedKeyword, "frmUnauthorisedKeyword", [&](QDialog &dialog) {
+        EXPECT_FALSE(child<QLabel>(dialog, "imgIcon")->pixmap().isNull());
+        bool picked = false;
+        whenModal(QStringLiteral("frmObjectProperty"), [&](QDialog &picker) {
+            picked = true;
+            EXPECT_EQ(picker.windowTitle(), QStringLiteral("Object Property Selection"));
+            click(picker, "cmdCancel");
+        });
+        click(dialog, "cmdObjectProperty_0");
+        EXPECT_TRUE(picked);
+    });
+}
+
+TEST_F(DialogIntegration, PickersDrawTheirObjectsPropertiesAndEvents)
+{
+    // Every property of a procedure has a picture: plain, tag or statistic.
+    frmObjectProperty picker;
+    picker.setSelectionMode(2);
+    picker.setObjectListType(ObjectListType::Everything);
+    bool seen = false;
+    whenModal(QStringLiteral("frmObjectProperty"), [&](QDialog &dialog) {
+        seen = true;
+        auto *objects = child<QListWidget>(dialog, "lvwObject");
+        EXPECT_TRUE(withoutIcon(*objects).isEmpty()) << joined(withoutIcon(*objects));
+        auto *properties = child<QListWidget>(dialog, "lvwProperty");
+        for (int row = 0; row < objects->count(); ++row) {
+            objects->setCurrentRow(row);
+            EXPECT_TRUE(withoutIcon(*properties).isEmpty())
+                << objects->item(row)->text().toStdString() << ": "
+                << joined(withoutIcon(*properties));
+        }
+        click(dialog, "cmdCancel");
+    });
+    picker.exec();
+    EXPECT_TRUE(seen);
+    EXPECT_TRUE(picker.UserSelection().isEmpty());
+
+    for (const qint32 ruleType : {4, 5}) {
+        frmParserEvent events;
+        events.setRuleType(ruleType);
+        seen = false;
+        whenModal(QStringLiteral("frmParserEvent"), [&](QDialog &dialog) {
+            seen = true;
+            auto *tree = child<QTreeWidget>(dialog, "tvwEvent");
+            ASSERT_GT(tree->topLevelItemCount(), 0);
+            EXPECT_TRUE(withoutIcon(*tree).isEmpty())
+                << ruleType << ": " << joined(withoutIcon(*tree));
+            click(dialog, "cmdCancel");
+        });
+        events.exec();
+        EXPECT_TRUE(seen);
+    }
+}
+
+TEST_F(DialogIntegration, AddFromProjectShowsThePictureOfItsTabAndOfTheSortedColumn)
+{
+    AddFromProject importer;
+    importer.setRulebase(rulebase);
+    auto candidate = std::make_shared<AuthorisedComponent>();
+    candidate->setFilename(QStringLiteral("GRID.OCX"));
+    candidate->setLibID(QStringLiteral("{00000000-0000-0000-0000-000000000001}"));
+    candidate->setVersionList(QStringLiteral("1.0"));
+    importer.ComponentList()->AddComponent(candidate);
+    AddFromProjectForm form(importer);
+    frmAddFromProject dialog(form);
+    dialog.show();
+
+    auto *components = child<QLabel>(dialog, "imgComponents");
+    auto *references = child<QLabel>(dialog, "imgReferences");
+    EXPECT_FALSE(components->pixmap().isNull());
+    EXPECT_FALSE(references->pixmap().isNull());
+    EXPECT_NE(components->pixmap().cacheKey(), references->pixmap().cacheKey());
+    EXPECT_TRUE(components->isVisible());
+    EXPECT_FALSE(references->isVisible());
+    child<QTabBar>(dialog, "tbsItems")->setCurrentIndex(1);
+    EXPECT_FALSE(components->isVisible());
+    EXPECT_TRUE(references->isVisible());
+    child<QTabBar>(dialog, "tbsItems")->setCurrentIndex(0);
+
+    auto *items = child<QTreeWidget>(dialog, "lvwItems");
+    ASSERT_EQ(items->topLevelItemCount(), 1);
+    EXPECT_TRUE(items->headerItem()->icon(1).isNull());
+    emit items->header()->sectionClicked(1);
+    const qint64 ascending = items->headerItem()->icon(1).cacheKey();
+    EXPECT_FALSE(items->headerItem()->icon(1).isNull());
+    EXPECT_TRUE(items->headerItem()->icon(0).isNull());
+    emit items->header()->sectionClicked(1);
+    EXPECT_FALSE(items->headerItem()->icon(1).isNull());
+    EXPECT_NE(items->headerItem()->icon(1).cacheKey(), ascending);
+}
+
+TEST_F(DialogIntegration, EveryDialogsHelpButtonAndF1OpenItsOwnPage)
+{
+    const auto category = rulebase->CategoryList()->Item(1);
+    const auto severity = rulebase->SeverityList()->Item(1);
+    ASSERT_TRUE(category && severity);
+
+    CategorySeverityForm categories;
+    categories.setDialogType(CategorySeverityForm::Categories);
+    categories.setItemList(asKeyedList(rulebase->CategoryList()));
+    categories.setRulebase(rulebase);
+    categories.Load();
+    CategorySeverityForm severities;
+    severities.setDialogType(CategorySeverityForm::Severities);
+    severities.setItemList(asKeyedList(rulebase->SeverityList()));
+    severities.Load();
+    CategoryEditorForm categoryEditor;
+    categoryEditor.setCategoryItem(category);
+    categoryEditor.Load();
+    SeverityEditorForm severityEditor;
+    severityEditor.setSeverityItem(severity);
+    severityEditor.Load();
+    DefaultViolationsForm violations;
+    violations.setDefaultViolations(rulebase->DefaultViolations());
+    violations.setCategoryList(rulebase->CategoryList());
+    violations.setSeverityList(rulebase->SeverityList());
+    violations.Load();
+    RulebasePropertiesForm properties;
+    properties.setRulebase(rulebase);
+    properties.Load();
+    TagListForm tags;
+    tags.Initialise(rulebase->ControlTags(), TagListForm::ControlTags);
+    AddFromProject importer;
+    AddFromProjectForm addFromProject(importer);
+    AuthorisedComponentForm component(std::make_shared<AuthorisedComponent>());
+    AuthorisedReferenceForm reference(std::make_shared<AuthorisedReference>());
+
+    struct Case
+    {
+        QString dialog;
+        QString page;
+        std::function<std::unique_ptr<QDialog>()> make;
+    };
+    const std::vector<Case> cases = {
+        {"frmAddFromProject",
+         "AddFromProject.htm",
+         [&] { return std::make_unique<frmAddFromProject>(addFromProject); }},
+        {"frmAuthorisedComponent",
+         "AuthorisedComponent.htm",
+         [&] { return std::make_unique<frmAuthorisedComponent>(component); }},
+        {"frmAuthorisedReference",
+         "AuthorisedReference.htm",
+         [&] { return std::make_unique<frmAuthorisedReference>(reference); }},
+        {"frmCategoryEditor",
+         "CategoryEditor.htm",
+         [&] { return std::make_unique<frmCategoryEditor>(categoryEditor); }},
+        {"frmCategorySeverity",
+         "CategoryList.htm",
+         [&] { return std::make_unique<frmCategorySeverity>(categories); }},
+        {"frmCategorySeverity",
+         "SeverityList.htm",
+         [&] { return std::make_unique<frmCategorySeverity>(severities); }},
+        {"frmCodingConvention",
+         "CodingConvention.htm",
+         [] { return std::make_unique<frmCodingConvention>(); }},
+        {"frmDefaultViolations",
+         "DefaultViolations.htm",
+         [&] { return std::make_unique<frmDefaultViolations>(violations); }},
+        {"frmNamingConvention",
+         "NamingConvention.htm",
+         [] { return std::make_unique<frmNamingConvention>(); }},
+        {"frmObjectProperty", "Pickers.htm", [] { return std::make_unique<frmObjectProperty>(); }},
+        {"frmParserEvent", "Pickers.htm", [] { return std::make_unique<frmParserEvent>(); }},
+        {"frmPatternTest", "PatternTest.htm", [] { return std::make_unique<frmPatternTest>(); }},
+        {"frmRulebaseProperties",
+         "RulebaseProperties.htm",
+         [&] { return std::make_unique<frmRulebaseProperties>(properties); }},
+        {"frmSeverityEditor",
+         "SeverityEditor.htm",
+         [&] { return std::make_unique<frmSeverityEditor>(severityEditor); }},
+        {"frmTagList", "TagList.htm", [&] { return std::make_unique<frmTagList>(tags); }},
+        {"frmUnauthorisedKeyword",
+         "UnauthorisedKeyword.htm",
+         [] { return std::make_unique<frmUnauthorisedKeyword>(); }},
+        {"frmAbout", "About.htm", [] { return std::make_unique<frmAbout>(); }},
+        {"frmTip", "TipOfTheDay.htm", [] { return std::make_unique<frmTip>(); }},
+    };
+
+    QSet<QString> covered;
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.dialog.toStdString() + " " + c.page.toStdString());
+        covered << c.dialog;
+        std::unique_ptr<QDialog> dialog = c.make();
+        EXPECT_EQ(dialog->objectName(), c.dialog);
+        ASSERT_TRUE(QFile::exists(QStringLiteral(":/help/") + c.page));
+
+        // The two windows of the program's own have F1 only.
+        if (auto *help = dialog->findChild<QPushButton *>(QStringLiteral("cmdHelp"))) {
+            ui.helpRequests.clear();
+            help->click();
+            ASSERT_EQ(ui.helpRequests.size(), 1u);
+            EXPECT_EQ(pageOf(ui.helpRequests.front()), c.page);
+        } else {
+            EXPECT_TRUE(c.dialog == QLatin1String("frmAbout")
+                        || c.dialog == QLatin1String("frmTip"));
+        }
+        ui.helpRequests.clear();
+        pressF1(*dialog);
+        ASSERT_EQ(ui.helpRequests.size(), 1u);
+        EXPECT_EQ(pageOf(ui.helpRequests.front()), c.page);
+        dialog->hide();
+    }
+
+    // A dialog added later comes into this walk, or the walk fails.
+    for (const char *folder : {"gui/dialogs", "gui/window"}) {
+        const QDir dir(QStringLiteral(QUORIN_SOURCE_DIR "/") + QLatin1String(folder));
+        const QStringList headers = dir.entryList({QStringLiteral("frm*.h")}, QDir::Files);
+        ASSERT_FALSE(headers.isEmpty()) << folder;
+        for (QString header : headers) {
+            header.chop(2);
+            if (header != QLatin1String("frmConventionBase")) {
+                EXPECT_TRUE(covered.contains(header)) << header.toStdString();
+            }
+        }
+    }
+}

@@ -1,0 +1,254 @@
+#include "gui/editor/BasicEditor.h"
+#include "gui/editor/RuleEditorPickers.h"
+#include "gui/editor/frmRuleEditor.h"
+#include "rulebase/IRule.h"
+#include "vocabulary/ObjectListType.h"
+
+#include "support/ScriptedUserInterface.h"
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QApplication>
+#include <QCompleter>
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTimer>
+#include <QToolBar>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+void type(QWidget *widget, const QString &text)
+{
+    for (const QChar c : text) {
+        const int key = c == u'\n' ? int(Qt::Key_Return) : int(c.toUpper().unicode());
+        const QString keyText = c == u'\n' ? QStringLiteral("\r") : QString(c);
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, keyText);
+        QApplication::sendEvent(widget, &press);
+        QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, keyText);
+        QApplication::sendEvent(widget, &release);
+    }
+}
+
+// Lets timers run until `done` holds or a generous time has passed.
+template<typename Condition>
+bool waitFor(Condition done)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!done() && timer.elapsed() < 5000)
+        QApplication::processEvents(QEventLoop::AllEvents, 20);
+    return done();
+}
+
+} // namespace
+
+TEST(RuleEditor, MarksAnErrorWhileTypingAndSavesOnceItIsFixed)
+{
+    ScriptedUserInterface ui;
+    frmRuleEditor dialog;
+    dialog.setRuleType(RuleTypes::CodingConvention);
+    dialog.setRuleID(12);
+    dialog.setRuleTitle(QStringLiteral("No GoTo"));
+    dialog.setRuleCode(QStringLiteral("Sub Main\r\n  x = 1\r\nEnd Sub\r\n"));
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Condition Editor - [0012] No GoTo"));
+    EXPECT_TRUE(dialog.Cancelled());
+
+    QStringList menus;
+    for (QAction *menu : dialog.findChild<QMenuBar *>(QStringLiteral("abMain"))->actions())
+        menus << menu->text();
+    EXPECT_EQ(menus, (QStringList{"&Condition", "&Edit", "&Insert", "&Help"}));
+    EXPECT_EQ(dialog.findChild<QMenu *>(QStringLiteral("mnuInsert"))->actions().size(), 6);
+    EXPECT_EQ(dialog.tool(QStringLiteral("tlSaveAndClose"))->toolTip(),
+              QStringLiteral("Save the condition and close"));
+    EXPECT_EQ(dialog.tool(QStringLiteral("tlCheckSyntax"))->text(),
+              QStringLiteral("Check S&yntax"));
+    EXPECT_NE(dialog.findChild<QToolBar *>(QStringLiteral("tlbTools")), nullptr);
+
+    BasicEditor *editor = dialog.findChild<BasicEditor *>(QStringLiteral("sbMain"));
+    ASSERT_NE(editor, nullptr);
+    editor->setRecheckDelay(10);
+    dialog.show();
+
+    // A block If without its end, typed behind "  x = 1": the new line keeps the indent.
+    editor->goTo(2, 8);
+    type(editor, QStringLiteral("\nIf y Then"));
+    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Main\n  x = 1\n  If y Then\nEnd Sub\n"));
+    ASSERT_TRUE(waitFor([&] { return editor->markOfLine(3) == BasicEditor::Mark::Error; }));
+    EXPECT_EQ(editor->messagesOfLine(3), QStringList{QStringLiteral("Block If without End If")});
+    EXPECT_EQ(editor->markOfLine(2), BasicEditor::Mark::None);
+
+    // Refused with the checker's words; the caret goes to the fault.
+    editor->setCaretPosition(0);
+    dialog.tool(QStringLiteral("tlSaveAndClose"))->trigger();
+    EXPECT_TRUE(dialog.isVisible());
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(
+        ui.messages[0].text,
+        QStringLiteral("Block If without End If Please fix before trying to save the condition."));
+    EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Administrator - Syntax Error"));
+    EXPECT_EQ(editor->textCursor().blockNumber(), 2);
+
+    // Fixed, with a violation raised inside the If.
+    editor->goTo(3, 12);
+    type(editor, QStringLiteral("\n  ")); // two more than the If's indent
+    dialog.tool(QStringLiteral("tlRaiseViolation"))->trigger();
+    type(editor, QStringLiteral("End If"));
+    ASSERT_TRUE(waitFor([&] { return editor->markOfLine(3) == BasicEditor::Mark::None; }));
+    EXPECT_TRUE(editor->errors().empty());
+
+    // Undo and redo go through the editor's own history.
+    const QString fixed = editor->toPlainText();
+    dialog.tool(QStringLiteral("tlUndo"))->trigger();
+    EXPECT_NE(editor->toPlainText(), fixed);
+    dialog.tool(QStringLiteral("tlRedo"))->trigger();
+    EXPECT_EQ(editor->toPlainText(), fixed);
+
+    dialog.tool(QStringLiteral("tlSaveAndClose"))->trigger();
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_FALSE(dialog.Cancelled());
+    EXPECT_EQ(
+        dialog.RuleCode().toStdString(),
+        std::string("Sub Main\r\n  x = 1\r\n  If y Then\r\n    Call Quorin.RaiseViolation()\r\n"
+                    "End If\r\nEnd Sub\r\n"));
+    EXPECT_EQ(ui.messages.size(), 1u);
+}
+
+TEST(RuleEditor, ClosingAsksAboutChangesAndRunsModally)
+{
+    ScriptedUserInterface ui;
+    {
+        // Unchanged: the close tool ends the modal run at once, cancelled.
+        frmRuleEditor dialog;
+        dialog.setRuleCode(QStringLiteral("Sub Main\nEnd Sub"));
+        QTimer::singleShot(0, &dialog, [&] { dialog.tool(QStringLiteral("tlClose"))->trigger(); });
+        EXPECT_EQ(dialog.exec(), QDialog::Rejected);
+        EXPECT_TRUE(dialog.Cancelled());
+        EXPECT_TRUE(ui.messages.empty());
+    }
+    {
+        frmRuleEditor dialog;
+        dialog.setRuleCode(QStringLiteral("Sub Main\r\nEnd Sub"));
+        dialog.show();
+        dialog.editor()->setCaretPosition(0);
+        type(dialog.editor(), QStringLiteral("' note\n"));
+
+        // The frame's close asks; Cancel stays, No leaves without the change.
+        ui.answers = {MessageResult::Cancel, MessageResult::No};
+        dialog.close();
+        EXPECT_TRUE(dialog.isVisible());
+        dialog.reject(); // Escape
+        EXPECT_FALSE(dialog.isVisible());
+        EXPECT_TRUE(dialog.Cancelled());
+        EXPECT_EQ(ui.messageTexts(),
+                  (QStringList{"Do you want to save your changes?",
+                               "Do you want to save your changes?"}));
+        EXPECT_EQ(ui.unscriptedQuestions, 0);
+    }
+    {
+        // Yes on the way out saves a passing condition.
+        frmRuleEditor dialog;
+        dialog.setRuleType(RuleTypes::NamingConvention);
+        dialog.setRuleCode(QStringLiteral("Sub Main\nEnd Sub"));
+        dialog.show();
+        dialog.editor()->goTo(2, 1);
+        dialog.tool(QStringLiteral("tlApplyConvention"))->trigger();
+        ui.answers = {MessageResult::Yes};
+        dialog.close();
+        EXPECT_FALSE(dialog.isVisible());
+        EXPECT_FALSE(dialog.Cancelled());
+        EXPECT_EQ(dialog.RuleCode(),
+                  QStringLiteral("Sub Main\r\nQuorin.ApplyConvention\r\nEnd Sub"));
+    }
+}
+
+TEST(RuleEditor, PickersAndCompletionInsertTheVocabulary)
+{
+    ScriptedUserInterface ui;
+    RuleEditorPickers::ObjectRequest asked;
+    RuleEditorPickers::setObjectPicker(
+        [&](QWidget *, const RuleEditorPickers::ObjectRequest &request) {
+            asked = request;
+            return request.selectionMode == 3 ? QStringLiteral("%File.WF.Lines%")
+                                              : QStringLiteral("%Procedure.Name%");
+        });
+    qint32 eventRuleType = 0;
+    RuleEditorPickers::setEventPicker([&](QWidget *, qint32 ruleType) {
+        eventRuleType = ruleType;
+        return QStringLiteral("begin File");
+    });
+
+    frmRuleEditor dialog;
+    dialog.setRuleType(RuleTypes::NamingConvention);
+    dialog.show();
+    BasicEditor *editor = dialog.editor();
+    dialog.tool(QStringLiteral("tlObjectProperty"))->trigger();
+    EXPECT_EQ(asked.selectionMode, 2);
+    type(editor, QStringLiteral("\n"));
+    dialog.tool(QStringLiteral("tlObjectWorkfield"))->trigger();
+    EXPECT_EQ(asked.selectionMode, 3);
+    EXPECT_NE(asked.workfields, nullptr);
+    type(editor, QStringLiteral("\n"));
+    dialog.tool(QStringLiteral("tlParserEvent"))->trigger();
+    EXPECT_EQ(eventRuleType, RuleTypes::NamingConvention);
+    EXPECT_EQ(editor->toPlainText(),
+              QStringLiteral("Quorin.GetObjectProperty(\"Procedure\", \"Name\")\n"
+                             "Quorin.GetObjectWorkField(\"File\", \"Lines\")\n"
+                             "Quorin.ParserEvent() = \"begin File\""));
+    RuleEditorPickers::setObjectPicker({});
+    RuleEditorPickers::setEventPicker({});
+
+    // "Quorin." offers the members; choosing one puts it in.
+    type(editor, QStringLiteral("\nCall Quorin.Rai"));
+    QCompleter *completer = editor->completer();
+    ASSERT_TRUE(completer->popup()->isVisible());
+    EXPECT_EQ(completer->currentCompletion(), QStringLiteral("RaiseViolation"));
+    emit completer->activated(completer->currentCompletion());
+    EXPECT_TRUE(editor->toPlainText().endsWith(QStringLiteral("\nCall Quorin.RaiseViolation")));
+
+    // Inside a property call's first string: the objects, closed by a quote.
+    type(editor, QStringLiteral("\nx = Quorin.GetObjectProperty(\"Proc"));
+    ASSERT_TRUE(completer->popup()->isVisible());
+    emit completer->activated(QStringLiteral("Procedure"));
+    EXPECT_TRUE(editor->toPlainText().endsWith(QStringLiteral("GetObjectProperty(\"Procedure\"")));
+
+    // Text comes back as it went in, no-break spaces and all, with CR LF line ends.
+    const QString odd = QStringLiteral("Sub Main\n  x = \"a\u00a0b\u00e9\"\r\rEnd Sub\r\n");
+    editor->setScript(odd);
+    EXPECT_EQ(editor->script(),
+              QStringLiteral("Sub Main\r\n  x = \"a\u00a0b\u00e9\"\r\n\r\nEnd Sub\r\n"));
+    editor->setScript(QStringLiteral("Quorin.GetObjectProperty"));
+
+    // With the caret at the start the line goes in front of everything, the caret behind it.
+    editor->setCaretPosition(0);
+    dialog.tool(QStringLiteral("tlRaiseViolation"))->trigger();
+    EXPECT_TRUE(editor->toPlainText().startsWith(
+        QStringLiteral("Call Quorin.RaiseViolation()\nQuorin.GetObjectProperty")));
+    EXPECT_EQ(editor->caretPosition(), 29);
+    EXPECT_TRUE(ui.messages.empty());
+}
+
+// Without installed answers the condition editor's pickers are the real picker dialogs.
+TEST(RuleEditorPickers, DefaultPickersAreThePickerDialogsAndCancelGivesNothing)
+{
+    QStringList shown;
+    auto closeModal = [&] {
+        QTimer::singleShot(0, [&] {
+            if (QWidget *modal = QApplication::activeModalWidget()) {
+                shown << modal->objectName();
+                modal->close();
+            }
+        });
+    };
+    closeModal();
+    EXPECT_TRUE(RuleEditorPickers::pickParserEvent(nullptr, RuleTypes::CodingConvention).isEmpty());
+    closeModal();
+    RuleEditorPickers::ObjectRequest request;
+    request.listType = ObjectListType::Everything;
+    EXPECT_TRUE(RuleEditorPickers::pickObject(nullptr, request).isEmpty());
+    EXPECT_EQ(shown, (QStringList{QStringLiteral("frmParserEvent"), QStringLiteral("frmObjectProperty")}));
+}

@@ -1,0 +1,174 @@
+#include "rulebase/ScriptFile.h"
+#include "platform/GlobalObjects.h"
+#include "platform/LogFile.h"
+#include "rulebase/CodingConvention.h"
+#include "rulebase/NamingConvention.h"
+#include "rulebase/RuleLists.h"
+#include "rulebase/UnauthorisedKeyword.h"
+
+#include "support/ScriptedUserInterface.h"
+#include "support/TestEnvironment.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QString readText(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return QStringLiteral("<missing>");
+    return QString::fromUtf8(file.readAll());
+}
+
+// Lines joined with CR LF, each one ended.
+QString lines(std::initializer_list<const char *> texts)
+{
+    QString text;
+    for (const char *line : texts)
+        text += QString::fromUtf8(line) + QStringLiteral("\r\n");
+    return text;
+}
+
+// Points the temporary folder somewhere fresh for as long as it lives.
+class TemporaryFolder
+{
+public:
+    TemporaryFolder()
+        : m_saved(qgetenv("TMPDIR"))
+        , m_folder(TestEnvironment::makeTempDir())
+    {
+        qputenv("TMPDIR", m_folder.toLocal8Bit());
+    }
+    ~TemporaryFolder() { qputenv("TMPDIR", m_saved); }
+    QString path() const { return m_folder; }
+
+private:
+    QByteArray m_saved;
+    QString m_folder;
+};
+
+} // namespace
+
+TEST(ScriptFile, GathersTheConditionsBehindAGeneratedDispatcher)
+{
+    const QString folder = TestEnvironment::makeTempDir();
+    ScriptFile file(folder);
+    EXPECT_EQ(file.FullFilename(),
+              QDir::toNativeSeparators(folder + QStringLiteral("/QuorinScripts.qrs")));
+    EXPECT_EQ(ScriptFile::ScriptPrototype(),
+              QStringLiteral("Public Sub RunScript(ByVal v_lRuleID As Long)"));
+
+    file.AddScript(5000,
+                   QStringLiteral("sub main\r\n  Call Quorin.RaiseViolation()\r\nEnd Sub\r\n"));
+    file.AddScript(5001, QString());                             // nothing to run: no Case
+    file.AddScript(5000, QStringLiteral("Sub Main\r\nEnd Sub")); // the first of an id stays
+    file.AddScript(5002, QStringLiteral("Sub Main\r\nEnd Sub\r\nSub Main\r\nEnd Sub"));
+    file.AddScript(5003, QStringLiteral("x = 1")); // no entry line: as it is
+    ASSERT_TRUE(file.CreateScriptFile());
+
+    const QString expected = lines({"Attribute VB_Name = \"QuorinScripts\"",
+                                    "",
+                                    "Public Sub RunScript(ByVal v_lRuleID As Long)",
+                                    "",
+                                    "    Select Case v_lRuleID",
+                                    "        Case 5000",
+                                    "            Call Method_5000",
+                                    "        Case 5002",
+                                    "            Call Method_5002",
+                                    "        Case 5003",
+                                    "            Call Method_5003",
+                                    "    End Select",
+                                    "",
+                                    "End Sub",
+                                    "",
+                                    "",
+                                    "Sub Method_5000",
+                                    "  Call Quorin.RaiseViolation()",
+                                    "End Sub",
+                                    "",
+                                    "",
+                                    "Sub Method_5002",
+                                    "End Sub",
+                                    "Sub Main",
+                                    "End Sub",
+                                    "",
+                                    "x = 1",
+                                    ""});
+    EXPECT_EQ(file.ScriptText(), expected);
+    EXPECT_EQ(readText(file.FullFilename()), expected);
+}
+
+TEST(ScriptFile, WithoutConditionsTheDispatcherIsEmptyAndAnOldFileIsReplaced)
+{
+    const QString folder = TestEnvironment::makeTempDir();
+    ScriptFile file(folder);
+    {
+        QFile old(file.FullFilename());
+        ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+        old.write("old text that is longer than the new one, by far, to see it truncated");
+        old.close();
+        QFile::setPermissions(file.FullFilename(), QFileDevice::ReadOwner);
+    }
+    ASSERT_TRUE(file.CreateScriptFile());
+    EXPECT_EQ(readText(file.FullFilename()),
+              lines({"Attribute VB_Name = \"QuorinScripts\"",
+                     "",
+                     "Public Sub RunScript(ByVal v_lRuleID As Long)",
+                     "",
+                     "End Sub",
+                     "",
+                     ""}));
+}
+
+TEST(ScriptFile, AFailedWriteIsReportedAndLeavesNoPartFile)
+{
+    ScriptedUserInterface ui;
+    const QString folder = TestEnvironment::makeTempDir();
+    if (!TestEnvironment::makeReadOnly(folder))
+        GTEST_SKIP() << "this file system can't make a folder read-only";
+    auto log = std::make_shared<LogFile>();
+    log->setLogFileName(TestEnvironment::makeTempDir() + QStringLiteral("/Error.log"));
+    gobjLogFile = log;
+    ScriptFile file(folder);
+    file.AddScript(5000, QStringLiteral("Sub Main\r\nEnd Sub"));
+    const bool written = file.CreateScriptFile();
+    TestEnvironment::makeWritable(folder);
+    gobjLogFile.reset();
+
+    EXPECT_FALSE(written);
+    EXPECT_FALSE(QFile::exists(file.FullFilename()));
+    EXPECT_TRUE(QDir(folder).entryList(QDir::Files | QDir::Hidden).isEmpty());
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Unexpected Error"));
+    EXPECT_TRUE(ui.messages[0].text.contains(QStringLiteral("could not be written")));
+    EXPECT_TRUE(ui.messages[0].text.contains(QStringLiteral("module ScriptFile")));
+}
+
+TEST(ScriptFile, RuleListsWriteCodingThenNamingConditionsToTheTemporaryFolder)
+{
+    TemporaryFolder temp;
+    RuleLists lists;
+    auto naming = std::make_shared<NamingConvention>();
+    naming->setCondition(QStringLiteral("Sub Main\r\nQuorin.ApplyConvention\r\nEnd Sub"));
+    auto keyword = std::make_shared<UnauthorisedKeyword>();
+    keyword->setCondition(QStringLiteral("Sub Main\r\nEnd Sub"));
+    auto coding = std::make_shared<CodingConvention>();
+    coding->setCondition(QStringLiteral("Sub Main\r\nEnd Sub"));
+    lists.AddConvention(naming, true);  // 5000
+    lists.AddConvention(keyword, true); // 5001
+    lists.AddConvention(coding, true);  // 5002
+
+    const QString filename = lists.CreateScriptFile();
+    EXPECT_EQ(filename,
+              QDir::toNativeSeparators(temp.path() + QStringLiteral("/QuorinScripts.qrs")));
+    const QString text = readText(filename);
+    EXPECT_TRUE(text.contains(QStringLiteral("        Case 5002\r\n            Call Method_5002\r\n"
+                                             "        Case 5000\r\n")));
+    EXPECT_FALSE(text.contains(QStringLiteral("5001")));
+    EXPECT_TRUE(text.endsWith(
+        QStringLiteral("Sub Method_5000\r\nQuorin.ApplyConvention\r\nEnd Sub\r\n\r\n")));
+}
