@@ -8,14 +8,19 @@
 #include "project/modQuorinUtils.h"
 #include "rulebase/AuthorisedComponent.h"
 #include "rulebase/AuthorisedReference.h"
+#include "rulebase/CodingConvention.h"
+#include "rulebase/NamingConvention.h"
+#include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseManager.h"
+#include "rulebase/ScriptFile.h"
 #include "tools/ConsoleUserInterface.h"
 #include "tools/ToolContext.h"
 #include "tools/ToolExit.h"
 #include "tools/ToolRulebaseLoader.h"
 
 #include <QFileInfo>
+#include <QSaveFile>
 #include <QTextStream>
 
 #include <algorithm>
@@ -165,9 +170,47 @@ int writeDocument(const DocRequest &request, ToolContext &context)
     return ToolExit::Ok;
 }
 
-int writeConditionScripts(const ScriptsRequest &, ToolContext &context)
+int writeConditionScripts(const ScriptsRequest &request, ToolContext &context)
 {
-    return notAvailable(QStringLiteral("scripts"), context);
+    const QString command = QStringLiteral("scripts");
+    if (sameFile(request.output, request.rulebase)) {
+        fail(context, command, request.output + QStringLiteral(": is the rulebase itself"));
+        return ToolExit::Failure;
+    }
+    const std::shared_ptr<Rulebase> rulebase = loadWhole(request.rulebase, command, context);
+    if (!rulebase)
+        return ToolExit::Failure;
+
+    // The program writes the file into the temporary folder under its own name; the tool
+    // takes the same text and writes it where it is told.
+    ScriptFile file;
+    const RuleLists &rules = *rulebase->RuleLists();
+    qint32 conditions = 0;
+    for (qint32 i = 1; i <= rules.CodingConventions()->Count(); ++i) {
+        if (const auto rule = rules.CodingConventions()->Item(i)) {
+            file.AddScript(rule->RuleID(), rule->Condition());
+            conditions += rule->Condition().isEmpty() ? 0 : 1;
+        }
+    }
+    // Unauthorised keywords' conditions never reach the file.
+    for (qint32 i = 1; i <= rules.NamingConventions()->Count(); ++i) {
+        if (const auto rule = rules.NamingConventions()->Item(i)) {
+            file.AddScript(rule->RuleID(), rule->Condition());
+            conditions += rule->Condition().isEmpty() ? 0 : 1;
+        }
+    }
+    const QByteArray bytes = file.ScriptText().toUtf8();
+    QSaveFile out(request.output);
+    if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size() || !out.commit()) {
+        fail(context,
+             command,
+             request.output + QStringLiteral(": the condition script file could not be written: ")
+                 + out.errorString());
+        return ToolExit::Failure;
+    }
+    context.out() << request.rulebase << ": " << countText(conditions, "condition", "conditions")
+                  << " written to " << request.output << '\n';
+    return ToolExit::Ok;
 }
 
 int importAuthorisedItems(const ImportRequest &request, ToolContext &context)
