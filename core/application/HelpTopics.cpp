@@ -32,6 +32,7 @@ const std::vector<Topic> &all()
         {DocumentationWizard, "DocumentationWizard.htm", "Documentation wizard"},
         {About, "About.htm", "About Quorin Administrator"},
         {TipOfTheDay, "TipOfTheDay.htm", "Tip of the day"},
+        {ConditionLanguage, "ConditionLanguage.htm", "The condition language"},
     };
     return table;
 }

@@ -38,6 +38,7 @@ enum Context : int {
     DocumentationWizard = 98,
     About = 99,
     TipOfTheDay = 100,
+    ConditionLanguage = 101,
 };
 
 struct Topic

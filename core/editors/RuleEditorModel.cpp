@@ -77,12 +77,12 @@ std::span<const RuleEditorMenu> RuleEditorModel::menus()
 
 QString RuleEditorModel::HelpTopic()
 {
-    return QStringLiteral("::/RuleConditionEditor.html");
+    return QStringLiteral("::/ConditionEditor.htm");
 }
 
 QString RuleEditorModel::LanguageHelpTopic()
 {
-    return QStringLiteral("::/ConditionLanguage.html");
+    return QStringLiteral("::/ConditionLanguage.htm");
 }
 
 QString RuleEditorModel::ToolText(const QString &toolId)

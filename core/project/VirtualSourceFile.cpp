@@ -52,6 +52,16 @@ QString trimRight(const QString &text)
     return text.left(end);
 }
 
+// Only a line whose last non-blank character is "_" can continue; the full classification
+// decides, but most lines are settled by this look at their end.
+bool endsWithUnderscore(const QString &line)
+{
+    qsizetype end = line.size();
+    while (end > 0 && line[end - 1] == u' ')
+        --end;
+    return end > 0 && line[end - 1] == u'_';
+}
+
 } // namespace
 
 VirtualSourceFile::VirtualSourceFile()
@@ -216,7 +226,8 @@ bool VirtualSourceFile::GetNextSourceLine(QString &rawText,
             raw += line;
             ++physical;
             QString piece = line;
-            if (modSource::SourceLineType(line) == SourceLineType::Continuation) {
+            if (endsWithUnderscore(line)
+                && modSource::SourceLineType(line) == SourceLineType::Continuation) {
                 piece = trimRight(piece);
                 piece.chop(1);
                 piece = trimRight(piece);

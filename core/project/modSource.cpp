@@ -53,14 +53,14 @@ qsizetype quoteFrom(const QString &text, qsizetype start)
     });
 }
 
+// Spaces and tabs only; scanned in place because every line of every file comes through here.
 bool IsBlankLine(const QString &line)
 {
-    return guarded("IsBlankLine", C_Source, false, [&] {
-        QString text = Text::trimBlanks(line);
-        while (text.startsWith(QLatin1Char('\t')))
-            text = Text::trimBlanks(text.mid(1));
-        return text.isEmpty();
-    });
+    for (const QChar c : line) {
+        if (c != u' ' && c != u'\t')
+            return false;
+    }
+    return true;
 }
 
 bool IsCommentOnlyLine(const QString &line)

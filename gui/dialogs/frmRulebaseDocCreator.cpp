@@ -91,7 +91,7 @@ frmRulebaseDocCreator::frmRulebaseDocCreator(RulebaseDocCreatorForm &form, QWidg
 
 QString frmRulebaseDocCreator::helpTopic()
 {
-    return QStringLiteral("::/DocumentationWizard.html");
+    return QStringLiteral("::/DocumentationWizard.htm");
 }
 
 void frmRulebaseDocCreator::buildWidgets()

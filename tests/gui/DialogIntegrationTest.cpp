@@ -8,6 +8,7 @@
 #include "editors/CategorySeverityForm.h"
 #include "editors/DefaultViolationsForm.h"
 #include "editors/IConventionForm.h"
+#include "editors/RulebaseDocCreatorForm.h"
 #include "editors/RulebasePropertiesForm.h"
 #include "editors/SeverityEditorForm.h"
 #include "editors/TagListForm.h"
@@ -22,6 +23,8 @@
 #include "gui/dialogs/frmObjectProperty.h"
 #include "gui/dialogs/frmParserEvent.h"
 #include "gui/dialogs/frmPatternTest.h"
+#include "gui/dialogs/frmRulebaseDocCreator.h"
+#include "gui/editor/frmRuleEditor.h"
 #include "gui/dialogs/frmRulebaseProperties.h"
 #include "gui/dialogs/frmSeverityEditor.h"
 #include "gui/dialogs/frmTagList.h"
@@ -536,6 +539,8 @@ TEST_F(DialogIntegration, EveryDialogsHelpButtonAndF1OpenItsOwnPage)
     AddFromProjectForm addFromProject(importer);
     AuthorisedComponentForm component(std::make_shared<AuthorisedComponent>());
     AuthorisedReferenceForm reference(std::make_shared<AuthorisedReference>());
+    RulebaseDocCreatorForm docCreator;
+    docCreator.setRulebase(rulebase);
 
     struct Case
     {
@@ -584,6 +589,10 @@ TEST_F(DialogIntegration, EveryDialogsHelpButtonAndF1OpenItsOwnPage)
         {"frmUnauthorisedKeyword",
          "UnauthorisedKeyword.htm",
          [] { return std::make_unique<frmUnauthorisedKeyword>(); }},
+        {"frmRulebaseDocCreator",
+         "DocumentationWizard.htm",
+         [&] { return std::make_unique<frmRulebaseDocCreator>(docCreator); }},
+        {"frmRuleEditor", "ConditionEditor.htm", [] { return std::make_unique<frmRuleEditor>(); }},
         {"frmAbout", "About.htm", [] { return std::make_unique<frmAbout>(); }},
         {"frmTip", "TipOfTheDay.htm", [] { return std::make_unique<frmTip>(); }},
     };
@@ -596,15 +605,15 @@ TEST_F(DialogIntegration, EveryDialogsHelpButtonAndF1OpenItsOwnPage)
         EXPECT_EQ(dialog->objectName(), c.dialog);
         ASSERT_TRUE(QFile::exists(QStringLiteral(":/help/") + c.page));
 
-        // The two windows of the program's own have F1 only.
+        // The about box and the tip have F1 only; the condition editor has its help tools.
         if (auto *help = dialog->findChild<QPushButton *>(QStringLiteral("cmdHelp"))) {
             ui.helpRequests.clear();
             help->click();
             ASSERT_EQ(ui.helpRequests.size(), 1u);
             EXPECT_EQ(pageOf(ui.helpRequests.front()), c.page);
         } else {
-            EXPECT_TRUE(c.dialog == QLatin1String("frmAbout")
-                        || c.dialog == QLatin1String("frmTip"));
+            EXPECT_TRUE(c.dialog == QLatin1String("frmAbout") || c.dialog == QLatin1String("frmTip")
+                        || c.dialog == QLatin1String("frmRuleEditor"));
         }
         ui.helpRequests.clear();
         pressF1(*dialog);
@@ -613,8 +622,16 @@ TEST_F(DialogIntegration, EveryDialogsHelpButtonAndF1OpenItsOwnPage)
         dialog->hide();
     }
 
+    // The condition editor's second help tool explains the language.
+    frmRuleEditor editor;
+    ui.helpRequests.clear();
+    editor.tool(QStringLiteral("tlLanguageHelp"))->trigger();
+    ASSERT_EQ(ui.helpRequests.size(), 1u);
+    EXPECT_EQ(pageOf(ui.helpRequests.front()), QStringLiteral("ConditionLanguage.htm"));
+    EXPECT_TRUE(QFile::exists(QStringLiteral(":/help/ConditionLanguage.htm")));
+
     // A dialog added later comes into this walk, or the walk fails.
-    for (const char *folder : {"gui/dialogs", "gui/window"}) {
+    for (const char *folder : {"gui/dialogs", "gui/window", "gui/editor"}) {
         const QDir dir(QStringLiteral(QUORIN_SOURCE_DIR "/") + QLatin1String(folder));
         const QStringList headers = dir.entryList({QStringLiteral("frm*.h")}, QDir::Files);
         ASSERT_FALSE(headers.isEmpty()) << folder;
