@@ -1,14 +1,10 @@
 #include "ProjectTestSupport.h"
 
-#include "editors/AddFromProjectForm.h"
-#include "editors/IFormFactory.h"
-#include "project/AddFromProject.h"
 #include "project/AuthorisedItemsMerger.h"
 #include "rulebase/AuthorisedComponents.h"
 #include "rulebase/AuthorisedReferences.h"
 #include "rulebase/Rulebase.h"
 
-#include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
 #include <QFileInfo>
@@ -22,20 +18,6 @@ QString typelibFile(const char *name)
 {
     return TestEnvironment::sharedDataDir() + QStringLiteral("/typelib/") + QLatin1String(name);
 }
-
-// Counts the import dialogs that would have been shown.
-class CountingFormFactory final : public IFormFactory
-{
-public:
-    CountingFormFactory() { install(this); }
-    ~CountingFormFactory() override { install(nullptr); }
-    bool runAddFromProject(AddFromProjectForm &) override
-    {
-        ++runs;
-        return false;
-    }
-    int runs = 0;
-};
 
 using AuthorisedItemsMergerTest = ProjectTest;
 
@@ -125,39 +107,4 @@ TEST_F(AuthorisedItemsMergerTest, ActiveXFilesTakeOnlyTheVersionsTheRulebaseLack
     ASSERT_EQ(merger.Changes().size(), 3u);
     EXPECT_FALSE(merger.Changes()[2].added);
     EXPECT_EQ(merger.Changes()[2].version, QStringLiteral("2.5"));
-}
-
-TEST_F(AuthorisedItemsMergerTest, GatheringAsksNothingAndNamesTheProjectsItCouldNotRead)
-{
-    ScriptedUserInterface ui;
-    CountingFormFactory forms;
-    const QString project = writeFile(
-        QStringLiteral("p.vbp"),
-        crlf("Type=Exe\nObject={ABCDEF00-0000-0000-0000-000000000002}#1.0#0; one.ocx\n"));
-    const QString group = writeFile(QStringLiteral("g.vbg"),
-                                    crlf("VBGROUP 5.0\nStartupProject=p.vbp\nProject=gone.vbp\n"));
-    auto rulebase = std::make_shared<Rulebase>();
-
-    AddFromProject importer;
-    importer.GatherCandidates({group}, rulebase);
-    EXPECT_TRUE(ui.messages.empty());
-    EXPECT_EQ(forms.runs, 0);
-    EXPECT_FALSE(importer.Cancelled());
-    ASSERT_EQ(importer.UnreadFiles().size(), 1);
-    EXPECT_TRUE(importer.UnreadFiles().first().endsWith(QStringLiteral("gone.vbp")));
-    ASSERT_TRUE(importer.ComponentList()->Contains(
-        QStringLiteral("{ABCDEF00-0000-0000-0000-000000000002}")));
-    // Every candidate stays ticked, so merging takes all of them.
-    EXPECT_EQ(importer.ComponentList()->SelectedCount(), importer.ComponentList()->Count());
-
-    AuthorisedItemsMerger merger(*rulebase);
-    merger.MergeSelected(*importer.ComponentList(), *importer.ReferenceList());
-    EXPECT_EQ(merger.AddedCount(),
-              importer.ComponentList()->Count() + importer.ReferenceList()->Count());
-
-    // Read again against the merged rulebase, the same project brings nothing.
-    AddFromProject again;
-    again.GatherCandidates({project}, rulebase);
-    EXPECT_EQ(again.ComponentList()->Count() + again.ReferenceList()->Count(), 0);
-    EXPECT_TRUE(again.UnreadFiles().isEmpty());
 }
