@@ -293,18 +293,29 @@ void RuleLists::SortRuleList(ObjectArrayList<IRule> &list)
     });
 }
 
-QString RuleLists::CreateScriptFile() const
+qint32 RuleLists::AddScriptsTo(ScriptFile &file) const
 {
-    ScriptFile file;
+    qint32 conditions = 0;
+    const auto add = [&](const QString &condition, qint32 ruleID) {
+        file.AddScript(ruleID, condition);
+        conditions += condition.isEmpty() ? 0 : 1;
+    };
     for (qint32 i = 1; i <= m_codingConventions->Count(); ++i) {
         if (const auto rule = m_codingConventions->Item(i))
-            file.AddScript(rule->RuleID(), rule->Condition());
+            add(rule->Condition(), rule->RuleID());
     }
     // Unauthorised keywords' conditions never reach the file.
     for (qint32 i = 1; i <= m_namingConventions->Count(); ++i) {
         if (const auto rule = m_namingConventions->Item(i))
-            file.AddScript(rule->RuleID(), rule->Condition());
+            add(rule->Condition(), rule->RuleID());
     }
+    return conditions;
+}
+
+QString RuleLists::CreateScriptFile() const
+{
+    ScriptFile file;
+    AddScriptsTo(file);
     file.CreateScriptFile();
     return file.FullFilename();
 }

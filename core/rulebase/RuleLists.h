@@ -12,6 +12,7 @@ class IRule;
 class CodingConvention;
 class UnauthorisedKeyword;
 class NamingConvention;
+class ScriptFile;
 
 // Owns every rule of a rulebase and gives them by type, by parser event and by object; all the
 // lists hold the same objects. Hands out rule ids: the first rule of a new rulebase is 5000,
@@ -77,6 +78,9 @@ public:
     // Writes the conditions of the coding and naming conventions, in list order, to the
     // condition script file and gives its full name, whether or not the write succeeded.
     QString CreateScriptFile() const;
+    // Adds the conditions of the coding and naming conventions, in list order, to `file`;
+    // gives how many of them are not empty.
+    qint32 AddScriptsTo(ScriptFile &file) const;
 
 private:
     qint32 ObjectNCRuleCount(qint32 objectType) const;

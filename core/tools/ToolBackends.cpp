@@ -184,21 +184,7 @@ int writeConditionScripts(const ScriptsRequest &request, ToolContext &context)
     // The program writes the file into the temporary folder under its own name; the tool
     // takes the same text and writes it where it is told.
     ScriptFile file;
-    const RuleLists &rules = *rulebase->RuleLists();
-    qint32 conditions = 0;
-    for (qint32 i = 1; i <= rules.CodingConventions()->Count(); ++i) {
-        if (const auto rule = rules.CodingConventions()->Item(i)) {
-            file.AddScript(rule->RuleID(), rule->Condition());
-            conditions += rule->Condition().isEmpty() ? 0 : 1;
-        }
-    }
-    // Unauthorised keywords' conditions never reach the file.
-    for (qint32 i = 1; i <= rules.NamingConventions()->Count(); ++i) {
-        if (const auto rule = rules.NamingConventions()->Item(i)) {
-            file.AddScript(rule->RuleID(), rule->Condition());
-            conditions += rule->Condition().isEmpty() ? 0 : 1;
-        }
-    }
+    const qint32 conditions = rulebase->RuleLists()->AddScriptsTo(file);
     const QByteArray bytes = file.ScriptText().toUtf8();
     QSaveFile out(request.output);
     if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size() || !out.commit()) {
