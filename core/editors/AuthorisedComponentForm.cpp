@@ -11,12 +11,7 @@ constexpr qint32 componentObject = 4;
 AuthorisedComponentForm::AuthorisedComponentForm(std::shared_ptr<::AuthorisedComponent> item)
     : m_item(std::move(item))
 {
-    if (m_item && !m_item->LibID().isEmpty()) {
-        m_filename = m_item->Filename();
-        m_guid = m_item->LibID();
-        m_versions = m_item->VersionList();
-        m_advice = m_item->Advice();
-    }
+    FieldsFromItem(m_item.get());
     Load();
 }
 
@@ -36,15 +31,11 @@ bool AuthorisedComponentForm::TakeLibrary(const QString &path)
     const std::shared_ptr<VirtualComponent> component = modTypelib::LoadComponentFromFile(path, ok);
     if (!ok)
         return false;
-    setGUID(component->GUID());
-    setVersions(component->Version());
+    TakeGuidAndVersion(*component);
     return true;
 }
 
 void AuthorisedComponentForm::WriteItem()
 {
-    m_item->setFilename(m_filename);
-    m_item->setLibID(m_guid);
-    m_item->setVersionList(m_versions);
-    m_item->setAdvice(m_advice);
+    FieldsToItem(*m_item);
 }

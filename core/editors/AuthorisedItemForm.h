@@ -78,6 +78,34 @@ protected:
     virtual void WriteItem() = 0;
     virtual const char *module() const = 0;
 
+    // The fields both kinds of item have, from an item that has a GUID; false for a new one.
+    template<class Item>
+    bool FieldsFromItem(const Item *item)
+    {
+        if (!item || item->LibID().isEmpty())
+            return false;
+        m_filename = item->Filename();
+        m_guid = item->LibID();
+        m_versions = item->VersionList();
+        m_advice = item->Advice();
+        return true;
+    }
+    template<class Item>
+    void FieldsToItem(Item &item) const
+    {
+        item.setFilename(m_filename);
+        item.setLibID(m_guid);
+        item.setVersionList(m_versions);
+        item.setAdvice(m_advice);
+    }
+    // The GUID and version of a library read from the chosen file.
+    template<class Library>
+    void TakeGuidAndVersion(const Library &library)
+    {
+        setGUID(library.GUID());
+        setVersions(library.Version());
+    }
+
     QString m_filename;
     QString m_guid;
     QString m_versions;

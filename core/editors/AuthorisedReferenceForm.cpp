@@ -11,13 +11,8 @@ constexpr qint32 referenceObject = 21;
 AuthorisedReferenceForm::AuthorisedReferenceForm(std::shared_ptr<::AuthorisedReference> item)
     : m_item(std::move(item))
 {
-    if (m_item && !m_item->LibID().isEmpty()) {
-        m_filename = m_item->Filename();
-        m_guid = m_item->LibID();
-        m_versions = m_item->VersionList();
-        m_advice = m_item->Advice();
+    if (FieldsFromItem(m_item.get()))
         m_description = m_item->Description();
-    }
     Load();
 }
 
@@ -43,8 +38,7 @@ bool AuthorisedReferenceForm::TakeLibrary(const QString &path)
     const std::shared_ptr<VirtualReference> reference = modTypelib::LoadReferenceFromFile(path, ok);
     if (!ok)
         return false;
-    setGUID(reference->GUID());
-    setVersions(reference->Version());
+    TakeGuidAndVersion(*reference);
     setDescription(reference->Description());
     return true;
 }
@@ -52,8 +46,5 @@ bool AuthorisedReferenceForm::TakeLibrary(const QString &path)
 void AuthorisedReferenceForm::WriteItem()
 {
     m_item->setDescription(m_description);
-    m_item->setFilename(m_filename);
-    m_item->setLibID(m_guid);
-    m_item->setVersionList(m_versions);
-    m_item->setAdvice(m_advice);
+    FieldsToItem(*m_item);
 }

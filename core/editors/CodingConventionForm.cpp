@@ -27,39 +27,28 @@ QString CodingConventionForm::CollapseToolTip(int index)
 }
 
 CodingConventionForm::CodingConventionForm(std::shared_ptr<CodingConvention> rule)
-    : m_rule(std::move(rule))
+    : ConventionForm(std::move(rule))
 {
-}
-
-qint32 CodingConventionForm::RuleID() const
-{
-    return m_rule ? m_rule->RuleID() : 0;
 }
 
 void CodingConventionForm::Load()
 {
-    PopulateStaticData();
-    DataToScreen();
+    ConventionForm::Load();
     chkPending_Click();
 }
 
-void CodingConventionForm::PopulateStaticData()
+void CodingConventionForm::PopulateOwnLists()
 {
-    PopulateCategories();
     VBParserEvents::PopulateCCEndEventsImageCombo(m_screen.imgcboPending);
     VBParserEvents::PopulateCCEventsImageCombo(m_screen.imgcboEvent);
-    PopulateSeverities();
 }
 
 void CodingConventionForm::DataToScreen()
 {
     const CodingConvention &rule = *m_rule;
-    m_screen.txtTitle = rule.Title();
-    m_screen.txtDescription = rule.Description();
-    CategoryToScreen(rule.CategoryID());
+    RuleToScreen();
     m_screen.txtCondition = rule.Condition();
     m_screen.chkPending = rule.PendingViolation();
-    m_screen.chkRuleActive = rule.RuleActive();
     ViolationToScreen(*rule.ViolationDefinition(), true);
 }
 
@@ -166,11 +155,9 @@ void CodingConventionForm::SelectAllNodes(bool select)
 
 std::optional<FormFault> CodingConventionForm::FirstFault() const
 {
-    if (m_screen.txtTitle.isEmpty())
-        return FormFault{RuleTab,
-                         QStringLiteral("txtTitle"),
-                         -1,
-                         QStringLiteral("Please enter a title for the coding convention.")};
+    if (auto fault
+        = TitleFault(RuleTab, QStringLiteral("Please enter a title for the coding convention.")))
+        return fault;
     if (!m_screen.chkPending) {
         bool anyChecked = false;
         for (int node = 1; node <= m_screen.tvwEvent.count() && !anyChecked; ++node)
@@ -183,20 +170,13 @@ std::optional<FormFault> CodingConventionForm::FirstFault() const
                 QStringLiteral(
                     "Please assign the coding convention to at least one parser event.")};
     }
-    if (m_screen.txtVTitle.isEmpty())
-        return FormFault{ViolationTab,
-                         QStringLiteral("txtVTitle"),
-                         -1,
-                         QStringLiteral("Please enter a title for the violation.")};
-    return std::nullopt;
+    return ViolationTitleFault(ViolationTab);
 }
 
 void CodingConventionForm::DataFromScreen()
 {
     CodingConvention &rule = *m_rule;
-    rule.setTitle(m_screen.txtTitle);
-    rule.setDescription(m_screen.txtDescription);
-    rule.setCategoryID(CategoryFromScreen());
+    RuleFromScreen();
     rule.setCondition(m_screen.txtCondition);
     rule.RemoveParserEventID(-1);
     if (!m_screen.chkPending) {
@@ -212,6 +192,5 @@ void CodingConventionForm::DataFromScreen()
         rule.AddParserEventID(Text::valLong(m_screen.imgcboEvent.currentKey()));
         rule.setEndEventID(Text::valLong(m_screen.imgcboPending.currentKey()));
     }
-    rule.setRuleActive(m_screen.chkRuleActive);
     ViolationFromScreen(*rule.ViolationDefinition(), true);
 }

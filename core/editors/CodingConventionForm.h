@@ -1,13 +1,13 @@
 #pragma once
 
 #include "editors/CheckableTree.h"
-#include "editors/ConventionFormBase.h"
+#include "editors/ConventionForm.h"
 
 class CodingConvention;
 
 // "Coding Convention": the form model of one coding convention. A pending rule has one start
 // and one end event, picked in two combos; any other rule a set of events, ticked in a tree.
-class CodingConventionForm final : public ConventionFormBase
+class CodingConventionForm final : public ConventionForm<CodingConvention>
 {
 public:
     enum Tab { RuleTab = 1, EventTab = 2, ConditionTab = 3, ViolationTab = 4 };
@@ -35,17 +35,14 @@ public:
     static QString CollapseToolTip(int index);
 
     explicit CodingConventionForm(std::shared_ptr<CodingConvention> rule = {});
-    void setConvention(std::shared_ptr<CodingConvention> rule) { m_rule = std::move(rule); }
-    const std::shared_ptr<CodingConvention> &convention() const { return m_rule; }
 
     Screen &screen() { return m_screen; }
     const Screen &screen() const { return m_screen; }
     CommonScreen &common() override { return m_screen; }
-    qint32 RuleID() const override;
 
+    // Then the event tab, as the loaded pending flag wants it.
     void Load() override;
-    void PopulateStaticData();
-    void DataToScreen();
+    void DataToScreen() override;
     // Run after the author (or the load) set chkPending.
     void chkPending_Click();
     void InitialiseEventTab();
@@ -64,6 +61,7 @@ public:
     static constexpr qint32 conditionRuleType = 4;
 
 private:
-    std::shared_ptr<CodingConvention> m_rule;
+    void PopulateOwnLists() override;
+
     Screen m_screen;
 };

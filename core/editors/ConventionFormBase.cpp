@@ -26,6 +26,19 @@ void ConventionFormBase::setRulebase(std::shared_ptr<Rulebase> rulebase)
     m_rulebase = std::move(rulebase);
 }
 
+void ConventionFormBase::Load()
+{
+    PopulateStaticData();
+    DataToScreen();
+}
+
+void ConventionFormBase::PopulateStaticData()
+{
+    PopulateCategories();
+    PopulateOwnLists();
+    PopulateSeverities();
+}
+
 void ConventionFormBase::PopulateCategories()
 {
     modUIListUtils::PopulateCategoryListControl(
@@ -77,6 +90,23 @@ void ConventionFormBase::ViolationFromScreen(ViolationDefinition &definition, bo
     definition.setImpact(NumberFromField(screen.txtVImpact));
     if (withAdvice)
         definition.setAdvice(screen.txtVAdvice);
+}
+
+std::optional<FormFault> ConventionFormBase::TitleFault(int tab, const QString &message) const
+{
+    if (!common().txtTitle.isEmpty())
+        return std::nullopt;
+    return FormFault{tab, QStringLiteral("txtTitle"), -1, message};
+}
+
+std::optional<FormFault> ConventionFormBase::ViolationTitleFault(int tab) const
+{
+    if (!common().txtVTitle.isEmpty())
+        return std::nullopt;
+    return FormFault{tab,
+                     QStringLiteral("txtVTitle"),
+                     -1,
+                     QStringLiteral("Please enter a title for the violation.")};
 }
 
 void ConventionFormBase::cboSeverity_Click()

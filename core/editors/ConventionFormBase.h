@@ -49,7 +49,10 @@ public:
     const CommonScreen &common() const { return const_cast<ConventionFormBase *>(this)->common(); }
 
     // Form load: the static lists, then the rule's data.
-    virtual void Load() = 0;
+    virtual void Load();
+    // The categories, the dialog's own lists, then the severities.
+    void PopulateStaticData();
+    virtual void DataToScreen() = 0;
     // The rule's RuleID, for the condition editor's caption.
     virtual qint32 RuleID() const = 0;
 
@@ -78,6 +81,8 @@ public:
     static qint16 NumberFromField(const QString &text);
 
 protected:
+    // The lists only this dialog has, filled between the categories and the severities.
+    virtual void PopulateOwnLists() {}
     void PopulateCategories();
     void PopulateSeverities();
     // Selects the category by item data; no row for an id that isn't listed.
@@ -87,6 +92,10 @@ protected:
     // definition's own impact shown; 0, a new rule's, selects the first row with its impact.
     void ViolationToScreen(const ViolationDefinition &definition, bool withAdvice);
     void ViolationFromScreen(ViolationDefinition &definition, bool withAdvice) const;
+    // The title check that opens every dialog's validation, with the dialog's own message.
+    std::optional<FormFault> TitleFault(int tab, const QString &message) const;
+    // The violation title check that closes it.
+    std::optional<FormFault> ViolationTitleFault(int tab) const;
 
 private:
     Application *m_application = nullptr; // not owned

@@ -77,26 +77,8 @@ QString NamingConventionForm::StripPercent(const QString &selection)
 }
 
 NamingConventionForm::NamingConventionForm(std::shared_ptr<NamingConvention> rule)
-    : m_rule(std::move(rule))
+    : ConventionForm(std::move(rule))
 {
-}
-
-qint32 NamingConventionForm::RuleID() const
-{
-    return m_rule ? m_rule->RuleID() : 0;
-}
-
-void NamingConventionForm::Load()
-{
-    PopulateStaticData();
-    DataToScreen();
-}
-
-void NamingConventionForm::PopulateStaticData()
-{
-    PopulateCategories();
-    PopulatePrefixSuffixCombos();
-    PopulateSeverities();
 }
 
 void NamingConventionForm::PopulatePrefixSuffixCombos()
@@ -135,9 +117,7 @@ void NamingConventionForm::PopulatePropertyList(qint32 objectType)
 void NamingConventionForm::DataToScreen()
 {
     const NamingConvention &rule = *m_rule;
-    m_screen.txtTitle = rule.Title();
-    m_screen.txtDescription = rule.Description();
-    CategoryToScreen(rule.CategoryID());
+    RuleToScreen();
 
     m_objectType = rule.ObjectType();
     m_propertyType = rule.PropertyType();
@@ -166,7 +146,6 @@ void NamingConventionForm::DataToScreen()
 
     ItemsToScreen(Suffix, rule.SuffixActive(), rule);
 
-    m_screen.chkRuleActive = rule.RuleActive();
     ViolationToScreen(*rule.ViolationDefinition(), false);
 }
 
@@ -338,11 +317,9 @@ std::optional<FormFault> NamingConventionForm::ItemFault(Part part) const
 
 std::optional<FormFault> NamingConventionForm::FirstFault() const
 {
-    if (m_screen.txtTitle.isEmpty())
-        return FormFault{RuleTab,
-                         QStringLiteral("txtTitle"),
-                         -1,
-                         QStringLiteral("Please enter a title for the naming convention.")};
+    if (auto fault
+        = TitleFault(RuleTab, QStringLiteral("Please enter a title for the naming convention.")))
+        return fault;
     if (!m_screen.imgcboObject.hasSelection())
         return FormFault{
             RuleTab,
@@ -362,20 +339,13 @@ std::optional<FormFault> NamingConventionForm::FirstFault() const
         if (auto fault = ItemFault(Suffix))
             return fault;
     }
-    if (m_screen.txtVTitle.isEmpty())
-        return FormFault{ViolationTab,
-                         QStringLiteral("txtVTitle"),
-                         -1,
-                         QStringLiteral("Please enter a title for the violation.")};
-    return std::nullopt;
+    return ViolationTitleFault(ViolationTab);
 }
 
 void NamingConventionForm::DataFromScreen()
 {
     NamingConvention &rule = *m_rule;
-    rule.setTitle(m_screen.txtTitle);
-    rule.setDescription(m_screen.txtDescription);
-    rule.setCategoryID(CategoryFromScreen());
+    RuleFromScreen();
     rule.setObjectType(m_objectType);
     rule.setPropertyType(m_propertyType);
     // Property 0 is no property: nothing to look up, and nothing worth a log line.
@@ -403,6 +373,5 @@ void NamingConventionForm::DataFromScreen()
         rule.SuffixItems()->Item(i + 1)->setValue(row.text);
     }
     rule.setSuffixAdvice(m_screen.suffix.advice);
-    rule.setRuleActive(m_screen.chkRuleActive);
     ViolationFromScreen(*rule.ViolationDefinition(), false);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editors/ConventionFormBase.h"
+#include "editors/ConventionForm.h"
 
 #include <array>
 
@@ -9,7 +9,7 @@ class NamingConvention;
 // "Naming Convention": the form model of one naming convention on six tabs. Keeps the four
 // prefix rows and the four suffix rows consistent top-down: a row's kind can only be chosen once
 // the row above has one, and a row's text is open only to the kinds that need it.
-class NamingConventionForm final : public ConventionFormBase
+class NamingConventionForm final : public ConventionForm<NamingConvention>
 {
 public:
     enum Tab {
@@ -74,20 +74,15 @@ public:
     static QString StripPercent(const QString &selection);
 
     explicit NamingConventionForm(std::shared_ptr<NamingConvention> rule = {});
-    void setConvention(std::shared_ptr<NamingConvention> rule) { m_rule = std::move(rule); }
-    const std::shared_ptr<NamingConvention> &convention() const { return m_rule; }
 
     Screen &screen() { return m_screen; }
     const Screen &screen() const { return m_screen; }
     CommonScreen &common() override { return m_screen; }
-    qint32 RuleID() const override;
     ItemSection &section(Part part) { return part == Prefix ? m_screen.prefix : m_screen.suffix; }
     qint32 ObjectType() const { return m_objectType; }
     qint32 PropertyType() const { return m_propertyType; }
 
-    void Load() override;
-    void PopulateStaticData();
-    void DataToScreen();
+    void DataToScreen() override;
     void PopulatePrefixSuffixCombos();
     void EnableDisablePrefixControls(bool enabled) { EnableDisableItems(Prefix, enabled); }
     void EnableDisableSuffixControls(bool enabled) { EnableDisableItems(Suffix, enabled); }
@@ -118,12 +113,12 @@ public:
     static constexpr qint32 conditionRuleType = 5;
 
 private:
+    void PopulateOwnLists() override { PopulatePrefixSuffixCombos(); }
     void EnableDisableItems(Part part, bool enabled);
     void setKind(ItemRow &row, int comboRow);
     void ItemsToScreen(Part part, bool active, const NamingConvention &rule);
     std::optional<FormFault> ItemFault(Part part) const;
 
-    std::shared_ptr<NamingConvention> m_rule;
     Screen m_screen;
     qint32 m_objectType = 0;
     qint32 m_propertyType = 0;

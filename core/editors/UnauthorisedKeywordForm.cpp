@@ -9,49 +9,26 @@ const char *const UnauthorisedKeywordForm::parserEventsHelp
       "should be executed for.";
 
 UnauthorisedKeywordForm::UnauthorisedKeywordForm(std::shared_ptr<UnauthorisedKeyword> rule)
-    : m_rule(std::move(rule))
+    : ConventionForm(std::move(rule))
 {
-}
-
-qint32 UnauthorisedKeywordForm::RuleID() const
-{
-    return m_rule ? m_rule->RuleID() : 0;
-}
-
-void UnauthorisedKeywordForm::Load()
-{
-    PopulateStaticData();
-    DataToScreen();
-}
-
-void UnauthorisedKeywordForm::PopulateStaticData()
-{
-    PopulateCategories();
-    PopulateSeverities();
 }
 
 void UnauthorisedKeywordForm::DataToScreen()
 {
     const UnauthorisedKeyword &rule = *m_rule;
-    m_screen.txtTitle = rule.Title();
-    m_screen.txtDescription = rule.Description();
-    CategoryToScreen(rule.CategoryID());
+    RuleToScreen();
     m_screen.txtCondition = rule.Condition();
     // Any other event on the rule has no box, and is dropped on OK.
     m_screen.chkDeclaration = rule.IsAssignedToEvent(declarationEvent);
     m_screen.chkProcedureDecl = rule.IsAssignedToEvent(procedureDeclEvent);
     m_screen.chkProcedureBody = rule.IsAssignedToEvent(procedureBodyEvent);
-    m_screen.chkRuleActive = rule.RuleActive();
     ViolationToScreen(*rule.ViolationDefinition(), true);
 }
 
 std::optional<FormFault> UnauthorisedKeywordForm::FirstFault() const
 {
-    if (m_screen.txtTitle.isEmpty())
-        return FormFault{RuleTab,
-                         QStringLiteral("txtTitle"),
-                         -1,
-                         QStringLiteral("Please enter a title for the rule.")};
+    if (auto fault = TitleFault(RuleTab, QStringLiteral("Please enter a title for the rule.")))
+        return fault;
     if (m_screen.txtCondition.isEmpty())
         return FormFault{
             ConditionTab,
@@ -64,20 +41,13 @@ std::optional<FormFault> UnauthorisedKeywordForm::FirstFault() const
             QStringLiteral("chkDeclaration"),
             -1,
             QStringLiteral("Please select a parser event for the unauthorised keyword rule.")};
-    if (m_screen.txtVTitle.isEmpty())
-        return FormFault{ViolationTab,
-                         QStringLiteral("txtVTitle"),
-                         -1,
-                         QStringLiteral("Please enter a title for the violation.")};
-    return std::nullopt;
+    return ViolationTitleFault(ViolationTab);
 }
 
 void UnauthorisedKeywordForm::DataFromScreen()
 {
     UnauthorisedKeyword &rule = *m_rule;
-    rule.setTitle(m_screen.txtTitle);
-    rule.setDescription(m_screen.txtDescription);
-    rule.setCategoryID(CategoryFromScreen());
+    RuleFromScreen();
     rule.setCondition(m_screen.txtCondition);
     rule.RemoveParserEventID(-1);
     if (m_screen.chkDeclaration)
@@ -86,6 +56,5 @@ void UnauthorisedKeywordForm::DataFromScreen()
         rule.AddParserEventID(procedureDeclEvent);
     if (m_screen.chkProcedureBody)
         rule.AddParserEventID(procedureBodyEvent);
-    rule.setRuleActive(m_screen.chkRuleActive);
     ViolationFromScreen(*rule.ViolationDefinition(), true);
 }

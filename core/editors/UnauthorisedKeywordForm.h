@@ -1,12 +1,12 @@
 #pragma once
 
-#include "editors/ConventionFormBase.h"
+#include "editors/ConventionForm.h"
 
 class UnauthorisedKeyword;
 
 // "Unauthorised Keyword": the form model of one unauthorised keyword rule, whose condition is a
 // pattern tried at up to three parser events.
-class UnauthorisedKeywordForm final : public ConventionFormBase
+class UnauthorisedKeywordForm final : public ConventionForm<UnauthorisedKeyword>
 {
 public:
     enum Tab { RuleTab = 1, ConditionTab = 2, ViolationTab = 3 };
@@ -27,22 +27,16 @@ public:
     static const char *const parserEventsHelp;
 
     explicit UnauthorisedKeywordForm(std::shared_ptr<UnauthorisedKeyword> rule = {});
-    void setConvention(std::shared_ptr<UnauthorisedKeyword> rule) { m_rule = std::move(rule); }
-    const std::shared_ptr<UnauthorisedKeyword> &convention() const { return m_rule; }
 
     Screen &screen() { return m_screen; }
     const Screen &screen() const { return m_screen; }
     CommonScreen &common() override { return m_screen; }
-    qint32 RuleID() const override;
 
-    void Load() override;
-    void PopulateStaticData();
-    void DataToScreen();
+    void DataToScreen() override;
 
     std::optional<FormFault> FirstFault() const override;
     void DataFromScreen() override;
 
 private:
-    std::shared_ptr<UnauthorisedKeyword> m_rule;
     Screen m_screen;
 };
