@@ -46,6 +46,8 @@ constexpr qint32 CodingConvention = 4;
 constexpr qint32 NamingConvention = 5;
 // Has no class: only the document writer speaks of it.
 constexpr qint32 DocumentationConvention = 6;
+// "coding convention" and the like, for messages; "rule" for any other type.
+QString displayName(qint32 ruleType);
 } // namespace RuleTypes
 
 // The one form of a rule key, digits first so that the number reads back with Text::val:

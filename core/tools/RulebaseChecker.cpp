@@ -45,20 +45,6 @@ QString quoted(const QString &text)
     return QLatin1Char('"') + text + QLatin1Char('"');
 }
 
-QString ruleTypeText(qint32 ruleType)
-{
-    switch (ruleType) {
-    case RuleTypes::UnauthorisedKeyword:
-        return QStringLiteral("unauthorised keyword");
-    case RuleTypes::CodingConvention:
-        return QStringLiteral("coding convention");
-    case RuleTypes::NamingConvention:
-        return QStringLiteral("naming convention");
-    default:
-        return QStringLiteral("rule");
-    }
-}
-
 bool isKnownSchema(const QString &version)
 {
     return Text::same(version, QStringLiteral("6.0")) || Text::same(version, QStringLiteral("6.1"))
@@ -506,7 +492,7 @@ qint64 RulebaseChecker::ruleLine(qint32 ruleID) const
 QString RulebaseChecker::describe(const IRule &rule)
 {
     return QStringLiteral("%1 %2 %3")
-        .arg(ruleTypeText(rule.RuleType()))
+        .arg(RuleTypes::displayName(rule.RuleType()))
         .arg(rule.RuleID())
         .arg(quoted(rule.Title()));
 }

@@ -51,20 +51,6 @@ void addDefinition(std::vector<std::pair<QString, QString>> &fields,
     fields.emplace_back(prefix + QStringLiteral("Advice"), definition.Advice());
 }
 
-QString ruleTypeName(qint32 ruleType)
-{
-    switch (ruleType) {
-    case RuleTypes::UnauthorisedKeyword:
-        return QStringLiteral("unauthorised keyword");
-    case RuleTypes::CodingConvention:
-        return QStringLiteral("coding convention");
-    case RuleTypes::NamingConvention:
-        return QStringLiteral("naming convention");
-    default:
-        return QStringLiteral("rule");
-    }
-}
-
 // "1 frm", "2" for a tag item, empty for none.
 QString itemText(const PrefixSuffixItem &item)
 {
@@ -343,9 +329,9 @@ RulebaseDiff::Records RulebaseDiff::rules(const Rulebase &rulebase)
             continue;
         const QString id = number(rule->RuleID());
         Record record{
-            id, id, ruleTypeName(rule->RuleType()) + QLatin1Char(' ') + quoted(rule->Title()), {}};
+            id, id, RuleTypes::displayName(rule->RuleType()) + QLatin1Char(' ') + quoted(rule->Title()), {}};
         auto &f = record.fields;
-        f.emplace_back(QStringLiteral("RuleType"), ruleTypeName(rule->RuleType()));
+        f.emplace_back(QStringLiteral("RuleType"), RuleTypes::displayName(rule->RuleType()));
         f.emplace_back(QStringLiteral("Title"), rule->Title());
         f.emplace_back(QStringLiteral("Description"), rule->Description());
         f.emplace_back(QStringLiteral("RuleActive"), Text::fromBool(rule->RuleActive()));
