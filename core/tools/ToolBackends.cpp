@@ -137,6 +137,19 @@ QString countText(qint32 count, const char *one, const char *many)
     return QString::number(count) + QLatin1Char(' ') + QLatin1String(count == 1 ? one : many);
 }
 
+// The whole rulebase for a command that writes `output`, which must not be the rulebase itself.
+std::shared_ptr<Rulebase> loadForOutput(const QString &rulebase,
+                                        const QString &output,
+                                        const QString &command,
+                                        ToolContext &context)
+{
+    if (sameFile(output, rulebase)) {
+        fail(context, command, output + QStringLiteral(": is the rulebase itself"));
+        return nullptr;
+    }
+    return loadWhole(rulebase, command, context);
+}
+
 } // namespace
 
 namespace ToolBackends {
@@ -144,11 +157,8 @@ namespace ToolBackends {
 int writeDocument(const DocRequest &request, ToolContext &context)
 {
     const QString command = QStringLiteral("doc");
-    if (sameFile(request.output, request.rulebase)) {
-        fail(context, command, request.output + QStringLiteral(": is the rulebase itself"));
-        return ToolExit::Failure;
-    }
-    const std::shared_ptr<Rulebase> rulebase = loadWhole(request.rulebase, command, context);
+    const std::shared_ptr<Rulebase> rulebase
+        = loadForOutput(request.rulebase, request.output, command, context);
     if (!rulebase)
         return ToolExit::Failure;
 
@@ -173,11 +183,8 @@ int writeDocument(const DocRequest &request, ToolContext &context)
 int writeConditionScripts(const ScriptsRequest &request, ToolContext &context)
 {
     const QString command = QStringLiteral("scripts");
-    if (sameFile(request.output, request.rulebase)) {
-        fail(context, command, request.output + QStringLiteral(": is the rulebase itself"));
-        return ToolExit::Failure;
-    }
-    const std::shared_ptr<Rulebase> rulebase = loadWhole(request.rulebase, command, context);
+    const std::shared_ptr<Rulebase> rulebase
+        = loadForOutput(request.rulebase, request.output, command, context);
     if (!rulebase)
         return ToolExit::Failure;
 
