@@ -22,27 +22,16 @@ QString folderImage(const CategoryItem &category)
 } // namespace
 
 CategoryView::CategoryView()
-    : RuleViewBase(Shape{
-        "CategoryView",
-        QStringLiteral(" Conventions by Category"),
-        QStringLiteral(" Category"),
-        QStringLiteral("This will permanently delete the selected convention(s) from the "
-                       "rulebase, are you sure you wish to continue?"),
-        {QStringLiteral("tlCodingConvention"),
-         QStringLiteral("tlNamingConvention"),
-         QStringLiteral("tlUnauthorisedKeyword")},
-        {QStringLiteral("tlCloneRule"),
-         QStringLiteral("tlCodingConvention"),
-         QStringLiteral("tlNamingConvention"),
-         QStringLiteral("tlUnauthorisedKeyword")},
-        SortSettings::Categories,
-    })
+    : GroupedConventionsView("CategoryView",
+                             QStringLiteral(" Conventions by Category"),
+                             QStringLiteral(" Category"),
+                             SortSettings::Categories)
 {
 }
 
-modViewCommon::RuleByKey CategoryView::ViewRules() const
+qint32 CategoryView::GroupOf(const IRule &rule) const
 {
-    return modViewCommon::rulesOf(ruleLists().AllConventions());
+    return rule.ViolationDefinition()->CategoryID();
 }
 
 void CategoryView::Populate()
@@ -70,18 +59,6 @@ void CategoryView::SetupTreeview()
     }
     m_tvwTree->addChild(
         root, unallocatedKey, QStringLiteral("Unallocated"), QStringLiteral("Unallocated"));
-}
-
-void CategoryView::PopulateList(qint32 categoryID)
-{
-    m_lvwList->clear();
-    const auto all = ruleLists().AllConventions();
-    for (qint32 i = 1; i <= all->Count(); ++i) {
-        const std::shared_ptr<IRule> rule = all->Item(i);
-        if (categoryID == 0 || rule->ViolationDefinition()->CategoryID() == categoryID)
-            AddRow(*rule);
-    }
-    RefreshView();
 }
 
 void CategoryView::ResetAllNodes()
@@ -117,15 +94,9 @@ void CategoryView::ResetNode(const QString &key)
     std::shared_ptr<CategoryItem> category;
     if (!unallocated)
         category = m_rulebase->CategoryList()->Item(key);
-    // A scan per node: refreshing is quadratic in the rulebase, which its size allows.
-    const qint32 categoryID = Text::valLong(key);
-    const auto all = ruleLists().AllConventions();
-    qint32 count = 0;
-    for (qint32 i = 1; i <= all->Count(); ++i) {
-        if (all->Item(i)->ViolationDefinition()->CategoryID() == categoryID)
-            ++count;
-    }
-    SetNodeCount(node, unallocated ? QStringLiteral("Unallocated") : category->Title(), count);
+    SetNodeCount(node,
+                 unallocated ? QStringLiteral("Unallocated") : category->Title(),
+                 CountInGroup(Text::valLong(key)));
     if (category)
         m_tvwTree->setImage(node, folderImage(*category));
 }
@@ -144,18 +115,6 @@ QString CategoryView::NodeDocumentation(int node) const
            + category->Title() + QStringLiteral("\r\n\r\n") + category->Description();
 }
 
-void CategoryView::AddItem(const std::shared_ptr<IRule> &item)
-{
-    guardedVoid("IViewController_AddItem", module(), [&] {
-        if (!item || !hasControls() || !m_rulebase)
-            return;
-        const qint32 categoryID = SelectedNodeValue();
-        if (categoryID == 0 || item->ViolationDefinition()->CategoryID() == categoryID)
-            AddRow(*item);
-        RefreshView();
-    });
-}
-
 void CategoryView::CategoryListChanged()
 {
     guardedVoid("IViewController_CategoryListChanged", module(), [this] {
@@ -170,20 +129,6 @@ void CategoryView::CategoryListChanged()
             node = 1;
         m_tvwTree->setSelectedItem(node);
         NodeClick(node);
-    });
-}
-
-void CategoryView::OpenItem()
-{
-    RunOpenItem([this] {
-        const QString key = EditSelectedRule();
-        if (key.isEmpty())
-            return;
-        const std::shared_ptr<IRule> rule = ruleLists().AllConventions()->Item(key);
-        // No index of RuleLists is kept up to date here: the event and object lists catch up
-        // when the rulebase is read again.
-        UpdateConvention(m_lvwList->find(key), *rule);
-        SetDocumentationWindowText(*rule);
     });
 }
 

@@ -16,27 +16,16 @@ const QString rootKey = QStringLiteral("Severity");
 }
 
 SeverityView::SeverityView()
-    : RuleViewBase(Shape{
-        "SeverityView",
-        QStringLiteral(" Conventions by Severity"),
-        QStringLiteral(" Severity"),
-        QStringLiteral("This will permanently delete the selected convention(s) from the "
-                       "rulebase, are you sure you wish to continue?"),
-        {QStringLiteral("tlCodingConvention"),
-         QStringLiteral("tlNamingConvention"),
-         QStringLiteral("tlUnauthorisedKeyword")},
-        {QStringLiteral("tlCloneRule"),
-         QStringLiteral("tlCodingConvention"),
-         QStringLiteral("tlNamingConvention"),
-         QStringLiteral("tlUnauthorisedKeyword")},
-        SortSettings::Severities,
-    })
+    : GroupedConventionsView("SeverityView",
+                             QStringLiteral(" Conventions by Severity"),
+                             QStringLiteral(" Severity"),
+                             SortSettings::Severities)
 {
 }
 
-modViewCommon::RuleByKey SeverityView::ViewRules() const
+qint32 SeverityView::GroupOf(const IRule &rule) const
 {
-    return modViewCommon::rulesOf(ruleLists().AllConventions());
+    return rule.ViolationDefinition()->Severity();
 }
 
 void SeverityView::SetupTreeview()
@@ -53,18 +42,6 @@ void SeverityView::SetupTreeview()
         m_tvwTree->addChild(
             root, severity->Key(), severity->Title(), QString::number(severity->Colour()));
     }
-}
-
-void SeverityView::PopulateList(qint32 severityLevel)
-{
-    m_lvwList->clear();
-    const auto all = ruleLists().AllConventions();
-    for (qint32 i = 1; i <= all->Count(); ++i) {
-        const std::shared_ptr<IRule> rule = all->Item(i);
-        if (severityLevel == 0 || rule->ViolationDefinition()->Severity() == severityLevel)
-            AddRow(*rule);
-    }
-    RefreshView();
 }
 
 void SeverityView::ResetAllNodes()
@@ -91,14 +68,7 @@ void SeverityView::ResetNode(const QString &key)
     if (!m_rulebase || node == 0)
         return;
     const std::shared_ptr<SeverityItem> severity = m_rulebase->SeverityList()->Item(key);
-    const qint32 level = Text::valLong(key);
-    const auto all = ruleLists().AllConventions();
-    qint32 count = 0;
-    for (qint32 i = 1; i <= all->Count(); ++i) {
-        if (all->Item(i)->ViolationDefinition()->Severity() == level)
-            ++count;
-    }
-    SetNodeCount(node, severity->Title(), count);
+    SetNodeCount(node, severity->Title(), CountInGroup(Text::valLong(key)));
 }
 
 QString SeverityView::NodeDocumentation(int node) const
@@ -109,18 +79,6 @@ QString SeverityView::NodeDocumentation(int node) const
     const std::shared_ptr<SeverityItem> severity = m_rulebase->SeverityList()->Item(key);
     return QStringLiteral("Severity: ") + severity->Title() + QStringLiteral("\r\n\r\n")
            + severity->Description();
-}
-
-void SeverityView::AddItem(const std::shared_ptr<IRule> &item)
-{
-    guardedVoid("IViewController_AddItem", module(), [&] {
-        if (!item || !hasControls() || !m_rulebase)
-            return;
-        const qint32 level = SelectedNodeValue();
-        if (level == 0 || item->ViolationDefinition()->Severity() == level)
-            AddRow(*item);
-        RefreshView();
-    });
 }
 
 void SeverityView::SeverityListChanged()
@@ -138,18 +96,6 @@ void SeverityView::SeverityListChanged()
         m_tvwTree->setSelectedItem(node);
         NodeClick(node);
         modViewCommon::UpdateSeverities(ViewRules(), *m_lvwList, *m_rulebase->SeverityList());
-    });
-}
-
-void SeverityView::OpenItem()
-{
-    RunOpenItem([this] {
-        const QString key = EditSelectedRule();
-        if (key.isEmpty())
-            return;
-        const std::shared_ptr<IRule> rule = ruleLists().AllConventions()->Item(key);
-        UpdateConvention(m_lvwList->find(key), *rule);
-        SetDocumentationWindowText(*rule);
     });
 }
 
