@@ -30,80 +30,29 @@ void copyItems(const ObjectArrayList<PrefixSuffixItem> &from, ObjectArrayList<Pr
 } // namespace
 
 NamingConvention::NamingConvention()
-    : m_prefixItems(blankItems())
+    : RuleBase(module)
+    , m_prefixItems(blankItems())
     , m_suffixItems(blankItems())
-    , m_violationDefinition(std::make_shared<::ViolationDefinition>())
 {
 }
 
 bool NamingConvention::Dirty() const
 {
-    return m_dirty || m_prefixItems->Dirty() || m_suffixItems->Dirty()
-           || (m_violationDefinition && m_violationDefinition->Dirty());
+    return RuleBase::Dirty() || m_prefixItems->Dirty() || m_suffixItems->Dirty();
 }
 
 void NamingConvention::setDirty(bool dirty)
 {
-    m_dirty = dirty;
+    RuleBase::setDirty(dirty);
     m_prefixItems->setDirty(dirty);
     m_suffixItems->setDirty(dirty);
-    if (m_violationDefinition)
-        m_violationDefinition->setDirty(dirty);
-}
-
-::ViolationDefinition &NamingConvention::definition() const
-{
-    if (!m_violationDefinition)
-        throw QuorinError::objectNotSet(QStringLiteral("NamingConvention::ViolationDefinition"));
-    return *m_violationDefinition;
-}
-
-qint32 NamingConvention::CategoryID() const
-{
-    return definition().CategoryID();
-}
-
-void NamingConvention::setCategoryID(qint32 categoryID)
-{
-    definition().setCategoryID(categoryID);
-    m_dirty = true;
 }
 
 // Every setter below marks the rule, whether or not the value changes.
 
-void NamingConvention::setCondition(const QString &condition)
-{
-    m_condition = condition;
-    m_dirty = true;
-}
-
 void NamingConvention::setExclusionList(const QString &list)
 {
     m_exclusionList = list;
-    m_dirty = true;
-}
-
-void NamingConvention::setDescription(const QString &description)
-{
-    m_description = description;
-    m_dirty = true;
-}
-
-void NamingConvention::setRuleID(qint32 ruleID)
-{
-    m_ruleID = ruleID;
-    m_dirty = true;
-}
-
-void NamingConvention::setRuleActive(bool active)
-{
-    m_ruleActive = active;
-    m_dirty = true;
-}
-
-void NamingConvention::setTitle(const QString &title)
-{
-    m_title = title;
     m_dirty = true;
 }
 
