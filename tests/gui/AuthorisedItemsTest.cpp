@@ -29,43 +29,14 @@
 #include <QTreeWidget>
 #include <QUrl>
 
+#include "GuiTestSupport.h"
+
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <memory>
 
 namespace {
-
-// Runs `act` on the modal dialog of this name once it is up; gives up after a few seconds, so a
-// dialog that never comes fails the test instead of hanging it.
-void whenDialogShows(const QString &name, std::function<void(QDialog &)> act)
-{
-    auto *poll = new QTimer;
-    auto *clock = new QElapsedTimer;
-    clock->start();
-    QObject::connect(poll, &QTimer::timeout, [poll, clock, name, act] {
-        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        const bool timedOut = clock->elapsed() > 5000;
-        if (!timedOut && (!dialog || dialog->objectName() != name))
-            return;
-        poll->stop();
-        poll->deleteLater();
-        delete clock;
-        if (!timedOut)
-            act(*dialog);
-        else if (dialog)
-            dialog->reject();
-    });
-    poll->start(20);
-}
-
-template<typename Widget>
-Widget *child(QDialog &dialog, const char *name)
-{
-    auto *widget = dialog.findChild<Widget *>(QLatin1String(name));
-    EXPECT_NE(widget, nullptr) << name;
-    return widget;
-}
 
 } // namespace
 
@@ -104,7 +75,7 @@ TEST(AuthorisedItemsWindow, TheViewShowsAndAReferenceIsAddedThroughItsDialog)
         window.tvwMain()->setCurrentIndex(window.tvwMain()->model()->index(1, 0));
         EXPECT_EQ(window.lvwMain()->model()->headerData(2, Qt::Horizontal).toString(),
                   QStringLiteral("Filename"));
-        whenDialogShows(QStringLiteral("frmAuthorisedReference"), [](QDialog &dialog) {
+        whenModal(QStringLiteral("frmAuthorisedReference"), [](QDialog &dialog) {
             EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Authorised Reference"));
             QPushButton *ok = child<QPushButton>(dialog, "cmdOK");
             EXPECT_FALSE(ok->isEnabled());
@@ -150,7 +121,7 @@ TEST(AuthorisedItemsWindow, TheViewShowsAndAReferenceIsAddedThroughItsDialog)
         EXPECT_TRUE(enter.isAccepted());
         EXPECT_EQ(enter.dropAction(), Qt::CopyAction);
 
-        whenDialogShows(QStringLiteral("frmAddFromProject"), [](QDialog &dialog) {
+        whenModal(QStringLiteral("frmAddFromProject"), [](QDialog &dialog) {
             auto *items = child<QTreeWidget>(dialog, "lvwItems");
             EXPECT_EQ(items->topLevelItemCount(), 1);
             EXPECT_EQ(items->topLevelItem(0)->text(0), QStringLiteral("dropped.ocx"));

@@ -32,42 +32,13 @@
 #include <QTreeView>
 #include <QTreeWidget>
 
+#include "GuiTestSupport.h"
+
 #include <gtest/gtest.h>
 
 #include <functional>
 
 namespace {
-
-// Runs `act` on the next modal dialog named `name` as soon as it is up, without blocking.
-void whenModal(const QString &name, std::function<void(QDialog &)> act, int tries = 200)
-{
-    QTimer::singleShot(10, [=] {
-        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (dialog && dialog->objectName() == name) {
-            act(*dialog);
-        } else if (tries > 0) {
-            whenModal(name, act, tries - 1);
-        } else {
-            ADD_FAILURE() << "no dialog " << name.toStdString();
-            if (dialog)
-                dialog->reject();
-        }
-    });
-}
-
-template<typename T>
-T *child(QWidget &dialog, const char *name)
-{
-    T *widget = dialog.findChild<T *>(QLatin1String(name));
-    EXPECT_NE(widget, nullptr) << name;
-    return widget;
-}
-
-void click(QWidget &dialog, const char *button)
-{
-    if (auto *b = child<QPushButton>(dialog, button))
-        b->click();
-}
 
 class ConventionDialogs : public ::testing::Test
 {

@@ -74,55 +74,14 @@
 #include <QTimer>
 #include <QTreeWidget>
 
+#include "GuiTestSupport.h"
+
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <memory>
 
 namespace {
-
-// Runs `act` on the modal dialog of this name once it is up, without blocking the test: a
-// dialog that never comes fails, and one that `act` leaves open is closed with a failure.
-void whenModal(const QString &name, std::function<void(QDialog &)> act)
-{
-    auto *poll = new QTimer;
-    auto clock = std::make_shared<QElapsedTimer>();
-    clock->start();
-    QObject::connect(poll, &QTimer::timeout, [poll, clock, name, act] {
-        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        const bool found = dialog && dialog->objectName() == name;
-        if (!found && clock->elapsed() < 5000)
-            return;
-        poll->stop();
-        poll->deleteLater();
-        if (!found) {
-            ADD_FAILURE() << "no dialog " << name.toStdString();
-            if (dialog)
-                dialog->done(QDialog::Rejected);
-            return;
-        }
-        act(*dialog);
-        if (dialog->isVisible()) {
-            ADD_FAILURE() << name.toStdString() << " stayed open";
-            dialog->done(QDialog::Rejected);
-        }
-    });
-    poll->start(10);
-}
-
-template<typename T>
-T *child(QWidget &parent, const char *name)
-{
-    T *widget = parent.findChild<T *>(QLatin1String(name));
-    EXPECT_NE(widget, nullptr) << name;
-    return widget;
-}
-
-void click(QWidget &parent, const char *button)
-{
-    if (auto *push = child<QPushButton>(parent, button))
-        push->click();
-}
 
 // Rows of a list or combo without a picture, by text.
 QStringList withoutIcon(const QListWidget &list)

@@ -40,52 +40,11 @@
 #define QUORIN_HAVE_MODEL_TESTER 0
 #endif
 
+#include "GuiTestSupport.h"
+
 #include <gtest/gtest.h>
 
 namespace {
-
-// Waits for the named modal dialog and acts on it; whatever the action leaves open is closed,
-// so a failing test never blocks.
-void onModal(const QString &name, std::function<void(QDialog &)> act)
-{
-    auto *timer = new QTimer;
-    timer->setInterval(10);
-    auto tries = std::make_shared<int>(0);
-    QObject::connect(timer, &QTimer::timeout, [timer, tries, name, act] {
-        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        const bool found = dialog && dialog->objectName() == name;
-        if (!found && ++*tries < 300)
-            return;
-        timer->stop();
-        timer->deleteLater();
-        if (!found) {
-            ADD_FAILURE() << "no dialog " << name.toStdString();
-            if (dialog)
-                dialog->done(QDialog::Rejected);
-            return;
-        }
-        act(*dialog);
-        if (dialog->isVisible()) {
-            ADD_FAILURE() << name.toStdString() << " stayed open";
-            dialog->done(QDialog::Rejected);
-        }
-    });
-    timer->start();
-}
-
-template<typename Widget>
-Widget *child(QDialog &dialog, const char *name)
-{
-    auto *widget = dialog.findChild<Widget *>(QLatin1String(name));
-    EXPECT_NE(widget, nullptr) << name;
-    return widget;
-}
-
-void click(QDialog &dialog, const char *button)
-{
-    if (auto *push = child<QPushButton>(dialog, button))
-        push->click();
-}
 
 class RulebaseDialogs : public ::testing::Test
 {
@@ -140,7 +99,7 @@ protected:
 TEST_F(RulebaseDialogs, RulebasePropertiesOpenFromTheFileMenuAndWriteOnOK)
 {
     bool seen = false;
-    onModal(QStringLiteral("frmRulebaseProperties"), [&](QDialog &dialog) {
+    whenModal(QStringLiteral("frmRulebaseProperties"), [&](QDialog &dialog) {
         seen = true;
         EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Rulebase Properties"));
         auto *title = child<QLineEdit>(dialog, "txtTitle");
@@ -166,14 +125,14 @@ TEST_F(RulebaseDialogs, TheCategoryListOpensItsEditorAndCloses)
     const qint32 categories = rulebase->CategoryList()->Count();
     const QString first = rulebase->CategoryList()->Item(1)->Title();
     bool editorSeen = false;
-    onModal(QStringLiteral("frmCategorySeverity"), [&](QDialog &dialog) {
+    whenModal(QStringLiteral("frmCategorySeverity"), [&](QDialog &dialog) {
         EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Category List"));
         auto *list = child<QTreeWidget>(dialog, "lvwCategorySeverity");
         EXPECT_EQ(list->topLevelItemCount(), categories);
         EXPECT_EQ(list->headerItem()->text(0), QStringLiteral("Available Categories"));
         EXPECT_TRUE(child<QPushButton>(dialog, "cmdAdd")->isVisibleTo(&dialog));
         EXPECT_TRUE(child<QPushButton>(dialog, "cmdDelete")->isEnabled());
-        onModal(QStringLiteral("frmCategoryEditor"), [&](QDialog &editor) {
+        whenModal(QStringLiteral("frmCategoryEditor"), [&](QDialog &editor) {
             editorSeen = true;
             EXPECT_EQ(child<QLineEdit>(editor, "txtTitle")->text(), first);
             child<QLineEdit>(editor, "txtTitle")->setText(QStringLiteral("Not kept"));
@@ -191,7 +150,7 @@ TEST_F(RulebaseDialogs, TheCategoryListOpensItsEditorAndCloses)
 TEST_F(RulebaseDialogs, TheSeverityListShowsTheFiveWithoutAddOrDelete)
 {
     bool seen = false;
-    onModal(QStringLiteral("frmCategorySeverity"), [&](QDialog &dialog) {
+    whenModal(QStringLiteral("frmCategorySeverity"), [&](QDialog &dialog) {
         seen = true;
         EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Severity List"));
         auto *list = child<QTreeWidget>(dialog, "lvwCategorySeverity");
@@ -208,7 +167,7 @@ TEST_F(RulebaseDialogs, TheSeverityListShowsTheFiveWithoutAddOrDelete)
 TEST_F(RulebaseDialogs, DefaultViolationsOfferTheirFiveItemsAndCancel)
 {
     bool seen = false;
-    onModal(QStringLiteral("frmDefaultViolations"), [&](QDialog &dialog) {
+    whenModal(QStringLiteral("frmDefaultViolations"), [&](QDialog &dialog) {
         seen = true;
         auto *bar = child<QToolBar>(dialog, "abViolations");
         ASSERT_EQ(bar->actions().size(), 5);
@@ -226,7 +185,7 @@ TEST_F(RulebaseDialogs, DefaultViolationsOfferTheirFiveItemsAndCancel)
 TEST_F(RulebaseDialogs, TagListsShowTheirFacesAndCancelLeavesTheSet)
 {
     const qint32 controls = rulebase->ControlTags()->Count();
-    onModal(QStringLiteral("frmTagList"), [&](QDialog &dialog) {
+    whenModal(QStringLiteral("frmTagList"), [&](QDialog &dialog) {
         EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Control Tags"));
         auto *grid = child<QTableView>(dialog, "grdTags");
         EXPECT_EQ(grid->model()->rowCount(), controls);
@@ -238,7 +197,7 @@ TEST_F(RulebaseDialogs, TagListsShowTheirFacesAndCancelLeavesTheSet)
     trigger("tlControlTags");
     EXPECT_EQ(rulebase->ControlTags()->Count(), controls);
 
-    onModal(QStringLiteral("frmTagList"), [&](QDialog &dialog) {
+    whenModal(QStringLiteral("frmTagList"), [&](QDialog &dialog) {
         EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Data Type Tags"));
         auto *tabs = child<QTabBar>(dialog, "tbsTagList");
         EXPECT_EQ(tabs->count(), 2);
@@ -249,7 +208,7 @@ TEST_F(RulebaseDialogs, TagListsShowTheirFacesAndCancelLeavesTheSet)
     });
     trigger("tlDataTags");
 
-    onModal(QStringLiteral("frmTagList"), [&](QDialog &dialog) {
+    whenModal(QStringLiteral("frmTagList"), [&](QDialog &dialog) {
         EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Scope Tags"));
         EXPECT_FALSE(child<QPushButton>(dialog, "cmdInsert")->isVisibleTo(&dialog));
         EXPECT_FALSE(child<QCheckBox>(dialog, "chkOption")->isVisibleTo(&dialog));
