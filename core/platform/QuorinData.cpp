@@ -1,5 +1,6 @@
 #include "platform/QuorinData.h"
 
+#include "platform/DataLocation.h"
 #include "platform/RegistryUtils.h"
 
 #include <QCoreApplication>
@@ -21,11 +22,15 @@ QuorinData::QuorinData()
         qCInfo(lcSettings).noquote() << "Unable to find Quorin registry key: HKEY_LOCAL_MACHINE\\" + key;
 
     // The folders first, so that the files inside them default to the folders in force.
-    m_localDataPath = GetRegString(key, QStringLiteral("DataFilesFolder"), programFolder(), root);
+    const QString dataFolder = DataLocation::dataFolder();
+    m_localDataPath = GetRegString(key, QStringLiteral("DataFilesFolder"), dataFolder, root);
     m_localAppPath = GetRegString(key, QStringLiteral("ProgramFilesFolder"), programFolder(), root);
+    // An installed program's data folder is read-only; a data folder set by hand takes the log.
+    const QString logFolder = m_localDataPath == dataFolder ? DataLocation::writableFolder()
+                                                            : m_localDataPath;
     m_errorLogFile = GetRegString(key,
                                   QStringLiteral("ErrorLogFile"),
-                                  m_localDataPath + QStringLiteral("Error.log"),
+                                  logFolder + QStringLiteral("Error.log"),
                                   root);
     m_productVersion = GetRegString(key,
                                     QStringLiteral("ProductVersion"),

@@ -3,6 +3,7 @@
 #include "support/TestEnvironment.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -17,6 +18,8 @@ int runTests(int argc, char **argv)
         QSettings::setPath(format, QSettings::UserScope, settingsDir + QStringLiteral("/user"));
         QSettings::setPath(format, QSettings::SystemScope, settingsDir + QStringLiteral("/system"));
     }
+    // An installed copy of the program's data must not stand in for the build folder's.
+    qputenv("XDG_DATA_DIRS", QFile::encodeName(settingsDir + QStringLiteral("/data")));
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }
