@@ -19,6 +19,8 @@ int main(int argc, char *argv[])
     QApplication qapp(argc, argv);
     QApplication::setApplicationName(QStringLiteral("QuorinAdmin"));
     QApplication::setApplicationDisplayName(QStringLiteral("Quorin Administrator"));
+    // Ties the windows to the installed menu entry, and so to its icon, on Linux desktops.
+    QGuiApplication::setDesktopFileName(QStringLiteral("quorinadmin"));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Quorin Administrator: writes rulebases for the Quorin code reviewer."));

@@ -26,6 +26,7 @@
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QHeaderView>
+#include <QIcon>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -126,7 +127,7 @@ frmMain::frmMain(bool interactive, QWidget *parent)
     Images::initialise();
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(programTitle());
-    setWindowIcon(Images::icon(QStringLiteral("ilsEventTree"), QStringLiteral("Project")));
+    setWindowIcon(QIcon(QStringLiteral(":/desktop/quorinadmin.svg")));
 
     m_tree = new QTreeView;
     m_tree->setObjectName(QStringLiteral("tvwMain"));
