@@ -4,6 +4,7 @@
 QUORIN_PACKAGES=(
   g++ cmake ninja-build ccache pkg-config
   qt6-base-dev libqt6svg6 libxml2-dev libxslt1-dev libxml2-utils
+  desktop-file-utils dpkg-dev groff-base
   libgtest-dev libgmock-dev libbenchmark-dev
   fonts-dejavu-core time bc
 )

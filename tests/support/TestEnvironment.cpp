@@ -52,13 +52,28 @@ void clearSettings()
 #include <QFile>
 #include <QProcess>
 
+#ifdef Q_OS_UNIX
 #include <unistd.h>
+#endif
 
 namespace TestEnvironment {
 
+namespace {
+
+bool runningAsRoot()
+{
+#ifdef Q_OS_UNIX
+    return ::geteuid() == 0;
+#else
+    return false;
+#endif
+}
+
+} // namespace
+
 bool makeReadOnly(const QString &folder)
 {
-    if (::geteuid() != 0)
+    if (!runningAsRoot())
         return QFile::setPermissions(folder, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
     // Root ignores permissions; the immutable flag still binds it where the file system has one.
     return QProcess::execute(QStringLiteral("chattr"), {QStringLiteral("+i"), folder}) == 0;
@@ -66,7 +81,7 @@ bool makeReadOnly(const QString &folder)
 
 void makeWritable(const QString &folder)
 {
-    if (::geteuid() == 0)
+    if (runningAsRoot())
         QProcess::execute(QStringLiteral("chattr"), {QStringLiteral("-i"), folder});
     QFile::setPermissions(folder, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
 }
