@@ -45,10 +45,10 @@ if(UNIX AND NOT APPLE)
   set(CPACK_PACKAGE_VENDOR "Tarnwick")
   set(CPACK_PACKAGE_CONTACT "Tarnwick Quorin team <quorin@tarnwick.example>")
   set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Administrator's tool of the Quorin code reviewer for Visual Basic 6")
-  set(CPACK_PACKAGE_DESCRIPTION
-    "QuorinAdmin edits the rulebases (.qrb) of the Quorin code reviewer: naming and coding\n"
-    "conventions, unauthorised keywords, authorised components and references, categories and\n"
-    "severities. qrbtool checks, compares, upgrades and documents rulebases without a display.")
+  set(CPACK_PACKAGE_DESCRIPTION "QuorinAdmin edits the rulebases (.qrb) of the Quorin code \
+reviewer: naming and coding conventions, unauthorised keywords, authorised components and \
+references, categories and severities. qrbtool checks, compares, upgrades and documents \
+rulebases without a display.")
   set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
   set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
   set(CPACK_DEBIAN_PACKAGE_SECTION devel)

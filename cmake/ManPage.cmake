@@ -4,6 +4,8 @@
 # The text is walked line by line with string(FIND), never split into a CMake list, so the
 # brackets and semicolons of the help stay as they are.
 
+cmake_minimum_required(VERSION 3.25)
+
 function(run_tool out)
   execute_process(COMMAND "${QRBTOOL}" ${ARGN} OUTPUT_VARIABLE text RESULT_VARIABLE result)
   if(NOT result EQUAL 0)
