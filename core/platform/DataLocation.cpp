@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <utility>
+
 namespace {
 
 // Every installed copy keeps its data in a folder of this name below a data folder.
@@ -24,7 +26,8 @@ QString DataLocation::dataFolder()
 {
     const QString program = QuorinData::programFolder();
     QStringList candidates{program};
-    for (const QString &shared : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation))
+    for (const QString &shared :
+         QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation))
         candidates << withSeparator(shared) + subfolder;
     // An installation moved elsewhere as a whole (another prefix, or on Windows) has its data
     // at the same place relative to the program.

@@ -26,12 +26,10 @@ QuorinData::QuorinData()
     m_localDataPath = GetRegString(key, QStringLiteral("DataFilesFolder"), dataFolder, root);
     m_localAppPath = GetRegString(key, QStringLiteral("ProgramFilesFolder"), programFolder(), root);
     // An installed program's data folder is read-only; a data folder set by hand takes the log.
-    const QString logFolder = m_localDataPath == dataFolder ? DataLocation::writableFolder()
-                                                            : m_localDataPath;
-    m_errorLogFile = GetRegString(key,
-                                  QStringLiteral("ErrorLogFile"),
-                                  logFolder + QStringLiteral("Error.log"),
-                                  root);
+    const QString logFolder
+        = m_localDataPath == dataFolder ? DataLocation::writableFolder() : m_localDataPath;
+    m_errorLogFile = GetRegString(
+        key, QStringLiteral("ErrorLogFile"), logFolder + QStringLiteral("Error.log"), root);
     m_productVersion = GetRegString(key,
                                     QStringLiteral("ProductVersion"),
                                     QStringLiteral("%1.%2").arg(QUORIN_VERSION_MAJOR).arg(QUORIN_VERSION_MINOR),
