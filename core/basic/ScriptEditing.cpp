@@ -209,17 +209,17 @@ constexpr QStringView closingPhrases[] = {
     u"End Enum",
 };
 
-bool isClosingPhrase(QStringView line)
+} // namespace
+
+namespace ScriptEditing {
+
+bool endsBlock(QStringView line)
 {
     const QString words = line.toString().simplified();
     return std::any_of(std::begin(closingPhrases), std::end(closingPhrases), [&](QStringView p) {
         return words.compare(p, Qt::CaseInsensitive) == 0;
     });
 }
-
-} // namespace
-
-namespace ScriptEditing {
 
 QString indentUnit(QStringView text)
 {
@@ -310,7 +310,7 @@ QString newLineIndent(QStringView lineBeforeCaret, const QString &unit)
 std::optional<QString>
 outdentedAsTyped(const QStringList &linesBefore, QStringView line, const QString &unit)
 {
-    if (!isClosingPhrase(line))
+    if (!endsBlock(line))
         return std::nullopt;
     const LineRole role = roleOf(line);
     const std::vector<OpenBlock> stack = openBlocks(linesBefore);

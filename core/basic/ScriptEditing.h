@@ -29,6 +29,10 @@ QStringList toggleComment(const QStringList &lines);
 // "Case 1", "Else", "Sub Main"...).
 QString newLineIndent(QStringView lineBeforeCaret, const QString &unit);
 
+// True for a line that holds no more than the words that end or divide a block ("End If", "Else",
+// "Case", "Next"...), whatever its blanks and case.
+bool endsBlock(QStringView line);
+
 // The line as it should read once its last word was typed: a line that has just become "End If",
 // "Else", "ElseIf", "Next", "Loop", "Wend", "Case", "End Select", "End Sub" or another block's end
 // takes the indentation of the line that opened its block. nullopt when nothing is to change.
