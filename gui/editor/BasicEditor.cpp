@@ -244,7 +244,12 @@ void BasicEditor::updateExtraSelections()
 {
     QList<QTextEdit::ExtraSelection> selections;
     QTextCharFormat lineFormat;
-    lineFormat.setBackground(QColor(255, 250, 214));
+    // Tints of the palette's highlight, so that a dark scheme keeps its text readable.
+    QColor lineColour = palette().color(QPalette::Highlight);
+    lineColour.setAlpha(28);
+    QColor pairColour = lineColour;
+    pairColour.setAlpha(90);
+    lineFormat.setBackground(lineColour);
     lineFormat.setProperty(QTextFormat::FullWidthSelection, true);
     QTextCursor caret = textCursor();
     caret.clearSelection();
@@ -258,7 +263,7 @@ void BasicEditor::updateExtraSelections()
         if (partner < 0)
             continue;
         QTextCharFormat pairFormat;
-        pairFormat.setBackground(QColor(180, 230, 180));
+        pairFormat.setBackground(pairColour);
         pairFormat.setFontWeight(QFont::Bold);
         for (const int bracket : {at, partner}) {
             QTextCursor cursor(block);
@@ -540,7 +545,7 @@ void BasicEditor::keyPressEvent(QKeyEvent *event)
             insertIndent();
         return;
     }
-    if (event->key() == Qt::Key_Backtab || (event->key() == Qt::Key_Tab && plain)) {
+    if ((event->key() == Qt::Key_Backtab || event->key() == Qt::Key_Tab) && plain) {
         outdentSelection();
         return;
     }

@@ -439,11 +439,12 @@ void frmRuleEditor::showHelpBeside(const QString &topic)
     const QRect frame = frameGeometry();
     const QRect screen = (this->screen() ? this->screen() : QGuiApplication::primaryScreen())
                              ->availableGeometry();
-    const int width = help->width();
+    const int width = help->frameGeometry().width();
     const int left = frame.right() + width < screen.right() ? frame.right() + 1
                      : frame.left() - width >= screen.left() ? frame.left() - width
                                                               : screen.right() - width;
-    help->setGeometry(left, frame.top(), width, frame.height());
+    help->resize(help->width(), height());
+    help->move(left, frame.top());
     help->show();
     help->raise();
     help->activateWindow();
