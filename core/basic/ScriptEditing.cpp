@@ -45,8 +45,7 @@ std::vector<BasicToken> statementTokens(QStringView line)
     std::vector<BasicToken> tokens = BasicLexer::tokenize(line);
     std::erase_if(tokens, [](const BasicToken &t) {
         return t.kind == BasicTokenKind::Comment || t.kind == BasicTokenKind::LineEnd
-               || t.kind == BasicTokenKind::EndOfText
-               || t.kind == BasicTokenKind::LineContinuation;
+               || t.kind == BasicTokenKind::EndOfText || t.kind == BasicTokenKind::LineContinuation;
     });
     return tokens;
 }
@@ -161,9 +160,8 @@ std::vector<OpenBlock> openBlocks(const QStringList &lines)
 {
     std::vector<OpenBlock> stack;
     const auto innermost = [&stack](Block block) {
-        return std::find_if(stack.rbegin(), stack.rend(), [block](const OpenBlock &b) {
-            return b.block == block;
-        });
+        return std::find_if(
+            stack.rbegin(), stack.rend(), [block](const OpenBlock &b) { return b.block == block; });
     };
     for (const QString &line : lines) {
         const LineRole role = roleOf(line);

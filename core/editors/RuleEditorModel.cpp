@@ -37,7 +37,7 @@ constexpr RuleEditorTool toolTable[] = {
     {u"tlFindNext", u"mnuEdit", u"Find &Next", u"Find Next", false},
     {u"tlReplace", u"mnuEdit", u"R&eplace...", u"Replace", false},
     {u"tlGoToLine", u"mnuEdit", u"&Go to Line...", u"Go to Line", false},
-    {u"tlToggleComment", u"mnuEdit", u"Co&mment/Uncomment Lines", u"Comment or Uncomment Lines", false},
+    {u"tlToggleComment", u"mnuEdit", u"Toggle Co&mment", u"Comment or Uncomment Lines", false},
     {u"tlObjectProperty", u"mnuInsert", u"&Object Property...", u"Insert Object Property"},
     {u"tlObjectWorkfield", u"mnuInsert", u"Object &Workfield...", u"Insert Object Workfield"},
     {u"tlParserEvent", u"mnuInsert", u"&Parser Event...", u"Insert Parser Event"},

@@ -70,7 +70,8 @@ BasicEditor::BasicEditor(QWidget *parent)
 
     connect(this, &QPlainTextEdit::blockCountChanged, this, &BasicEditor::updateMarginWidth);
     connect(this, &QPlainTextEdit::updateRequest, this, &BasicEditor::updateMargin);
-    connect(this, &QPlainTextEdit::cursorPositionChanged, this, &BasicEditor::updateExtraSelections);
+    connect(
+        this, &QPlainTextEdit::cursorPositionChanged, this, &BasicEditor::updateExtraSelections);
     updateMarginWidth();
     updateExtraSelections();
 }
@@ -355,17 +356,15 @@ void BasicEditor::editSelectedLines(const std::function<QStringList(const QStrin
 void BasicEditor::indentSelection()
 {
     const QString unit = indentUnit();
-    editSelectedLines([&unit](const QStringList &lines) {
-        return ScriptEditing::indentLines(lines, unit);
-    });
+    editSelectedLines(
+        [&unit](const QStringList &lines) { return ScriptEditing::indentLines(lines, unit); });
 }
 
 void BasicEditor::outdentSelection()
 {
     const QString unit = indentUnit();
-    editSelectedLines([&unit](const QStringList &lines) {
-        return ScriptEditing::outdentLines(lines, unit);
-    });
+    editSelectedLines(
+        [&unit](const QStringList &lines) { return ScriptEditing::outdentLines(lines, unit); });
 }
 
 void BasicEditor::toggleComment()
@@ -488,8 +487,8 @@ bool BasicEditor::replaceNext(const QString &text,
                               QTextDocument::FindFlags flags)
 {
     QTextCursor cursor = textCursor();
-    const Qt::CaseSensitivity cs = flags & QTextDocument::FindCaseSensitively ? Qt::CaseSensitive
-                                                                              : Qt::CaseInsensitive;
+    const Qt::CaseSensitivity cs
+        = flags & QTextDocument::FindCaseSensitively ? Qt::CaseSensitive : Qt::CaseInsensitive;
     if (cursor.hasSelection() && cursor.selectedText().compare(text, cs) == 0) {
         cursor.insertText(replacement);
         setTextCursor(cursor);

@@ -117,7 +117,6 @@ frmRuleEditor::frmRuleEditor(QWidget *parent)
     m_sbMain->setFocus();
 }
 
-
 void frmRuleEditor::createTools()
 {
     auto *menuBar = qobject_cast<QMenuBar *>(layout()->menuBar());
@@ -138,6 +137,9 @@ void frmRuleEditor::createTools()
                                ? QString(entry.caption.toString()).remove(QLatin1Char('&'))
                                : entry.toolTip.toString());
         connect(action, &QAction::triggered, this, [this, id] { toolClick(id); });
+        // The edit menu in groups: history, clipboard, selection, search, lines.
+        if (id == u"tlCut" || id == u"tlSelectAll" || id == u"tlFind" || id == u"tlToggleComment")
+            menus.value(entry.menu.toString())->addSeparator();
         menus.value(entry.menu.toString())->addAction(action);
         if (!lastMenu.isEmpty() && lastMenu != entry.menu)
             m_tlbTools->addSeparator();
@@ -437,12 +439,12 @@ void frmRuleEditor::showHelpBeside(const QString &topic)
     help->setParent(this, help->windowFlags());
     // To the right of the editor when the screen has room there, else to its left.
     const QRect frame = frameGeometry();
-    const QRect screen = (this->screen() ? this->screen() : QGuiApplication::primaryScreen())
-                             ->availableGeometry();
+    const QRect screen
+        = (this->screen() ? this->screen() : QGuiApplication::primaryScreen())->availableGeometry();
     const int width = help->frameGeometry().width();
-    const int left = frame.right() + width < screen.right() ? frame.right() + 1
+    const int left = frame.right() + width < screen.right()  ? frame.right() + 1
                      : frame.left() - width >= screen.left() ? frame.left() - width
-                                                              : screen.right() - width;
+                                                             : screen.right() - width;
     help->resize(help->width(), height());
     help->move(left, frame.top());
     help->show();
@@ -483,7 +485,8 @@ void frmRuleEditor::restoreWindowState()
 
 void frmRuleEditor::saveWindowState()
 {
-    if (!gobjAdminData)
+    // A window never shown has no place of its own to keep.
+    if (!gobjAdminData || !isVisible())
         return;
     QuorinAdminData &data = *gobjAdminData;
     if (!isMinimized() && !isMaximized()) {

@@ -18,8 +18,10 @@ TEST(ScriptEditing, BlocksIndentOutdentAndCommentLineByLine)
 {
     using Edit = std::function<QStringList(const QStringList &)>;
     const Edit indentTab = [](const QStringList &l) { return ScriptEditing::indentLines(l, "\t"); };
-    const Edit outdentTab = [](const QStringList &l) { return ScriptEditing::outdentLines(l, "\t"); };
-    const Edit outdentTwo = [](const QStringList &l) { return ScriptEditing::outdentLines(l, "  "); };
+    const Edit outdentTab
+        = [](const QStringList &l) { return ScriptEditing::outdentLines(l, "\t"); };
+    const Edit outdentTwo
+        = [](const QStringList &l) { return ScriptEditing::outdentLines(l, "  "); };
     const Edit comment = ScriptEditing::toggleComment;
     const struct
     {
@@ -89,10 +91,10 @@ TEST(ScriptEditing, NewAndClosingLinesTakeTheIndentationOfTheirBlock)
         {"\tDo|\t\tIf a Then", "\t\tLoop", "\tLoop"},
         {"  While x", "      Wend", "  Wend"},
         {"Sub Main|\tDo|\t\tx = 1|\tLoop", "\tEnd Sub", "End Sub"},
-        {"Sub Main|\tIf a Then", "\tEnd If", nullptr},   // already there
+        {"Sub Main|\tIf a Then", "\tEnd If", nullptr},    // already there
         {"Sub Main|\tIf a Then", "\t\tEnd Ifs", nullptr}, // not the closing words
         {"Sub Main|\tIf a Then", "\t\tEnd If x", nullptr},
-        {"Sub Main", "\tNext", nullptr}, // nothing to close
+        {"Sub Main", "\tNext", nullptr},                                        // nothing to close
         {"Sub Main|\tIf a Then|\t\tIf b Then x = 1", "\t\tEnd If", "\tEnd If"}, // one-line If
     };
     for (const auto &c : closing) {
@@ -117,8 +119,8 @@ TEST(ScriptEditing, BracketsPairUpOutsideStringsAndComments)
         {"If F(a, (b)) Then", 8, 10},
         {"If F(a, (b)) Then", 10, 8},
         {"If F(a, (b)) Then", 5, -1}, // not a bracket
-        {"x = \"(\" & (a", 5, -1},     // in a string
-        {"x = \"(\" & (a", 10, -1},    // never closed
+        {"x = \"(\" & (a", 5, -1},    // in a string
+        {"x = \"(\" & (a", 10, -1},   // never closed
         {"y ' (a)", 4, -1},
     };
     for (const auto &c : cases)

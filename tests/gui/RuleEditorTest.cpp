@@ -296,12 +296,13 @@ TEST(RuleEditor, EditingCommandsStandInBothMenusAndWorkOnWholeLines)
     auto *mnuEdit = child<QMenu>(dialog, "mnuEdit");
     auto *mnuContext = child<QMenu>(dialog, "mnuContext");
     ASSERT_TRUE(mnuEdit && mnuContext);
-    for (const char *id : {"tlUndo", "tlCut", "tlCopy", "tlPaste", "tlSelectAll", "tlFind",
-                           "tlReplace", "tlGoToLine", "tlToggleComment"}) {
-        QAction *action = dialog.tool(QLatin1String(id));
-        EXPECT_TRUE(mnuEdit->actions().contains(action)) << id;
-        EXPECT_TRUE(mnuContext->actions().contains(action)) << id;
-        EXPECT_FALSE(action->shortcut().isEmpty()) << id;
+    const QString ids = QStringLiteral(
+        "tlUndo tlCut tlCopy tlPaste tlSelectAll tlFind tlReplace tlGoToLine tlToggleComment");
+    for (const QString &id : ids.split(QLatin1Char(' '))) {
+        QAction *action = dialog.tool(id);
+        EXPECT_TRUE(mnuEdit->actions().contains(action)) << id.toStdString();
+        EXPECT_TRUE(mnuContext->actions().contains(action)) << id.toStdString();
+        EXPECT_FALSE(action->shortcut().isEmpty()) << id.toStdString();
     }
     EXPECT_TRUE(mnuContext->actions().contains(
         dialog.findChild<QMenu *>(QStringLiteral("mnuInsert"))->menuAction()));
@@ -312,8 +313,7 @@ TEST(RuleEditor, EditingCommandsStandInBothMenusAndWorkOnWholeLines)
     select(editor, 2, 3, 3, 2);
     press(editor, Qt::Key_Tab);
     EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Main\n\t\tx = 1\n\t\ty = 2\nEnd Sub"));
-    EXPECT_EQ(editor->textCursor().selectedText(),
-              QStringLiteral("\t\tx = 1\u2029\t\ty = 2"));
+    EXPECT_EQ(editor->textCursor().selectedText(), QStringLiteral("\t\tx = 1\u2029\t\ty = 2"));
     press(editor, Qt::Key_Backtab, Qt::ShiftModifier);
     press(editor, Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Main\nx = 1\ny = 2\nEnd Sub"));
@@ -344,8 +344,7 @@ TEST(RuleEditor, EditingCommandsStandInBothMenusAndWorkOnWholeLines)
     find->setText(QStringLiteral("X"));
     child<QLineEdit>(dialog, "txtReplace")->setText(QStringLiteral("total"));
     child<QToolButton>(dialog, "cmdReplaceAll")->click();
-    EXPECT_EQ(editor->toPlainText(),
-              QStringLiteral("Sub Mainy = 2\n\t\ttotal = 1\n\t\nEnd Sub"));
+    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Mainy = 2\n\t\ttotal = 1\n\t\nEnd Sub"));
     EXPECT_EQ(child<QLabel>(dialog, "lblFindResult")->text(), QStringLiteral("1 replaced"));
     find->setFocus();
     press(find, Qt::Key_Escape);
