@@ -415,11 +415,10 @@ void BasicEditor::outdentTypedLine()
     const int words = int(line.size() - line.indexOf(line.trimmed()));
     const int oldIndent = int(line.size()) - words;
     const QString newIndent = outdented->left(outdented->size() - words);
+    // A step of its own: Ctrl+Z takes the outdent back and leaves the words.
     QTextCursor edit(block);
-    edit.joinPreviousEditBlock();
     edit.setPosition(block.position() + oldIndent, QTextCursor::KeepAnchor);
     edit.insertText(newIndent);
-    edit.endEditBlock();
 }
 
 bool BasicEditor::complete()

@@ -371,7 +371,7 @@ TEST(RuleEditor, TheErrorListAndTheUnderlinesLeadToTheFault)
 {
     ScriptedUserInterface ui;
     frmRuleEditor dialog;
-    dialog.setRuleCode(QStringLiteral("Sub Main\r\n\tx = 1\r\n\tIf x Then\r\nEnd Sub"));
+    dialog.setRuleCode(QStringLiteral("Sub Main\r\n\tx = 1\r\n\tIf F(x) Then\r\nEnd Sub"));
     dialog.show();
     BasicEditor *editor = dialog.editor();
     ASSERT_FALSE(editor->errors().empty());
@@ -397,6 +397,14 @@ TEST(RuleEditor, TheErrorListAndTheUnderlinesLeadToTheFault)
     QApplication::sendEvent(editor->viewport(), &help);
     EXPECT_EQ(QToolTip::text(), fault.message);
     QToolTip::hideText();
+
+    // A bracket beside the caret lights its partner.
+    editor->goTo(3, 9);
+    const int partner = editor->textCursor().block().position() + 5;
+    const QList<QTextEdit::ExtraSelection> lit = editor->extraSelections();
+    EXPECT_TRUE(std::any_of(lit.begin(), lit.end(), [&](const QTextEdit::ExtraSelection &s) {
+        return s.cursor.selectionStart() == partner && s.cursor.selectionEnd() == partner + 1;
+    }));
 
     // Once fixed, the list is empty.
     editor->setScript(QStringLiteral("Sub Main\r\nEnd Sub"));
