@@ -14,6 +14,7 @@ struct RuleEditorTool
     QStringView menu; // the id of the menu it stands in
     QStringView caption;
     QStringView toolTip;
+    bool onToolBar = true; // the editing commands stand in the menus only
 };
 
 struct RuleEditorMenu

@@ -60,6 +60,12 @@ const Setting settingsTable[] = {
     {"LastCompanyName", "", true},
     {"ListUKSortCol", "1", true},
     {"ListUKSortOrder", "0", true},
+    // The condition editor's window, in twips; no place yet: centred over its owner.
+    {"EditorLeft", "", true},
+    {"EditorTop", "", true},
+    {"EditorWidth", "10800", true},
+    {"EditorHeight", "7800", true},
+    {"EditorMaximised", "0", true},
 };
 
 } // namespace

@@ -85,6 +85,19 @@ public:
     int ListUKSortOrder() const { return intValue("ListUKSortOrder"); }
     void setListUKSortOrder(int v) { setInt("ListUKSortOrder", v); }
 
+    // The condition editor's window; EditorPlaced is false until it has been closed once.
+    bool EditorPlaced() const { return !text("EditorLeft").isEmpty(); }
+    int EditorLeft() const { return intValue("EditorLeft"); }
+    void setEditorLeft(int v) { setInt("EditorLeft", v); }
+    int EditorTop() const { return intValue("EditorTop"); }
+    void setEditorTop(int v) { setInt("EditorTop", v); }
+    int EditorWidth() const { return intValue("EditorWidth"); }
+    void setEditorWidth(int v) { setInt("EditorWidth", v); }
+    int EditorHeight() const { return intValue("EditorHeight"); }
+    void setEditorHeight(int v) { setInt("EditorHeight", v); }
+    bool EditorMaximised() const { return boolValue("EditorMaximised"); }
+    void setEditorMaximised(bool v) { setBool("EditorMaximised", v); }
+
     bool LoadSettings();
     bool SaveSettings();
 

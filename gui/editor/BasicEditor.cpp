@@ -1,6 +1,7 @@
 #include "gui/editor/BasicEditor.h"
 
 #include "basic/BasicSyntaxChecker.h"
+#include "basic/ScriptEditing.h"
 #include "basic/ScriptText.h"
 #include "editors/RuleEditorModel.h"
 #include "gui/editor/BasicEditorMargin.h"
@@ -9,12 +10,12 @@
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QFontDatabase>
-#include <QInputDialog>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QStringListModel>
 #include <QTextBlock>
 #include <QTimer>
+#include <QToolTip>
 
 namespace {
 
@@ -22,6 +23,16 @@ namespace {
 constexpr int idleDelay = 400;
 constexpr int longScriptDelay = 1500;
 constexpr int longScript = 200 * 1024;
+// Enough marks to see; a text of junk has thousands.
+constexpr int mostUnderlines = 500;
+
+QTextEdit::ExtraSelection selectionOf(const QTextCursor &cursor, const QTextCharFormat &format)
+{
+    QTextEdit::ExtraSelection selection;
+    selection.cursor = cursor;
+    selection.format = format;
+    return selection;
+}
 
 } // namespace
 
@@ -59,7 +70,10 @@ BasicEditor::BasicEditor(QWidget *parent)
 
     connect(this, &QPlainTextEdit::blockCountChanged, this, &BasicEditor::updateMarginWidth);
     connect(this, &QPlainTextEdit::updateRequest, this, &BasicEditor::updateMargin);
+    connect(
+        this, &QPlainTextEdit::cursorPositionChanged, this, &BasicEditor::updateExtraSelections);
     updateMarginWidth();
+    updateExtraSelections();
 }
 
 BasicEditor::~BasicEditor() = default;
@@ -202,35 +216,209 @@ void BasicEditor::contextMenuEvent(QContextMenuEvent *event)
     event->accept();
 }
 
-// Each error's token, or its one character, gets a wavy underline.
+// Each error's and warning's word, or its one character, gets a wavy underline.
 void BasicEditor::showErrorUnderlines()
 {
-    QList<QTextEdit::ExtraSelection> selections;
-    for (const BasicDiagnostic &d : m_errors) {
+    m_underlines.clear();
+    const auto underline = [this](const BasicDiagnostic &d, const QColor &colour) {
         const QTextBlock block = document()->findBlockByNumber(d.line - 1);
-        if (!block.isValid())
+        if (!block.isValid() || m_underlines.size() >= mostUnderlines)
+            return;
+        const ScriptEditing::Span span = ScriptEditing::markedSpan(block.text(), d.column);
+        QTextCursor cursor(document());
+        cursor.setPosition(block.position() + span.start);
+        cursor.setPosition(block.position() + span.end, QTextCursor::KeepAnchor);
+        QTextCharFormat format;
+        format.setUnderlineStyle(QTextCharFormat::WaveUnderline);
+        format.setUnderlineColor(colour);
+        m_underlines << selectionOf(cursor, format);
+    };
+    for (const BasicDiagnostic &d : m_errors)
+        underline(d, Qt::red);
+    for (const BasicDiagnostic &d : m_warnings)
+        underline(d, QColor(230, 160, 0));
+    updateExtraSelections();
+}
+
+// The caret's line lit, the brackets of a pair beside the caret, and the error underlines.
+void BasicEditor::updateExtraSelections()
+{
+    QList<QTextEdit::ExtraSelection> selections;
+    QTextCharFormat lineFormat;
+    // Tints of the palette's highlight, so that a dark scheme keeps its text readable.
+    QColor lineColour = palette().color(QPalette::Highlight);
+    lineColour.setAlpha(28);
+    QColor pairColour = lineColour;
+    pairColour.setAlpha(90);
+    lineFormat.setBackground(lineColour);
+    lineFormat.setProperty(QTextFormat::FullWidthSelection, true);
+    QTextCursor caret = textCursor();
+    caret.clearSelection();
+    selections << selectionOf(caret, lineFormat);
+
+    const QTextBlock block = caret.block();
+    const QString text = block.text();
+    const int column = caret.positionInBlock();
+    for (const int at : {column, column - 1}) {
+        const int partner = ScriptEditing::matchingBracket(text, at);
+        if (partner < 0)
             continue;
-        const QString text = block.text();
-        int start = std::clamp(d.column - 1, 0, int(text.size()));
-        int end = start;
-        while (end < text.size() && (text[end].isLetterOrNumber() || text[end] == u'_'))
-            ++end;
-        if (end == start)
-            end = qMin(start + 1, int(text.size()));
-        if (end == start && start > 0)
-            --start; // at the line's end: mark the last character
-        QTextEdit::ExtraSelection selection;
-        selection.cursor = QTextCursor(document());
-        selection.cursor.setPosition(block.position() + start);
-        selection.cursor.setPosition(block.position() + end, QTextCursor::KeepAnchor);
-        selection.format.setUnderlineStyle(QTextCharFormat::WaveUnderline);
-        selection.format.setUnderlineColor(Qt::red);
-        selection.format.setToolTip(d.message);
-        selections << selection;
-        if (selections.size() >= 500) // enough to see; a text of junk has thousands
+        QTextCharFormat pairFormat;
+        pairFormat.setBackground(pairColour);
+        pairFormat.setFontWeight(QFont::Bold);
+        for (const int bracket : {at, partner}) {
+            QTextCursor cursor(block);
+            cursor.setPosition(block.position() + bracket);
+            cursor.setPosition(block.position() + bracket + 1, QTextCursor::KeepAnchor);
+            selections << selectionOf(cursor, pairFormat);
+        }
+        break;
+    }
+    setExtraSelections(selections + m_underlines);
+}
+
+QString BasicEditor::diagnosticAt(int position) const
+{
+    const QTextBlock block = document()->findBlock(position);
+    if (!block.isValid())
+        return {};
+    const int line = block.blockNumber() + 1;
+    const int column = position - block.position();
+    QStringList messages;
+    for (const auto *list : {&m_errors, &m_warnings}) {
+        for (const BasicDiagnostic &d : *list) {
+            if (d.line != line)
+                continue;
+            const ScriptEditing::Span span = ScriptEditing::markedSpan(block.text(), d.column);
+            if (span.start <= column && column <= span.end)
+                messages << d.message;
+        }
+    }
+    return messages.join(QLatin1Char('\n'));
+}
+
+bool BasicEditor::viewportEvent(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto *help = static_cast<QHelpEvent *>(event);
+        const QString text = diagnosticAt(cursorForPosition(help->pos()).position());
+        if (text.isEmpty())
+            QToolTip::hideText();
+        else
+            QToolTip::showText(help->globalPos(), text, viewport());
+        return true;
+    }
+    return QPlainTextEdit::viewportEvent(event);
+}
+
+QString BasicEditor::indentUnit() const
+{
+    return ScriptEditing::indentUnit(editorText());
+}
+
+void BasicEditor::editSelectedLines(const std::function<QStringList(const QStringList &)> &edit)
+{
+    QTextCursor cursor = textCursor();
+    QTextBlock first = document()->findBlock(cursor.selectionStart());
+    QTextBlock last = document()->findBlock(cursor.selectionEnd());
+    // A selection that ends at a line's start leaves that line alone.
+    if (last != first && cursor.selectionEnd() == last.position())
+        last = last.previous();
+    QStringList lines;
+    for (QTextBlock b = first; b.isValid(); b = b.next()) {
+        lines << b.text();
+        if (b == last)
             break;
     }
-    setExtraSelections(selections);
+    const QStringList edited = edit(lines);
+    if (edited == lines)
+        return;
+    const bool hadSelection = cursor.hasSelection();
+    const int caretInLine = cursor.positionInBlock();
+    const int start = first.position();
+    cursor.beginEditBlock();
+    cursor.setPosition(start);
+    cursor.setPosition(last.position() + last.length() - 1, QTextCursor::KeepAnchor);
+    const QString text = edited.join(QLatin1Char('\n'));
+    cursor.insertText(text);
+    cursor.endEditBlock();
+    if (hadSelection) {
+        cursor.setPosition(start);
+        cursor.setPosition(start + int(text.size()), QTextCursor::KeepAnchor);
+    } else {
+        // The caret keeps its place in the text of its one line.
+        const int moved = int(edited.front().size() - lines.front().size());
+        cursor.setPosition(start + std::clamp(caretInLine + moved, 0, int(edited.front().size())));
+    }
+    setTextCursor(cursor);
+}
+
+void BasicEditor::indentSelection()
+{
+    const QString unit = indentUnit();
+    editSelectedLines(
+        [&unit](const QStringList &lines) { return ScriptEditing::indentLines(lines, unit); });
+}
+
+void BasicEditor::outdentSelection()
+{
+    const QString unit = indentUnit();
+    editSelectedLines(
+        [&unit](const QStringList &lines) { return ScriptEditing::outdentLines(lines, unit); });
+}
+
+void BasicEditor::toggleComment()
+{
+    editSelectedLines(ScriptEditing::toggleComment);
+}
+
+// Tab without a selection of lines: a tab, or spaces to the next multiple of the unit's width.
+void BasicEditor::insertIndent()
+{
+    const QString unit = indentUnit();
+    QTextCursor cursor = textCursor();
+    if (unit == u"\t") {
+        cursor.insertText(unit);
+    } else {
+        const int width = int(unit.size());
+        cursor.insertText(QString(width - cursor.positionInBlock() % width, u' '));
+    }
+    setTextCursor(cursor);
+}
+
+// Enter: the new line starts where the last one did, a level deeper inside a new block.
+void BasicEditor::insertNewLine()
+{
+    QTextCursor cursor = textCursor();
+    const QString before = cursor.block().text().left(cursor.positionInBlock());
+    cursor.insertText(QStringLiteral("\n") + ScriptEditing::newLineIndent(before, indentUnit()));
+    setTextCursor(cursor);
+    ensureCursorVisible();
+}
+
+// A line that has just become "End If", "Next", "Case"... moves to its block's indentation.
+void BasicEditor::outdentTypedLine()
+{
+    QTextCursor cursor = textCursor();
+    const QTextBlock block = cursor.block();
+    const QString line = block.text();
+    if (!ScriptEditing::endsBlock(line))
+        return;
+    QStringList before;
+    for (QTextBlock b = document()->firstBlock(); b.isValid() && b != block; b = b.next())
+        before << b.text();
+    const std::optional<QString> outdented
+        = ScriptEditing::outdentedAsTyped(before, line, indentUnit());
+    if (!outdented)
+        return;
+    // Only the leading blanks change, so the caret keeps its place in the words.
+    const int words = int(line.size() - line.indexOf(line.trimmed()));
+    const int oldIndent = int(line.size()) - words;
+    const QString newIndent = outdented->left(outdented->size() - words);
+    // A step of its own: Ctrl+Z takes the outdent back and leaves the words.
+    QTextCursor edit(block);
+    edit.setPosition(block.position() + oldIndent, QTextCursor::KeepAnchor);
+    edit.insertText(newIndent);
 }
 
 bool BasicEditor::complete()
@@ -275,33 +463,55 @@ void BasicEditor::insertCompletion(const QString &word)
     m_completion = {};
 }
 
-bool BasicEditor::findNext(const QString &text)
+bool BasicEditor::findText(const QString &text, QTextDocument::FindFlags flags)
 {
     if (text.isEmpty())
         return false;
-    m_lastFind = text;
-    if (find(text))
+    if (find(text, flags))
         return true;
-    // Wrap round once from the top.
+    // Round once from the start, or from the end when going backwards.
     const QTextCursor saved = textCursor();
-    setCaretPosition(0);
-    if (find(text))
+    QTextCursor from(document());
+    if (flags & QTextDocument::FindBackward)
+        from.movePosition(QTextCursor::End);
+    setTextCursor(from);
+    if (find(text, flags))
         return true;
     setTextCursor(saved);
     return false;
 }
 
-void BasicEditor::askFind()
+bool BasicEditor::replaceNext(const QString &text,
+                              const QString &replacement,
+                              QTextDocument::FindFlags flags)
 {
-    bool ok = false;
-    const QString text = QInputDialog::getText(this,
-                                               QStringLiteral("Find"),
-                                               QStringLiteral("Find what:"),
-                                               QLineEdit::Normal,
-                                               m_lastFind,
-                                               &ok);
-    if (ok)
-        findNext(text);
+    QTextCursor cursor = textCursor();
+    const Qt::CaseSensitivity cs
+        = flags & QTextDocument::FindCaseSensitively ? Qt::CaseSensitive : Qt::CaseInsensitive;
+    if (cursor.hasSelection() && cursor.selectedText().compare(text, cs) == 0) {
+        cursor.insertText(replacement);
+        setTextCursor(cursor);
+    }
+    return findText(text, flags & ~QTextDocument::FindBackward);
+}
+
+int BasicEditor::replaceAll(const QString &text,
+                            const QString &replacement,
+                            QTextDocument::FindFlags flags)
+{
+    if (text.isEmpty())
+        return 0;
+    flags &= ~QTextDocument::FindBackward;
+    int count = 0;
+    QTextCursor edit(document());
+    edit.beginEditBlock();
+    for (QTextCursor found = document()->find(text, 0, flags); !found.isNull();
+         found = document()->find(text, found, flags)) {
+        found.insertText(replacement);
+        ++count;
+    }
+    edit.endEditBlock();
+    return count;
 }
 
 void BasicEditor::keyPressEvent(QKeyEvent *event)
@@ -324,23 +534,22 @@ void BasicEditor::keyPressEvent(QKeyEvent *event)
         complete();
         return;
     }
-    if (event->matches(QKeySequence::Find)) {
-        askFind();
+    const bool plain = !(event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier));
+    if (event->key() == Qt::Key_Tab && plain && !(event->modifiers() & Qt::ShiftModifier)) {
+        // A selection is never typed over by Tab: its lines move.
+        if (textCursor().hasSelection())
+            indentSelection();
+        else
+            insertIndent();
         return;
     }
-    if (event->matches(QKeySequence::FindNext)) {
-        findNext(m_lastFind);
+    if ((event->key() == Qt::Key_Backtab || event->key() == Qt::Key_Tab) && plain) {
+        outdentSelection();
         return;
     }
     if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         && !(event->modifiers() & ~Qt::KeypadModifier)) {
-        // The new line starts where the last one did.
-        const QString line = textCursor().block().text();
-        qsizetype indent = 0;
-        while (indent < line.size() && (line[indent] == u' ' || line[indent] == u'\t'))
-            ++indent;
-        textCursor().insertText(QStringLiteral("\n") + line.left(indent));
-        ensureCursorVisible();
+        insertNewLine();
         return;
     }
 
@@ -355,6 +564,8 @@ void BasicEditor::keyPressEvent(QKeyEvent *event)
         return;
     }
     const QChar c = typed.back();
+    if (c.isLetter())
+        outdentTypedLine();
     if (c.isLetterOrNumber() || c == u'.' || c == u'"' || c == u'_' || c == u' ' || c == u',')
         complete();
     else

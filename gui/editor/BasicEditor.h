@@ -4,6 +4,7 @@
 #include "basic/BasicDiagnostic.h"
 
 #include <QPlainTextEdit>
+#include <QTextDocument>
 
 #include <functional>
 #include <vector>
@@ -15,9 +16,10 @@ class QStringListModel;
 class QTimer;
 
 // The editing widget of condition scripts: colouring by the language's tokens, line numbers,
-// error marks from the syntax check (renewed a moment after typing stops), completion of the
-// `Quorin` members and of vocabulary names, auto-indent and find. Scripts go in and out with
-// CR LF line ends.
+// error marks from the syntax check (renewed a moment after typing stops) with their messages as
+// tool tips, completion of the `Quorin` members and of vocabulary names, smart indentation, block
+// indent and outdent, comments, bracket pairs, the caret's line lit, find and replace. Scripts go
+// in and out with CR LF line ends.
 class BasicEditor final : public QPlainTextEdit
 {
     Q_OBJECT
@@ -61,7 +63,27 @@ public:
     // Opens the completion list for the word at the caret, when there is something to offer.
     bool complete();
 
-    bool findNext(const QString &text);
+    // One level of indentation, as the script has it.
+    QString indentUnit() const;
+    // The lines of the selection (the caret's line without one) one level deeper or shallower,
+    // and in and out of comments; each one undo step.
+    void indentSelection();
+    void outdentSelection();
+    void toggleComment();
+
+    // From the caret on, round to the start once; false when the text is nowhere.
+    bool findText(const QString &text, QTextDocument::FindFlags flags = {});
+    // Replaces the selection when it is `text`, then finds the next one.
+    bool replaceNext(const QString &text,
+                     const QString &replacement,
+                     QTextDocument::FindFlags flags = {});
+    // Every occurrence, as one undo step; how many.
+    int replaceAll(const QString &text,
+                   const QString &replacement,
+                   QTextDocument::FindFlags flags = {});
+
+    // The messages of the errors and warnings marked at a position of the text, one a line.
+    QString diagnosticAt(int position) const;
 
 signals:
     // A right click: the owner shows its menu.
@@ -72,6 +94,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
 
 private:
     friend class BasicEditorMargin;
@@ -80,7 +103,12 @@ private:
     void updateMargin(const QRect &rect, int dy);
     void insertCompletion(const QString &word);
     void showErrorUnderlines();
-    void askFind();
+    void updateExtraSelections();
+    // Runs `edit` over the whole lines of the selection and selects the result.
+    void editSelectedLines(const std::function<QStringList(const QStringList &)> &edit);
+    void insertIndent();
+    void insertNewLine();
+    void outdentTypedLine();
 
     BasicEditorMargin *m_margin;
     BasicHighlighter *m_highlighter;
@@ -91,5 +119,5 @@ private:
     std::function<QStringList()> m_workfields;
     std::vector<BasicDiagnostic> m_errors;
     std::vector<BasicDiagnostic> m_warnings;
-    QString m_lastFind;
+    QList<QTextEdit::ExtraSelection> m_underlines;
 };

@@ -1,21 +1,36 @@
+#include "GuiTestSupport.h"
+
+#include "basic/ScriptEditing.h"
+#include "gui/GuiUserInterface.h"
 #include "gui/editor/BasicEditor.h"
 #include "gui/editor/RuleEditorPickers.h"
 #include "gui/editor/frmRuleEditor.h"
+#include "gui/window/HelpWindow.h"
+#include "platform/GlobalObjects.h"
+#include "platform/QuorinAdminData.h"
 #include "rulebase/IRule.h"
 #include "vocabulary/ObjectListType.h"
 
 #include "support/ScriptedUserInterface.h"
+#include "support/TestEnvironment.h"
 
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QCompleter>
 #include <QElapsedTimer>
+#include <QInputDialog>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTextBlock>
 #include <QTimer>
 #include <QToolBar>
+#include <QToolButton>
+#include <QToolTip>
+#include <QTreeWidget>
 
 #include <gtest/gtest.h>
 
@@ -31,6 +46,22 @@ void type(QWidget *widget, const QString &text)
         QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, keyText);
         QApplication::sendEvent(widget, &release);
     }
+}
+
+void press(QWidget *widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    QKeyEvent event(QEvent::KeyPress, key, modifiers);
+    QApplication::sendEvent(widget, &event);
+}
+
+// Selects from one 1-based line and column to another.
+void select(BasicEditor *editor, int line, int column, int toLine, int toColumn)
+{
+    editor->goTo(line, column);
+    QTextCursor cursor = editor->textCursor();
+    editor->goTo(toLine, toColumn);
+    cursor.setPosition(editor->caretPosition(), QTextCursor::KeepAnchor);
+    editor->setTextCursor(cursor);
 }
 
 // Lets timers run until `done` holds or a generous time has passed.
@@ -92,9 +123,10 @@ TEST(RuleEditor, MarksAnErrorWhileTypingAndSavesOnceItIsFixed)
     EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Administrator - Syntax Error"));
     EXPECT_EQ(editor->textCursor().blockNumber(), 2);
 
-    // Fixed, with a violation raised inside the If.
+    // Fixed, with a violation raised inside the If: Enter goes one level (the text's two
+    // spaces) deeper, and "End If" finds the If's indentation as it is typed.
     editor->goTo(3, 12);
-    type(editor, QStringLiteral("\n  ")); // two more than the If's indent
+    type(editor, QStringLiteral("\n"));
     dialog.tool(QStringLiteral("tlRaiseViolation"))->trigger();
     type(editor, QStringLiteral("End If"));
     ASSERT_TRUE(waitFor([&] { return editor->markOfLine(3) == BasicEditor::Mark::None; }));
@@ -114,7 +146,7 @@ TEST(RuleEditor, MarksAnErrorWhileTypingAndSavesOnceItIsFixed)
     EXPECT_EQ(
         dialog.RuleCode().toStdString(),
         std::string("Sub Main\r\n  x = 1\r\n  If y Then\r\n    Call Quorin.RaiseViolation()\r\n"
-                    "End If\r\nEnd Sub\r\n"));
+                    "  End If\r\nEnd Sub\r\n"));
     EXPECT_EQ(ui.messages.size(), 1u);
 }
 
@@ -186,6 +218,7 @@ TEST(RuleEditor, PickersAndCompletionInsertTheVocabulary)
     dialog.setRuleType(RuleTypes::NamingConvention);
     dialog.show();
     BasicEditor *editor = dialog.editor();
+    editor->clear(); // no skeleton: the inserts alone
     dialog.tool(QStringLiteral("tlObjectProperty"))->trigger();
     EXPECT_EQ(asked.selectionMode, 2);
     type(editor, QStringLiteral("\n"));
@@ -251,4 +284,193 @@ TEST(RuleEditorPickers, DefaultPickersAreThePickerDialogsAndCancelGivesNothing)
     request.listType = ObjectListType::Everything;
     EXPECT_TRUE(RuleEditorPickers::pickObject(nullptr, request).isEmpty());
     EXPECT_EQ(shown, (QStringList{QStringLiteral("frmParserEvent"), QStringLiteral("frmObjectProperty")}));
+}
+
+TEST(RuleEditor, EditingCommandsStandInBothMenusAndWorkOnWholeLines)
+{
+    ScriptedUserInterface ui;
+    frmRuleEditor dialog;
+    dialog.setRuleCode(QStringLiteral("Sub Main\r\n\tx = 1\r\n\ty = 2\r\nEnd Sub"));
+    dialog.show();
+    BasicEditor *editor = dialog.editor();
+    auto *mnuEdit = child<QMenu>(dialog, "mnuEdit");
+    auto *mnuContext = child<QMenu>(dialog, "mnuContext");
+    ASSERT_TRUE(mnuEdit && mnuContext);
+    const QString ids = QStringLiteral(
+        "tlUndo tlCut tlCopy tlPaste tlSelectAll tlFind tlReplace tlGoToLine tlToggleComment");
+    for (const QString &id : ids.split(QLatin1Char(' '))) {
+        QAction *action = dialog.tool(id);
+        EXPECT_TRUE(mnuEdit->actions().contains(action)) << id.toStdString();
+        EXPECT_TRUE(mnuContext->actions().contains(action)) << id.toStdString();
+        EXPECT_FALSE(action->shortcut().isEmpty()) << id.toStdString();
+    }
+    EXPECT_TRUE(mnuContext->actions().contains(
+        dialog.findChild<QMenu *>(QStringLiteral("mnuInsert"))->menuAction()));
+
+    // Tab and Shift+Tab move the lines a selection touches, each one undo step; the selection
+    // stays on them. Without a selection Tab puts in the text's own unit.
+    const QString opening = editor->toPlainText();
+    select(editor, 2, 3, 3, 2);
+    press(editor, Qt::Key_Tab);
+    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Main\n\t\tx = 1\n\t\ty = 2\nEnd Sub"));
+    EXPECT_EQ(editor->textCursor().selectedText(), QStringLiteral("\t\tx = 1\u2029\t\ty = 2"));
+    press(editor, Qt::Key_Backtab, Qt::ShiftModifier);
+    press(editor, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Main\nx = 1\ny = 2\nEnd Sub"));
+    for (int step = 0; step < 3; ++step)
+        dialog.tool(QStringLiteral("tlUndo"))->trigger();
+    EXPECT_EQ(editor->toPlainText(), opening);
+    editor->goTo(2, 1);
+    press(editor, Qt::Key_Tab);
+    EXPECT_EQ(editor->textCursor().block().text(), QStringLiteral("\t\tx = 1"));
+
+    // Comment and back; cut and paste through the clipboard.
+    select(editor, 2, 1, 3, 2);
+    dialog.tool(QStringLiteral("tlToggleComment"))->trigger();
+    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Main\n\t' \tx = 1\n\t' y = 2\nEnd Sub"));
+    dialog.tool(QStringLiteral("tlToggleComment"))->trigger();
+    select(editor, 3, 2, 3, 7);
+    dialog.tool(QStringLiteral("tlCut"))->trigger();
+    editor->goTo(1, 9);
+    dialog.tool(QStringLiteral("tlPaste"))->trigger();
+    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Mainy = 2\n\t\tx = 1\n\t\nEnd Sub"));
+    dialog.tool(QStringLiteral("tlSelectAll"))->trigger();
+    EXPECT_EQ(editor->textCursor().selectedText().size(), editor->toPlainText().size());
+
+    // Replace all through the bar; Escape closes the bar, not the editor.
+    dialog.tool(QStringLiteral("tlReplace"))->trigger();
+    auto *find = child<QLineEdit>(dialog, "txtFind");
+    ASSERT_TRUE(find && find->isVisible() && child<QLineEdit>(dialog, "txtReplace")->isVisible());
+    find->setText(QStringLiteral("X"));
+    child<QLineEdit>(dialog, "txtReplace")->setText(QStringLiteral("total"));
+    child<QToolButton>(dialog, "cmdReplaceAll")->click();
+    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Mainy = 2\n\t\ttotal = 1\n\t\nEnd Sub"));
+    EXPECT_EQ(child<QLabel>(dialog, "lblFindResult")->text(), QStringLiteral("1 replaced"));
+    find->setFocus();
+    press(find, Qt::Key_Escape);
+    EXPECT_FALSE(find->isVisible());
+    EXPECT_TRUE(dialog.isVisible());
+
+    // Find wraps round; go to line asks for the number.
+    editor->goTo(4, 1);
+    dialog.tool(QStringLiteral("tlFind"))->trigger();
+    find->setText(QStringLiteral("total"));
+    dialog.tool(QStringLiteral("tlFindNext"))->trigger();
+    EXPECT_EQ(editor->textCursor().selectedText(), QStringLiteral("total"));
+    whenModal(QStringLiteral("frmGoToLine"), [](QDialog &asked) {
+        static_cast<QInputDialog &>(asked).setIntValue(3);
+        asked.accept();
+    });
+    dialog.tool(QStringLiteral("tlGoToLine"))->trigger();
+    EXPECT_EQ(editor->textCursor().blockNumber(), 2);
+    EXPECT_EQ(child<QLabel>(dialog, "lblPosition")->text(), QStringLiteral("Ln 3, Col 1"));
+    EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST(RuleEditor, TheErrorListAndTheUnderlinesLeadToTheFault)
+{
+    ScriptedUserInterface ui;
+    frmRuleEditor dialog;
+    dialog.setRuleCode(QStringLiteral("Sub Main\r\n\tx = 1\r\n\tIf F(x) Then\r\nEnd Sub"));
+    dialog.show();
+    BasicEditor *editor = dialog.editor();
+    ASSERT_FALSE(editor->errors().empty());
+    const BasicDiagnostic fault = editor->errors().front();
+    auto *list = child<QTreeWidget>(dialog, "lvwErrors");
+    ASSERT_TRUE(list);
+    ASSERT_EQ(list->topLevelItemCount(), int(editor->errors().size() + editor->warnings().size()));
+    QTreeWidgetItem *row = list->topLevelItem(0);
+    EXPECT_EQ(row->text(0), QString::number(fault.line));
+    EXPECT_EQ(row->text(2), fault.message);
+
+    editor->setCaretPosition(0);
+    emit list->itemActivated(row, 0);
+    EXPECT_EQ(editor->textCursor().blockNumber() + 1, fault.line);
+    EXPECT_EQ(editor->textCursor().positionInBlock() + 1, fault.column);
+
+    // The underline's tool tip is the message.
+    const int at = editor->caretPosition();
+    EXPECT_EQ(editor->diagnosticAt(at), fault.message);
+    EXPECT_TRUE(editor->diagnosticAt(0).isEmpty());
+    const QPoint point = editor->cursorRect().center() + QPoint(2, 0);
+    QHelpEvent help(QEvent::ToolTip, point, editor->viewport()->mapToGlobal(point));
+    QApplication::sendEvent(editor->viewport(), &help);
+    EXPECT_EQ(QToolTip::text(), fault.message);
+    QToolTip::hideText();
+
+    // A bracket beside the caret lights its partner.
+    editor->goTo(3, 9);
+    const int partner = editor->textCursor().block().position() + 5;
+    const QList<QTextEdit::ExtraSelection> lit = editor->extraSelections();
+    EXPECT_TRUE(std::any_of(lit.begin(), lit.end(), [&](const QTextEdit::ExtraSelection &s) {
+        return s.cursor.selectionStart() == partner && s.cursor.selectionEnd() == partner + 1;
+    }));
+
+    // Once fixed, the list is empty.
+    editor->setScript(QStringLiteral("Sub Main\r\nEnd Sub"));
+    EXPECT_EQ(list->topLevelItemCount(), 0);
+}
+
+TEST(RuleEditor, ANewConditionStartsAsSubMainAndTheWindowKeepsItsPlace)
+{
+    ScriptedUserInterface ui;
+    TestEnvironment::clearSettings();
+    gobjAdminData = std::make_shared<QuorinAdminData>();
+    {
+        // The skeleton untouched is no condition: closing asks nothing.
+        frmRuleEditor dialog;
+        EXPECT_EQ(dialog.editor()->toPlainText(), ScriptEditing::newScript());
+        EXPECT_EQ(dialog.editor()->textCursor().blockNumber() + 1, ScriptEditing::newScriptLine);
+        EXPECT_TRUE(dialog.RuleCode().isEmpty());
+        dialog.show();
+        dialog.move(120, 90);
+        dialog.resize(500, 360);
+        dialog.tool(QStringLiteral("tlClose"))->trigger();
+        EXPECT_FALSE(dialog.isVisible());
+        EXPECT_TRUE(ui.messages.empty());
+    }
+    EXPECT_EQ(gobjAdminData->EditorWidth(), 500 * 15);
+    gobjAdminData->SaveSettings();
+    gobjAdminData = std::make_shared<QuorinAdminData>();
+    {
+        frmRuleEditor dialog;
+        dialog.show();
+        EXPECT_EQ(dialog.size(), QSize(500, 360));
+        EXPECT_EQ(dialog.pos(), QPoint(120, 90));
+    }
+    // A place on no screen is not taken.
+    gobjAdminData->setEditorLeft(-90000);
+    {
+        frmRuleEditor dialog;
+        dialog.show();
+        EXPECT_GE(dialog.x(), 0);
+    }
+    gobjAdminData.reset();
+    TestEnvironment::clearSettings();
+}
+
+TEST(RuleEditor, HelpOpensBesideTheModalEditorAndOutlivesIt)
+{
+    GuiUserInterface gui(true);
+    UserInterface::install(&gui);
+    HelpWindow::instance()->resize(300, 200);
+    frmRuleEditor dialog;
+    dialog.setGeometry(0, 0, 300, 300);
+    QTimer::singleShot(0, &dialog, [&] {
+        dialog.tool(QStringLiteral("tlLanguageHelp"))->trigger();
+        HelpWindow *help = HelpWindow::existing();
+        ASSERT_TRUE(help && help->isVisible());
+        EXPECT_EQ(help->currentPage(), QStringLiteral("ConditionLanguage.htm"));
+        // A window of the modal editor: not blocked by it.
+        EXPECT_EQ(help->parentWidget(), &dialog);
+        EXPECT_EQ(help->x(), dialog.frameGeometry().right() + 1);
+        dialog.tool(QStringLiteral("tlClose"))->trigger();
+    });
+    dialog.exec();
+    HelpWindow *help = HelpWindow::existing();
+    ASSERT_TRUE(help);
+    EXPECT_NE(help->parentWidget(), &dialog);
+    EXPECT_TRUE(help->isVisible());
+    help->close();
+    UserInterface::install(nullptr);
 }
