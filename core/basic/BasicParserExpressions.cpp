@@ -484,6 +484,8 @@ void BasicParser::parseAssignmentOrCall()
         inspect(target);
         return;
     }
+    if (parseGraphics(target))
+        return;
     const Node &node = m_nodes[size_t(target)];
     const bool parenthesised = node.kind == NodeKind::Call && node.second >= 0;
     if (atStatementEnd()) {
@@ -661,12 +663,14 @@ QString BasicParser::stringValue(int index) const
         .replace(QLatin1String("\"\""), QLatin1String("\""));
 }
 
+// A member the extension lacks, or an object the vocabulary lacks, makes a rule that never fires:
+// errors. Names inside a known object may be right where the catalogue is silent: warnings.
 void BasicParser::checkQuorinCall(int member, int argStart, int argCount)
 {
     const int name = m_nodes[size_t(member)].token;
     const QuorinMember *known = QuorinExtension::findMember(textOf(name));
     if (!known) {
-        warn(QuorinExtension::memberWarning(textOf(name)), name);
+        error(QuorinExtension::memberWarning(textOf(name)), name);
         return;
     }
     if (argCount != known->argumentCount) {
@@ -681,16 +685,23 @@ void BasicParser::checkQuorinCall(int member, int argStart, int argCount)
     if (!isStringLiteral(object))
         return;
     const QString objectName = stringValue(object);
-    QString warning = property ? QuorinExtension::objectWarning(objectName)
-                               : QuorinExtension::workfieldObjectWarning(objectName);
-    if (warning.isEmpty() && property && isStringLiteral(second)) {
-        warning = QuorinExtension::propertyWarning(objectName, stringValue(second));
-        if (!warning.isEmpty())
-            warn(warning, m_nodes[size_t(second)].token);
+    const int objectToken = m_nodes[size_t(object)].token;
+    const QString unknown = QuorinExtension::objectWarning(objectName);
+    if (!unknown.isEmpty()) {
+        error(unknown, objectToken);
         return;
     }
-    if (!warning.isEmpty())
-        warn(warning, m_nodes[size_t(object)].token);
+    if (!property) {
+        const QString warning = QuorinExtension::workfieldObjectWarning(objectName);
+        if (!warning.isEmpty())
+            warn(warning, objectToken);
+        return;
+    }
+    if (isStringLiteral(second)) {
+        const QString warning = QuorinExtension::propertyWarning(objectName, stringValue(second));
+        if (!warning.isEmpty())
+            warn(warning, m_nodes[size_t(second)].token);
+    }
 }
 
 void BasicParser::checkEventName(int index)

@@ -1,5 +1,10 @@
 #include "BasicTestSupport.h"
 
+#include "support/TestEnvironment.h"
+
+#include <QDir>
+#include <QFile>
+
 namespace {
 
 QString firstError(const QStringList &lines)
@@ -324,4 +329,17 @@ TEST(BasicParser, ChecksLargeScriptsInOnePass)
     BasicSyntaxChecker checker;
     EXPECT_TRUE(checker.check(script(lines)));
     EXPECT_GT(checker.tokens().size(), 40000u);
+}
+
+// Whole modules in the styles administrators paste from: each must pass without an error.
+TEST(BasicParser, AcceptsEveryModuleOfTheCorpus)
+{
+    const QDir dir(TestEnvironment::sourceDir() + QStringLiteral("/tests/basic/procedures"));
+    const QStringList names = dir.entryList({QStringLiteral("*.bas")}, QDir::Files, QDir::Name);
+    EXPECT_GE(names.size(), 10);
+    for (const QString &name : names) {
+        QFile file(dir.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(name);
+        EXPECT_EQ(errorsOf(QString::fromUtf8(file.readAll())), QStringList()) << qPrintable(name);
+    }
 }
