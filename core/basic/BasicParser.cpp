@@ -158,6 +158,8 @@ void BasicParser::fail(const QString &message, int tokenIndex)
         error(QStringLiteral("Invalid character"), tokenIndex);
     else if (at.kind == T::String && !at.complete)
         error(QStringLiteral("Unterminated string constant"), tokenIndex);
+    else if (at.kind == T::Date && !at.complete)
+        error(QStringLiteral("Unterminated date literal"), tokenIndex);
     else
         error(message, tokenIndex);
     throw SyntaxError{};
@@ -732,8 +734,11 @@ void BasicParser::parseProcedure()
     advance();
     if (accept(S::LeftParen))
         parseParameters(true);
-    if (kind != K::Sub && accept(K::As))
+    if (kind != K::Sub && accept(K::As)) {
         parseTypeName(false);
+        if (accept(S::LeftParen)) // a function that returns an array
+            expect(S::RightParen, "Expected: )");
+    }
 }
 
 void BasicParser::parseParameters(bool declareNames)

@@ -255,8 +255,12 @@ int BasicParser::primary()
     const BasicToken &t = tok();
     const int index = tokIndex();
     switch (t.kind) {
-    case T::Number:
     case T::Date:
+        if (!t.complete)
+            fail(QStringLiteral("Unterminated date literal"));
+        advance();
+        return addNode(NodeKind::Literal, index);
+    case T::Number:
         advance();
         return addNode(NodeKind::Literal, index);
     case T::String:
@@ -437,13 +441,20 @@ bool BasicParser::atBinaryOperator() const
 }
 
 // "Foo a, b" and "Debug.Print a; b": the arguments of a call statement without parentheses.
+// Print items may also stand side by side, "Print "x =" x", which the IDE reads as "x ="; x.
 int BasicParser::unparenthesisedCall(int callee)
 {
+    const bool print = textOf(m_nodes[size_t(callee)].token).compare(u"Print", Qt::CaseInsensitive)
+                       == 0;
     std::vector<int> arguments;
     arguments.push_back(argument());
-    while (accept(S::Comma) || accept(S::Semicolon)) {
-        if (atStatementEnd())
+    for (;;) {
+        if (accept(S::Comma) || accept(S::Semicolon)) {
+            if (atStatementEnd())
+                break;
+        } else if (!print || atStatementEnd() || !canStartArgument()) {
             break;
+        }
         arguments.push_back(argument());
     }
     const int node = addNode(NodeKind::Call, m_nodes[size_t(callee)].token, callee, -1);

@@ -25,10 +25,15 @@ bool BasicParser::isWord(QStringView word, int ahead) const
 // True when the statement was one of these; false leaves the position as it was.
 bool BasicParser::parseWordStatement()
 {
-    // "Open = 1", "Name.Text = x" and "Lock" alone are not the statements.
+    // "Name = 1" and "Lock.Text = x" are no such statements, nor is "Lock" alone, which calls
+    // a procedure; the reserved words Open, LSet, RSet and RaiseEvent lead theirs in any case.
     const BasicToken &next = peek();
-    if (next.kind == T::LineEnd || next.kind == T::EndOfText || next.symbol == S::Equal
-        || next.symbol == S::Dot || next.symbol == S::Bang || next.symbol == S::Colon)
+    if (next.symbol == S::Equal || next.symbol == S::Dot || next.symbol == S::Bang)
+        return false;
+    const bool reserved
+        = isWord(u"Open") || isWord(u"LSet") || isWord(u"RSet") || isWord(u"RaiseEvent");
+    if (!reserved
+        && (next.kind == T::LineEnd || next.kind == T::EndOfText || next.symbol == S::Colon))
         return false;
     if (isWord(u"Open")) {
         parseOpen();
@@ -185,7 +190,7 @@ bool BasicParser::parseGraphics(int target)
     const bool point = node.kind == NodeKind::Call && node.second >= 0 && node.argCount == 2;
     const int method = point ? node.first : target;
     const NodeKind kind = m_nodes[size_t(method)].kind;
-    if (kind != NodeKind::Name && kind != NodeKind::Member)
+    if (kind != NodeKind::Name && kind != NodeKind::Member && kind != NodeKind::WithMember)
         return false;
     if (!point && !isKeyword(K::Step) && !isSymbol(S::Minus))
         return false;
