@@ -646,7 +646,7 @@ void BasicParser::parseModuleBlockLine()
             fail(QStringLiteral("Expected: identifier"));
         advance();
         if (type) {
-            if (accept(S::LeftParen))
+            if (accept(S::LeftParen) && !accept(S::RightParen))
                 parseBounds();
             expect(K::As, "Expected: As");
             parseTypeName(false);
@@ -775,8 +775,9 @@ void BasicParser::parseDeclare()
     if (tok().kind != T::Identifier)
         fail(QStringLiteral("Expected: identifier"));
     advance();
-    if (!(tok().kind == T::Identifier
-          && textOf(tokIndex()).compare(u"Lib", Qt::CaseInsensitive) == 0))
+    if (isWord(u"CDecl"))
+        advance();
+    if (!isWord(u"Lib"))
         fail(QStringLiteral("Expected: Lib"));
     advance();
     if (tok().kind != T::String)
