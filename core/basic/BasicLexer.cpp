@@ -437,10 +437,9 @@ void Scanner::scanString()
 bool isDateName(QStringView word)
 {
     static constexpr QStringView names[] = {
-        u"January", u"February", u"March",    u"April",    u"May",      u"June",
-        u"July",    u"August",   u"September", u"October", u"November", u"December",
-        u"Jan",     u"Feb",      u"Mar",       u"Apr",     u"Jun",      u"Jul",
-        u"Aug",     u"Sep",      u"Sept",      u"Oct",     u"Nov",      u"Dec"};
+        u"January",   u"February", u"March",    u"April",    u"May",  u"June", u"July", u"August",
+        u"September", u"October",  u"November", u"December", u"Jan",  u"Feb",  u"Mar",  u"Apr",
+        u"Jun",       u"Jul",      u"Aug",      u"Sep",      u"Sept", u"Oct",  u"Nov",  u"Dec"};
     return std::any_of(std::begin(names), std::end(names), [word](QStringView name) {
         return name.compare(word, Qt::CaseInsensitive) == 0;
     });
@@ -448,10 +447,24 @@ bool isDateName(QStringView word)
 
 bool isDayOrHalfName(QStringView word)
 {
-    static constexpr QStringView names[]
-        = {u"AM",      u"PM",       u"A",         u"P",        u"Monday", u"Tuesday",
-           u"Wednesday", u"Thursday", u"Friday",  u"Saturday", u"Sunday", u"Mon",
-           u"Tue",     u"Wed",      u"Thu",       u"Fri",      u"Sat",    u"Sun"};
+    static constexpr QStringView names[] = {u"AM",
+                                            u"PM",
+                                            u"A",
+                                            u"P",
+                                            u"Monday",
+                                            u"Tuesday",
+                                            u"Wednesday",
+                                            u"Thursday",
+                                            u"Friday",
+                                            u"Saturday",
+                                            u"Sunday",
+                                            u"Mon",
+                                            u"Tue",
+                                            u"Wed",
+                                            u"Thu",
+                                            u"Fri",
+                                            u"Sat",
+                                            u"Sun"};
     return std::any_of(std::begin(names), std::end(names), [word](QStringView name) {
         return name.compare(word, Qt::CaseInsensitive) == 0;
     });

@@ -863,7 +863,8 @@ void BasicParser::parseReDimTarget()
                 if (depth == 0)
                     break;
             }
-            const BasicSymbol after = tokenAt(m_sig[size_t(std::min(close + 1, int(m_sig.size()) - 1))]).symbol;
+            const BasicSymbol after
+                = tokenAt(m_sig[size_t(std::min(close + 1, int(m_sig.size()) - 1))]).symbol;
             if (depth != 0 || (after != S::Dot && after != S::Bang)) {
                 advance();
                 return;

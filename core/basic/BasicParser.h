@@ -70,10 +70,10 @@ private:
 
         BlockKind kind;
         int token;
-        QString variable; // a For loop's control variable, for Next
+        QString variable;      // a For loop's control variable, for Next
         bool elseSeen = false; // also Case Else
         bool caseSeen = false;
-        bool doCondition = false; // Do While or Do Until
+        bool doCondition = false;   // Do While or Do Until
         bool onParserEvent = false; // Select Case Quorin.ParserEvent()
     };
 
@@ -293,13 +293,14 @@ private:
     QSet<QString> m_procedureNames;
     ModuleBlock m_moduleBlock = ModuleBlock::None;
     int m_moduleBlockToken = -1;
-    std::vector<Directive> m_directives;
-    QHash<QString, ConstantValue> m_constants; // of #Const, by nameKey
     int m_inlineIfs = 0;    // depth of single-line Ifs being read
     int m_inlineFloor = -1; // block depth where this line's first single-line If began
     bool m_lineHasError = false;
     bool m_hasMain = false;
     bool m_hasCode = false;
+
+    std::vector<Directive> m_directives;
+    QHash<QString, ConstantValue> m_constants; // of #Const, by nameKey
 
     std::vector<BasicDiagnostic> m_errors;
     std::vector<BasicDiagnostic> m_warnings;

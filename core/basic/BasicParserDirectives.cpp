@@ -139,7 +139,8 @@ void BasicParser::parseDirective()
         m_directives.pop_back();
         // Without #Else, an #If that no branch takes compiles nothing.
         if (!directive.active)
-            restoreState(directive.chosen ? std::move(*directive.chosen) : std::move(directive.start));
+            restoreState(directive.chosen ? std::move(*directive.chosen)
+                                          : std::move(directive.start));
     } else {
         fail(QStringLiteral("Expected: #End If"));
     }
@@ -177,7 +178,8 @@ void BasicParser::closeDirectives()
         m_directives.pop_back();
         error(QStringLiteral("#If without #End If"), directive.token);
         if (!directive.active)
-            restoreState(directive.chosen ? std::move(*directive.chosen) : std::move(directive.start));
+            restoreState(directive.chosen ? std::move(*directive.chosen)
+                                          : std::move(directive.start));
     }
 }
 
@@ -198,11 +200,11 @@ std::optional<BasicParser::ConstantValue> BasicParser::evaluate(int index) const
         }
         if (token.kind == T::String) {
             const QStringView quoted = textOf(node.token);
-            return ConstantValue{
-                true,
-                0,
-                quoted.sliced(1, quoted.size() - 2).toString().replace(QLatin1String("\"\""),
-                                                                        QLatin1String("\""))};
+            return ConstantValue{true,
+                                 0,
+                                 quoted.sliced(1, quoted.size() - 2)
+                                     .toString()
+                                     .replace(QLatin1String("\"\""), QLatin1String("\""))};
         }
         if (token.keyword == K::True)
             return ConstantValue{false, -1, {}};
@@ -218,7 +220,7 @@ std::optional<BasicParser::ConstantValue> BasicParser::evaluate(int index) const
     case NodeKind::Unary: {
         const std::optional<ConstantValue> operand = evaluate(node.first);
         bool ok = operand && !operand->isText;
-        const double number = !operand         ? 0
+        const double number = !operand          ? 0
                               : operand->isText ? operand->text.toDouble(&ok)
                                                 : operand->number;
         if (!ok)
@@ -241,9 +243,8 @@ std::optional<BasicParser::ConstantValue> BasicParser::evaluateBinary(const Node
     if (!left || !right)
         return std::nullopt;
     const BasicToken &op = tokenAt(node.token);
-    const auto asText = [](const ConstantValue &v) {
-        return v.isText ? v.text : textOfNumber(v.number);
-    };
+    const auto asText
+        = [](const ConstantValue &v) { return v.isText ? v.text : textOfNumber(v.number); };
     if (op.symbol == S::Ampersand || (op.symbol == S::Plus && left->isText && right->isText))
         return ConstantValue{true, 0, asText(*left) + asText(*right)};
 
@@ -289,7 +290,8 @@ std::optional<BasicParser::ConstantValue> BasicParser::evaluateBinary(const Node
     case S::Slash:
         return b == 0 ? std::nullopt : std::optional(result(a / b));
     case S::Backslash:
-        return integer(b) == 0 ? std::nullopt : std::optional(result(double(integer(a) / integer(b))));
+        return integer(b) == 0 ? std::nullopt
+                               : std::optional(result(double(integer(a) / integer(b))));
     case S::Caret:
         return result(std::pow(a, b));
     default:

@@ -444,8 +444,8 @@ bool BasicParser::atBinaryOperator() const
 // Print items may also stand side by side, "Print "x =" x", which the IDE reads as "x ="; x.
 int BasicParser::unparenthesisedCall(int callee)
 {
-    const bool print = textOf(m_nodes[size_t(callee)].token).compare(u"Print", Qt::CaseInsensitive)
-                       == 0;
+    const bool print
+        = textOf(m_nodes[size_t(callee)].token).compare(u"Print", Qt::CaseInsensitive) == 0;
     std::vector<int> arguments;
     arguments.push_back(argument());
     for (;;) {

@@ -113,19 +113,20 @@ QString corpusDir()
 std::vector<std::pair<QString, QString>> corpus()
 {
     std::vector<std::pair<QString, QString>> inputs;
-    const QString procedures = TestEnvironment::sourceDir() + QStringLiteral("/tests/basic/procedures");
+    const QString procedures
+        = TestEnvironment::sourceDir() + QStringLiteral("/tests/basic/procedures");
     for (const QString &folder : {corpusDir(), procedures}) {
         const QDir dir(folder);
         for (const QString &name : dir.entryList(QDir::Files, QDir::Name)) {
-        QFile file(dir.filePath(name));
-        if (!file.open(QIODevice::ReadOnly))
-            continue;
-        const QByteArray bytes = file.readAll();
-        inputs.emplace_back(name, QString::fromUtf8(bytes));
-        inputs.emplace_back(name + QStringLiteral(" (bytes)"), QString::fromLatin1(bytes));
-        inputs.emplace_back(
-            name + QStringLiteral(" (utf-16)"),
-            QString(reinterpret_cast<const QChar *>(bytes.constData()), bytes.size() / 2));
+            QFile file(dir.filePath(name));
+            if (!file.open(QIODevice::ReadOnly))
+                continue;
+            const QByteArray bytes = file.readAll();
+            inputs.emplace_back(name, QString::fromUtf8(bytes));
+            inputs.emplace_back(name + QStringLiteral(" (bytes)"), QString::fromLatin1(bytes));
+            inputs.emplace_back(
+                name + QStringLiteral(" (utf-16)"),
+                QString(reinterpret_cast<const QChar *>(bytes.constData()), bytes.size() / 2));
         }
     }
     return inputs;
