@@ -494,6 +494,23 @@ bool allDigits(QStringView word)
            && std::all_of(word.begin(), word.end(), [](QChar c) { return c.isDigit(); });
 }
 
+// A date with its month by name: "1-Jan-2000", "Jan/1/2000".
+bool isJoinedWithMonth(QStringView word)
+{
+    int parts = 0;
+    bool month = false;
+    for (QStringView part : word.tokenize(u'-')) {
+        for (QStringView piece : part.tokenize(u'/')) {
+            ++parts;
+            if (isDateName(piece))
+                month = true;
+            else if (!allDigits(piece))
+                return false;
+        }
+    }
+    return month && parts >= 2;
+}
+
 // Whether the text between two '#' reads as a date or a time: numbers joined by "/", "-", "."
 // or ":" ("1/2/2000", "12:30:00"), month and day names, AM and PM. A lone number needs a month
 // beside it ("January 1, 2000"), so that "#1, a, #" in a line of file output is no date.
@@ -523,6 +540,8 @@ bool plausibleDate(QStringView content)
         } else if (allDigits(word)) {
             lone = true;
         } else if (!comma && isJoinedNumber(word, u"/-.:")) {
+            joined = true;
+        } else if (!comma && isJoinedWithMonth(word)) {
             joined = true;
         } else {
             return false;
