@@ -364,7 +364,9 @@ int BasicParser::argument()
 {
     if (isSymbol(S::Comma) || isSymbol(S::RightParen) || isSymbol(S::Semicolon) || atStatementEnd())
         return addNode(NodeKind::Missing, tokIndex());
-    if (tok().kind == T::Identifier && peek().symbol == S::ColonEquals) {
+    // A parameter may bear a reserved word's name: InputBox(Prompt:="?", Type:=1).
+    if ((tok().kind == T::Identifier || tok().kind == T::Keyword)
+        && peek().symbol == S::ColonEquals) {
         const int name = tokIndex();
         advance();
         advance();

@@ -119,7 +119,7 @@ TEST(BasicParser, AcceptsEveryConstructOfTheDialect)
                 "Foo (1) + 2, 3",
                 "Foo(1)",
                 "Foo",
-                "obj.Method x:=1, y:=2",
+                "obj.Method x:=1, y:=2, Type:=3",
                 "Debug.Print a; b;",
                 "Debug.Print",
                 "Print #1, a",
