@@ -1,8 +1,15 @@
+#include "bench/RulebaseGenerator.h"
+
 #include "basic/BasicColouring.h"
 #include "basic/BasicSyntaxChecker.h"
+#include "rulebase/RulebaseManager.h"
+#include "tools/RulebaseChecker.h"
+#include "tools/RulebaseFileScan.h"
+#include "tools/ToolRulebaseLoader.h"
 
 #include <QCoreApplication>
 #include <QStringList>
+#include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
@@ -41,6 +48,39 @@ QString condition(int lines)
     return text.join(QLatin1String("\r\n"));
 }
 
+// The same length of pasted module code: file statements, graphics, numbered lines, continued
+// declarations and conditional compilation, whose branches are each read from their #If.
+QString statementMix(int lines)
+{
+    const QStringList block = {
+        "#If Win64 Then",
+        "    Dim handle%1 As LongPtr, _",
+        "        size%1 As LongLong",
+        "#Else",
+        "    Dim handle%1 As Long, _",
+        "        size%1 As Long",
+        "#End If",
+        "%1 Open path For Binary Access Read Lock Write As #f Len = 512",
+        "    Get #f, , record: Seek #f, %1: Put #f, , record",
+        "    Line Input #f, text%1",
+        "    Print #f, text%1; Tab(10); Spc(2); size%1, handle%1;",
+        "    Close #f",
+        "    pic.Line (0, %1)-Step(100, 10), RGB(%1 Mod 256, 0, 0), BF",
+        "    pic.Circle Step (5, 5), %1, vbRed, , , 0.5",
+        "    Select Case Quorin.ParserEvent()",
+        "        Case \"begin File\": size%1 = size%1 + 1&",
+        "        Case Else: Mid$(text%1, 1) = \"x\"",
+        "    End Select",
+    };
+    QStringList text{QStringLiteral("Sub Main")};
+    for (int n = 1; text.size() < lines - 1; ++n) {
+        for (const QString &line : block)
+            text << (line.contains(QLatin1String("%1")) ? line.arg(n) : line);
+    }
+    text << QStringLiteral("End Sub");
+    return text.join(QLatin1String("\r\n"));
+}
+
 // The whole syntax check, as the editor runs it after typing stops and on Save and Close.
 void BM_CheckCondition(benchmark::State &state)
 {
@@ -51,6 +91,34 @@ void BM_CheckCondition(benchmark::State &state)
     for (auto _ : state)
         benchmark::DoNotOptimize(checker.check(script));
     state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+void BM_CheckStatementMix(benchmark::State &state)
+{
+    const QString script = statementMix(int(state.range(0)));
+    BasicSyntaxChecker checker;
+    if (!checker.check(script))
+        state.SkipWithError(qPrintable(checker.errorMessage()));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(checker.check(script));
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+// What qrbtool check does with a loaded rulebase, conditions included: a third of the rules are
+// coding conventions with a condition each.
+void BM_CheckRulebase(benchmark::State &state)
+{
+    QTemporaryDir dir;
+    const QString path = dir.path() + QStringLiteral("/synthetic.qrb");
+    RulebaseManager().Save(*generateRulebase(int(state.range(0))), path);
+    RulebaseFileScan scan;
+    scan.scan(path);
+    const LoadedRulebase loaded = ToolRulebaseLoader::load(path);
+    if (!loaded.rulebase)
+        state.SkipWithError("the synthetic rulebase does not load");
+    for (auto _ : state)
+        benchmark::DoNotOptimize(RulebaseChecker::check(scan, loaded));
+    state.SetComplexityN(state.range(0));
 }
 
 // Colouring every line, as the highlighter does when a script is opened.
@@ -69,6 +137,13 @@ void BM_ColourCondition(benchmark::State &state)
 } // namespace
 
 BENCHMARK(BM_CheckCondition)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_CheckStatementMix)->Arg(2000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_CheckRulebase)
+    ->Arg(1000)
+    ->Arg(3000)
+    ->Arg(10000)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN);
 BENCHMARK(BM_ColourCondition)->Arg(2000)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char **argv)

@@ -54,7 +54,7 @@ public:
                               "\tIf Len(value) > %3 And InStr(value, \"%4\") = 0 Then\r\n"
                               "\t\tQuorin.RaiseViolation\r\n"
                               "\tElseIf value <> \"\" Then\r\n"
-                              "\t\tQuorin.CancelViolation\r\n"
+                              "\t\tQuorin.CancelPendingViolation\r\n"
                               "\tEnd If\r\n"
                               "End Sub")
             .arg(object, property)

@@ -9,5 +9,8 @@ struct BasicDiagnostic
     int column = 1;
     QString message;
 
+    // "line 4, column 3: Expected: End If", as the editor and qrbtool tell it.
+    QString located() const;
+
     friend bool operator==(const BasicDiagnostic &, const BasicDiagnostic &) = default;
 };

@@ -178,6 +178,7 @@ private:
     bool scanRadixNumber();
     void scanString();
     qsizetype dateLiteralEnd() const;
+    qsizetype unterminatedDateEnd() const;
     void scanSymbol();
 
     QStringView m_text;
@@ -272,6 +273,11 @@ std::vector<BasicToken> Scanner::run()
             const qsizetype start = m_pos;
             m_pos = dateLiteralEnd();
             push(BasicTokenKind::Date, start, m_line, int(start - m_lineStart + 1));
+        } else if (c == u'#' && unterminatedDateEnd() > 0) {
+            const qsizetype start = m_pos;
+            m_pos = unterminatedDateEnd();
+            push(BasicTokenKind::Date, start, m_line, int(start - m_lineStart + 1));
+            m_tokens.back().complete = false;
         } else {
             scanSymbol();
         }
@@ -319,8 +325,8 @@ void Scanner::scanWord()
     const QChar after = at(m_pos + 1);
     if (suffix == u'$' || suffix == u'%' || suffix == u'@')
         suffixed = true;
-    else if (suffix == u'&')
-        suffixed = !(isNameChar(after) || after == u'"' || after == u'(' || after == u'[');
+    else if (suffix == u'&') // "Total&(i)" is typed, as VB reads it; "a&b" and "a&"x"" join
+        suffixed = !(isNameChar(after) || after == u'"' || after == u'[');
     else if (suffix == u'!')
         suffixed = !(after.isLetter() || after == u'[');
     else if (suffix == u'#')
@@ -428,34 +434,120 @@ void Scanner::scanString()
     m_tokens.back().complete = complete;
 }
 
-// Whether the text between two '#' reads as a date or a time: words of digits joined by
-// "/", "-", "." or ":" ("1/2/2000", "12:30:00"), and words of letters (month names, AM, PM),
-// with at least one number. "#1, x: Print #" in a line of file output is none.
+bool isDateName(QStringView word)
+{
+    static constexpr QStringView names[] = {
+        u"January",   u"February", u"March",    u"April",    u"May",  u"June", u"July", u"August",
+        u"September", u"October",  u"November", u"December", u"Jan",  u"Feb",  u"Mar",  u"Apr",
+        u"Jun",       u"Jul",      u"Aug",      u"Sep",      u"Sept", u"Oct",  u"Nov",  u"Dec"};
+    return std::any_of(std::begin(names), std::end(names), [word](QStringView name) {
+        return name.compare(word, Qt::CaseInsensitive) == 0;
+    });
+}
+
+bool isDayOrHalfName(QStringView word)
+{
+    static constexpr QStringView names[] = {u"AM",
+                                            u"PM",
+                                            u"A",
+                                            u"P",
+                                            u"Monday",
+                                            u"Tuesday",
+                                            u"Wednesday",
+                                            u"Thursday",
+                                            u"Friday",
+                                            u"Saturday",
+                                            u"Sunday",
+                                            u"Mon",
+                                            u"Tue",
+                                            u"Wed",
+                                            u"Thu",
+                                            u"Fri",
+                                            u"Sat",
+                                            u"Sun"};
+    return std::any_of(std::begin(names), std::end(names), [word](QStringView name) {
+        return name.compare(word, Qt::CaseInsensitive) == 0;
+    });
+}
+
+// Digits joined by one or more of the given separators: "1/2/2000", "12:30".
+bool isJoinedNumber(QStringView word, QStringView separators)
+{
+    bool digitBefore = false;
+    bool joined = false;
+    for (QChar c : word) {
+        if (c.isDigit()) {
+            digitBefore = true;
+        } else if (digitBefore && separators.contains(c)) {
+            digitBefore = false;
+            joined = true;
+        } else {
+            return false;
+        }
+    }
+    return joined && digitBefore;
+}
+
+bool allDigits(QStringView word)
+{
+    return !word.isEmpty()
+           && std::all_of(word.begin(), word.end(), [](QChar c) { return c.isDigit(); });
+}
+
+// A date with its month by name: "1-Jan-2000", "Jan/1/2000".
+bool isJoinedWithMonth(QStringView word)
+{
+    int parts = 0;
+    bool month = false;
+    for (QStringView part : word.tokenize(u'-')) {
+        for (QStringView piece : part.tokenize(u'/')) {
+            ++parts;
+            if (isDateName(piece))
+                month = true;
+            else if (!allDigits(piece))
+                return false;
+        }
+    }
+    return month && parts >= 2;
+}
+
+// Whether the text between two '#' reads as a date or a time: numbers joined by "/", "-", "."
+// or ":" ("1/2/2000", "12:30:00"), month and day names, AM and PM. A lone number needs a month
+// beside it ("January 1, 2000"), so that "#1, a, #" in a line of file output is no date.
 bool plausibleDate(QStringView content)
 {
-    bool number = false;
-    for (QStringView word : content.tokenize(u' ', Qt::SkipEmptyParts)) {
-        if (word.endsWith(u','))
-            word.chop(1);
-        if (word.isEmpty())
-            return false;
-        if (std::all_of(word.begin(), word.end(), [](QChar c) { return c.isLetter(); }))
+    bool joined = false;
+    bool month = false;
+    bool lone = false;
+    qsizetype i = 0;
+    while (i < content.size()) {
+        if (isBlank(content[i])) {
+            ++i;
             continue;
-        bool digitBefore = false;
-        for (QChar c : word) {
-            if (c.isDigit()) {
-                digitBefore = true;
-            } else if (digitBefore && QStringView(u"/-.:").contains(c)) {
-                digitBefore = false;
-            } else {
-                return false;
-            }
         }
-        if (!digitBefore)
+        qsizetype end = i;
+        while (end < content.size() && !isBlank(content[end]))
+            ++end;
+        QStringView word = content.sliced(i, end - i);
+        i = end;
+        const bool comma = word.endsWith(u',');
+        if (comma)
+            word.chop(1);
+        if (isDateName(word)) {
+            month = true;
+        } else if (isDayOrHalfName(word)) {
+            // a weekday or the half of the day
+        } else if (allDigits(word)) {
+            lone = true;
+        } else if (!comma && isJoinedNumber(word, u"/-.:")) {
+            joined = true;
+        } else if (!comma && isJoinedWithMonth(word)) {
+            joined = true;
+        } else {
             return false;
-        number = true;
+        }
     }
-    return number;
+    return joined || (lone && month);
 }
 
 // Where a date literal that starts at m_pos ends, or 0 when '#' starts none.
@@ -466,6 +558,16 @@ qsizetype Scanner::dateLiteralEnd() const
             return plausibleDate(m_text.sliced(m_pos + 1, i - m_pos - 1)) ? i + 1 : 0;
     }
     return 0;
+}
+
+// Where a date literal that lacks its closing '#' ends, or 0 when '#' starts none: "#1/2/2000"
+// and "#12:30" are such, a file number "#1" or "#f - 1" is not.
+qsizetype Scanner::unterminatedDateEnd() const
+{
+    qsizetype end = m_pos + 1;
+    while (!atLineEnd(end) && !isBlank(m_text[end]) && !QStringView(u",;)'").contains(m_text[end]))
+        ++end;
+    return isJoinedNumber(m_text.sliced(m_pos + 1, end - m_pos - 1), u"/-:") ? end : 0;
 }
 
 void Scanner::scanSymbol()

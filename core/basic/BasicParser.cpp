@@ -8,18 +8,9 @@ using K = BasicKeyword;
 using S = BasicSymbol;
 using T = BasicTokenKind;
 
+const char *const LeftOutSuffix = " (in code that #If leaves out)";
 const char *const SelectBeforeCase = "Statements and labels invalid between Select Case and first "
                                      "Case";
-
-// A declared or referenced name as the language compares it: no type suffix, no brackets, no case.
-QString nameKey(QStringView name)
-{
-    if (name.startsWith(u'[') && name.endsWith(u']'))
-        name = name.sliced(1, name.size() - 2);
-    else if (!name.isEmpty() && QStringView(u"%&!#@$").contains(name.back()))
-        name.chop(1);
-    return name.toString().toLower();
-}
 
 bool allDigits(QStringView text)
 {
@@ -41,6 +32,15 @@ QString procedureWord(BasicKeyword kind)
 
 } // namespace
 
+QString BasicParser::nameKey(QStringView name)
+{
+    if (name.startsWith(u'[') && name.endsWith(u']'))
+        name = name.sliced(1, name.size() - 2);
+    else if (!name.isEmpty() && QStringView(u"%&!#@$").contains(name.back()))
+        name.chop(1);
+    return name.toString().toLower();
+}
+
 BasicParser::BasicParser(QStringView text, const std::vector<BasicToken> &tokens)
     : m_text(text)
     , m_tokens(tokens)
@@ -53,6 +53,9 @@ BasicParser::BasicParser(QStringView text, const std::vector<BasicToken> &tokens
     // The lexer always ends with EndOfText; without it there is nothing safe to read.
     if (m_sig.empty() || tokens[size_t(m_sig.back())].kind != T::EndOfText)
         m_sig.clear();
+    // The compiler's own constants, those of a 32-bit Windows host; any other name is Empty.
+    m_constants.insert(QStringLiteral("win32"), {false, -1, {}});
+    m_constants.insert(QStringLiteral("vba6"), {false, -1, {}});
 }
 
 // ---- tokens ----------------------------------------------------------------------------------
@@ -136,7 +139,10 @@ void BasicParser::error(const QString &message, int tokenIndex)
     if ((at->kind == T::LineEnd || at->kind == T::EndOfText) && tokenIndex > 0
         && tokenAt(tokenIndex - 1).kind == T::Comment)
         at = &tokenAt(tokenIndex - 1);
-    m_errors.push_back({at->line, at->column, message});
+    if (inactiveCode())
+        m_warnings.push_back({at->line, at->column, message + QLatin1String(LeftOutSuffix)});
+    else
+        m_errors.push_back({at->line, at->column, message});
     m_lineHasError = true;
 }
 
@@ -152,6 +158,8 @@ void BasicParser::fail(const QString &message, int tokenIndex)
         error(QStringLiteral("Invalid character"), tokenIndex);
     else if (at.kind == T::String && !at.complete)
         error(QStringLiteral("Unterminated string constant"), tokenIndex);
+    else if (at.kind == T::Date && !at.complete)
+        error(QStringLiteral("Unterminated date literal"), tokenIndex);
     else
         error(message, tokenIndex);
     throw SyntaxError{};
@@ -188,6 +196,7 @@ void BasicParser::parseScript()
         advance(); // the line end
     }
 
+    closeDirectives();
     const int end = tokIndex();
     if (m_moduleBlock == ModuleBlock::Type)
         error(QStringLiteral("Expected: End Type"), end);
@@ -213,6 +222,10 @@ void BasicParser::parseLine()
     if (atLineEnd())
         return;
     m_hasCode = true;
+    if (atDirective()) {
+        parseDirective();
+        return;
+    }
     if (m_moduleBlock != ModuleBlock::None) {
         parseModuleBlockLine();
         return;
@@ -223,8 +236,7 @@ void BasicParser::parseLine()
     if (lineNumber || label) {
         if (!m_procedure)
             fail(QStringLiteral("Invalid outside procedure"));
-        if (!m_blocks.empty() && m_blocks.back().kind == BlockKind::Select
-            && !m_blocks.back().caseSeen)
+        if (!labelMayStandHere())
             fail(QString::fromLatin1(SelectBeforeCase));
         if (lineNumber && !allDigits(textOf(tokIndex())))
             fail(QStringLiteral("Syntax error"));
@@ -234,6 +246,15 @@ void BasicParser::parseLine()
             advance();
     }
     parseStatementList();
+}
+
+// Between Select Case and its first Case only a label of that Case (a numbered line) may stand.
+bool BasicParser::labelMayStandHere() const
+{
+    if (m_blocks.empty() || m_blocks.back().kind != BlockKind::Select || m_blocks.back().caseSeen)
+        return true;
+    const BasicToken &next = peek(tok().kind == T::Number ? 1 : 2);
+    return next.keyword == K::Case || next.keyword == K::End;
 }
 
 void BasicParser::defineLabel(int tokenIndex)
@@ -288,6 +309,8 @@ bool BasicParser::parseStatement()
         fail(QString::fromLatin1(SelectBeforeCase));
 
     const BasicToken &t = tok();
+    if (t.kind == T::Identifier && parseWordStatement())
+        return false;
     if (t.kind == T::Identifier || isSymbol(S::Dot) || isSymbol(S::Bang)) {
         parseAssignmentOrCall();
         return false;
@@ -379,12 +402,7 @@ bool BasicParser::parseStatement()
         parseReDim();
         return false;
     case K::Erase:
-        advance();
-        do {
-            if (tok().kind != T::Identifier)
-                fail(QStringLiteral("Expected: identifier"));
-            advance();
-        } while (accept(S::Comma));
+        parseErase();
         return false;
     case K::Error:
         advance();
@@ -435,9 +453,15 @@ void BasicParser::parseModuleStatement()
         parseOption();
         return;
     case K::Dim:
-    case K::Global:
         advance();
         parseVariables();
+        return;
+    case K::Global:
+        advance();
+        if (accept(K::Const))
+            parseConst();
+        else
+            parseVariables();
         return;
     case K::Public:
     case K::Private:
@@ -479,10 +503,89 @@ void BasicParser::parseModuleStatement()
             break;
         }
         break;
+    case K::None:
+        if (isWord(u"Attribute")) {
+            parseAttribute();
+            return;
+        }
+        if (isWord(u"Event")) {
+            parseEvent();
+            return;
+        }
+        if (parseDefType())
+            return;
+        break;
     default:
         break;
     }
     fail(QStringLiteral("Invalid outside procedure"));
+}
+
+// "Attribute VB_Name = "modMain"", as a module exported to a file holds it.
+void BasicParser::parseAttribute()
+{
+    advance();
+    if (tok().kind != T::Identifier)
+        fail(QStringLiteral("Expected: identifier"));
+    advance();
+    while (accept(S::Dot)) {
+        if (tok().kind != T::Identifier)
+            fail(QStringLiteral("Expected: identifier"));
+        advance();
+    }
+    expect(S::Equal, "Expected: =");
+    do
+        expression();
+    while (accept(S::Comma));
+}
+
+// "DefInt A-Z", "DefStr S, T-V": the default type of names by their first letter.
+bool BasicParser::parseDefType()
+{
+    static constexpr QStringView types[] = {u"Bool",
+                                            u"Byte",
+                                            u"Int",
+                                            u"Lng",
+                                            u"LngLng",
+                                            u"LngPtr",
+                                            u"Cur",
+                                            u"Sng",
+                                            u"Dbl",
+                                            u"Dec",
+                                            u"Date",
+                                            u"Str",
+                                            u"Obj",
+                                            u"Var"};
+    const QStringView word = textOf(tokIndex());
+    if (tok().kind != T::Identifier || !word.startsWith(u"Def", Qt::CaseInsensitive)
+        || std::none_of(std::begin(types), std::end(types), [word](QStringView type) {
+               return word.sliced(3).compare(type, Qt::CaseInsensitive) == 0;
+           }))
+        return false;
+    advance();
+    const auto letter = [this] {
+        if (tok().kind != T::Identifier || textOf(tokIndex()).size() != 1)
+            fail(QStringLiteral("Expected: letter"));
+        advance();
+    };
+    do {
+        letter();
+        if (accept(S::Minus))
+            letter();
+    } while (accept(S::Comma));
+    return true;
+}
+
+// "Public Event Changed(ByVal field As String)", behind its modifier.
+void BasicParser::parseEvent()
+{
+    advance();
+    if (tok().kind != T::Identifier)
+        fail(QStringLiteral("Expected: identifier"));
+    declareName(tokIndex());
+    advance();
+    if (accept(S::LeftParen))
+        parseParameters(false);
 }
 
 void BasicParser::parseModifiedDeclaration()
@@ -510,6 +613,10 @@ void BasicParser::parseModifiedDeclaration()
     default:
         if (modifier == K::Friend)
             fail(QStringLiteral("Expected: Sub or Function or Property"));
+        if (isWord(u"Event")) {
+            parseEvent();
+            return;
+        }
         parseVariables();
     }
 }
@@ -539,7 +646,7 @@ void BasicParser::parseModuleBlockLine()
             fail(QStringLiteral("Expected: identifier"));
         advance();
         if (type) {
-            if (accept(S::LeftParen))
+            if (accept(S::LeftParen) && !accept(S::RightParen))
                 parseBounds();
             expect(K::As, "Expected: As");
             parseTypeName(false);
@@ -627,8 +734,11 @@ void BasicParser::parseProcedure()
     advance();
     if (accept(S::LeftParen))
         parseParameters(true);
-    if (kind != K::Sub && accept(K::As))
+    if (kind != K::Sub && accept(K::As)) {
         parseTypeName(false);
+        if (accept(S::LeftParen)) // a function that returns an array
+            expect(S::RightParen, "Expected: )");
+    }
 }
 
 void BasicParser::parseParameters(bool declareNames)
@@ -658,13 +768,16 @@ void BasicParser::parseParameters(bool declareNames)
 void BasicParser::parseDeclare()
 {
     advance();
+    if (isWord(u"PtrSafe"))
+        advance();
     if (!accept(K::Sub) && !accept(K::Function))
         fail(QStringLiteral("Expected: Sub or Function"));
     if (tok().kind != T::Identifier)
         fail(QStringLiteral("Expected: identifier"));
     advance();
-    if (!(tok().kind == T::Identifier
-          && textOf(tokIndex()).compare(u"Lib", Qt::CaseInsensitive) == 0))
+    if (isWord(u"CDecl"))
+        advance();
+    if (!isWord(u"Lib"))
         fail(QStringLiteral("Expected: Lib"));
     advance();
     if (tok().kind != T::String)
@@ -719,13 +832,59 @@ void BasicParser::parseReDim()
     advance();
     accept(K::Preserve);
     do {
+        parseReDimTarget();
+        parseBounds();
+        if (accept(K::As))
+            parseTypeName(true);
+    } while (accept(S::Comma));
+}
+
+// The array of a ReDim up to the "(" of its bounds: "a", "obj.Items", ".Items" inside With,
+// "m.Rows(i).Cells". A parenthesis that a member follows indexes; the last one holds bounds.
+void BasicParser::parseReDimTarget()
+{
+    if (isSymbol(S::Dot) || isSymbol(S::Bang)) {
+        if (!inBlock(BlockKind::With))
+            fail(QStringLiteral("Invalid or unqualified reference"));
+        advance();
+    }
+    for (;;) {
         if (tok().kind != T::Identifier)
             fail(QStringLiteral("Expected: identifier"));
         advance();
-        expect(S::LeftParen, "Expected: (");
-        parseBounds();
-        if (accept(K::As))
-            parseTypeName(false);
+        if (isSymbol(S::LeftParen)) {
+            int depth = 0;
+            int close = m_pos;
+            for (; tokenAt(m_sig[size_t(close)]).kind != T::LineEnd
+                   && tokenAt(m_sig[size_t(close)]).kind != T::EndOfText;
+                 ++close) {
+                const BasicSymbol symbol = tokenAt(m_sig[size_t(close)]).symbol;
+                depth += symbol == S::LeftParen ? 1 : symbol == S::RightParen ? -1 : 0;
+                if (depth == 0)
+                    break;
+            }
+            const BasicSymbol after
+                = tokenAt(m_sig[size_t(std::min(close + 1, int(m_sig.size()) - 1))]).symbol;
+            if (depth != 0 || (after != S::Dot && after != S::Bang)) {
+                advance();
+                return;
+            }
+            callArguments(addNode(NodeKind::Name, m_sig[size_t(m_pos - 1)]));
+        }
+        if (!accept(S::Dot) && !accept(S::Bang))
+            fail(QStringLiteral("Expected: ("));
+    }
+}
+
+// "Erase a, b()", "Erase m.Items".
+void BasicParser::parseErase()
+{
+    advance();
+    do {
+        const BasicToken &t = tok();
+        if (t.kind != T::Identifier && !isSymbol(S::Dot) && !isSymbol(S::Bang))
+            fail(QStringLiteral("Expected: identifier"));
+        inspect(postfix());
     } while (accept(S::Comma));
 }
 
@@ -872,10 +1031,14 @@ void BasicParser::parseCase()
     const int start = tokIndex();
     advance();
     Block *block = middleOf(BlockKind::Select, start, "Case without Select Case");
+    if (block->elseSeen)
+        fail(QStringLiteral("Case after Case Else"), start);
     block->caseSeen = true;
     const bool onParserEvent = block->onParserEvent;
-    if (accept(K::Else))
+    if (accept(K::Else)) {
+        block->elseSeen = true;
         return;
+    }
     do {
         if (accept(K::Is)) {
             const BasicSymbol op = tok().symbol;
@@ -992,17 +1155,23 @@ void BasicParser::parseDo()
 {
     m_blocks.push_back({BlockKind::Do, tokIndex()});
     advance();
-    if (accept(K::While) || accept(K::Until))
+    if (accept(K::While) || accept(K::Until)) {
+        m_blocks.back().doCondition = true;
         expression();
+    }
 }
 
 void BasicParser::parseLoop()
 {
     const int start = tokIndex();
     advance();
-    closeBlock(BlockKind::Do, start, "Loop without Do");
-    if (accept(K::While) || accept(K::Until))
+    const bool doCondition = closeBlock(BlockKind::Do, start, "Loop without Do").doCondition;
+    if (isKeyword(K::While) || isKeyword(K::Until)) {
+        if (doCondition)
+            fail(QStringLiteral("Do While or Do Until cannot end in Loop While or Loop Until"));
+        advance();
         expression();
+    }
 }
 
 void BasicParser::parseExit()
@@ -1040,6 +1209,8 @@ void BasicParser::parseExit()
 void BasicParser::parseOn()
 {
     advance();
+    if (isWord(u"Local") && peek().keyword == K::Error)
+        advance();
     if (accept(K::Error)) {
         if (accept(K::GoTo)) {
             if (isSymbol(S::Minus) && peek().kind == T::Number) { // On Error GoTo -1

@@ -70,9 +70,10 @@ private:
 
         BlockKind kind;
         int token;
-        QString variable; // a For loop's control variable, for Next
-        bool elseSeen = false;
+        QString variable;      // a For loop's control variable, for Next
+        bool elseSeen = false; // also Case Else
         bool caseSeen = false;
+        bool doCondition = false;   // Do While or Do Until
         bool onParserEvent = false; // Select Case Quorin.ParserEvent()
     };
 
@@ -85,6 +86,36 @@ private:
     };
 
     enum class ModuleBlock : quint8 { None, Type, Enum };
+
+    // What the structure of the code is at a point: each branch of #If starts from the state at
+    // the #If, and the code behind #End If goes on from the branch the constants choose.
+    struct ParseState
+    {
+        std::vector<Block> blocks;
+        std::optional<Procedure> procedure;
+        QSet<QString> moduleNames;
+        QSet<QString> procedureNames;
+        ModuleBlock moduleBlock = ModuleBlock::None;
+    };
+
+    struct Directive
+    {
+        int token; // the "#" of #If
+        ParseState start;
+        std::optional<ParseState> chosen;
+        bool outerActive; // the code around the #If is compiled
+        bool active;      // the present branch is compiled
+        bool taken = false;
+        bool elseSeen = false;
+    };
+
+    // The value of a conditional compilation constant or expression.
+    struct ConstantValue
+    {
+        bool isText = false;
+        double number = 0; // Empty is 0
+        QString text;
+    };
 
     struct SyntaxError
     {
@@ -104,6 +135,10 @@ private:
     private:
         BasicParser &m_parser;
     };
+
+    // A declared or referenced name as the language compares it: no type suffix, no brackets, no
+    // case.
+    static QString nameKey(QStringView name);
 
     // Tokens.
     const BasicToken &tok() const { return m_tokens[size_t(m_sig[m_pos])]; }
@@ -131,6 +166,7 @@ private:
 
     // Lines and statements.
     void parseLine();
+    bool labelMayStandHere() const;
     void defineLabel(int tokenIndex);
     void parseStatementList();
     bool parseStatement();
@@ -138,6 +174,9 @@ private:
     void startModuleBlock();
     void parseModuleBlockLine();
     void parseOption();
+    void parseAttribute();
+    bool parseDefType();
+    void parseEvent();
     void parseModifiedDeclaration();
     bool startsProcedure() const;
     void parseProcedure();
@@ -146,6 +185,8 @@ private:
     void parseVariables();
     void parseConst();
     void parseReDim();
+    void parseReDimTarget();
+    void parseErase();
     void parseBounds();
     void parseTypeName(bool allowNew);
     void declareName(int tokenIndex);
@@ -168,6 +209,30 @@ private:
     void parseAssignment();
     void parseAssignmentOrCall();
     void labelReference();
+
+    // Statements led by a word that is no keyword: Open, Line Input, Lock, Name, LSet, ...
+    bool isWord(QStringView word, int ahead = 0) const;
+    bool parseWordStatement();
+    void parseOpen();
+    void parseOpenMode();
+    void parseLineInput();
+    void parseLock();
+    void parseName();
+    void parseFixedAssignment();
+    void parseRaiseEvent();
+    bool parseGraphics(int target);
+    void parsePoint();
+
+    // Conditional compilation.
+    bool atDirective() const;
+    void parseDirective();
+    void parseDirectiveCondition(Directive &directive, bool hasCondition);
+    ParseState saveState() const;
+    void restoreState(ParseState state);
+    bool inactiveCode() const;
+    void closeDirectives();
+    std::optional<ConstantValue> evaluate(int node) const;
+    std::optional<ConstantValue> evaluateBinary(const Node &node) const;
 
     // Block structure.
     int floor() const;
@@ -233,6 +298,9 @@ private:
     bool m_lineHasError = false;
     bool m_hasMain = false;
     bool m_hasCode = false;
+
+    std::vector<Directive> m_directives;
+    QHash<QString, ConstantValue> m_constants; // of #Const, by nameKey
 
     std::vector<BasicDiagnostic> m_errors;
     std::vector<BasicDiagnostic> m_warnings;

@@ -255,8 +255,12 @@ int BasicParser::primary()
     const BasicToken &t = tok();
     const int index = tokIndex();
     switch (t.kind) {
-    case T::Number:
     case T::Date:
+        if (!t.complete)
+            fail(QStringLiteral("Unterminated date literal"));
+        advance();
+        return addNode(NodeKind::Literal, index);
+    case T::Number:
         advance();
         return addNode(NodeKind::Literal, index);
     case T::String:
@@ -360,7 +364,9 @@ int BasicParser::argument()
 {
     if (isSymbol(S::Comma) || isSymbol(S::RightParen) || isSymbol(S::Semicolon) || atStatementEnd())
         return addNode(NodeKind::Missing, tokIndex());
-    if (tok().kind == T::Identifier && peek().symbol == S::ColonEquals) {
+    // A parameter may bear a reserved word's name: InputBox(Prompt:="?", Type:=1).
+    if ((tok().kind == T::Identifier || tok().kind == T::Keyword)
+        && peek().symbol == S::ColonEquals) {
         const int name = tokIndex();
         advance();
         advance();
@@ -437,13 +443,20 @@ bool BasicParser::atBinaryOperator() const
 }
 
 // "Foo a, b" and "Debug.Print a; b": the arguments of a call statement without parentheses.
+// Print items may also stand side by side, "Print "x =" x", which the IDE reads as "x ="; x.
 int BasicParser::unparenthesisedCall(int callee)
 {
+    const bool print
+        = textOf(m_nodes[size_t(callee)].token).compare(u"Print", Qt::CaseInsensitive) == 0;
     std::vector<int> arguments;
     arguments.push_back(argument());
-    while (accept(S::Comma) || accept(S::Semicolon)) {
-        if (atStatementEnd())
+    for (;;) {
+        if (accept(S::Comma) || accept(S::Semicolon)) {
+            if (atStatementEnd())
+                break;
+        } else if (!print || atStatementEnd() || !canStartArgument()) {
             break;
+        }
         arguments.push_back(argument());
     }
     const int node = addNode(NodeKind::Call, m_nodes[size_t(callee)].token, callee, -1);
@@ -484,6 +497,8 @@ void BasicParser::parseAssignmentOrCall()
         inspect(target);
         return;
     }
+    if (parseGraphics(target))
+        return;
     const Node &node = m_nodes[size_t(target)];
     const bool parenthesised = node.kind == NodeKind::Call && node.second >= 0;
     if (atStatementEnd()) {
@@ -661,12 +676,14 @@ QString BasicParser::stringValue(int index) const
         .replace(QLatin1String("\"\""), QLatin1String("\""));
 }
 
+// A member the extension lacks, or an object the vocabulary lacks, makes a rule that never fires:
+// errors. Names inside a known object may be right where the catalogue is silent: warnings.
 void BasicParser::checkQuorinCall(int member, int argStart, int argCount)
 {
     const int name = m_nodes[size_t(member)].token;
     const QuorinMember *known = QuorinExtension::findMember(textOf(name));
     if (!known) {
-        warn(QuorinExtension::memberWarning(textOf(name)), name);
+        error(QuorinExtension::memberWarning(textOf(name)), name);
         return;
     }
     if (argCount != known->argumentCount) {
@@ -681,16 +698,23 @@ void BasicParser::checkQuorinCall(int member, int argStart, int argCount)
     if (!isStringLiteral(object))
         return;
     const QString objectName = stringValue(object);
-    QString warning = property ? QuorinExtension::objectWarning(objectName)
-                               : QuorinExtension::workfieldObjectWarning(objectName);
-    if (warning.isEmpty() && property && isStringLiteral(second)) {
-        warning = QuorinExtension::propertyWarning(objectName, stringValue(second));
-        if (!warning.isEmpty())
-            warn(warning, m_nodes[size_t(second)].token);
+    const int objectToken = m_nodes[size_t(object)].token;
+    const QString unknown = QuorinExtension::objectWarning(objectName);
+    if (!unknown.isEmpty()) {
+        error(unknown, objectToken);
         return;
     }
-    if (!warning.isEmpty())
-        warn(warning, m_nodes[size_t(object)].token);
+    if (!property) {
+        const QString warning = QuorinExtension::workfieldObjectWarning(objectName);
+        if (!warning.isEmpty())
+            warn(warning, objectToken);
+        return;
+    }
+    if (isStringLiteral(second)) {
+        const QString warning = QuorinExtension::propertyWarning(objectName, stringValue(second));
+        if (!warning.isEmpty())
+            warn(warning, m_nodes[size_t(second)].token);
+    }
 }
 
 void BasicParser::checkEventName(int index)

@@ -19,6 +19,11 @@ QString BasicSyntaxChecker::errorText() const
     return m_errors.empty() ? QString() : m_errors.front().message;
 }
 
+QString BasicSyntaxChecker::errorMessage() const
+{
+    return m_errors.empty() ? QString() : m_errors.front().located();
+}
+
 int BasicSyntaxChecker::errorLine() const
 {
     return m_errors.empty() ? 0 : m_errors.front().line;

@@ -23,6 +23,9 @@ public:
     bool syntaxOK() const { return m_errors.empty(); }
     // The first error's text ("Expected: End If"); empty when the syntax is correct.
     QString errorText() const;
+    // The first error with its place, "line 4, column 3: Expected: End If", the message the
+    // editor shows; empty when the syntax is correct.
+    QString errorMessage() const;
     // 1-based; 0 when the syntax is correct.
     int errorLine() const;
     int errorColumn() const;

@@ -139,7 +139,7 @@ struct BasicToken
     BasicTokenKind kind = BasicTokenKind::EndOfText;
     BasicKeyword keyword = BasicKeyword::None;
     BasicSymbol symbol = BasicSymbol::None;
-    bool complete = true; // false for a string that the line ends before its closing quote
+    bool complete = true; // false for a string or date that the line ends before its closing mark
     int offset = 0;
     int length = 0;
     int line = 1;

@@ -61,7 +61,7 @@ ConditionCheck CheckCondition(const QString &text, qint32 ruleType)
     if (!checker.check(text)) {
         result.passed = false;
         result.syntaxError = true;
-        result.message = checker.errorText() + SyntaxErrorSuffix;
+        result.message = checker.errorMessage() + SyntaxErrorSuffix;
         result.line = checker.errorLine();
         result.column = checker.errorColumn();
     }

@@ -16,7 +16,8 @@ struct QuorinMember
 
 // What the condition language knows of the `Quorin` extension, and the vocabulary checks of
 // the names that scripts pass to it. A check gives an empty text when the name is known, else
-// the warning to show.
+// the message to show (the checker makes an unknown member or object an error, the rest
+// warnings).
 namespace QuorinExtension {
 
 inline constexpr QStringView Prefix = u"Quorin.";

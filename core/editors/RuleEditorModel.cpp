@@ -179,7 +179,7 @@ bool RuleEditorModel::CheckSyntax(const QString &text)
                                                 MessageIcon::Information,
                                                 programTitle());
         } else {
-            showWarning(checker.errorText(),
+            showWarning(checker.errorMessage(),
                         programTitle() + ConditionRules::SyntaxErrorTitleSuffix);
         }
         return passed;

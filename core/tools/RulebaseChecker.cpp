@@ -352,19 +352,13 @@ void RulebaseChecker::checkScript(const IRule &rule, const QString &script)
         addRuleFinding(Severity::Error,
                        QStringLiteral("condition-syntax"),
                        rule,
-                       QStringLiteral(": condition line %1, column %2: %3")
-                           .arg(error.line)
-                           .arg(error.column)
-                           .arg(error.message));
+                       QStringLiteral(": condition ") + error.located());
     }
     for (const BasicDiagnostic &warning : checker.warnings()) {
         addRuleFinding(Severity::Warning,
                        QStringLiteral("vocabulary"),
                        rule,
-                       QStringLiteral(": condition line %1, column %2: %3")
-                           .arg(warning.line)
-                           .arg(warning.column)
-                           .arg(warning.message));
+                       QStringLiteral(": condition ") + warning.located());
     }
 }
 

@@ -84,9 +84,19 @@ TEST(BasicLexer, SortsWordsNumbersStringsAndSymbols)
 
 TEST(BasicLexer, DateLiteralsOnlyWhereTheTextReadsAsADate)
 {
-    EXPECT_EQ(describe(QStringLiteral("d = #Jan 1, 2000# + #2000-01-02 12:30:00 PM#")),
-              (QStringList{
-                  "Id:d", "Op:=", "Date:#Jan 1, 2000#", "Op:+", "Date:#2000-01-02 12:30:00 PM#"}));
+    EXPECT_EQ(
+        describe(QStringLiteral("d = #Jan 1, 2000# + #2000-01-02 12:30:00 PM# + #1-Feb-2000#")),
+        (QStringList{"Id:d",
+                     "Op:=",
+                     "Date:#Jan 1, 2000#",
+                     "Op:+",
+                     "Date:#2000-01-02 12:30:00 PM#",
+                     "Op:+",
+                     "Date:#1-Feb-2000#"}));
+    EXPECT_EQ(
+        describe(QStringLiteral("Write #1, a, #1/2/2000#")),
+        (QStringList{
+            "Id:Write", "Punct:#", "Num:1", "Punct:,", "Id:a", "Punct:,", "Date:#1/2/2000#"}));
     EXPECT_EQ(describe(QStringLiteral("Print #1, x: Print #1, y")),
               (QStringList{"Id:Print",
                            "Punct:#",

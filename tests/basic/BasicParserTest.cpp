@@ -1,5 +1,10 @@
 #include "BasicTestSupport.h"
 
+#include "support/TestEnvironment.h"
+
+#include <QDir>
+#include <QFile>
+
 namespace {
 
 QString firstError(const QStringList &lines)
@@ -114,7 +119,7 @@ TEST(BasicParser, AcceptsEveryConstructOfTheDialect)
                 "Foo (1) + 2, 3",
                 "Foo(1)",
                 "Foo",
-                "obj.Method x:=1, y:=2",
+                "obj.Method x:=1, y:=2, Type:=3",
                 "Debug.Print a; b;",
                 "Debug.Print",
                 "Print #1, a",
@@ -157,6 +162,79 @@ TEST(BasicParser, AcceptsEveryConstructOfTheDialect)
          "    REM nothing",
          "    end if: x = 1: y = 2",
          "END SUB"},
+        // File statements.
+        inMain({"Open path For Input As #1",
+                "Open path For Output Access Write Lock Read Write As f Len = 128",
+                "Open path For Append Shared As #f",
+                "Open (path) For Binary Access Read Lock Write As #2",
+                "Open path As 3 Len = Len(rec)",
+                "Line Input #1, s",
+                "Input #1, a, b",
+                "Print #1, a; b, Spc(2); Tab(10); c;",
+                "Print #1,",
+                "Write #1, a, #1/2/2000#, b",
+                "Get #1, , rec",
+                "Put #f, n + 1, rec",
+                "Seek #1, 1",
+                "Lock #1, 1 To 5",
+                "Unlock 1",
+                "Name a & \".bak\" As b",
+                "Close #1, #2",
+                "Close",
+                "Kill p: FileCopy a, b: MkDir d: RmDir d: ChDir d: Reset"}),
+        // Arrays, graphics and printing.
+        inMain({"Erase a, b()",
+                "ReDim Preserve obj.Items(1 To obj.Count + 1)",
+                "ReDim x(1 To m.Size.Max, 0 To 3), y(n) As New Collection",
+                "ReDim m.Rows(1).Cells(3)",
+                "pic.Line (x1, y1)-(x2, y2), vbRed, BF",
+                "Me.Line -Step(10, 10)",
+                "Line Step(1, 1)-(2, 2), , B",
+                "pic.Circle Step (x, y), r",
+                "Circle (x, y), r, , 0, 3.14, 0.5",
+                "obj.PSet (x, y)",
+                "PSet Step(1, 1), vbBlack",
+                "Scale (0, 100)-(100, 0)",
+                "Debug.Print a; b, c",
+                "Debug.Print \"x =\" x"}),
+        // Declarations over several lines, type characters, numbered lines.
+        {"DefInt A-Z",
+         "Attribute VB_Name = \"modMain\"",
+         "Public Event Changed(ByVal name As String)",
+         "Global Const LIMIT% = 10",
+         "Private Declare PtrSafe Function Tick Lib \"kernel32\" Alias \"GetTickCount\" () As Long",
+         "Function Names() As String()",
+         "10 Dim x As _",
+         "       Long, y$, z# _",
+         "       , w@",
+         "20 x = 5& + 1.5! * 2# - 3@ + &H10% + Names&(1)",
+         "30 Mid$(y$, 1) = \"a\": LSet y$ = \"b\": RSet y$ = \"c\"",
+         "40 RaiseEvent Changed(y$)",
+         "50 Select Case x",
+         "60 Case 1",
+         "70 End Select",
+         "End Function"},
+        // Conditional compilation around declarations, procedure headers and cases.
+        {"#Const TRACE = 1",
+         "#If Win64 Then",
+         "Private Declare PtrSafe Sub Sleep Lib \"kernel32\" (ByVal ms As LongLong)",
+         "#Else",
+         "Private Declare Sub Sleep Lib \"kernel32\" (ByVal ms As Long)",
+         "#End If",
+         "#If TRACE Then",
+         "Sub Helper(ByVal level As Long)",
+         "#Else",
+         "Sub Helper(level)",
+         "#End If",
+         "  Select Case level",
+         "#If TRACE > 1 Then",
+         "    Case 1",
+         "#ElseIf TRACE Then",
+         "    Case 2",
+         "#End If",
+         "    Case Else",
+         "  End Select",
+         "End Sub"},
         // An empty text and one made only of comments.
         {""},
         {"' nothing but a comment", "Rem and another"},
@@ -261,6 +339,23 @@ TEST(BasicParser, PlacesEachErrorWhereABasicIdeWould)
         {{"Sub Main", "  If a Then For i = 1 To 2: x = i", "End Sub"}, "2:13 For without Next"},
         {{"Sub Main", "  x = Quorin.RaiseViolation(1)", "End Sub"},
          "2:14 Wrong number of arguments or invalid property assignment"},
+        {{"Sub Main", "  Select Case a", "  Case Else", "  Case 1", "  End Select", "End Sub"},
+         "4:3 Case after Case Else"},
+        {{"Sub Main", "  Do While a", "  Loop Until b", "End Sub"},
+         "3:8 Do While or Do Until cannot end in Loop While or Loop Until"},
+        {{"Sub Main", "  If d > #1/1/2000 Then Stop", "End Sub"}, "2:10 Unterminated date literal"},
+        {{"Sub Main", "  Open f For Inptu As #1", "End Sub"},
+         "2:14 Expected: Input or Output or Append or Binary or Random"},
+        {{"Sub Main", "  Open f For Input #1", "End Sub"}, "2:20 Expected: As"},
+        {{"Sub Main", "  Line Input 1, s", "End Sub"}, "2:14 Expected: #"},
+        {{"Sub Main", "  Name a b", "End Sub"}, "2:10 Expected: end of statement"},
+        {{"Sub Main", "  pic.Line (1, 2)-", "End Sub"}, "2:19 Expected: ("},
+        {{"Sub Main", "  Erase", "End Sub"}, "2:8 Expected: identifier"},
+        {{"Sub Main", "  ReDim x.y", "End Sub"}, "2:12 Expected: ("},
+        {{"DefInt 1"}, "1:8 Expected: letter"},
+        {{"#If A Then", "Sub Main", "End Sub"}, "1:1 #If without #End If"},
+        {{"#Else"}, "1:1 #Else without #If"},
+        {{"#If Len(x) Then", "#End If"}, "1:5 Constant expression required"},
     };
     for (const Case &c : cases)
         EXPECT_EQ(firstError(c.lines), QString::fromLatin1(c.expected))
@@ -294,6 +389,43 @@ TEST(BasicParser, GoesOnAtTheNextLineAndReportsEveryError)
               QStringList{"4:8 Invalid Next control variable reference"});
 }
 
+// Every branch is checked, but the code goes on from the branch the constants choose, and faults
+// in the others are only warnings: the compiler never reads them.
+TEST(BasicParser, ConditionalCompilationFollowsTheConstants)
+{
+    const QString text = script({"#Const B = 2",
+                                 "#Const C = B * 2 + 1",
+                                 "Sub Main",
+                                 "#If C = 5 And Not Mac Then",
+                                 "  a = (",
+                                 "#ElseIf True Then",
+                                 "  b = (",
+                                 "#End If",
+                                 "#If Undefined Or Win64 Then",
+                                 "  c = (",
+                                 "#ElseIf \"1\" + 1 = 2 And &H10 = 16 Then",
+                                 "  d = (",
+                                 "#End If",
+                                 "#If VBA6 Xor Win32 Then",
+                                 "  For i = 1 To 2",
+                                 "#Else",
+                                 "  Do",
+                                 "#End If",
+                                 "#If VBA6 Xor Win32 Then",
+                                 "  Next",
+                                 "#Else",
+                                 "  Loop",
+                                 "#End If",
+                                 "End Sub"});
+    EXPECT_EQ(errorsOf(text),
+              (QStringList{"5:8 Expected: expression", "12:8 Expected: expression"}));
+    const QString leftOut = QStringLiteral(" (in code that #If leaves out)");
+    EXPECT_EQ(warningsOf(text),
+              (QStringList{"7:8 Expected: expression" + leftOut,
+                           "10:8 Expected: expression" + leftOut,
+                           "20:3 Next without For" + leftOut}));
+}
+
 TEST(BasicParser, ContinuationsAndColonsMakeLogicalLines)
 {
     // A continued line is one statement; an error behind it is placed on its physical line.
@@ -324,4 +456,17 @@ TEST(BasicParser, ChecksLargeScriptsInOnePass)
     BasicSyntaxChecker checker;
     EXPECT_TRUE(checker.check(script(lines)));
     EXPECT_GT(checker.tokens().size(), 40000u);
+}
+
+// Whole modules in the styles administrators paste from: each must pass without an error.
+TEST(BasicParser, AcceptsEveryModuleOfTheCorpus)
+{
+    const QDir dir(TestEnvironment::sourceDir() + QStringLiteral("/tests/basic/procedures"));
+    const QStringList names = dir.entryList({QStringLiteral("*.bas")}, QDir::Files, QDir::Name);
+    EXPECT_GE(names.size(), 10);
+    for (const QString &name : names) {
+        QFile file(dir.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(name);
+        EXPECT_EQ(errorsOf(QString::fromUtf8(file.readAll())), QStringList()) << qPrintable(name);
+    }
 }

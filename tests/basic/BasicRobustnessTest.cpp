@@ -108,21 +108,26 @@ QString corpusDir()
     return TestEnvironment::sourceDir() + QStringLiteral("/tests/basic/corpus");
 }
 
-// Every file of the corpus, read three ways: as UTF-8, byte by byte, and as raw UTF-16.
+// Every file of the corpus and of the modules the parser test accepts, read three ways: as
+// UTF-8, byte by byte, and as raw UTF-16.
 std::vector<std::pair<QString, QString>> corpus()
 {
     std::vector<std::pair<QString, QString>> inputs;
-    const QDir dir(corpusDir());
-    for (const QString &name : dir.entryList(QDir::Files, QDir::Name)) {
-        QFile file(dir.filePath(name));
-        if (!file.open(QIODevice::ReadOnly))
-            continue;
-        const QByteArray bytes = file.readAll();
-        inputs.emplace_back(name, QString::fromUtf8(bytes));
-        inputs.emplace_back(name + QStringLiteral(" (bytes)"), QString::fromLatin1(bytes));
-        inputs.emplace_back(
-            name + QStringLiteral(" (utf-16)"),
-            QString(reinterpret_cast<const QChar *>(bytes.constData()), bytes.size() / 2));
+    const QString procedures
+        = TestEnvironment::sourceDir() + QStringLiteral("/tests/basic/procedures");
+    for (const QString &folder : {corpusDir(), procedures}) {
+        const QDir dir(folder);
+        for (const QString &name : dir.entryList(QDir::Files, QDir::Name)) {
+            QFile file(dir.filePath(name));
+            if (!file.open(QIODevice::ReadOnly))
+                continue;
+            const QByteArray bytes = file.readAll();
+            inputs.emplace_back(name, QString::fromUtf8(bytes));
+            inputs.emplace_back(name + QStringLiteral(" (bytes)"), QString::fromLatin1(bytes));
+            inputs.emplace_back(
+                name + QStringLiteral(" (utf-16)"),
+                QString(reinterpret_cast<const QChar *>(bytes.constData()), bytes.size() / 2));
+        }
     }
     return inputs;
 }
@@ -193,6 +198,19 @@ const char *const dictionary[] = {"Sub Main\r\n",
                                   "lbl:",
                                   "Type T\r\n",
                                   "Function F(",
+                                  "#If x Then\r\n",
+                                  "#ElseIf ",
+                                  "#Else\r\n",
+                                  "#End If\r\n",
+                                  "#Const c = ",
+                                  "Open f For Binary Access Read As #",
+                                  "Line Input #",
+                                  ".Line (1, 2)-Step(",
+                                  "Circle Step (",
+                                  "Lock #1, 1 To ",
+                                  "Name a As ",
+                                  "RaiseEvent ",
+                                  "#1/2/2003",
                                   "\t"};
 
 QString mutate(QString text, const std::vector<QString> &seeds, std::mt19937 &random)

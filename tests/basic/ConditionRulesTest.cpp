@@ -63,7 +63,8 @@ TEST(ConditionRules, CheckConditionAppliesTheRulesInOrder)
     EXPECT_TRUE(verdict.syntaxError);
     EXPECT_EQ(
         verdict.message,
-        QStringLiteral("Block If without End If Please fix before trying to save the condition."));
+        QStringLiteral("line 2, column 3: Block If without End If Please fix before trying to "
+                       "save the condition."));
     EXPECT_EQ(verdict.line, 2);
     EXPECT_EQ(verdict.column, 3);
 
@@ -74,5 +75,10 @@ TEST(ConditionRules, CheckConditionAppliesTheRulesInOrder)
     EXPECT_TRUE(CheckCondition(QString(), Naming).passed);
     // Warnings don't stop a condition.
     EXPECT_TRUE(
+        CheckCondition(
+            script({"Sub Main", "  x = Quorin.GetObjectProperty(\"File\", \"Nope\")", "End Sub"}),
+            Coding)
+            .passed);
+    EXPECT_FALSE(
         CheckCondition(script({"Sub Main", "  Call Quorin.Raise()", "End Sub"}), Coding).passed);
 }

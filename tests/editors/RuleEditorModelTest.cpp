@@ -142,9 +142,9 @@ TEST(RuleEditorModel, CheckConditionShowsTheFirstRefusal)
                   "procedures other than the required Sub Main."));
     EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Administrator"));
     EXPECT_EQ(ui.messages[0].icon, MessageIcon::Exclamation);
-    EXPECT_EQ(
-        ui.messages[1].text,
-        QStringLiteral("Block If without End If Please fix before trying to save the condition."));
+    EXPECT_EQ(ui.messages[1].text,
+              QStringLiteral("line 2, column 3: Block If without End If Please fix before trying "
+                             "to save the condition."));
     EXPECT_EQ(ui.messages[1].title, syntaxTitle);
     EXPECT_EQ(
         ui.messages[2].text,
@@ -167,7 +167,7 @@ TEST(RuleEditorModel, CheckSyntaxReportsEitherOutcome)
     EXPECT_EQ(ui.messages[0].text, QStringLiteral("Syntax correct."));
     EXPECT_EQ(ui.messages[0].icon, MessageIcon::Information);
     EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Administrator"));
-    EXPECT_EQ(ui.messages[2].text, QStringLiteral("Block If without End If"));
+    EXPECT_EQ(ui.messages[2].text, QStringLiteral("line 2, column 3: Block If without End If"));
     EXPECT_EQ(ui.messages[2].icon, MessageIcon::Exclamation);
     EXPECT_EQ(ui.messages[2].title, syntaxTitle);
 }

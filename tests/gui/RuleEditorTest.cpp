@@ -117,9 +117,9 @@ TEST(RuleEditor, MarksAnErrorWhileTypingAndSavesOnceItIsFixed)
     dialog.tool(QStringLiteral("tlSaveAndClose"))->trigger();
     EXPECT_TRUE(dialog.isVisible());
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_EQ(
-        ui.messages[0].text,
-        QStringLiteral("Block If without End If Please fix before trying to save the condition."));
+    EXPECT_EQ(ui.messages[0].text,
+              QStringLiteral("line 3, column 3: Block If without End If Please fix before trying "
+                             "to save the condition."));
     EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Administrator - Syntax Error"));
     EXPECT_EQ(editor->textCursor().blockNumber(), 2);
 

@@ -157,7 +157,7 @@ TEST(CheckCommand, ConditionsVocabularyObjectsAndDefaultViolationsAreChecked)
                         "Condition=\"Sub Main%CRLF%",
                         "Condition=\"Function Helper()%CRLF%End Function%CRLF%Sub Main%CRLF%");
     const int vocabulary
-        = replaceOnLine(bytes, "RuleID=\"5024\"", "&quot;Source&quot;", "&quot;Sauce&quot;");
+        = replaceOnLine(bytes, "RuleID=\"5024\"", "StrippedStatement", "StripedStatement");
     const int object
         = replaceOnLine(bytes, "RuleID=\"5070\"", "ObjectType=\"36\"", "ObjectType=\"4711\"");
     const int defaults = lineOf(bytes, "<DefaultViolations>");
