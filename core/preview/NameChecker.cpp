@@ -92,11 +92,9 @@ QString NameChecker::value(const DeclaredObject &object, bool &known) const
     known = true;
     if (m_property.isEmpty())
         return object.name;
-    if (object.properties) {
-        const auto found = object.properties->constFind(m_property);
-        if (found != object.properties->constEnd())
-            return *found;
-    }
+    // Projects and files carry their properties; a key the file lacks is an empty value.
+    if (object.properties)
+        return object.properties->value(m_property);
     known = false;
     return {};
 }

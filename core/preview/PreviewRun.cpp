@@ -30,6 +30,7 @@
 #include "rulebase/ViolationDefinition.h"
 #include "vocabulary/ObjectHelper.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QVariant>
 
@@ -47,6 +48,15 @@ constexpr qint32 ComponentVersionViolation = 2;
 constexpr qint32 ReferenceViolation = 3;
 constexpr qint32 ReferenceVersionViolation = 4;
 constexpr qint32 UnknownControlViolation = 5;
+
+// Project files name paths as Windows writes them; where "/" separates, a path the reader
+// could not resolve still has its backslashes, which name no folder here.
+QString localPath(const QString &path)
+{
+    if (QDir::separator() == QLatin1Char('\\'))
+        return path;
+    return QString(path).replace(QLatin1Char('\\'), QLatin1Char('/'));
+}
 
 struct StoredObject
 {
@@ -182,8 +192,8 @@ void RunState::addUnread(const QString &path, const QString &problem, qint32 pro
     finding.ruleKey = PreviewCheck::UnreadFile;
     finding.ruleTitle = PreviewRun::checkTitle(PreviewCheck::UnreadFile);
     finding.objectKind = QStringLiteral("File");
-    finding.name = QFileInfo(path).fileName();
-    finding.file = path;
+    finding.file = localPath(path);
+    finding.name = QFileInfo(finding.file).fileName();
     finding.message = problem;
     finding.project = project;
     m_result.findings.push_back(finding);
@@ -210,7 +220,7 @@ void RunState::readProjects(const QStringList &paths)
     }
     for (const QString &file : projectFiles) {
         PreviewProject project;
-        project.path = file;
+        project.path = localPath(file);
         project.name = QFileInfo(file).completeBaseName();
         auto reader = std::make_shared<VirtualProject>();
         const qint32 status = reader->LoadProject(file);
@@ -253,7 +263,7 @@ void RunState::scanSources(const PreviewRun::Progress &progress, const std::atom
             }
             ++done;
             m_file = qint32(m_files.size());
-            m_files.push_back(source->Filename());
+            m_files.push_back(localPath(source->Filename()));
             QString problem;
             if (!scanner.scan(*source, problem)) {
                 addUnread(source->Filename(), problem, p);
