@@ -2,6 +2,8 @@
 
 #include <QSet>
 
+#include <algorithm>
+
 namespace DeclarationParser {
 
 namespace {
@@ -367,6 +369,32 @@ Statement parse(QStringView text)
 {
     Statement statement;
     Cursor cursor(text);
+    // Most statements begin with no word a declaration begins with: settled at once.
+    static constexpr QLatin1StringView leaders[] = {
+        QLatin1StringView("Public"),
+        QLatin1StringView("Private"),
+        QLatin1StringView("Friend"),
+        QLatin1StringView("Global"),
+        QLatin1StringView("Dim"),
+        QLatin1StringView("Static"),
+        QLatin1StringView("Declare"),
+        QLatin1StringView("Enum"),
+        QLatin1StringView("Type"),
+        QLatin1StringView("Event"),
+        QLatin1StringView("Sub"),
+        QLatin1StringView("Function"),
+        QLatin1StringView("Property"),
+        QLatin1StringView("Const"),
+        QLatin1StringView("Implements"),
+        QLatin1StringView("End"),
+    };
+    const QStringView first = cursor.peekWord();
+    const bool leads = std::any_of(
+        std::begin(leaders), std::end(leaders), [&](QLatin1StringView leader) {
+            return first.size() == leader.size() && first.compare(leader, Qt::CaseInsensitive) == 0;
+        });
+    if (!leads && !(first.size() >= 6 && first.startsWith(u"Def", Qt::CaseInsensitive)))
+        return statement;
     for (;;) {
         if (cursor.accept(QLatin1StringView("Public")))
             statement.scopeWord = QStringLiteral("Public");

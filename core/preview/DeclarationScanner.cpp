@@ -53,14 +53,18 @@ bool startsWithWord(QStringView text, QLatin1StringView word)
 // analysis finds them.
 QString codeOf(const QString &logical)
 {
-    QString code = modSource::StripQuotedText(logical);
+    // Without a quote there is no literal to empty, and without a colon no ": Rem ".
+    QString code = logical.contains(u'"') ? modSource::StripQuotedText(logical) : logical;
     const qsizetype apostrophe = code.indexOf(u'\'');
     if (apostrophe >= 0)
         code.truncate(apostrophe);
-    const qsizetype rem = code.indexOf(QLatin1StringView(": Rem "), 0, Qt::CaseInsensitive);
-    if (rem >= 0)
-        code.truncate(rem);
-    return trimmed(code).toString();
+    if (code.contains(u':')) {
+        const qsizetype rem = code.indexOf(QLatin1StringView(": Rem "), 0, Qt::CaseInsensitive);
+        if (rem >= 0)
+            code.truncate(rem);
+    }
+    const QStringView kept = trimmed(code);
+    return kept.size() == code.size() ? code : kept.toString();
 }
 
 // The object type of the file itself.
@@ -105,7 +109,7 @@ private:
     enum class Section { Header, Declarations, Procedure, Enum, Type };
 
     void headerLine(QStringView text, qint32 line);
-    void codeLine(const QString &raw, const QString &logical, qint32 line);
+    void codeLine(const QString &raw, const QString &logical, SourceLineType type, qint32 line);
     void statement(QStringView text, Bits &events);
     void declarationStatement(const Statement &parsed, Bits &events);
     void procedureStatement(const Statement &parsed, Bits &events);
@@ -145,8 +149,9 @@ void FileScan::run()
         const qint32 line = nextLine;
         nextLine += 1 + qint32(raw.count(u'\n'));
         const bool attribute = raw.startsWith(QLatin1StringView("Attribute"), Qt::CaseInsensitive);
+        const SourceLineType type = modSource::SourceLineType(logical);
         if (m_file.LineCountingEnabled() && physical > 0)
-            m_lines.IncrementCount(modSource::SourceLineType(logical));
+            m_lines.IncrementCount(type);
         if (attribute)
             continue; // attributes belong to no parser event
         if (m_section == Section::Header) {
@@ -163,7 +168,7 @@ void FileScan::run()
             }
             m_section = Section::Declarations;
         }
-        codeLine(raw, logical, line);
+        codeLine(raw, logical, type, line);
     }
 
     DeclaredObject file;
@@ -233,9 +238,11 @@ void FileScan::headerLine(QStringView text, qint32 line)
     }
 }
 
-void FileScan::codeLine(const QString &raw, const QString &logical, qint32 line)
+void FileScan::codeLine(const QString &raw,
+                        const QString &logical,
+                        SourceLineType type,
+                        qint32 line)
 {
-    const SourceLineType type = modSource::SourceLineType(logical);
     if (type == SourceLineType::Blank || type == SourceLineType::CommentOnly
         || logical.size() > LongestAnalysedLine)
         return;

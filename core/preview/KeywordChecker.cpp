@@ -7,23 +7,7 @@ namespace {
 
 constexpr auto MatchOptions = QRegularExpression::DontCheckSubjectStringMatchOption;
 
-// A pattern that counts or names its groups would change meaning inside another expression.
-bool combinable(const QString &pattern)
-{
-    static const QRegularExpression numbered(
-        QStringLiteral(R"(\\[1-9gk]|\(\?(P|<[A-Za-z_]|'|\||\())"));
-    return !numbered.match(pattern).hasMatch();
-}
-
 } // namespace
-
-struct KeywordChecker::Group
-{
-    std::vector<qsizetype> members;
-    // All members' patterns as alternatives; invalid when they can't be joined.
-    QRegularExpression combined;
-    std::vector<qsizetype> alone; // members always tried one by one
-};
 
 KeywordChecker::KeywordChecker(std::vector<std::shared_ptr<UnauthorisedKeyword>> keywords)
     : m_keywords(std::move(keywords))
@@ -46,6 +30,10 @@ KeywordChecker::KeywordChecker(std::vector<std::shared_ptr<UnauthorisedKeyword>>
             m_problems.push_back({i, QStringLiteral("its parser events have no source line")});
         }
         pattern.optimize();
+        const QStringList literals
+            = events != 0 ? LiteralFilter::requiredLiterals(keyword.Condition()) : QStringList();
+        m_filter.add(i, literals);
+        m_filtered.push_back(!literals.isEmpty());
         m_patterns.push_back(std::move(pattern));
         m_keywordEvents.push_back(events);
         m_events |= events;
@@ -54,33 +42,18 @@ KeywordChecker::KeywordChecker(std::vector<std::shared_ptr<UnauthorisedKeyword>>
 
 KeywordChecker::~KeywordChecker() = default;
 
-KeywordChecker::Group &KeywordChecker::group(quint64 events)
+const std::vector<qsizetype> &KeywordChecker::members(quint64 events)
 {
-    auto found = m_groups.constFind(events);
-    if (found != m_groups.constEnd())
-        return **found;
-    auto made = std::make_shared<Group>();
-    QStringList alternatives;
-    for (qsizetype i = 0; i < qsizetype(m_keywords.size()); ++i) {
-        if ((m_keywordEvents[i] & events) == 0)
-            continue;
-        made->members.push_back(i);
-        if (combinable(m_keywords[i]->Condition()))
-            alternatives << QStringLiteral("(?:") + m_keywords[i]->Condition() + QLatin1Char(')');
-        else
-            made->alone.push_back(i);
+    auto found = m_members.find(events);
+    if (found == m_members.end()) {
+        std::vector<qsizetype> list;
+        for (qsizetype i = 0; i < qsizetype(m_keywords.size()); ++i) {
+            if ((m_keywordEvents[i] & events) != 0)
+                list.push_back(i);
+        }
+        found = m_members.insert(events, std::move(list));
     }
-    if (alternatives.size() > 1) {
-        made->combined = QRegularExpression(alternatives.join(QLatin1Char('|')),
-                                            QRegularExpression::CaseInsensitiveOption);
-        made->combined.optimize();
-    }
-    if (!made->combined.isValid() || alternatives.size() <= 1) {
-        made->combined = QRegularExpression();
-        made->alone = made->members;
-    }
-    m_groups.insert(events, made);
-    return *made;
+    return *found;
 }
 
 void KeywordChecker::check(quint64 events, QStringView code, std::vector<Match> &matches)
@@ -88,23 +61,14 @@ void KeywordChecker::check(quint64 events, QStringView code, std::vector<Match> 
     events &= m_events;
     if (events == 0 || code.isEmpty())
         return;
-    Group &found = group(events);
-    auto tryOne = [&](qsizetype i) {
+    m_hits.assign(m_keywords.size(), 0);
+    m_filter.find(code, m_hits);
+    for (const qsizetype i : members(events)) {
+        if (m_filtered[i] && !m_hits[i])
+            continue;
         const QRegularExpressionMatch match
             = m_patterns[i].match(code, 0, QRegularExpression::NormalMatch, MatchOptions);
         if (match.hasMatch())
             matches.push_back({i, match.captured(0)});
-    };
-    if (found.combined.isValid() && !found.combined.pattern().isEmpty()) {
-        const bool any
-            = found.combined.match(code, 0, QRegularExpression::NormalMatch, MatchOptions)
-                  .hasMatch();
-        if (any) {
-            for (const qsizetype i : found.members)
-                tryOne(i);
-            return;
-        }
     }
-    for (const qsizetype i : found.alone)
-        tryOne(i);
 }

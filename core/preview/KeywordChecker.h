@@ -1,5 +1,7 @@
 #pragma once
 
+#include "preview/LiteralFilter.h"
+
 #include <QHash>
 #include <QRegularExpression>
 #include <QString>
@@ -12,8 +14,8 @@ class UnauthorisedKeyword;
 
 // Tries the patterns of unauthorised keywords on lines of code at the parser events each is
 // assigned to. Patterns match ignoring case, as the language's keywords do, and the first
-// match counts. The keywords of one set of events are tried together in one expression first,
-// so that a line without any of them costs one search.
+// match counts. A pattern runs only on a line that holds a literal every match of it needs,
+// so that most lines cost one pass over their characters whatever the number of keywords.
 class KeywordChecker final
 {
 public:
@@ -41,13 +43,16 @@ public:
     void check(quint64 events, QStringView code, std::vector<Match> &matches);
 
 private:
-    struct Group;
-    Group &group(quint64 events);
+    // The keywords assigned to any of a set of events.
+    const std::vector<qsizetype> &members(quint64 events);
 
     std::vector<std::shared_ptr<UnauthorisedKeyword>> m_keywords;
     std::vector<QRegularExpression> m_patterns; // invalid for a keyword with a problem
     std::vector<quint64> m_keywordEvents;
     std::vector<Problem> m_problems;
+    std::vector<char> m_filtered; // the keyword has literals to look for first
     quint64 m_events = 0;
-    QHash<quint64, std::shared_ptr<Group>> m_groups;
+    QHash<quint64, std::vector<qsizetype>> m_members;
+    LiteralFilter m_filter;
+    std::vector<char> m_hits;
 };

@@ -37,6 +37,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <tuple>
 
 namespace {
 
@@ -90,6 +91,9 @@ private:
                                 qint32 line) const;
     void projectObject(qint32 project);
     QString filePath(qint32 file, qint32 project) const;
+    const QString &objectKind(qint32 objectType);
+    // One copy of each text that many findings repeat.
+    QString intern(const QString &text);
 
     const Rulebase &m_rulebase;
     std::function<bool(const QString &)> m_wants;
@@ -99,6 +103,10 @@ private:
     std::array<std::vector<qsizetype>, ObjectTypes> m_checkersFor;
     std::unique_ptr<KeywordChecker> m_keywords;
     std::vector<KeywordChecker::Match> m_matches;
+    // What the findings of a rule share, made once for it.
+    mutable QHash<const IRule *, PreviewFinding> m_templates;
+    std::array<QString, ObjectTypes> m_objectKinds;
+    QSet<QString> m_texts;
 
     std::vector<std::shared_ptr<VirtualProject>> m_projects; // in step with the result's
     std::vector<QString> m_files;
@@ -143,20 +151,45 @@ RunState::RunState(const Rulebase &rulebase, std::function<bool(const QString &)
 
 PreviewFinding RunState::ruleFinding(const IRule &rule, const QString &file, qint32 line) const
 {
-    PreviewFinding finding;
-    finding.ruleId = QString::number(rule.RuleID());
-    finding.ruleKey = rule.RuleKey();
-    finding.ruleType = rule.RuleType();
-    finding.ruleTitle = rule.Title();
+    auto found = m_templates.find(&rule);
+    if (found == m_templates.end()) {
+        PreviewFinding made;
+        made.ruleId = QString::number(rule.RuleID());
+        made.ruleKey = rule.RuleKey();
+        made.ruleType = rule.RuleType();
+        made.ruleTitle = rule.Title();
+        if (const auto definition = rule.ViolationDefinition()) {
+            made.severity = definition->Severity();
+            made.impact = definition->Impact();
+            made.advice = definition->Advice();
+        }
+        found = m_templates.insert(&rule, made);
+    }
+    PreviewFinding finding = *found;
     finding.file = file;
     finding.line = line;
-    if (const auto definition = rule.ViolationDefinition()) {
-        finding.severity = definition->Severity();
-        finding.impact = definition->Impact();
-        finding.advice = definition->Advice();
-    }
     finding.project = m_project;
     return finding;
+}
+
+const QString &RunState::objectKind(qint32 objectType)
+{
+    static const QString none;
+    if (objectType <= 0 || objectType >= ObjectTypes)
+        return none;
+    QString &kind = m_objectKinds[objectType];
+    if (kind.isEmpty())
+        kind = ObjectHelper::ObjectName(objectType);
+    return kind;
+}
+
+QString RunState::intern(const QString &text)
+{
+    const auto found = m_texts.constFind(text);
+    if (found != m_texts.constEnd())
+        return *found;
+    m_texts.insert(text);
+    return text;
 }
 
 PreviewFinding RunState::checkFinding(const QString &check,
@@ -322,10 +355,11 @@ void RunState::code(quint64 events, QStringView text, qint32 line)
     for (const KeywordChecker::Match &match : m_matches) {
         const UnauthorisedKeyword &keyword = *m_keywords->keywords()[match.keyword];
         PreviewFinding finding = ruleFinding(keyword, filePath(m_file, m_project), line);
-        finding.objectKind = ObjectHelper::ObjectName(23); // Source
-        finding.name = match.text;
-        finding.message = QStringLiteral("'%1' matches the unauthorised keyword pattern '%2'")
-                              .arg(match.text, keyword.Condition());
+        finding.objectKind = objectKind(23); // Source
+        finding.name = intern(match.text);
+        finding.message
+            = intern(QStringLiteral("'%1' matches the unauthorised keyword pattern '%2'")
+                         .arg(match.text, keyword.Condition()));
         m_result.findings.push_back(finding);
     }
 }
@@ -350,7 +384,7 @@ void RunState::checkNames()
                                                       UnknownControlViolation,
                                                       file,
                                                       stored.object.line);
-                finding.objectKind = ObjectHelper::ObjectName(stored.object.objectType);
+                finding.objectKind = objectKind(stored.object.objectType);
                 finding.name = stored.object.name;
                 finding.message = QStringLiteral("the ProgID '%1' has no control tag")
                                       .arg(stored.object.progID);
@@ -363,14 +397,16 @@ void RunState::checkNames()
             if (result.outcome != NameChecker::Outcome::Violation)
                 continue;
             PreviewFinding finding = ruleFinding(*checker.convention(), file, stored.object.line);
-            finding.objectKind = ObjectHelper::ObjectName(stored.object.objectType);
+            finding.objectKind = objectKind(stored.object.objectType);
             finding.name = result.name;
-            finding.message = result.message;
+            finding.message = intern(result.message);
             if (!result.advice.isEmpty())
                 finding.advice = result.advice;
             m_result.findings.push_back(finding);
         }
     }
+    m_objects.clear();
+    m_objects.shrink_to_fit();
     // One line for each convention and project that could not be previewed, with its count.
     for (auto it = m_notPreviewed.cbegin(); it != m_notPreviewed.cend(); ++it) {
         const NameChecker &checker = *m_checkers[it.key().first];
@@ -378,7 +414,7 @@ void RunState::checkNames()
         PreviewFinding finding
             = ruleFinding(*checker.convention(), m_result.projects[m_project].path, 0);
         finding.kind = PreviewFinding::Kind::NotPreviewed;
-        finding.objectKind = ObjectHelper::ObjectName(checker.convention()->ObjectType());
+        finding.objectKind = objectKind(checker.convention()->ObjectType());
         finding.message = checker.notPreviewedReason();
         // The reasons that depend on the object were counted alone; say the first.
         if (finding.message.isEmpty())
@@ -498,31 +534,73 @@ void RunState::checkTolerances()
 PreviewResult RunState::take()
 {
     // Projects in the order given, the project file before its sources, then by file, line
-    // and rule.
+    // and rule (rules by number, then the checks by name). Ranks are found once, so that a
+    // run of many findings sorts small keys.
+    std::vector<PreviewFinding> &findings = m_result.findings;
+    QStringList files;
+    QStringList rules;
+    {
+        QSet<QString> seenFiles;
+        QSet<QString> seenRules;
+        for (const PreviewFinding &finding : findings) {
+            if (!seenFiles.contains(finding.file)) {
+                seenFiles.insert(finding.file);
+                files << finding.file;
+            }
+            if (!seenRules.contains(finding.ruleId)) {
+                seenRules.insert(finding.ruleId);
+                rules << finding.ruleId;
+            }
+        }
+    }
+    std::sort(files.begin(), files.end(), [](const QString &a, const QString &b) {
+        return a.compare(b, Qt::CaseInsensitive) < 0;
+    });
     auto ruleOrder = [](const QString &id) {
         bool number = false;
         const qint64 value = id.toLongLong(&number);
         return std::make_pair(number ? value : std::numeric_limits<qint64>::max(), id);
     };
-    std::stable_sort(m_result.findings.begin(),
-                     m_result.findings.end(),
-                     [&](const PreviewFinding &a, const PreviewFinding &b) {
-                         if (a.project != b.project)
-                             return a.project < b.project;
-                         const QString projectFile
-                             = a.project >= 0 ? m_result.projects[a.project].path : QString();
-                         const bool aProject = a.file == projectFile;
-                         const bool bProject = b.file == projectFile;
-                         if (aProject != bProject)
-                             return aProject;
-                         if (const int order = a.file.compare(b.file, Qt::CaseInsensitive))
-                             return order < 0;
-                         if (a.line != b.line)
-                             return a.line < b.line;
-                         if (ruleOrder(a.ruleId) != ruleOrder(b.ruleId))
-                             return ruleOrder(a.ruleId) < ruleOrder(b.ruleId);
-                         return a.name < b.name;
-                     });
+    std::sort(rules.begin(), rules.end(), [&](const QString &a, const QString &b) {
+        return ruleOrder(a) < ruleOrder(b);
+    });
+    QHash<QString, qint32> fileRank;
+    for (qint32 i = 0; i < qint32(files.size()); ++i)
+        fileRank.insert(files[i], i);
+    QHash<QString, qint32> ruleRank;
+    for (qint32 i = 0; i < qint32(rules.size()); ++i)
+        ruleRank.insert(rules[i], i);
+
+    struct Key
+    {
+        qint32 project;
+        qint32 file; // -1: the project file
+        qint32 line;
+        qint32 rule;
+        size_t index;
+        bool operator<(const Key &o) const
+        {
+            return std::tie(project, file, line, rule, index)
+                   < std::tie(o.project, o.file, o.line, o.rule, o.index);
+        }
+    };
+    std::vector<Key> keys;
+    keys.reserve(findings.size());
+    for (size_t i = 0; i < findings.size(); ++i) {
+        const PreviewFinding &f = findings[i];
+        const bool projectFile = f.project >= 0 && f.file == m_result.projects[f.project].path;
+        keys.push_back({f.project,
+                        projectFile ? -1 : fileRank.value(f.file),
+                        f.line,
+                        ruleRank.value(f.ruleId),
+                        i});
+    }
+    std::sort(keys.begin(), keys.end());
+    std::vector<PreviewFinding> sorted;
+    sorted.reserve(findings.size());
+    for (const Key &key : keys)
+        sorted.push_back(std::move(findings[key.index]));
+    findings = std::move(sorted);
     return std::move(m_result);
 }
 

@@ -1,6 +1,7 @@
 #include "PreviewTestSupport.h"
 
 #include "preview/KeywordChecker.h"
+#include "preview/LiteralFilter.h"
 #include "preview/ParserEvent.h"
 #include "rulebase/UnauthorisedKeyword.h"
 
@@ -8,10 +9,37 @@
 
 namespace P = ParserEvent;
 
-// Keywords are tried at their own events only, ignoring case, each once; those that share
-// events are searched together, and a pattern that can't join them (a back-reference) or
-// can't be tried at all is still handled right.
-TEST(KeywordChecker, TriesEachPatternAtItsEventsAloneOrTogether)
+// The literals a pattern's every match holds, which decide the lines it is run on: a literal
+// too many only costs time, one too few would lose a match.
+TEST(KeywordChecker, FindsTheLiteralsEveryMatchOfAPatternHolds)
+{
+    const struct
+    {
+        const char *pattern;
+        QStringList literals;
+    } rows[] = {
+        {R"(\bGoTo\b)", {"goto"}},
+        {"^Public Sub", {"public sub"}},
+        {R"(\bIIf\s*\()", {"iif"}},
+        {R"(Debug\.Print)", {"debug.print"}},
+        {R"(\b(Open|Close)\s+#)", {"#"}},
+        {"colou?r", {"colo"}},
+        {"ab*c{2}d", {"a"}},
+        {R"(GoSub|Return\b)", {"gosub", "return"}},
+        {R"((\w+) = \1)", {" = "}},
+        {"\u00c4BC", {"\u00e4bc"}},
+        {"[a-z]+", {}},
+        {"a|[0-9]", {}},
+        {"(?x) g o", {}},
+        {R"(\QGo\E)", {}},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(LiteralFilter::requiredLiterals(QString::fromUtf8(row.pattern)), row.literals) << row.pattern;
+}
+
+// Keywords are tried at their own events only, ignoring case, each once, whether or not
+// their pattern has a literal to look for first; one that can't be tried says why.
+TEST(KeywordChecker, TriesEachPatternAtItsEventsAndSaysWhichCantBeTried)
 {
     KeywordChecker checker({
         unauthorisedKeyword(R"(\bGoTo\b)", {P::ProcedureBody}),
