@@ -112,7 +112,8 @@ private:
     std::vector<QString> m_files;
     std::vector<StoredObject> m_objects;
     // Objects a convention can't preview, counted by convention and project.
-    QHash<QPair<qsizetype, qint32>, qint64> m_notPreviewed;
+    // By convention, project and reason.
+    QHash<QPair<QPair<qsizetype, qint32>, QString>, qint64> m_notPreviewed;
     qint32 m_project = -1;
     qint32 m_file = -1;
     PreviewResult m_result;
@@ -147,6 +148,15 @@ RunState::RunState(const Rulebase &rulebase, std::function<bool(const QString &)
             keywords.push_back(keyword);
     }
     m_keywords = std::make_unique<KeywordChecker>(std::move(keywords));
+    // A keyword that can't be tried anywhere is said once, against the rulebase.
+    for (const KeywordChecker::Problem &problem : m_keywords->problems()) {
+        PreviewFinding finding
+            = ruleFinding(*m_keywords->keywords()[problem.keyword], rulebase.Filename(), 0);
+        finding.kind = PreviewFinding::Kind::NotPreviewed;
+        finding.objectKind = objectKind(23); // Source
+        finding.message = QStringLiteral("not previewed (%1)").arg(problem.reason);
+        m_result.findings.push_back(finding);
+    }
 }
 
 PreviewFinding RunState::ruleFinding(const IRule &rule, const QString &file, qint32 line) const
@@ -340,7 +350,8 @@ void RunState::declared(DeclaredObject &&object)
         if (m_checkers[c]->notPreviewedReason().isEmpty())
             keep = true;
         else
-            ++m_notPreviewed[qMakePair(c, m_project)];
+            ++m_notPreviewed[qMakePair(qMakePair(c, m_project),
+                                       m_checkers[c]->notPreviewedReason())];
     }
     if (keep)
         m_objects.push_back({std::move(object), m_file, m_project});
@@ -391,7 +402,7 @@ void RunState::checkNames()
                 m_result.findings.push_back(finding);
             }
             if (result.outcome == NameChecker::Outcome::NotPreviewed) {
-                ++m_notPreviewed[qMakePair(c, stored.project)];
+                ++m_notPreviewed[qMakePair(qMakePair(c, stored.project), result.message)];
                 continue;
             }
             if (result.outcome != NameChecker::Outcome::Violation)
@@ -409,20 +420,17 @@ void RunState::checkNames()
     m_objects.shrink_to_fit();
     // One line for each convention and project that could not be previewed, with its count.
     for (auto it = m_notPreviewed.cbegin(); it != m_notPreviewed.cend(); ++it) {
-        const NameChecker &checker = *m_checkers[it.key().first];
-        m_project = it.key().second;
+        const NameChecker &checker = *m_checkers[it.key().first.first];
+        m_project = it.key().first.second;
         PreviewFinding finding
             = ruleFinding(*checker.convention(), m_result.projects[m_project].path, 0);
         finding.kind = PreviewFinding::Kind::NotPreviewed;
         finding.objectKind = objectKind(checker.convention()->ObjectType());
-        finding.message = checker.notPreviewedReason();
-        // The reasons that depend on the object were counted alone; say the first.
-        if (finding.message.isEmpty())
-            finding.message = QStringLiteral("not previewed");
         finding.message
-            += QStringLiteral(": %1 %2 in scope")
-                   .arg(it.value())
-                   .arg(it.value() == 1 ? QStringLiteral("name") : QStringLiteral("names"));
+            = it.key().second
+              + QStringLiteral(": %1 %2 in scope")
+                    .arg(it.value())
+                    .arg(it.value() == 1 ? QStringLiteral("name") : QStringLiteral("names"));
         m_result.findings.push_back(finding);
     }
 }

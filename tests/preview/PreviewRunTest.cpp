@@ -127,10 +127,30 @@ TEST(PreviewRun, ReportsWhatTheRulebaseWouldOnAProjectAndNamesWhatCouldNotBeRead
     PreviewRun bad(kindsRulebase());
     const PreviewResult none = bad.run({kindsDir() + QStringLiteral("/modKinds.bas"),
                                         kindsDir() + QStringLiteral("/Nothing.vbp")});
-    EXPECT_EQ(describe(none),
-              QStringList({"UnreadFile modKinds.bas:0 'modKinds.bas' Neither a project (.vbp) nor "
-                           "a group (.vbg) file",
-                           "UnreadFile Nothing.vbp:0 'Nothing.vbp' No such file"}));
+    EXPECT_EQ(
+        describe(none),
+        QStringList({"UnreadFile modKinds.bas:0 'modKinds.bas' Neither a project (.vbp) nor a "
+                     "group (.vbg) file",
+                     "UnreadFile Nothing.vbp:0 'Nothing.vbp' No such file"}));
+
+    // Patterns that don't compile are said once, with the reason, and checked nowhere.
+    auto faulty = std::make_shared<Rulebase>();
+    faulty->RuleLists()->AddConvention(unauthorisedKeyword("Sub (", {ParserEvent::ProcedureBody}),
+                                       true);
+    auto body = namingConvention(CO::PrivateVariable, {});
+    body->setBodyActive(true);
+    body->setBodyPattern(QStringLiteral("[A-"));
+    faulty->RuleLists()->AddConvention(body, true);
+    QStringList messages;
+    for (const PreviewFinding &finding :
+         PreviewRun(faulty).run({kindsDir() + QStringLiteral("/Kinds.vbp")}).findings) {
+        if (finding.ruleType != 0)
+            messages << finding.ruleId + QLatin1Char(' ')
+                            + finding.message.section(QLatin1Char(':'), 0, 0);
+    }
+    EXPECT_EQ(messages,
+              QStringList({"5000 not previewed (its pattern does not compile",
+                           "5001 not previewed (the body pattern does not compile"}));
 }
 
 // Cancelled from its progress, a run stops before the next file and says so; tolerances of
