@@ -2,6 +2,7 @@
 
 #include "gui/QtListControl.h"
 #include "gui/QtTreeControl.h"
+#include "gui/preview/frmPreview.h"
 #include "gui/window/Images.h"
 #include "gui/window/frmAbout.h"
 #include "gui/window/frmTip.h"
@@ -391,10 +392,41 @@ bool frmMain::runWindowTool(const QString &toolId)
         // A tool that opens a sub-menu does nothing of its own.
     } else if (id == QLatin1String("tldocumentationconventions")) {
         // No such view exists; the tool stays without effect.
+    } else if (id == QLatin1String("tlpreviewproject")) {
+        previewProject();
     } else {
         return false;
     }
     return true;
+}
+
+// Asks for a project or group and shows what the open rulebase would report on it, in the
+// one results window, which follows the rulebase that is open.
+void frmMain::previewProject()
+{
+    if (!m_application || !m_application->rulebase())
+        return;
+    FileDialogRequest request;
+    request.fileType = 5;
+    request.title = tr("Select VB Project or Group File to Preview");
+    request.folder = gobjAdminData ? gobjAdminData->LastPath() : QString();
+    if (!UserInterface::current().getOpenFilename(request))
+        return;
+    if (gobjAdminData)
+        gobjAdminData->setLastPath(request.folder);
+    if (!m_preview) {
+        m_preview = new frmPreview(this);
+        // An edit there changes the rule's row here, and may make the rulebase dirty.
+        connect(m_preview, &frmPreview::ruleEdited, this, [this] {
+            if (m_application && m_application->CurrentView())
+                m_application->CurrentView()->Populate();
+            Update();
+        });
+    }
+    m_preview->setRulebase(m_application->rulebase());
+    m_preview->show();
+    m_preview->raise();
+    m_preview->preview({request.path});
 }
 
 void frmMain::ExpandCollapseAll(bool expand)
@@ -446,6 +478,8 @@ void frmMain::Update()
     const std::shared_ptr<Rulebase> &rulebase = m_application ? m_application->rulebase() : nullptr;
     setWindowTitle(rulebase ? rulebase->FileTitle() + QStringLiteral(" - ") + programTitle()
                             : programTitle());
+    if (m_preview)
+        m_preview->setRulebase(rulebase);
     SetEnabledState();
 }
 

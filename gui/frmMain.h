@@ -13,6 +13,7 @@ class QAction;
 class QLabel;
 class QMenu;
 class QSplitter;
+class frmPreview;
 class QtListControl;
 class QtTreeControl;
 class QTextBrowser;
@@ -76,6 +77,7 @@ private:
     void createBars();
     void toolClicked(const QString &toolId);
     bool runWindowTool(const QString &toolId);
+    void previewProject();
     void rebuildRecentFiles();
     void updateRuleActiveTools();
     void restoreWindowState();
@@ -107,4 +109,5 @@ private:
     QHash<QString, QAction *> m_actions;   // by lower-case tool id
     QHash<QString, QToolBar *> m_toolbars; // by tool id of their toggle
     QHash<QString, QMenu *> m_popups;      // by band id
+    frmPreview *m_preview = nullptr;       // made on first use; a child window
 };

@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace {
 
 QuorinError fileError(qint32 number, const QString &description)
@@ -33,6 +35,15 @@ SourceTextFile::SourceTextFile(const QString &filename)
         throw fileError(FileErrorNumber::PathFileAccessError,
                         QStringLiteral("Path/File access error"));
     m_bytes = file.readAll();
+    if (m_bytes.startsWith("\xEF\xBB\xBF")) {
+        m_utf8 = true;
+        m_position = 3;
+    } else {
+        const bool ascii = std::all_of(m_bytes.cbegin(), m_bytes.cend(), [](char c) {
+            return static_cast<unsigned char>(c) < 0x80;
+        });
+        m_utf8 = !ascii && m_bytes.isValidUtf8();
+    }
 }
 
 QString SourceTextFile::readLine()
@@ -45,7 +56,8 @@ QString SourceTextFile::readLine()
     qsizetype end = m_position;
     while (end < size && data[end] != '\r' && data[end] != '\n')
         ++end;
-    const QString line = Windows1252::decode(QByteArrayView(data + m_position, end - m_position));
+    const QByteArrayView bytes(data + m_position, end - m_position);
+    const QString line = m_utf8 ? QString::fromUtf8(bytes) : Windows1252::decode(bytes);
     if (end < size && data[end] == '\r') {
         ++end;
         if (end < size && data[end] == '\n')

@@ -13,7 +13,9 @@ constexpr qint32 PathNotFound = 76;
 
 // A text file opened for input and read line by line as the original runtime reads it:
 // Windows-1252, a line ends at CR LF, CR or LF (files written elsewhere end lines in LF), and
-// a last line without a line end is still a line. Reading past the end fails.
+// a last line without a line end is still a line. Reading past the end fails. A file that
+// another editor saved as UTF-8 (a byte order mark, or non-ASCII text that is valid UTF-8,
+// which Windows-1252 text practically never is) is read as UTF-8, without its mark.
 class SourceTextFile final
 {
 public:
@@ -29,4 +31,5 @@ public:
 private:
     QByteArray m_bytes;
     qsizetype m_position = 0;
+    bool m_utf8 = false;
 };

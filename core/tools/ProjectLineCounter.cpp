@@ -1,11 +1,11 @@
 #include "tools/ProjectLineCounter.h"
 
 #include "collections/ObjectKeyedArrayList.h"
+#include "project/ProjectFileList.h"
 #include "project/SourceLineStatistics.h"
 #include "project/VirtualObject.h"
 #include "project/VirtualProject.h"
 #include "project/VirtualSourceFile.h"
-#include "project/modQuorinUtils.h"
 
 #include <QFileInfo>
 
@@ -24,32 +24,7 @@ bool ProjectLineCounter::projectFiles(const QString &argument,
                                       QStringList &projects,
                                       QString &problem)
 {
-    const QFileInfo info(argument);
-    if (!info.exists()) {
-        problem = QStringLiteral("No such file");
-        return false;
-    }
-    if (!info.isFile()) {
-        problem = QStringLiteral("Not a file");
-        return false;
-    }
-    const QString path = info.absoluteFilePath();
-    if (modQuorinUtils::IsVBPFile(path)) {
-        projects << path;
-        return true;
-    }
-    if (modQuorinUtils::IsVBGFile(path)) {
-        const StringArrayList list = modQuorinUtils::ProjectFileListFromVBG(path);
-        for (qint32 i = 1; i <= list.Count(); ++i)
-            projects << list.Item(i);
-        if (list.Count() == 0) {
-            problem = QStringLiteral("The group names no project");
-            return false;
-        }
-        return true;
-    }
-    problem = QStringLiteral("Neither a project (.vbp) nor a group (.vbg) file");
-    return false;
+    return ProjectFileList::expand(argument, projects, problem);
 }
 
 ProjectLineCounter::Project ProjectLineCounter::count(const QString &projectFile)

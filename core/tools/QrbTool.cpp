@@ -4,6 +4,7 @@
 #include "tools/DiffCommand.h"
 #include "tools/DocCommand.h"
 #include "tools/ImportCommand.h"
+#include "tools/PreviewCommand.h"
 #include "tools/ScriptsCommand.h"
 #include "tools/StatsCommand.h"
 #include "tools/ToolContext.h"
@@ -21,6 +22,7 @@ QrbTool::QrbTool()
     m_commands.push_back(std::make_unique<DocCommand>());
     m_commands.push_back(std::make_unique<ScriptsCommand>());
     m_commands.push_back(std::make_unique<ImportCommand>());
+    m_commands.push_back(std::make_unique<PreviewCommand>());
 }
 
 QrbTool::~QrbTool() = default;

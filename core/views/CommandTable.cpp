@@ -52,6 +52,7 @@ const std::vector<ToolDefinition> &tools()
         {"tlScopeTags",                "&Scope Tags...",                         nullptr,                     "Scope Tag List",                     nullptr,          false},
         {"tlTagLists",                 "&Name Tags",                             nullptr,                     nullptr,                              "mnuTagLists",    false},
         {"tlGenerateDocumentation",    "Documentation &Wizard...",               nullptr,                     nullptr,                              nullptr,          false},
+        {"tlPreviewProject",           "Pre&view on Project...",                 nullptr,                     "Preview the Rulebase on a Project",  nullptr,          false},
         {"tlContents",                 "&Contents...",                           nullptr,                     nullptr,                              nullptr,          false},
         {"tlSearch",                   "&Search...",                             nullptr,                     nullptr,                              nullptr,          false},
         {"tlTipOfDay",                 "&Tip Of The Day...",                     nullptr,                     nullptr,                              nullptr,          false},
@@ -77,7 +78,7 @@ const std::vector<BandDefinition> &bands()
          {"tlNew", "tlOpenRule", "tlCloneRule", "tlDeleteRule", "-", "tlRuleActive", "tlRuleInactive"}},
         {"mnuTools", "&Tools", BandKind::Menu,
          {"tlCategoryList", "tlSeverityList", "-", "tlDefaultViolations", "-", "tlTagLists", "-",
-          "tlGenerateDocumentation"}},
+          "tlGenerateDocumentation", "tlPreviewProject"}},
         {"mnuHelp", "&Help", BandKind::Menu,
          {"tlContents", "tlSearch", "-", "tlTipOfDay", "-", "tlTarnWeb", "-", "tlAbout"}},
         {"mnuToolbars", "Toolbars", BandKind::Popup, {"tlFileToolbar", "tlViewToolbar", "tlRuleToolbar", "tlToolsToolbar"}},
@@ -136,7 +137,8 @@ QStringList rulebaseTools()
             QStringLiteral("tlExpandAll"),     QStringLiteral("tlCollapseAll"),         QStringLiteral("tlCurrentView"),
             QStringLiteral("tlQuorinBar"),     QStringLiteral("tlDocumentationWindow"), QStringLiteral("tlCategoryList"),
             QStringLiteral("tlSeverityList"),  QStringLiteral("tlControlTags"),         QStringLiteral("tlDataTags"),
-            QStringLiteral("tlScopeTags"),     QStringLiteral("tlDefaultViolations"),   QStringLiteral("tlGenerateDocumentation")};
+            QStringLiteral("tlScopeTags"),     QStringLiteral("tlDefaultViolations"),   QStringLiteral("tlGenerateDocumentation"),
+            QStringLiteral("tlPreviewProject")};
 }
 
 QStringList authorisedItemTools()

@@ -163,6 +163,7 @@ QIcon tool(const QString &toolId)
         {"tldatatags", "Type"},
         {"tlscopetags", "action-tags"},
         {"tlgeneratedocumentation", "action-wizard"},
+        {"tlpreviewproject", "action-search"},
         {"tlcontents", "action-help"},
         {"tlsearch", "action-search"},
         {"tltipofday", "action-tip"},

@@ -1,0 +1,182 @@
+#include "application/Application.h"
+#include "application/Startup.h"
+#include "collections/ObjectArrayList.h"
+#include "gui/factory/GuiFormFactory.h"
+#include "gui/frmMain.h"
+#include "gui/preview/PreviewResultsModel.h"
+#include "gui/preview/frmPreview.h"
+#include "platform/GlobalObjects.h"
+#include "platform/QuorinAdminData.h"
+#include "rulebase/NamingConvention.h"
+#include "rulebase/PrefixSuffixItem.h"
+#include "rulebase/RuleLists.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/RulebaseManager.h"
+#include "rulebase/UnauthorisedKeyword.h"
+#include "rulebase/ViolationDefinition.h"
+#include "views/IViewController.h"
+#include "views/ViewFactory.h"
+
+#include "support/ScriptedUserInterface.h"
+#include "support/TestEnvironment.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDialog>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTreeView>
+
+#if __has_include(<QAbstractItemModelTester>)
+#include <QAbstractItemModelTester>
+#endif
+
+#include "GuiTestSupport.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Private variables begin with "m" and a capital (5000), GoTo is forbidden (5001), and a
+// convention on controls needs its condition (5002).
+QString writeRulebase()
+{
+    Rulebase rulebase;
+    auto privates = std::make_shared<NamingConvention>();
+    privates->setTitle(QStringLiteral("Private variables"));
+    privates->setObjectType(30);
+    privates->setPrefixActive(true);
+    privates->PrefixItems()->Item(1)->setPSType(1);
+    privates->PrefixItems()->Item(1)->setValue(QStringLiteral("m"));
+    privates->setBodyActive(true);
+    privates->setBodyPattern(QStringLiteral("^[A-Z]"));
+    privates->setPrefixAdvice(QStringLiteral("Begin with m."));
+    privates->setBodyAdvice(QStringLiteral("Go on with a capital."));
+    rulebase.RuleLists()->AddConvention(privates, true);
+    auto keyword = std::make_shared<UnauthorisedKeyword>();
+    keyword->setTitle(QStringLiteral("GoTo"));
+    keyword->setCondition(QStringLiteral(R"(\bGoTo\b)"));
+    keyword->AddParserEventID(30);
+    rulebase.RuleLists()->AddConvention(keyword, true);
+    auto controls = std::make_shared<NamingConvention>();
+    controls->setTitle(QStringLiteral("Controls"));
+    controls->setObjectType(6);
+    controls->setCondition(QStringLiteral("Sub Main\nEnd Sub"));
+    rulebase.RuleLists()->AddConvention(controls, true);
+    for (const std::shared_ptr<IRule> &rule : {std::shared_ptr<IRule>(privates),
+                                               std::shared_ptr<IRule>(keyword),
+                                               std::shared_ptr<IRule>(controls)}) {
+        rule->ViolationDefinition()->setTitle(rule->Title());
+        rule->ViolationDefinition()->setSeverity(3);
+    }
+    const QString path = TestEnvironment::makeTempDir() + QStringLiteral("/Preview.qrb");
+    EXPECT_TRUE(RulebaseManager().Save(rulebase, path));
+    return path;
+}
+
+QStringList groups(const QAbstractItemModel &model)
+{
+    QStringList labels;
+    for (int row = 0; row < model.rowCount(); ++row)
+        labels << model.index(row, 0).data().toString();
+    return labels;
+}
+
+} // namespace
+
+// Tools > Preview on Project: the findings by rule and by file, a filter, the source of a
+// finding, and a rule edited from its row, after which the results are those of the edit.
+TEST(PreviewWindow, ShowsFindingsByRuleAndFileAndRefreshesAfterARuleIsEdited)
+{
+    TestEnvironment::clearSettings();
+    ScriptedUserInterface ui;
+    ASSERT_EQ(CreateGlobalObjects(), 0);
+    gobjAdminData->setFirstUse(false);
+    gobjAdminData->setDisplayTips(false);
+    {
+        frmMain window(false);
+        GuiFormFactory forms(&window);
+        IFormFactory::install(&forms);
+        const std::unique_ptr<GuiFormFactory, void (*)(GuiFormFactory *)> installed(
+            &forms, [](GuiFormFactory *) { IFormFactory::install(nullptr); });
+        Application app(&window, createView);
+        window.setApplication(&app);
+        window.ShowWindow();
+        ASSERT_TRUE(RunStartup(app, writeRulebase()));
+
+        QAction *tool = window.tool(QStringLiteral("tlPreviewProject"));
+        ASSERT_NE(tool, nullptr);
+        EXPECT_TRUE(tool->isEnabled());
+        ui.openAnswers = {TestEnvironment::sourceDir()
+                          + QStringLiteral("/tests/preview/data/Kinds/Kinds.vbp")};
+        tool->trigger();
+        auto *preview = window.findChild<frmPreview *>(QStringLiteral("frmPreview"));
+        ASSERT_NE(preview, nullptr);
+        EXPECT_TRUE(preview->isVisible());
+        auto *findings = child<QTreeView>(*preview, "tvwFindings");
+        QAbstractItemModel &model = *findings->model();
+#if __has_include(<QAbstractItemModelTester>)
+        QAbstractItemModelTester tester(&model,
+                                        QAbstractItemModelTester::FailureReportingMode::Warning);
+#endif
+        auto *counts = child<QLabel>(*preview, "lblCounts");
+        // Two references and two components the rulebase does not authorise, two names, GoTo.
+        EXPECT_EQ(counts->text(), QStringLiteral("7 violations, 1 not previewed, 1 file not read"));
+        EXPECT_EQ(groups(model),
+                  QStringList({"5000 Private variables (2)",
+                               "5001 GoTo (1)",
+                               "5002 Controls (1)",
+                               "Unauthorised Reference (2)",
+                               "Unauthorised Component (2)",
+                               "Files that could not be read (1)"}));
+        EXPECT_EQ(
+            model.index(0, PreviewResultsModel::NameColumn, model.index(0, 0)).data().toString(),
+            QStringLiteral("m_colItems"));
+
+        child<QComboBox>(*preview, "cboGroupBy")->setCurrentIndex(1);
+        EXPECT_EQ(groups(model),
+                  QStringList({"Kinds.vbp (5)", "modKinds.bas (3)", "modMissing.bas (1)"}));
+
+        // The filter narrows the list and says how much it shows.
+        child<QLineEdit>(*preview, "txtFilter")->setText(QStringLiteral("iindex"));
+        EXPECT_EQ(groups(model), QStringList({"modKinds.bas (1)"}));
+        EXPECT_TRUE(counts->text().endsWith(QLatin1String("; 1 shown")))
+            << counts->text().toStdString();
+
+        // A double click on a finding shows its line among its neighbours.
+        const QModelIndex found = model.index(0, 0, model.index(0, 0));
+        emit findings->doubleClicked(found);
+        auto *source = child<QPlainTextEdit>(*preview, "txtSource");
+        EXPECT_TRUE(child<QLabel>(*preview, "lblSource")
+                        ->text()
+                        .endsWith(QLatin1String("modKinds.bas:21")));
+        EXPECT_EQ(source->textCursor().selectedText(), QStringLiteral("    21  Dim iIndex"));
+        EXPECT_TRUE(source->toPlainText().startsWith(QLatin1String("    13  ")));
+
+        // A rule's row opens its dialog; what is saved there is previewed at once.
+        child<QLineEdit>(*preview, "txtFilter")->clear();
+        child<QComboBox>(*preview, "cboGroupBy")->setCurrentIndex(0);
+        whenModal(QStringLiteral("frmNamingConvention"), [](QDialog &dialog) {
+            child<QLineEdit>(dialog, "txtTitle")->setText(QStringLiteral("Module variables"));
+            click(dialog, "cmdOK");
+        });
+        emit findings->doubleClicked(model.index(0, 0));
+        EXPECT_EQ(groups(model).value(0), QStringLiteral("5000 Module variables (2)"))
+            << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
+        EXPECT_TRUE(app.rulebase()->Dirty());
+
+        if (const QString folder = qEnvironmentVariable("QUORIN_SCREENSHOT_DIR");
+            !folder.isEmpty()) {
+            preview->resize(1100, 560);
+            findings->setCurrentIndex(model.index(0, 0, model.index(0, 0)));
+            emit findings->doubleClicked(model.index(1, 0, model.index(0, 0)));
+            EXPECT_TRUE(preview->grab().save(folder + QStringLiteral("/preview-window.png")));
+        }
+        ui.answers = {MessageResult::No};
+        window.close();
+    }
+    DestroyGlobalObjects();
+}

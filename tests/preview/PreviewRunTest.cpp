@@ -1,0 +1,204 @@
+#include "PreviewTestSupport.h"
+
+#include "preview/CatalogueObject.h"
+#include "preview/ParserEvent.h"
+#include "preview/PreviewRun.h"
+#include "rulebase/AuthorisedComponents.h"
+#include "rulebase/AuthorisedReferences.h"
+#include "rulebase/NamingConvention.h"
+#include "rulebase/RuleLists.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/UnauthorisedKeyword.h"
+#include "tools/ProjectLineCounter.h"
+
+#include "support/TestEnvironment.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <gtest/gtest.h>
+
+inline void PrintTo(const QString &text, std::ostream *os)
+{
+    *os << '"' << text.toStdString() << '"';
+}
+
+namespace {
+
+namespace CO = CatalogueObject;
+
+// The rules the expectations below are written for.
+std::shared_ptr<Rulebase> kindsRulebase()
+{
+    auto rulebase = std::make_shared<Rulebase>();
+    const auto lists = rulebase->RuleLists();
+    auto privates = namingConvention(CO::PrivateVariable, {{1, "m"}});
+    privates->setBodyActive(true);
+    privates->setBodyPattern(QStringLiteral("^[A-Z][a-z\u00e4\u00f6\u00fc\u00df]+$"));
+    lists->AddConvention(privates, true); // 5000
+    lists->AddConvention(unauthorisedKeyword(R"(\bGoTo\b)", {ParserEvent::ProcedureBody}),
+                         true); // 5001
+    auto conditional = namingConvention(CO::Control, {{1, "x"}});
+    conditional->setCondition(QStringLiteral("Sub Main\nEnd Sub"));
+    lists->AddConvention(conditional, true);                              // 5002
+    lists->AddConvention(namingConvention(CO::Control, {{2, ""}}), true); // 5003
+    rulebase->setUnknownControlViolation(true);
+    rulebase->AuthorisedComponents()->Add(QStringLiteral("{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}"),
+                                          QStringLiteral("MSCOMCTL.OCX"),
+                                          QStringLiteral("1.0"),
+                                          {});
+    rulebase->AuthorisedReferences()->Add(QStringLiteral("{00020430-0000-0000-C000-000000000046}"),
+                                          QStringLiteral("OLE Automation"),
+                                          QString(),
+                                          QString(),
+                                          {});
+    rulebase->setTolerancePercentageComments(50);
+    return rulebase;
+}
+
+QStringList describe(const PreviewResult &result)
+{
+    QStringList lines;
+    for (const PreviewFinding &f : result.findings)
+        lines << QStringLiteral("%1 %2:%3 '%4' %5")
+                     .arg(f.ruleId, QFileInfo(f.file).fileName())
+                     .arg(f.line)
+                     .arg(f.name, f.message);
+    return lines;
+}
+
+} // namespace
+
+// A group with a missing project, a project with a missing file, every rule class: each name,
+// line, library and limit the rulebase would report, in order, and nothing else.
+TEST(PreviewRun, ReportsWhatTheRulebaseWouldOnAProjectAndNamesWhatCouldNotBeRead)
+{
+    PreviewRun run(kindsRulebase());
+    const PreviewResult result = run.run({kindsDir() + QStringLiteral("/Kinds.vbg")});
+    const QStringList expected = {
+        "5002 Kinds.vbp:0 '' not previewed (needs its condition): 6 names in scope",
+        "TolerancePercentageComments Kinds.vbp:0 'Kinds' comment lines are 1% of the code and "
+        "comment lines (1 of 52), at least 50% required",
+        "UnauthorisedReference Kinds.vbp:3 'Microsoft ActiveX Data Objects 2.5 Library' the "
+        "reference {00000205-0000-0010-8000-00AA006D2EA4} version 2.5 is not authorised",
+        "UnauthorisedComponentVersion Kinds.vbp:5 'MSCOMCTL.OCX' version 2.0 of the component "
+        "{831FDD16-0C5C-11D2-A9FC-0000F8754DA1} is not authorised (authorised: 1.0)",
+        "UnauthorisedComponent Kinds.vbp:6 'comdlg32.ocx' the component "
+        "{F9043C88-F6F2-101A-A3C9-08002B2F49FB} version 1.2 is not authorised",
+        "5003 frmKinds.frm:12 'Text1' expected prefix 'txt' for a VB.TextBox",
+        "5003 frmKinds.frm:18 'lvwItems' expected prefix 'ctl' for a MSComctlLib.ListView",
+        "UnknownControl frmKinds.frm:18 'lvwItems' the ProgID 'MSComctlLib.ListView' has no "
+        "control tag",
+        "5000 modKinds.bas:20 'm_colItems' body '_colItems' does not match the pattern "
+        "'^[A-Z][a-z\u00e4\u00f6\u00fc\u00df]+$'",
+        "5000 modKinds.bas:21 'iIndex' expected prefix 'm'",
+        "5001 modKinds.bas:30 'GoTo' 'GoTo' matches the unauthorised keyword pattern '\\bGoTo\\b'",
+        "UnreadFile modMissing.bas:0 'modMissing.bas' No such file",
+        // The group's second project, which is not there.
+        "UnreadFile Gone.vbp:0 'Gone.vbp' No such file",
+    };
+    EXPECT_EQ(describe(result), expected) << describe(result).join(QLatin1Char('\n')).toStdString();
+    ASSERT_EQ(result.projects.size(), 2u);
+    EXPECT_EQ(result.projects[0].name, QStringLiteral("Kinds"));
+    EXPECT_EQ(result.projects[0].files, 9);
+    EXPECT_EQ(result.projects[0].unreadFiles, 1);
+    EXPECT_FALSE(result.projects[1].read);
+    EXPECT_FALSE(result.cancelled);
+    EXPECT_EQ(result.count(PreviewFinding::Kind::Unread), 2);
+    EXPECT_EQ(result.count(PreviewFinding::Kind::NotPreviewed), 1);
+
+    // A filter keeps the rules named (and unread files, which are no rule's).
+    PreviewRun filtered(kindsRulebase());
+    EXPECT_EQ(filtered.setRuleFilter({QStringLiteral("5001Key"),
+                                      QStringLiteral("unauthorisedcomponent"),
+                                      QStringLiteral("9999"),
+                                      QStringLiteral("Nonsense")}),
+              QStringList({QStringLiteral("9999"), QStringLiteral("Nonsense")}));
+    QStringList rules;
+    for (const PreviewFinding &finding :
+         filtered.run({kindsDir() + QStringLiteral("/Kinds.vbp")}).findings)
+        rules << finding.ruleId;
+    EXPECT_EQ(rules,
+              QStringList({QStringLiteral("UnauthorisedComponent"),
+                           QStringLiteral("5001"),
+                           QStringLiteral("UnreadFile")}));
+
+    // Arguments that are no project: a finding each, named by their path.
+    PreviewRun bad(kindsRulebase());
+    const PreviewResult none = bad.run({kindsDir() + QStringLiteral("/modKinds.bas"),
+                                        kindsDir() + QStringLiteral("/Nothing.vbp")});
+    EXPECT_EQ(
+        describe(none),
+        QStringList({"UnreadFile modKinds.bas:0 'modKinds.bas' Neither a project (.vbp) nor a "
+                     "group (.vbg) file",
+                     "UnreadFile Nothing.vbp:0 'Nothing.vbp' No such file"}));
+
+    // Patterns that don't compile are said once, with the reason, and checked nowhere.
+    auto faulty = std::make_shared<Rulebase>();
+    faulty->RuleLists()->AddConvention(unauthorisedKeyword("Sub (", {ParserEvent::ProcedureBody}),
+                                       true);
+    auto body = namingConvention(CO::PrivateVariable, {});
+    body->setBodyActive(true);
+    body->setBodyPattern(QStringLiteral("[A-"));
+    faulty->RuleLists()->AddConvention(body, true);
+    QStringList messages;
+    for (const PreviewFinding &finding :
+         PreviewRun(faulty).run({kindsDir() + QStringLiteral("/Kinds.vbp")}).findings) {
+        if (finding.ruleType != 0)
+            messages << finding.ruleId + QLatin1Char(' ')
+                            + finding.message.section(QLatin1Char(':'), 0, 0);
+    }
+    EXPECT_EQ(messages,
+              QStringList({"5000 not previewed (its pattern does not compile",
+                           "5001 not previewed (the body pattern does not compile"}));
+}
+
+// Cancelled from its progress, a run stops before the next file and says so; tolerances of
+// a part of a project are not judged.
+TEST(PreviewRun, StopsWhenCancelledFromItsProgress)
+{
+    PreviewRun run(kindsRulebase());
+    QStringList seen;
+    run.setProgress([&](qint64 done, qint64 total, const QString &file) {
+        EXPECT_EQ(total, 10);
+        seen << QFileInfo(file).fileName();
+        if (done == 2)
+            run.cancel();
+    });
+    const PreviewResult result = run.run({kindsDir() + QStringLiteral("/Kinds.vbp")});
+    EXPECT_TRUE(result.cancelled);
+    EXPECT_EQ(seen, QStringList({"modKinds.bas", "cKinds.cls", "frmKinds.frm"}));
+    EXPECT_EQ(result.projects[0].files, 2);
+    for (const PreviewFinding &finding : result.findings)
+        EXPECT_FALSE(finding.ruleId.startsWith(QLatin1String("Tolerance")))
+            << finding.message.toStdString();
+}
+
+// On the shared projects (mixed line ends and code pages, a missing file, a project without
+// files) the preview counts lines exactly as the line statistics do.
+TEST(PreviewRun, CountsTheSharedProjectsAsTheLineStatisticsDo)
+{
+    const QString dir = TestEnvironment::sharedDataDir() + QStringLiteral("/vb6");
+    if (!QFileInfo::exists(dir + QStringLiteral("/Suite/Suite.vbg")))
+        GTEST_SKIP() << "no shared VB6 test data";
+    const QStringList arguments = {dir + QStringLiteral("/Suite/Suite.vbg"),
+                                   dir + QStringLiteral("/Tools/Report Builder/Report Builder.vbp"),
+                                   dir + QStringLiteral("/Tools/Empty.vbp")};
+    PreviewRun run(kindsRulebase());
+    const PreviewResult result = run.run(arguments);
+    ASSERT_EQ(result.projects.size(), 5u);
+    for (const PreviewProject &project : result.projects) {
+        const ProjectLineCounter::Project counted = ProjectLineCounter::count(project.path);
+        EXPECT_EQ(project.files, counted.filesRead) << project.name.toStdString();
+        EXPECT_EQ(project.codeLines, counted.lines.code) << project.name.toStdString();
+        EXPECT_EQ(project.commentLines, counted.lines.comment) << project.name.toStdString();
+        EXPECT_EQ(project.blankLines, counted.lines.blank) << project.name.toStdString();
+        EXPECT_EQ(project.totalLines, counted.lines.total) << project.name.toStdString();
+    }
+    QStringList unread;
+    for (const PreviewFinding &finding : result.findings) {
+        if (finding.kind == PreviewFinding::Kind::Unread)
+            unread << QFileInfo(finding.file).fileName();
+    }
+    EXPECT_EQ(unread, QStringList({QStringLiteral("modGone.bas")}));
+}
