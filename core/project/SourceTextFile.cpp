@@ -37,15 +37,24 @@ SourceTextFile::SourceTextFile(const QString &filename)
 
 QString SourceTextFile::readLine()
 {
+    return Windows1252::decode(readLineBytes());
+}
+
+QByteArrayView SourceTextFile::readLineBytes()
+{
     if (atEnd())
         throw fileError(FileErrorNumber::InputPastEndOfFile,
                         QStringLiteral("Input past end of file"));
     const qsizetype size = m_bytes.size();
     const char *data = m_bytes.constData();
-    qsizetype end = m_position;
-    while (end < size && data[end] != '\r' && data[end] != '\n')
+    const qsizetype start = m_position;
+    qsizetype end = start;
+    // Both line-end bytes are below 14, so one compare settles nearly every byte.
+    while (end < size
+           && (static_cast<unsigned char>(data[end]) > '\r'
+               || (data[end] != '\r' && data[end] != '\n')))
         ++end;
-    const QString line = Windows1252::decode(QByteArrayView(data + m_position, end - m_position));
+    const QByteArrayView line(data + start, end - start);
     if (end < size && data[end] == '\r') {
         ++end;
         if (end < size && data[end] == '\n')

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
 // The runtime's numbers for the file failures a reader can meet.
@@ -23,6 +24,8 @@ public:
     bool atEnd() const { return m_position >= m_bytes.size(); }
     // The next line without its line end; raises error 62 at the end of the file.
     QString readLine();
+    // The same line as the file's bytes, valid while the file lives.
+    QByteArrayView readLineBytes();
     // Length of the file in bytes.
     qint64 size() const { return m_bytes.size(); }
 

@@ -3,6 +3,9 @@
 #include "platform/ErrorFrame.h"
 #include "platform/FileUtils.h"
 #include "platform/TextUtils.h"
+#include "project/Windows1252.h"
+
+#include <cstring>
 
 namespace modSource {
 
@@ -35,7 +38,69 @@ qsizetype quoteFrom(const QString &text, qsizetype start)
     return at;
 }
 
+// A line this long can't reach a position past MaxPosition in StripQuotedText.
+constexpr qsizetype ByteRulesLimit = 32000;
+
+bool isBlankOrLeader(char c)
+{
+    return c == ' ' || c == '\t' || c == ':' || (c >= '0' && c <= '9');
+}
+
+// `text` begins with `word`, lower-case letters and blanks, ignoring the case of the letters.
+bool startsWithWord(const char *text, const char *word, qsizetype length)
+{
+    for (qsizetype i = 0; i < length; ++i) {
+        if (word[i] == ' ' ? text[i] != ' ' : (text[i] | 0x20) != word[i])
+            return false;
+    }
+    return true;
+}
+
 } // namespace
+
+::SourceLineType LineTypeOfWindows1252(QByteArrayView line)
+{
+    const qsizetype size = line.size();
+    if (size > ByteRulesLimit)
+        return SourceLineType(Windows1252::decode(line));
+    const char *const text = line.data();
+    qsizetype end = 0;
+    while (end < size && (text[end] == ' ' || text[end] == '\t'))
+        ++end;
+    if (end == size)
+        return ::SourceLineType::Blank;
+
+    // The rules see the line trimmed of blanks at its end and, in front, of indentation and
+    // line labels (blanks, tabs, colons and digits).
+    end = size;
+    while (text[end - 1] == ' ')
+        --end;
+    qsizetype start = 0;
+    while (start < end && isBlankOrLeader(text[start]))
+        ++start;
+    if (start < end
+        && (text[start] == '\''
+            || (end - start >= 4 && startsWithWord(text + start, "rem ", 4))))
+        return ::SourceLineType::CommentOnly;
+    if (text[end - 1] == '_')
+        return ::SourceLineType::Continuation;
+
+    // An apostrophe or ": Rem " outside string literals; a quote without its closing quote
+    // leaves the rest of the line plain text.
+    for (qsizetype i = start; i < end; ++i) {
+        const char c = text[i];
+        if (c == '\'')
+            return ::SourceLineType::InLineComment;
+        if (c == '"') {
+            const void *close = std::memchr(text + i + 1, '"', size_t(end - i - 1));
+            if (close)
+                i = static_cast<const char *>(close) - text;
+        } else if (c == ':' && end - i >= 6 && startsWithWord(text + i + 1, " rem ", 5)) {
+            return ::SourceLineType::InLineComment;
+        }
+    }
+    return ::SourceLineType::Code;
+}
 
 ::SourceLineType SourceLineType(const QString &line)
 {
