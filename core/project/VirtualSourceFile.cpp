@@ -62,9 +62,19 @@ QByteArrayView trimBlanks(QByteArrayView text)
     return text.sliced(start);
 }
 
-bool startsWithNoCase(QByteArrayView text, const char *prefix)
+// `text` begins with the ASCII `prefix`, the case of letters ignored. No byte beyond ASCII
+// decodes to a character that folds to an ASCII letter, so the bytes can be compared as they are.
+bool startsWithNoCase(QByteArrayView text, QLatin1String prefix)
 {
-    return QLatin1String(text.data(), text.size()).startsWith(QLatin1String(prefix), Qt::CaseInsensitive);
+    if (text.size() < prefix.size())
+        return false;
+    for (qsizetype i = 0; i < prefix.size(); ++i) {
+        const char c = text[i];
+        const char p = prefix[i].toLatin1();
+        if (c != p && !(((c | 0x20) == (p | 0x20)) && (p | 0x20) >= 'a' && (p | 0x20) <= 'z'))
+            return false;
+    }
+    return true;
 }
 
 // One logical line as the file's bytes, continued lines joined. The rules look at ASCII only,
@@ -81,8 +91,10 @@ struct LogicalLine
 void readLogicalLine(SourceTextFile &file, LogicalLine &line, bool withRaw)
 {
     line.physical = 0;
-    line.joined.clear();
-    line.raw.clear();
+    if (!line.joined.isEmpty())
+        line.joined.resize(0); // the buffers keep their room for the next continued line
+    if (!line.raw.isEmpty())
+        line.raw.resize(0);
     bool continues = true;
     while (continues && !file.atEnd()) {
         const QByteArrayView physical = file.readLineBytes();
@@ -208,7 +220,7 @@ qint32 VirtualSourceFile::DetermineNameAndFileType(QString &name, QString &typeW
         };
         const QLatin1String attributeName("Attribute VB_Name = ");
 
-        SourceTextFile file(m_filename);
+        SourceTextFile file(m_filename, SourceTextFile::Reading::AsLinesAreRead);
         // A line is read before the end is tested: an empty file fails in the read.
         do {
             const QString line = file.readLine();
@@ -285,9 +297,10 @@ qint32 VirtualSourceFile::PassLogicalLine(QByteArrayView first,
                                           QByteArrayView &logical,
                                           qint32 physical)
 {
-    if (startsWithNoCase(first, "Attribute")) {
+    if (!first.isEmpty() && (first[0] | 0x20) == 'a'
+        && startsWithNoCase(first, QLatin1String("Attribute"))) {
         // Attribute lines count for nothing; the name attribute closes the header.
-        if (startsWithNoCase(first, "Attribute VB_Name ="))
+        if (startsWithNoCase(first, QLatin1String("Attribute VB_Name =")))
             m_headerSeen = true;
         return 0;
     }
@@ -297,7 +310,8 @@ qint32 VirtualSourceFile::PassLogicalLine(QByteArrayView first,
     qsizetype digits = 0;
     while (digits < logical.size() && logical[digits] >= '0' && logical[digits] <= '9')
         ++digits;
-    logical = logical.sliced(digits);
+    if (digits > 0)
+        logical = logical.sliced(digits);
     return physical;
 }
 
@@ -316,15 +330,23 @@ qint32 VirtualSourceFile::CountSourceLines()
     const auto stats = m_object->LineStats();
     m_object->setHasLSTATS(true);
     // GetNextSourceLine's walk without the decoding: the line types need the bytes only.
+    qint64 counted[4] = {};
     guardedVoid("GetNextSourceLine", Module, [&] {
         LogicalLine line;
         while (!m_file->atEnd()) {
             readLogicalLine(*m_file, line, false);
             QByteArrayView logical = line.text;
-            if (PassLogicalLine(line.first, logical, line.physical) > 0 && m_lineCountingEnabled)
-                stats->IncrementCount(modSource::LineTypeOfWindows1252(logical));
+            if (PassLogicalLine(line.first, logical, line.physical) > 0 && m_lineCountingEnabled) {
+                const auto type = qint32(modSource::LineTypeOfWindows1252(logical));
+                if (type < 4)
+                    ++counted[type];
+            }
         }
     });
+    for (qint32 type = 0; type < 4; ++type) {
+        if (counted[type] > 0)
+            stats->IncrementCount(type, counted[type]);
+    }
     Disconnect();
     return 0;
 }
