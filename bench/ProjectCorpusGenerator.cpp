@@ -9,32 +9,70 @@
 
 namespace {
 
-const char *const nouns[] = {"Invoice", "Customer", "Ledger",   "Account",  "Order",    "Stock",
-                             "Report",  "Payment",  "Supplier", "Tax",      "Address",  "Batch",
-                             "Journal", "Period",   "Currency", "Item",     "Price",    "Discount",
-                             "Queue",   "Session",  "Printer",  "Export",   "Import",   "Setting",
-                             "User",    "Audit",    "Budget",   "Contract", "Delivery", "Employee"};
-const char *const verbs[] = {"Load",  "Save",   "Check",   "Post",    "Print",  "Find",
-                             "Update", "Delete", "Format",  "Build",   "Close",  "Open",
-                             "Refresh", "Apply", "Validate", "Calculate"};
-const char *const words[] = {"the",   "value", "is",    "checked", "before", "posting", "when",
-                             "record", "total", "must", "not",     "exceed", "limit",   "for",
-                             "each",  "line",  "of",    "order",   "and",    "caller",  "handles",
-                             "error", "here",  "later", "old",     "code",   "keep",    "in",
-                             "step",  "with"};
+const char *const nouns[]
+    = {"Invoice",  "Customer", "Ledger",  "Account",  "Order",    "Stock",   "Report",   "Payment",
+       "Supplier", "Tax",      "Address", "Batch",    "Journal",  "Period",  "Currency", "Item",
+       "Price",    "Discount", "Queue",   "Session",  "Printer",  "Export",  "Import",   "Setting",
+       "User",     "Audit",    "Budget",  "Contract", "Delivery", "Employee"};
+const char *const verbs[] = {"Load",
+                             "Save",
+                             "Check",
+                             "Post",
+                             "Print",
+                             "Find",
+                             "Update",
+                             "Delete",
+                             "Format",
+                             "Build",
+                             "Close",
+                             "Open",
+                             "Refresh",
+                             "Apply",
+                             "Validate",
+                             "Calculate"};
+const char *const words[]
+    = {"the",   "value", "is",   "checked", "before",  "posting", "when", "record",
+       "total", "must",  "not",  "exceed",  "limit",   "for",     "each", "line",
+       "of",    "order", "and",  "caller",  "handles", "error",   "here", "later",
+       "old",   "code",  "keep", "in",      "step",    "with"};
 // Words of comments and captions that are not ASCII, written in the file's encoding.
-const char16_t *const accented[] = {u"café",   u"naïve",  u"Müller", u"Straße",
-                                    u"résumé", u"“quoted”", u"10 €", u"façade",
-                                    u"señor",  u"–"};
-const char *const controls[] = {"TextBox", "Label", "CommandButton", "ComboBox", "CheckBox",
-                                "ListBox", "OptionButton", "PictureBox", "Timer"};
-const char *const systemNames[] = {"Billing", "Order Entry", "Stock", "Payroll", "Ledger",
-                                   "Reports", "Customer Care", "Purchasing", "Audit", "Delivery"};
+const char16_t *const accented[] = {u"café",
+                                    u"naïve",
+                                    u"Müller",
+                                    u"Straße",
+                                    u"résumé",
+                                    u"“quoted”",
+                                    u"10 €",
+                                    u"façade",
+                                    u"señor",
+                                    u"–"};
+const char *const controls[] = {"TextBox",
+                                "Label",
+                                "CommandButton",
+                                "ComboBox",
+                                "CheckBox",
+                                "ListBox",
+                                "OptionButton",
+                                "PictureBox",
+                                "Timer"};
+const char *const systemNames[] = {"Billing",
+                                   "Order Entry",
+                                   "Stock",
+                                   "Payroll",
+                                   "Ledger",
+                                   "Reports",
+                                   "Customer Care",
+                                   "Purchasing",
+                                   "Audit",
+                                   "Delivery"};
 
 class Random
 {
 public:
-    explicit Random(unsigned seed) : m_engine(seed) {}
+    explicit Random(unsigned seed)
+        : m_engine(seed)
+    {
+    }
 
     int below(int n) { return int(m_engine() % unsigned(n)); }
     int between(int low, int high) { return low + below(high - low + 1); }
@@ -98,21 +136,28 @@ QByteArray windows1252(const QString &text)
 class SourceText
 {
 public:
-    SourceText(Random &random, bool tabs) : m_random(random), m_indent(tabs ? "\t" : "    ") {}
+    SourceText(Random &random, bool tabs)
+        : m_random(random)
+        , m_indent(tabs ? "\t" : "    ")
+    {
+    }
 
     QStringList lines;
 
     void moduleHeader(const QString &name)
     {
-        lines << QStringLiteral("Attribute VB_Name = \"%1\"").arg(name) << QStringLiteral("Option Explicit");
+        lines << QStringLiteral("Attribute VB_Name = \"%1\"").arg(name)
+              << QStringLiteral("Option Explicit");
     }
     void classHeader(const QString &name)
     {
         lines << QStringLiteral("VERSION 1.0 CLASS") << QStringLiteral("BEGIN")
-              << QStringLiteral("  MultiUse = -1  'True") << QStringLiteral("  Persistable = 0  'NotPersistable")
+              << QStringLiteral("  MultiUse = -1  'True")
+              << QStringLiteral("  Persistable = 0  'NotPersistable")
               << QStringLiteral("  DataBindingBehavior = 0  'vbNone")
               << QStringLiteral("  DataSourceBehavior  = 0  'vbNone")
-              << QStringLiteral("  MTSTransactionMode  = 0  'NotAnMTSObject") << QStringLiteral("END");
+              << QStringLiteral("  MTSTransactionMode  = 0  'NotAnMTSObject")
+              << QStringLiteral("END");
         attributes(name, false);
     }
     // A form or user control: its layout of controls, some inside frames, then its attributes.
@@ -120,19 +165,25 @@ public:
     {
         lines << QStringLiteral("VERSION 5.00");
         for (int i = m_random.below(3); i > 0; --i)
-            lines << QStringLiteral("Object = \"%1#2.0#0\"; \"NWCTL%2.OCX\"").arg(m_random.guid()).arg(i);
+            lines << QStringLiteral("Object = \"%1#2.0#0\"; \"NWCTL%2.OCX\"")
+                         .arg(m_random.guid())
+                         .arg(i);
         lines << QStringLiteral("Begin VB.%1 %2").arg(type, name);
         lines << QStringLiteral("   BorderStyle     =   1  'Fixed Single")
               << QStringLiteral("   Caption         =   \"%1\"").arg(phrase(3))
               << QStringLiteral("   ClientHeight    =   %1").arg(m_random.between(2000, 9000))
-              << QStringLiteral("   ClientLeft      =   45") << QStringLiteral("   ClientTop       =   330")
+              << QStringLiteral("   ClientLeft      =   45")
+              << QStringLiteral("   ClientTop       =   330")
               << QStringLiteral("   ClientWidth     =   %1").arg(m_random.between(3000, 12000))
-              << QStringLiteral("   ScaleHeight     =   4215") << QStringLiteral("   ScaleWidth      =   6690");
+              << QStringLiteral("   ScaleHeight     =   4215")
+              << QStringLiteral("   ScaleWidth      =   6690");
         if (m_random.chance(40))
             font(QStringLiteral("   "));
         for (int i = 0; i < controlCount; ++i) {
             if (m_random.chance(10)) {
-                lines << QStringLiteral("   Begin VB.Frame fra%1%2").arg(QLatin1String(m_random.pick(nouns))).arg(i);
+                lines << QStringLiteral("   Begin VB.Frame fra%1%2")
+                             .arg(QLatin1String(m_random.pick(nouns)))
+                             .arg(i);
                 control(QStringLiteral("      "), i);
                 for (int j = m_random.between(1, 6); j > 0; --j, ++i)
                     control(QStringLiteral("      "), i);
@@ -154,11 +205,12 @@ public:
 private:
     void attributes(const QString &name, bool predeclared)
     {
-        lines << QStringLiteral("Attribute VB_Name = \"%1\"").arg(name)
-              << QStringLiteral("Attribute VB_GlobalNameSpace = False")
-              << QStringLiteral("Attribute VB_Creatable = %1").arg(predeclared ? "False" : "True")
-              << QStringLiteral("Attribute VB_PredeclaredId = %1").arg(predeclared ? "True" : "False")
-              << QStringLiteral("Attribute VB_Exposed = False") << QStringLiteral("Option Explicit");
+        lines
+            << QStringLiteral("Attribute VB_Name = \"%1\"").arg(name)
+            << QStringLiteral("Attribute VB_GlobalNameSpace = False")
+            << QStringLiteral("Attribute VB_Creatable = %1").arg(predeclared ? "False" : "True")
+            << QStringLiteral("Attribute VB_PredeclaredId = %1").arg(predeclared ? "True" : "False")
+            << QStringLiteral("Attribute VB_Exposed = False") << QStringLiteral("Option Explicit");
     }
     void font(const QString &indent)
     {
@@ -172,10 +224,15 @@ private:
     void control(const QString &indent, int index)
     {
         const QString type = QLatin1String(m_random.pick(controls));
-        lines << indent + QStringLiteral("Begin VB.%1 ctl%2%3").arg(type, QLatin1String(m_random.pick(nouns))).arg(index);
+        lines << indent
+                     + QStringLiteral("Begin VB.%1 ctl%2%3")
+                           .arg(type, QLatin1String(m_random.pick(nouns)))
+                           .arg(index);
         const QString inner = indent + QStringLiteral("   ");
         if (m_random.chance(60))
-            lines << inner + QStringLiteral("Caption         =   \"%1\"").arg(phrase(m_random.between(1, 4)));
+            lines << inner
+                         + QStringLiteral("Caption         =   \"%1\"")
+                               .arg(phrase(m_random.between(1, 4)));
         lines << inner + QStringLiteral("Height          =   %1").arg(m_random.between(200, 3000))
               << inner + QStringLiteral("Left            =   %1").arg(m_random.between(0, 9000))
               << inner + QStringLiteral("TabIndex        =   %1").arg(index)
@@ -199,7 +256,10 @@ private:
         return text;
     }
     QString noun() { return QLatin1String(m_random.pick(nouns)); }
-    QString name() { return QLatin1String(m_random.pick(verbs)) + noun() + QString::number(m_random.below(500)); }
+    QString name()
+    {
+        return QLatin1String(m_random.pick(verbs)) + noun() + QString::number(m_random.below(500));
+    }
     QString number() { return QString::number(m_random.below(1000)); }
 
     void routine(int total)
@@ -211,11 +271,14 @@ private:
         lines << QString();
         for (int i = m_random.chance(60) ? m_random.between(1, 3) : 0; i > 0; --i)
             lines << QStringLiteral("' ") + phrase(m_random.between(3, 12));
-        lines << (m_random.chance(70) ? QStringLiteral("Public ") : QStringLiteral("Private ")) + kind
-                     + QLatin1Char(' ') + routineName + QStringLiteral("(ByVal s%1 As String, Optional ByVal lLimit As Long = %2)").arg(noun(), number())
+        lines << (m_random.chance(70) ? QStringLiteral("Public ") : QStringLiteral("Private "))
+                     + kind + QLatin1Char(' ') + routineName
+                     + QStringLiteral("(ByVal s%1 As String, Optional ByVal lLimit As Long = %2)")
+                           .arg(noun(), number())
                      + (function ? QStringLiteral(" As Boolean") : QString());
         if (m_random.chance(5))
-            lines << QStringLiteral("Attribute %1.VB_Description = \"%2\"").arg(routineName, phrase(5));
+            lines << QStringLiteral("Attribute %1.VB_Description = \"%2\"")
+                         .arg(routineName, phrase(5));
         lines << m_indent + QStringLiteral("Dim lCount As Long, sText As String, bOk As Boolean");
         int label = numbered ? 10 : 0;
         if (numbered)
@@ -224,7 +287,9 @@ private:
             statement(m_indent, label, 0);
         if (numbered) {
             lines << m_indent + QStringLiteral("Exit ") + kind << QStringLiteral("ErrHandler:")
-                  << m_indent + QStringLiteral("LogError \"%1\", Err.Number, Err.Description").arg(routineName);
+                  << m_indent
+                         + QStringLiteral("LogError \"%1\", Err.Number, Err.Description")
+                               .arg(routineName);
         }
         lines << QStringLiteral("End ") + kind;
     }
@@ -254,9 +319,11 @@ private:
                 code(QStringLiteral("Set o%1 = New c%1").arg(n));
             }
         } else if (kind < 32) {
-            code(QStringLiteral("bOk = (l%1 > %2) ' %3").arg(n, number(), phrase(m_random.between(2, 8))));
+            code(QStringLiteral("bOk = (l%1 > %2) ' %3")
+                     .arg(n, number(), phrase(m_random.between(2, 8))));
         } else if (kind < 44) {
-            lines << (m_random.chance(80) ? indent : QString()) + QStringLiteral("' ") + phrase(m_random.between(2, 14));
+            lines << (m_random.chance(80) ? indent : QString()) + QStringLiteral("' ")
+                         + phrase(m_random.between(2, 14));
         } else if (kind < 47) {
             lines << indent + QStringLiteral("Rem ") + phrase(m_random.between(2, 8));
         } else if (kind < 58) {
@@ -287,7 +354,8 @@ private:
             QString fields;
             for (int i = m_random.between(3, 14); i > 0; --i)
                 fields += noun() + QStringLiteral("Id, ");
-            code(QStringLiteral("sSql = \"SELECT %1Total FROM %2 WHERE Name = '\" & s%2 & \"'\"").arg(fields, n));
+            code(QStringLiteral("sSql = \"SELECT %1Total FROM %2 WHERE Name = '\" & s%2 & \"'\"")
+                     .arg(fields, n));
         } else if (kind < 95 && depth < 3) {
             code(QStringLiteral("For lCount = 1 To UBound(a%1)").arg(n));
             for (int i = m_random.between(1, 3); i > 0; --i)
@@ -315,35 +383,53 @@ struct SourceFile
 class CorpusWriter
 {
 public:
-    CorpusWriter(const QString &folder, unsigned seed) : m_root(QDir(folder).absolutePath() + QLatin1Char('/')), m_random(seed) {}
+    CorpusWriter(const QString &folder, unsigned seed)
+        : m_root(QDir(folder).absolutePath() + QLatin1Char('/'))
+        , m_random(seed)
+    {
+    }
 
     ProjectCorpus write()
     {
         std::vector<SourceFile> shared;
         for (int i = 0; i < 24; ++i)
-            shared.push_back(source(QStringLiteral("Shared"), i % 3 == 0 ? QStringLiteral("Class") : QStringLiteral("Module")));
+            shared.push_back(
+                source(QStringLiteral("Shared"),
+                       i % 3 == 0 ? QStringLiteral("Class") : QStringLiteral("Module")));
 
         QStringList groups;
         QStringList projects;
         QStringList groupProjects; // the first project of each system, for other groups to name
         const int systems = 40;
         for (int s = 0; s < systems; ++s) {
-            const QString system = QStringLiteral("Sys%1 %2").arg(s + 1, 2, 10, QLatin1Char('0')).arg(QLatin1String(m_random.pick(systemNames)));
+            const QString system = QStringLiteral("Sys%1 %2")
+                                       .arg(s + 1, 2, 10, QLatin1Char('0'))
+                                       .arg(QLatin1String(m_random.pick(systemNames)));
             std::vector<SourceFile> common;
             for (int i = m_random.between(3, 12); i > 0; --i)
-                common.push_back(source(system + QStringLiteral("/Common"), m_random.chance(30) ? QStringLiteral("Class") : QStringLiteral("Module")));
+                common.push_back(source(system + QStringLiteral("/Common"),
+                                        m_random.chance(30) ? QStringLiteral("Class")
+                                                            : QStringLiteral("Module")));
             QByteArray group = "VBGROUP 5.0\r\n";
             for (int p = m_random.between(2, 6); p > 0; --p) {
                 const QString file = project(system, common, shared);
                 projects << file;
                 group += (group.contains("StartupProject=") ? "Project=" : "StartupProject=")
-                         + windows1252(projectLinePath(QString(m_root + system + QLatin1Char('/')), file)) + "\r\n";
+                         + windows1252(
+                             projectLinePath(QString(m_root + system + QLatin1Char('/')), file))
+                         + "\r\n";
             }
             // Some systems build with a project of an earlier one.
             if (s > 0 && m_random.chance(20))
-                group += "Project=" + windows1252(projectLinePath(QString(m_root + system + QLatin1Char('/')), groupProjects.at(m_random.below(int(groupProjects.size()))))) + "\r\n";
+                group += "Project="
+                         + windows1252(projectLinePath(
+                             QString(m_root + system + QLatin1Char('/')),
+                             groupProjects.at(m_random.below(int(groupProjects.size())))))
+                         + "\r\n";
             groupProjects << projects.at(projects.size() - 1);
-            const QString groupFile = m_root + system + QLatin1Char('/') + system.mid(6).remove(QLatin1Char(' ')) + QStringLiteral(".vbg");
+            const QString groupFile = m_root + system + QLatin1Char('/')
+                                      + system.mid(6).remove(QLatin1Char(' '))
+                                      + QStringLiteral(".vbg");
             save(groupFile, group);
             groups << groupFile;
             read(groupFile, group);
@@ -358,15 +444,24 @@ public:
 
 private:
     // Writes one project below `system` and gives the path of its file.
-    QString project(const QString &system, const std::vector<SourceFile> &common, const std::vector<SourceFile> &shared)
+    QString project(const QString &system,
+                    const std::vector<SourceFile> &common,
+                    const std::vector<SourceFile> &shared)
     {
-        const QString name = QLatin1String(m_random.pick(nouns)) + QLatin1String(m_random.pick(verbs)) + QString::number(++m_projectCount);
-        const QString folder = system + QLatin1Char('/') + (m_random.chance(15) ? name.left(4) + QLatin1Char(' ') + name.mid(4) : name);
+        const QString name = QLatin1String(m_random.pick(nouns))
+                             + QLatin1String(m_random.pick(verbs))
+                             + QString::number(++m_projectCount);
+        const QString folder
+            = system + QLatin1Char('/')
+              + (m_random.chance(15) ? name.left(4) + QLatin1Char(' ') + name.mid(4) : name);
         const QString formFolder = m_random.chance(30) ? folder + QStringLiteral("/Forms") : folder;
         std::vector<SourceFile> files;
         for (int i = m_random.between(3, 22); i > 0; --i) {
             const int kind = m_random.below(100);
-            const QString word = kind < 30 ? QStringLiteral("Form") : kind < 55 ? QStringLiteral("Module") : kind < 95 ? QStringLiteral("Class") : QStringLiteral("UserControl");
+            const QString word = kind < 30   ? QStringLiteral("Form")
+                                 : kind < 55 ? QStringLiteral("Module")
+                                 : kind < 95 ? QStringLiteral("Class")
+                                             : QStringLiteral("UserControl");
             files.push_back(source(word == QLatin1String("Form") ? formFolder : folder, word));
         }
         if (!common.empty())
@@ -376,25 +471,57 @@ private:
             files.push_back(shared.at(m_random.below(int(shared.size()))));
 
         const QString projectFolder = m_root + folder + QLatin1Char('/');
-        QString text = QStringLiteral("Type=%1\r\n").arg(QLatin1String(m_random.chance(60) ? "Exe" : m_random.chance(70) ? "OleDll" : "Control"));
-        text += QStringLiteral("Reference=*\\G{00020430-0000-0000-C000-000000000046}#2.0#0#C:\\WINDOWS\\System32\\nwole.tlb#Automation Types\r\n");
+        QString text = QStringLiteral("Type=%1\r\n")
+                           .arg(QLatin1String(m_random.chance(60)   ? "Exe"
+                                              : m_random.chance(70) ? "OleDll"
+                                                                    : "Control"));
+        text += QStringLiteral("Reference=*\\G{00020430-0000-0000-C000-000000000046}#2.0#0#C:"
+                               "\\WINDOWS\\System32\\nwole.tlb#Automation Types\r\n");
         for (int i = m_random.below(4); i > 0; --i)
-            text += QStringLiteral("Reference=*\\G%1#%2.%3#0#C:\\Program Files\\Common Files\\Northwind\\nwlib%2%3.dll#Northwind Library %2.%3\r\n").arg(m_random.guid()).arg(m_random.between(1, 3)).arg(m_random.below(9));
+            text += QStringLiteral("Reference=*\\G%1#%2.%3#0#C:\\Program Files\\Common "
+                                   "Files\\Northwind\\nwlib%2%3.dll#Northwind Library %2.%3\r\n")
+                        .arg(m_random.guid())
+                        .arg(m_random.between(1, 3))
+                        .arg(m_random.below(9));
         for (int i = m_random.below(3); i > 0; --i)
-            text += QStringLiteral("Object=%1#%2.0#0; NWCTL%3.OCX\r\n").arg(m_random.guid()).arg(m_random.between(1, 2)).arg(i);
+            text += QStringLiteral("Object=%1#%2.0#0; NWCTL%3.OCX\r\n")
+                        .arg(m_random.guid())
+                        .arg(m_random.between(1, 2))
+                        .arg(i);
         for (const SourceFile &file : files) {
             const QString path = projectLinePath(projectFolder, m_root + file.path);
             if (file.word == QLatin1String("Form") || file.word == QLatin1String("UserControl"))
                 text += file.word + QLatin1Char('=') + path + QStringLiteral("\r\n");
             else
-                text += file.word + QLatin1Char('=') + file.name + QStringLiteral("; ") + path + QStringLiteral("\r\n");
+                text += file.word + QLatin1Char('=') + file.name + QStringLiteral("; ") + path
+                        + QStringLiteral("\r\n");
         }
-        text += QStringLiteral("Startup=\"Sub Main\"\r\nHelpFile=\"\"\r\nTitle=\"%1\"\r\nExeName32=\"%1.exe\"\r\nName=\"%1\"\r\n").arg(name);
-        const char *keys[] = {"HelpContextID=\"0\"", "CompatibleMode=\"0\"", "MajorVer=1", "MinorVer=4", "RevisionVer=27",
-                              "AutoIncrementVer=1", "ServerSupportFiles=0", "VersionCompanyName=\"Northwind Café\"",
-                              "CompilationType=0", "OptimizationType=0", "FavorPentiumPro(tm)=0", "CodeViewDebugInfo=0",
-                              "NoAliasing=0", "BoundsCheck=0", "OverflowCheck=0", "FlPointCheck=0", "FDIVCheck=0",
-                              "UnroundedFP=0", "StartMode=0", "Unattended=0", "Retained=0", "ThreadPerObject=0",
+        text += QStringLiteral("Startup=\"Sub "
+                               "Main\"\r\nHelpFile=\"\"\r\nTitle=\"%1\"\r\nExeName32=\"%1."
+                               "exe\"\r\nName=\"%1\"\r\n")
+                    .arg(name);
+        const char *keys[] = {"HelpContextID=\"0\"",
+                              "CompatibleMode=\"0\"",
+                              "MajorVer=1",
+                              "MinorVer=4",
+                              "RevisionVer=27",
+                              "AutoIncrementVer=1",
+                              "ServerSupportFiles=0",
+                              "VersionCompanyName=\"Northwind Café\"",
+                              "CompilationType=0",
+                              "OptimizationType=0",
+                              "FavorPentiumPro(tm)=0",
+                              "CodeViewDebugInfo=0",
+                              "NoAliasing=0",
+                              "BoundsCheck=0",
+                              "OverflowCheck=0",
+                              "FlPointCheck=0",
+                              "FDIVCheck=0",
+                              "UnroundedFP=0",
+                              "StartMode=0",
+                              "Unattended=0",
+                              "Retained=0",
+                              "ThreadPerObject=0",
                               "MaxNumberOfThreads=1"};
         for (const char *key : keys)
             text += QString::fromUtf8(key) + QStringLiteral("\r\n");
@@ -422,7 +549,8 @@ private:
         if (m_random.chance(4))
             path = path.toLower();
         else if (m_random.chance(10))
-            path = path.left(path.lastIndexOf(QLatin1Char('/')) + 1) + path.mid(path.lastIndexOf(QLatin1Char('/')) + 1).toUpper();
+            path = path.left(path.lastIndexOf(QLatin1Char('/')) + 1)
+                   + path.mid(path.lastIndexOf(QLatin1Char('/')) + 1).toUpper();
         return path.replace(QLatin1Char('/'), QLatin1Char('\\'));
     }
 
@@ -431,9 +559,16 @@ private:
     {
         SourceFile file;
         file.word = word;
-        const QString prefix = word == QLatin1String("Form") ? QStringLiteral("frm") : word == QLatin1String("Module") ? QStringLiteral("mod") : word == QLatin1String("Class") ? QStringLiteral("c") : QStringLiteral("ctl");
-        const QString extension = word == QLatin1String("Form") ? QStringLiteral(".frm") : word == QLatin1String("Module") ? QStringLiteral(".bas") : word == QLatin1String("Class") ? QStringLiteral(".cls") : QStringLiteral(".ctl");
-        file.name = prefix + QLatin1String(m_random.pick(verbs)) + QLatin1String(m_random.pick(nouns)) + QString::number(++m_sourceCount);
+        const QString prefix = word == QLatin1String("Form")     ? QStringLiteral("frm")
+                               : word == QLatin1String("Module") ? QStringLiteral("mod")
+                               : word == QLatin1String("Class")  ? QStringLiteral("c")
+                                                                 : QStringLiteral("ctl");
+        const QString extension = word == QLatin1String("Form")     ? QStringLiteral(".frm")
+                                  : word == QLatin1String("Module") ? QStringLiteral(".bas")
+                                  : word == QLatin1String("Class")  ? QStringLiteral(".cls")
+                                                                    : QStringLiteral(".ctl");
+        file.name = prefix + QLatin1String(m_random.pick(verbs))
+                    + QLatin1String(m_random.pick(nouns)) + QString::number(++m_sourceCount);
         file.path = folder + QLatin1Char('/') + file.name + extension;
 
         // Sizes spread as in real code bases: most files a few hundred lines, a few huge ones.

@@ -33,7 +33,8 @@ int main(int argc, char **argv)
     if (!writeList(args.at(1) + QStringLiteral("/arguments.txt"), corpus.arguments, '\n')
         || !writeList(args.at(1) + QStringLiteral("/reads.txt"), corpus.reads, '\0'))
         return 1;
-    QTextStream(stdout) << corpus.projects << " projects, " << corpus.reads.size() << " file reads, "
-                        << corpus.sourceLines << " source lines, " << corpus.bytes << " bytes" << Qt::endl;
+    QTextStream(stdout) << corpus.projects << " projects, " << corpus.reads.size()
+                        << " file reads, " << corpus.sourceLines << " source lines, "
+                        << corpus.bytes << " bytes" << Qt::endl;
     return 0;
 }

@@ -22,10 +22,10 @@ QString matchInFolder(const QString &folder, const QString &segment)
     // Also what a folder that can't be listed has to go by.
     if (QFileInfo::exists(folder + segment))
         return segment;
-    const QStringList entries = cached ? cached->entries
-                                       : QDir(folder).entryList(QDir::AllEntries | QDir::Hidden
-                                                                | QDir::System
-                                                                | QDir::NoDotAndDotDot);
+    const QStringList entries = cached
+                                    ? cached->entries
+                                    : QDir(folder).entryList(QDir::AllEntries | QDir::Hidden
+                                                             | QDir::System | QDir::NoDotAndDotDot);
     for (const QString &entry : entries) {
         if (Text::same(entry, segment))
             return entry;

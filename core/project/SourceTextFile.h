@@ -23,7 +23,7 @@ class SourceTextFile final
 {
 public:
     enum class Reading {
-        Whole, // all at once
+        Whole,          // all at once
         AsLinesAreRead, // a block at a time, for a reader that may stop after a few lines
     };
 

@@ -8,8 +8,8 @@
 #include "platform/TextUtils.h"
 #include "project/SourceLineStatistics.h"
 #include "project/SourceTextFile.h"
-#include "project/Windows1252.h"
 #include "project/VirtualObject.h"
+#include "project/Windows1252.h"
 #include "project/modQuorinUtils.h"
 #include "project/modSource.h"
 #include "project/modVOSource.h"
@@ -293,9 +293,8 @@ bool VirtualSourceFile::GetNextSourceLine(QString &rawText,
     });
 }
 
-qint32 VirtualSourceFile::PassLogicalLine(QByteArrayView first,
-                                          QByteArrayView &logical,
-                                          qint32 physical)
+qint32
+VirtualSourceFile::PassLogicalLine(QByteArrayView first, QByteArrayView &logical, qint32 physical)
 {
     if (!first.isEmpty() && (first[0] | 0x20) == 'a'
         && startsWithNoCase(first, QLatin1String("Attribute"))) {

@@ -90,8 +90,7 @@ bool startsWithWord(const char *text, const char *word, qsizetype length)
         --end;
     start = std::min(start, end);
     if (start < end
-        && (text[start] == '\''
-            || (end - start >= 4 && startsWithWord(text + start, "rem ", 4))))
+        && (text[start] == '\'' || (end - start >= 4 && startsWithWord(text + start, "rem ", 4))))
         return ::SourceLineType::CommentOnly;
     if (text[end - 1] == '_')
         return ::SourceLineType::Continuation;

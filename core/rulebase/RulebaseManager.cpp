@@ -185,7 +185,8 @@ bool RulebaseManager::Save(Rulebase &rulebase, const QString &filename)
         {
             TarnXMLWriter::Element root = writer.RootElement(QLatin1String("Quorin_Rulebase"));
             root.setAttribute(QLatin1String("SchemaVersion"), currentSchemaVersion());
-            auto section = [&root](const char *name) { return root.AddElement(QLatin1String(name)); };
+            auto section
+                = [&root](const char *name) { return root.AddElement(QLatin1String(name)); };
             {
                 TarnXMLWriter::Element element = section("RulebaseProperties");
                 SaveProperties(element, rulebase);

@@ -38,7 +38,8 @@ public:
     bool Save(Rulebase &rulebase, const QString &filename);
 
     void SaveCategoryList(TarnXMLWriter::Element &element, const CategoryList &list);
-    void SaveSeverityList(TarnXMLWriter::Element &element, const ObjectKeyedArrayList<SeverityItem> &list);
+    void SaveSeverityList(TarnXMLWriter::Element &element,
+                          const ObjectKeyedArrayList<SeverityItem> &list);
 
     // Whether hidden categories load; by default only the administrator's program sees them.
     static bool IsQuorinAdministrator();
@@ -57,14 +58,17 @@ private:
                   const char *elementName,
                   int tagType);
     void LoadDefaultViolations(TarnXMLElement element, DefaultViolations &violations);
-    void SaveDefaultViolations(TarnXMLWriter::Element &element, const DefaultViolations &violations);
+    void SaveDefaultViolations(TarnXMLWriter::Element &element,
+                               const DefaultViolations &violations);
     void
     LoadCategoryList(TarnXMLElement element, RulebaseLoadCriteria &criteria, CategoryList &list);
     void LoadSeverityList(TarnXMLElement element, ObjectKeyedArrayList<SeverityItem> &list);
     void LoadAuthorisedComponents(TarnXMLElement element, AuthorisedComponents &list);
-    void SaveAuthorisedComponents(TarnXMLWriter::Element &element, const AuthorisedComponents &list);
+    void SaveAuthorisedComponents(TarnXMLWriter::Element &element,
+                                  const AuthorisedComponents &list);
     void LoadAuthorisedReferences(TarnXMLElement element, AuthorisedReferences &list);
-    void SaveAuthorisedReferences(TarnXMLWriter::Element &element, const AuthorisedReferences &list);
+    void SaveAuthorisedReferences(TarnXMLWriter::Element &element,
+                                  const AuthorisedReferences &list);
     void LoadUnauthorisedKeywords(TarnXMLElement element,
                                   RulebaseLoadCriteria &criteria,
                                   RuleLists &rules);
@@ -78,7 +82,8 @@ private:
     bool IsLoadableRule(RulebaseLoadCriteria &criteria, const TarnXMLElement &element);
     bool CheckSchemaVersion(TarnXMLElement root);
     void LoadViolationDefinition(const TarnXMLElement &rule, ViolationDefinition &definition);
-    void SaveViolationDefintion(TarnXMLWriter::Element &rule, const ViolationDefinition &definition);
+    void SaveViolationDefintion(TarnXMLWriter::Element &rule,
+                                const ViolationDefinition &definition);
     void LoadReport(TarnXMLElement element, Rulebase &rulebase);
     void SaveReport(TarnXMLWriter::Element &element, const ObjectArrayList<IListItem> &sections);
     QString UpdateSchema(TarnXMLElement root, const QString &version);

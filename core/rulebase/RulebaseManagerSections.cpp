@@ -384,7 +384,8 @@ void RulebaseManager::LoadUnauthorisedKeywords(TarnXMLElement element,
     });
 }
 
-void RulebaseManager::SaveUnauthorisedKeywords(TarnXMLWriter::Element &element, const RuleLists &rules)
+void RulebaseManager::SaveUnauthorisedKeywords(TarnXMLWriter::Element &element,
+                                               const RuleLists &rules)
 {
     guardedVoid("SaveUnauthorisedKeywords", module, [&] {
         const auto &list = *rules.UnauthorisedKeywords();
@@ -526,7 +527,8 @@ void RulebaseManager::SaveNamingConventions(TarnXMLWriter::Element &element, con
 
 // ---------------------------------------------------------------- report
 
-void RulebaseManager::SaveReport(TarnXMLWriter::Element &element, const ObjectArrayList<IListItem> &sections)
+void RulebaseManager::SaveReport(TarnXMLWriter::Element &element,
+                                 const ObjectArrayList<IListItem> &sections)
 {
     guardedVoid("SaveReport", module, [&] {
         for (qint32 i = 1; i <= sections.Count(); ++i) {

@@ -50,13 +50,15 @@ TEST_F(ProjectPaths, FindsFilesIgnoringCaseThroughFoldersWithSpacesAndDotDot)
         std::optional<FolderListingCache> listings;
         if (kept)
             listings.emplace();
-        EXPECT_EQ(RelativeToAbsolutePath(QStringLiteral("..\\TOOLS DIR\\form one.FRM"), base), real);
-        EXPECT_EQ(RelativeToAbsolutePath(QStringLiteral("..\\..\\my projects\\tools dir\\FORM ONE.frm"),
-                                         base),
+        EXPECT_EQ(RelativeToAbsolutePath(QStringLiteral("..\\TOOLS DIR\\form one.FRM"), base),
+                  real);
+        EXPECT_EQ(RelativeToAbsolutePath(
+                      QStringLiteral("..\\..\\my projects\\tools dir\\FORM ONE.frm"), base),
                   real);
         // ".." inside the path is taken as Windows takes it, without "sub" having to exist.
-        EXPECT_EQ(RelativeToAbsolutePath(QStringLiteral("sub\\..\\..\\Tools Dir/./Form One.frm"), base),
-                  real);
+        EXPECT_EQ(
+            RelativeToAbsolutePath(QStringLiteral("sub\\..\\..\\Tools Dir/./Form One.frm"), base),
+            real);
         // A missing file gives the path as built, so messages show what the project asked for.
         EXPECT_EQ(RelativeToAbsolutePath(QStringLiteral("gone\\x.bas"), base),
                   base + QStringLiteral("gone\\x.bas"));

@@ -49,8 +49,23 @@ TEST_F(SourceLineAnalysis, ClassifiesLinesByTheTextRules)
 // decoded text for every mix of the characters the rules look at and of bytes beyond ASCII.
 TEST_F(SourceLineAnalysis, BytesClassifyAsTheirDecodedText)
 {
-    const char pieces[][7] = {" ", "\t", ":", "7", "'", "\"", "_", "Rem ", "rEm", ": rem ",
-                              "x", "=", "\xe9", "\x8a", "\x93", "\xa0", "\xd2"};
+    const char pieces[][7] = {" ",
+                              "\t",
+                              ":",
+                              "7",
+                              "'",
+                              "\"",
+                              "_",
+                              "Rem ",
+                              "rEm",
+                              ": rem ",
+                              "x",
+                              "=",
+                              "\xe9",
+                              "\x8a",
+                              "\x93",
+                              "\xa0",
+                              "\xd2"};
     std::mt19937 random(7);
     for (int n = 0; n < 20000; ++n) {
         QByteArray line;

@@ -188,8 +188,8 @@ TEST_F(SourceFileReader, LineEndsAndWindows1252)
 // no line end.
 TEST_F(SourceFileReader, ReadingAsLinesAreReadGivesTheLinesOfTheWholeFile)
 {
-    const QByteArray bytes = QByteArray(4095, 'a') + "\r\nb\rc\n\nd\r\r\n" + QByteArray(9000, 'e')
-                             + "\rf";
+    const QByteArray bytes
+        = QByteArray(4095, 'a') + "\r\nb\rc\n\nd\r\r\n" + QByteArray(9000, 'e') + "\rf";
     const QString name = writeFile(QStringLiteral("blocks.bas"), bytes);
     writeFile(QStringLiteral("empty.bas"), QByteArray());
     for (const QString &file : {name, path(QStringLiteral("empty.bas"))}) {

@@ -9,10 +9,10 @@
 #include "rulebase/CategoryItem.h"
 #include "rulebase/CategoryList.h"
 #include "rulebase/CodingConvention.h"
-#include "rulebase/RuleBase.h"
 #include "rulebase/NamingConvention.h"
 #include "rulebase/PrefixSuffixItem.h"
 #include "rulebase/Report.h"
+#include "rulebase/RuleBase.h"
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseFileValues.h"
@@ -282,13 +282,14 @@ namespace {
 // text beyond ASCII and beyond the 16-bit plane; the same for the same seed.
 std::shared_ptr<Rulebase> awkwardRulebase(int rules, unsigned seed)
 {
-    const QString pieces[] = {QStringLiteral("a"), QStringLiteral("Zoo 42"), QStringLiteral("<"),
-                              QStringLiteral(">"), QStringLiteral("&"), QStringLiteral("\""),
-                              QStringLiteral("'"), QStringLiteral("%"), QStringLiteral("%LT%"),
-                              QStringLiteral("\t"), QStringLiteral("\r\n"), QStringLiteral("\r"),
-                              QStringLiteral("\n"), QStringLiteral(" "), QStringLiteral("é"),
-                              QStringLiteral("東京"), QStringLiteral("😀"), QStringLiteral("\uFFFD"),
-                              QStringLiteral("&amp;"), QStringLiteral("]]>")};
+    const QString pieces[]
+        = {QStringLiteral("a"),     QStringLiteral("Zoo 42"), QStringLiteral("<"),
+           QStringLiteral(">"),     QStringLiteral("&"),      QStringLiteral("\""),
+           QStringLiteral("'"),     QStringLiteral("%"),      QStringLiteral("%LT%"),
+           QStringLiteral("\t"),    QStringLiteral("\r\n"),   QStringLiteral("\r"),
+           QStringLiteral("\n"),    QStringLiteral(" "),      QStringLiteral("é"),
+           QStringLiteral("東京"),  QStringLiteral("😀"),      QStringLiteral("\uFFFD"),
+           QStringLiteral("&amp;"), QStringLiteral("]]>")};
     std::mt19937 random(seed);
     auto text = [&] {
         QString value;
@@ -336,7 +337,8 @@ TEST_F(RulebaseFileTest, SavedBytesAreThoseOfTheTreeWriter)
     sample->setAutoIncrementVersion(false);
     const std::pair<std::shared_ptr<Rulebase>, const char *> cases[] = {
         {sample, "9e01f2cbd330f5461672265c7772c38078627194f8169690cebc86214421e949"},
-        {awkwardRulebase(300, 11), "4ea7f195b8304afcf38361410a6edf1d852c0f67d280d56bfae96770c198cf94"},
+        {awkwardRulebase(300, 11),
+         "4ea7f195b8304afcf38361410a6edf1d852c0f67d280d56bfae96770c198cf94"},
     };
     for (const auto &[rulebase, sha256] : cases) {
         const QString file = dir + QStringLiteral("saved.qrb");

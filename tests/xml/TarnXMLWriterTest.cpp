@@ -15,11 +15,20 @@ using WriterTest = XmlTest;
 // ASCII and beyond the 16-bit plane, lone surrogates.
 TEST_F(WriterTest, WritesWhatTheTreeSaves)
 {
-    const QString pieces[] = {QStringLiteral("x"), QStringLiteral("<"), QStringLiteral(">"),
-                              QStringLiteral("&"), QStringLiteral("\""), QStringLiteral("'"),
-                              QStringLiteral("%"), QStringLiteral("\r\n"), QStringLiteral("é"),
-                              QStringLiteral("東"), QStringLiteral("😀"), QString(QChar(0xD800)),
-                              QString(QChar(0xFFFE)), QStringLiteral("]]>")};
+    const QString pieces[] = {QStringLiteral("x"),
+                              QStringLiteral("<"),
+                              QStringLiteral(">"),
+                              QStringLiteral("&"),
+                              QStringLiteral("\""),
+                              QStringLiteral("'"),
+                              QStringLiteral("%"),
+                              QStringLiteral("\r\n"),
+                              QStringLiteral("é"),
+                              QStringLiteral("東"),
+                              QStringLiteral("😀"),
+                              QString(QChar(0xD800)),
+                              QString(QChar(0xFFFE)),
+                              QStringLiteral("]]>")};
     std::mt19937 random(5);
     auto text = [&] {
         QString value;
