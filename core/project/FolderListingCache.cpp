@@ -2,6 +2,8 @@
 
 #include <QDir>
 
+#include <utility>
+
 namespace {
 
 thread_local FolderListingCache *inForce = nullptr;

@@ -8,6 +8,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <memory>
+
 namespace {
 
 QuorinError fileError(qint32 number, const QString &description)
