@@ -1,6 +1,7 @@
 #include "project/CaseInsensitivePath.h"
 
 #include "platform/TextUtils.h"
+#include "project/FolderListingCache.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -12,15 +13,36 @@ namespace {
 // The name in `folder` equal to `segment` ignoring case; the exact spelling wins over others.
 QString matchInFolder(const QString &folder, const QString &segment)
 {
+    const FolderListingCache::Listing *cached = nullptr;
+    if (FolderListingCache *cache = FolderListingCache::current()) {
+        cached = &cache->listing(folder);
+        if (cached->names.contains(segment))
+            return segment;
+    }
+    // Also what a folder that can't be listed has to go by.
     if (QFileInfo::exists(folder + segment))
         return segment;
-    const QStringList entries = QDir(folder).entryList(QDir::AllEntries | QDir::Hidden
-                                                       | QDir::System | QDir::NoDotAndDotDot);
+    const QStringList entries = cached
+                                    ? cached->entries
+                                    : QDir(folder).entryList(QDir::AllEntries | QDir::Hidden
+                                                             | QDir::System | QDir::NoDotAndDotDot);
     for (const QString &entry : entries) {
         if (Text::same(entry, segment))
             return entry;
     }
     return {};
+}
+
+// QFileInfo::exists, answered from the folder's listing when one is kept and names the entry.
+bool exists(const QString &path)
+{
+    if (FolderListingCache *cache = FolderListingCache::current()) {
+        const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
+        if (slash >= 0 && slash + 1 < path.size()
+            && cache->listing(path.left(slash + 1)).names.contains(path.mid(slash + 1)))
+            return true;
+    }
+    return QFileInfo::exists(path);
 }
 
 } // namespace
@@ -31,7 +53,7 @@ QString resolve(const QString &path)
         return path;
     const bool hasBackslash = path.contains(QLatin1Char('\\'));
     // On Windows a backslash is a separator the file system understands itself.
-    if ((!hasBackslash || QDir::separator() == QLatin1Char('\\')) && QFileInfo::exists(path))
+    if ((!hasBackslash || QDir::separator() == QLatin1Char('\\')) && exists(path))
         return path;
 
     QString text = path;

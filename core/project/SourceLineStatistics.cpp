@@ -49,6 +49,40 @@ void SourceLineStatistics::IncrementCount(SourceLineType lineType)
     IncrementCount(static_cast<qint32>(lineType));
 }
 
+void SourceLineStatistics::IncrementCount(qint32 lineType, qint64 times)
+{
+    qint32 *counters[3] = {&m_totalLines, nullptr, nullptr};
+    switch (lineType) {
+    case 0:
+        counters[1] = &m_blankLines;
+        break;
+    case 1:
+        counters[1] = &m_commentOnlyLines;
+        break;
+    case 2:
+        counters[1] = &m_codeLines;
+        counters[2] = &m_inLineCommentLines;
+        break;
+    case 3:
+        counters[1] = &m_codeLines;
+        break;
+    default:
+        return;
+    }
+    for (const qint32 *counter : counters) {
+        if (counter && times > qint64(std::numeric_limits<qint32>::max()) - *counter) {
+            // Some line would fail: line by line, each failing as it would.
+            for (qint64 i = 0; i < times; ++i)
+                IncrementCount(lineType);
+            return;
+        }
+    }
+    for (qint32 *counter : counters) {
+        if (counter)
+            *counter += qint32(times);
+    }
+}
+
 bool SourceLineStatistics::SourceLineStatByName(const QString &name, qint32 &value) const
 {
     const std::pair<const char *, qint32> counters[] = {

@@ -23,6 +23,8 @@ public:
     // Types 0 to 3 count; any other, the continuation type among them, counts nothing.
     void IncrementCount(qint32 lineType);
     void IncrementCount(SourceLineType lineType);
+    // As many IncrementCount calls: at once when no counter can pass its limit.
+    void IncrementCount(qint32 lineType, qint64 times);
     // "TotalLineCount", "CodeLineCount", "BlankLineCount", "CommentLineCount",
     // "InLineCommentCount"; an unknown name gives false and leaves `value` alone.
     bool SourceLineStatByName(const QString &name, qint32 &value) const;

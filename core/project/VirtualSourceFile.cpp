@@ -9,6 +9,7 @@
 #include "project/SourceLineStatistics.h"
 #include "project/SourceTextFile.h"
 #include "project/VirtualObject.h"
+#include "project/Windows1252.h"
 #include "project/modQuorinUtils.h"
 #include "project/modSource.h"
 #include "project/modVOSource.h"
@@ -44,22 +45,89 @@ qint32 fileTypeFromWord(const QString &word)
     return 0;
 }
 
-QString trimRight(const QString &text)
+QByteArrayView trimRight(QByteArrayView text)
 {
     qsizetype end = text.size();
-    while (end > 0 && text[end - 1] == u' ')
+    while (end > 0 && text[end - 1] == ' ')
         --end;
-    return text.left(end);
+    return text.first(end);
 }
 
-// Only a line whose last non-blank character is "_" can continue; the full classification
-// decides, but most lines are settled by this look at their end.
-bool endsWithUnderscore(const QString &line)
+QByteArrayView trimBlanks(QByteArrayView text)
 {
-    qsizetype end = line.size();
-    while (end > 0 && line[end - 1] == u' ')
-        --end;
-    return end > 0 && line[end - 1] == u'_';
+    text = trimRight(text);
+    qsizetype start = 0;
+    while (start < text.size() && text[start] == ' ')
+        ++start;
+    return text.sliced(start);
+}
+
+// `text` begins with the ASCII `prefix`, the case of letters ignored. No byte beyond ASCII
+// decodes to a character that folds to an ASCII letter, so the bytes can be compared as they are.
+bool startsWithNoCase(QByteArrayView text, QLatin1String prefix)
+{
+    if (text.size() < prefix.size())
+        return false;
+    for (qsizetype i = 0; i < prefix.size(); ++i) {
+        const char c = text[i];
+        const char p = prefix[i].toLatin1();
+        if (c != p && !(((c | 0x20) == (p | 0x20)) && (p | 0x20) >= 'a' && (p | 0x20) <= 'z'))
+            return false;
+    }
+    return true;
+}
+
+// One logical line as the file's bytes, continued lines joined. The rules look at ASCII only,
+// and no other Windows-1252 byte decodes to ASCII, so the text is decoded only when asked for.
+struct LogicalLine
+{
+    QByteArrayView first; // its first physical line
+    QByteArrayView text;  // the first line itself, or `joined`
+    QByteArray joined;
+    QByteArray raw; // the physical lines joined by CR LF, when asked for
+    qint32 physical = 0;
+};
+
+void readLogicalLine(SourceTextFile &file, LogicalLine &line, bool withRaw)
+{
+    line.physical = 0;
+    if (!line.joined.isEmpty())
+        line.joined.resize(0); // the buffers keep their room for the next continued line
+    if (!line.raw.isEmpty())
+        line.raw.resize(0);
+    bool continues = true;
+    while (continues && !file.atEnd()) {
+        const QByteArrayView physical = file.readLineBytes();
+        QByteArrayView piece = physical;
+        // Only a line whose last non-blank character is "_" can continue; the full
+        // classification decides, but most lines are settled by this look at their end.
+        const QByteArrayView trimmed = trimRight(physical);
+        if (trimmed.endsWith('_')
+            && modSource::LineTypeOfWindows1252(physical) == SourceLineType::Continuation) {
+            piece = trimRight(trimmed.chopped(1));
+        } else {
+            continues = false;
+        }
+        if (line.physical++ == 0) {
+            line.first = physical;
+            if (!continues) {
+                line.text = physical; // the common case: nothing to join
+                return;
+            }
+        }
+        if (withRaw) {
+            if (line.physical > 1)
+                line.raw.append("\r\n");
+            line.raw.append(physical);
+        }
+        if (line.joined.isEmpty()) {
+            line.joined.append(piece);
+        } else {
+            line.joined.append(' ');
+            line.joined.append(trimBlanks(piece));
+        }
+    }
+    line.text = line.joined;
 }
 
 } // namespace
@@ -152,7 +220,7 @@ qint32 VirtualSourceFile::DetermineNameAndFileType(QString &name, QString &typeW
         };
         const QLatin1String attributeName("Attribute VB_Name = ");
 
-        SourceTextFile file(m_filename);
+        SourceTextFile file(m_filename, SourceTextFile::Reading::AsLinesAreRead);
         // A line is read before the end is tested: an empty file fails in the read.
         do {
             const QString line = file.readLine();
@@ -214,52 +282,36 @@ bool VirtualSourceFile::GetNextSourceLine(QString &rawText,
     return guarded("GetNextSourceLine", Module, false, [&] {
         if (!m_file || m_file->atEnd())
             return false;
-
-        QString raw;
-        QString logical;
-        qint32 physical = 0;
-        bool continues = true;
-        while (continues && !m_file->atEnd()) {
-            const QString line = m_file->readLine();
-            if (physical > 0)
-                raw += QLatin1String("\r\n");
-            raw += line;
-            ++physical;
-            QString piece = line;
-            if (endsWithUnderscore(line)
-                && modSource::SourceLineType(line) == SourceLineType::Continuation) {
-                piece = trimRight(piece);
-                piece.chop(1);
-                piece = trimRight(piece);
-            } else {
-                continues = false;
-            }
-            if (!logical.isEmpty())
-                piece = QLatin1Char(' ') + Text::trimBlanks(piece);
-            logical += piece;
-        }
-
-        if (raw.startsWith(QLatin1String("Attribute"), Qt::CaseInsensitive)) {
-            // Attribute lines count for nothing; the name attribute closes the header.
-            physical = 0;
-            if (raw.startsWith(QLatin1String("Attribute VB_Name ="), Qt::CaseInsensitive))
-                m_headerSeen = true;
-        } else {
-            if (m_headerSeen)
-                m_lineCountingEnabled = true;
-            // Old-style line numbers go from the logical line; the raw text keeps them.
-            qsizetype digits = 0;
-            while (digits < logical.size() && logical[digits] >= u'0' && logical[digits] <= u'9')
-                ++digits;
-            logical.remove(0, digits);
-        }
-
-        rawText = raw;
-        logicalLine = logical;
-        physicalLines = physical;
-        length = qint32(raw.size());
+        LogicalLine line;
+        readLogicalLine(*m_file, line, true);
+        QByteArrayView logical = line.text;
+        physicalLines = PassLogicalLine(line.first, logical, line.physical);
+        rawText = Windows1252::decode(line.physical > 1 ? QByteArrayView(line.raw) : line.first);
+        logicalLine = Windows1252::decode(logical);
+        length = qint32(rawText.size());
         return true;
     });
+}
+
+qint32
+VirtualSourceFile::PassLogicalLine(QByteArrayView first, QByteArrayView &logical, qint32 physical)
+{
+    if (!first.isEmpty() && (first[0] | 0x20) == 'a'
+        && startsWithNoCase(first, QLatin1String("Attribute"))) {
+        // Attribute lines count for nothing; the name attribute closes the header.
+        if (startsWithNoCase(first, QLatin1String("Attribute VB_Name =")))
+            m_headerSeen = true;
+        return 0;
+    }
+    if (m_headerSeen)
+        m_lineCountingEnabled = true;
+    // Old-style line numbers go from the logical line; the raw text keeps them.
+    qsizetype digits = 0;
+    while (digits < logical.size() && logical[digits] >= '0' && logical[digits] <= '9')
+        ++digits;
+    if (digits > 0)
+        logical = logical.sliced(digits);
+    return physical;
 }
 
 void VirtualSourceFile::Disconnect()
@@ -276,13 +328,23 @@ qint32 VirtualSourceFile::CountSourceLines()
         return status;
     const auto stats = m_object->LineStats();
     m_object->setHasLSTATS(true);
-    QString raw;
-    QString logical;
-    qint32 physical = 0;
-    qint32 length = 0;
-    while (GetNextSourceLine(raw, logical, physical, length)) {
-        if (m_lineCountingEnabled && physical > 0)
-            stats->IncrementCount(modSource::SourceLineType(logical));
+    // GetNextSourceLine's walk without the decoding: the line types need the bytes only.
+    qint64 counted[4] = {};
+    guardedVoid("GetNextSourceLine", Module, [&] {
+        LogicalLine line;
+        while (!m_file->atEnd()) {
+            readLogicalLine(*m_file, line, false);
+            QByteArrayView logical = line.text;
+            if (PassLogicalLine(line.first, logical, line.physical) > 0 && m_lineCountingEnabled) {
+                const auto type = qint32(modSource::LineTypeOfWindows1252(logical));
+                if (type < 4)
+                    ++counted[type];
+            }
+        }
+    });
+    for (qint32 type = 0; type < 4; ++type) {
+        if (counted[type] > 0)
+            stats->IncrementCount(type, counted[type]);
     }
     Disconnect();
     return 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QString>
 
 #include <memory>
@@ -78,6 +79,9 @@ public:
 private:
     qint32 DetermineNameAndFileType(QString &name, QString &typeWord);
     qint32 ConnectFile();
+    // Marks the header's end as a logical line goes by, cuts line numbers from `logical`, and
+    // gives the physical lines it counts for: none for an attribute line.
+    qint32 PassLogicalLine(QByteArrayView first, QByteArrayView &logical, qint32 physical);
 
     QString m_name;
     QString m_filename;

@@ -3,6 +3,12 @@
 #include "platform/ErrorFrame.h"
 #include "platform/FileUtils.h"
 #include "platform/TextUtils.h"
+#include "project/ByteScan.h"
+#include "project/Windows1252.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
 
 namespace modSource {
 
@@ -35,7 +41,78 @@ qsizetype quoteFrom(const QString &text, qsizetype start)
     return at;
 }
 
+// A line this long can't reach a position past MaxPosition in StripQuotedText.
+constexpr qsizetype ByteRulesLimit = 32000;
+
+// What may stand before a statement: blanks and tabs, and a numeric label and its colon.
+enum : unsigned char { Blank = 1, Label = 2 };
+constexpr std::array<unsigned char, 256> Leaders = [] {
+    std::array<unsigned char, 256> kinds{};
+    kinds[' '] = kinds['\t'] = Blank;
+    kinds[':'] = Label;
+    for (char c = '0'; c <= '9'; ++c)
+        kinds[static_cast<unsigned char>(c)] = Label;
+    return kinds;
+}();
+
+// `text` begins with `word`, lower-case letters and blanks, ignoring the case of the letters.
+bool startsWithWord(const char *text, const char *word, qsizetype length)
+{
+    for (qsizetype i = 0; i < length; ++i) {
+        if (word[i] == ' ' ? text[i] != ' ' : (text[i] | 0x20) != word[i])
+            return false;
+    }
+    return true;
+}
+
 } // namespace
+
+::SourceLineType LineTypeOfWindows1252(QByteArrayView line)
+{
+    const qsizetype size = line.size();
+    if (size > ByteRulesLimit)
+        return SourceLineType(Windows1252::decode(line));
+    const char *const text = line.data();
+    // The rules see the line trimmed of blanks at its end and, in front, of indentation and
+    // line labels (blanks, tabs, colons and digits). Blanks and tabs alone are a blank line.
+    qsizetype start = 0;
+    unsigned char leaders = 0;
+    for (; start < size; ++start) {
+        const unsigned char kind = Leaders[static_cast<unsigned char>(text[start])];
+        if (kind == 0)
+            break;
+        leaders |= kind;
+    }
+    if (start == size && !(leaders & Label))
+        return ::SourceLineType::Blank;
+    qsizetype end = size;
+    while (text[end - 1] == ' ')
+        --end;
+    start = std::min(start, end);
+    if (start < end
+        && (text[start] == '\'' || (end - start >= 4 && startsWithWord(text + start, "rem ", 4))))
+        return ::SourceLineType::CommentOnly;
+    if (text[end - 1] == '_')
+        return ::SourceLineType::Continuation;
+
+    // An apostrophe or ": Rem " outside string literals; a quote without its closing quote
+    // leaves the rest of the line plain text.
+    for (qsizetype i = start;; ++i) {
+        i = ByteScan::findCommentMark(text + i, text + end) - text;
+        if (i == end)
+            break;
+        if (text[i] == '\'')
+            return ::SourceLineType::InLineComment;
+        if (text[i] == '"') {
+            const void *close = std::memchr(text + i + 1, '"', size_t(end - i - 1));
+            if (close)
+                i = static_cast<const char *>(close) - text;
+        } else if (end - i >= 6 && startsWithWord(text + i + 1, " rem ", 5)) {
+            return ::SourceLineType::InLineComment;
+        }
+    }
+    return ::SourceLineType::Code;
+}
 
 ::SourceLineType SourceLineType(const QString &line)
 {

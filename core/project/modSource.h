@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QString>
 
 // What one line of Visual Basic source is, as the line analysis classifies it.
@@ -17,6 +18,10 @@ enum class SourceLineType : qint32 {
 namespace modSource {
 
 ::SourceLineType SourceLineType(const QString &line);
+// SourceLineType of the line these Windows-1252 bytes decode to, read off the bytes: every
+// character the rules look at is ASCII, and no other byte decodes to one. Lines too long for
+// the 16-bit positions go the decoded way, so they fail (and log) alike.
+::SourceLineType LineTypeOfWindows1252(QByteArrayView line);
 bool IsBlankLine(const QString &line);
 bool IsCommentOnlyLine(const QString &line);
 // Also true for a comment-only line; only SourceLineType's order tells the two apart.

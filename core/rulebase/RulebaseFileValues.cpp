@@ -79,23 +79,22 @@ qint16 readInteger(const TarnXMLElement &element, const char *attribute)
         element, attribute, [](const QString &t) { return Text::toInteger(t, QString()); });
 }
 
-void writeText(TarnXMLElement &element, const char *attribute, const QString &value)
+void writeText(TarnXMLWriter::Element &element, const char *attribute, const QString &value)
 {
-    element.setAttributeValueByName(QLatin1StringView(attribute), value);
+    element.setAttribute(QLatin1String(attribute), value);
 }
 
-void writeBool(TarnXMLElement &element, const char *attribute, bool value)
+void writeBool(TarnXMLWriter::Element &element, const char *attribute, bool value)
 {
-    writeText(element, attribute, Text::fromBool(value));
+    element.setAttribute(QLatin1String(attribute), QUtf8StringView(value ? "True" : "False"));
 }
 
-void writeNumber(TarnXMLElement &element, const char *attribute, qint64 value)
+void writeNumber(TarnXMLWriter::Element &element, const char *attribute, qint64 value)
 {
     // The digits QString::number gives, without a QString.
     char digits[24];
     const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
-    element.setAttributeValueByName(QLatin1StringView(attribute),
-                                    QUtf8StringView(digits, end - digits));
+    element.setAttribute(QLatin1String(attribute), QUtf8StringView(digits, end - digits));
 }
 
 TarnXMLElement requireChild(const TarnXMLElement &element, const char *name)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "xml/TarnXMLElement.h"
+#include "xml/TarnXMLWriter.h"
 
 #include <QString>
 
@@ -14,9 +15,9 @@ bool readBool(const TarnXMLElement &element, const char *attribute);
 qint32 readLong(const TarnXMLElement &element, const char *attribute);
 qint16 readInteger(const TarnXMLElement &element, const char *attribute);
 
-void writeText(TarnXMLElement &element, const char *attribute, const QString &value);
-void writeBool(TarnXMLElement &element, const char *attribute, bool value);
-void writeNumber(TarnXMLElement &element, const char *attribute, qint64 value);
+void writeText(TarnXMLWriter::Element &element, const char *attribute, const QString &value);
+void writeBool(TarnXMLWriter::Element &element, const char *attribute, bool value);
+void writeNumber(TarnXMLWriter::Element &element, const char *attribute, qint64 value);
 
 // A required child element found by name; throws when it is missing.
 TarnXMLElement requireChild(const TarnXMLElement &element, const char *name);

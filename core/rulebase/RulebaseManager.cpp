@@ -179,59 +179,79 @@ bool RulebaseManager::Save(Rulebase &rulebase, const QString &filename)
             ErrorNumber::NoFilename, QStringLiteral("RulebaseManager::Save"), noFilenameText());
 
     return guarded("Save", module, false, [&]() -> bool {
-        TarnXMLDoc doc;
-        doc.NewDoc(QStringLiteral("Quorin_Rulebase"));
-        TarnXMLElement root = doc.RootElement();
-        root.setAttributeValueByName(QStringLiteral("SchemaVersion"), currentSchemaVersion());
-
-        // Every section element stands in every file, empty or not.
-        for (const char *name : {"RulebaseProperties",
-                                 "ControlTags",
-                                 "DataTypeTags",
-                                 "ScopeTags",
-                                 "DefaultViolations",
-                                 "CategoryList",
-                                 "SeverityList",
-                                 "AuthorisedComponents",
-                                 "AuthorisedReferences",
-                                 "UnauthorisedKeywords",
-                                 "Rules"}) {
-            root.AddElement(QLatin1String(name));
+        // Written as it goes, section by section in file order; every section element stands
+        // in every file, empty or not.
+        TarnXMLWriter writer;
+        {
+            TarnXMLWriter::Element root = writer.RootElement(QLatin1String("Quorin_Rulebase"));
+            root.setAttribute(QLatin1String("SchemaVersion"), currentSchemaVersion());
+            auto section
+                = [&root](const char *name) { return root.AddElement(QLatin1String(name)); };
+            {
+                TarnXMLWriter::Element element = section("RulebaseProperties");
+                SaveProperties(element, rulebase);
+            }
+            {
+                TarnXMLWriter::Element element = section("ControlTags");
+                SaveTags(element, *rulebase.ControlTags(), "ControlTag", 1);
+            }
+            {
+                TarnXMLWriter::Element element = section("DataTypeTags");
+                SaveTags(element, *rulebase.DataTypeTags(), "DataTypeTag", 2);
+            }
+            {
+                TarnXMLWriter::Element element = section("ScopeTags");
+                SaveTags(element, *rulebase.ScopeTags(), "ScopeTag", 3);
+            }
+            {
+                TarnXMLWriter::Element element = section("DefaultViolations");
+                SaveDefaultViolations(element, *rulebase.DefaultViolations());
+            }
+            {
+                TarnXMLWriter::Element element = section("CategoryList");
+                SaveCategoryList(element, *rulebase.CategoryList());
+            }
+            {
+                TarnXMLWriter::Element element = section("SeverityList");
+                SaveSeverityList(element, *rulebase.SeverityList());
+            }
+            {
+                TarnXMLWriter::Element element = section("AuthorisedComponents");
+                SaveAuthorisedComponents(element, *rulebase.AuthorisedComponents());
+            }
+            {
+                TarnXMLWriter::Element element = section("AuthorisedReferences");
+                SaveAuthorisedReferences(element, *rulebase.AuthorisedReferences());
+            }
+            {
+                TarnXMLWriter::Element element = section("UnauthorisedKeywords");
+                SaveUnauthorisedKeywords(element, *rulebase.RuleLists());
+            }
+            {
+                TarnXMLWriter::Element rules = section("Rules");
+                writeNumber(rules, "LastRuleID", rulebase.RuleLists()->LastID());
+                {
+                    TarnXMLWriter::Element element
+                        = rules.AddElement(QLatin1String("CodingConventions"));
+                    SaveCodingConventions(element, *rulebase.RuleLists());
+                }
+                {
+                    TarnXMLWriter::Element element
+                        = rules.AddElement(QLatin1String("NamingConventions"));
+                    SaveNamingConventions(element, *rulebase.RuleLists());
+                }
+            }
+            {
+                TarnXMLWriter::Element element = section("Report");
+                SaveReport(element, *rulebase.Report()->Sections());
+            }
         }
-        TarnXMLElement rulesElement = root.ElementByName(QStringLiteral("Rules"));
-        rulesElement.AddAttribute(QStringLiteral("LastRuleID"),
-                                  QString::number(rulebase.RuleLists()->LastID()));
-        rulesElement.AddElement(QStringLiteral("CodingConventions"));
-        rulesElement.AddElement(QStringLiteral("NamingConventions"));
-        root.AddElement(QStringLiteral("Report"));
-
-        auto section
-            = [&root](const char *name) { return root.ElementByName(QLatin1String(name)); };
-        SaveProperties(section("RulebaseProperties"), rulebase);
-        SaveTags(section("ControlTags"), *rulebase.ControlTags(), QStringLiteral("ControlTag"), 1);
-        SaveTags(
-            section("DataTypeTags"), *rulebase.DataTypeTags(), QStringLiteral("DataTypeTag"), 2);
-        SaveTags(section("ScopeTags"), *rulebase.ScopeTags(), QStringLiteral("ScopeTag"), 3);
-        SaveDefaultViolations(section("DefaultViolations"), *rulebase.DefaultViolations());
-        SaveCategoryList(section("CategoryList"), *rulebase.CategoryList());
-        SaveSeverityList(section("SeverityList"), *rulebase.SeverityList());
-        SaveAuthorisedComponents(section("AuthorisedComponents"), *rulebase.AuthorisedComponents());
-        SaveAuthorisedReferences(section("AuthorisedReferences"), *rulebase.AuthorisedReferences());
-        SaveUnauthorisedKeywords(section("UnauthorisedKeywords"), *rulebase.RuleLists());
-        rulesElement.setAttributeValueByName(QStringLiteral("LastRuleID"),
-                                             QString::number(rulebase.RuleLists()->LastID()));
-        SaveCodingConventions(rulesElement.ElementByName(QStringLiteral("CodingConventions")),
-                              *rulebase.RuleLists());
-        SaveNamingConventions(rulesElement.ElementByName(QStringLiteral("NamingConventions")),
-                              *rulebase.RuleLists());
-        SaveReport(section("Report"), *rulebase.Report()->Sections());
-
-        if (doc.SaveToFile(target)) {
+        if (writer.SaveToFile(target)) {
             rulebase.setDirty(false);
             return true;
         }
         showWarning(QStringLiteral("Error during save: ")
-                    + TarnXMLDoc::SaveErrorText(doc.LastError()));
+                    + TarnXMLDoc::SaveErrorText(writer.LastError()));
         return false;
     });
 }
@@ -258,7 +278,7 @@ void RulebaseManager::LoadProperties(TarnXMLElement element, Rulebase &rulebase)
     });
 }
 
-void RulebaseManager::SaveProperties(TarnXMLElement element, Rulebase &rulebase)
+void RulebaseManager::SaveProperties(TarnXMLWriter::Element &element, Rulebase &rulebase)
 {
     guardedVoid("SaveProperties", module, [&] {
         writeText(element, "Name", rulebase.Title());

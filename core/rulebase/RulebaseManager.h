@@ -1,5 +1,7 @@
 #pragma once
 
+#include "xml/TarnXMLWriter.h"
+
 #include <QString>
 
 #include <memory>
@@ -35,8 +37,9 @@ public:
     // An empty name means the rulebase's own. Does not change Rulebase::Filename.
     bool Save(Rulebase &rulebase, const QString &filename);
 
-    void SaveCategoryList(TarnXMLElement element, const CategoryList &list);
-    void SaveSeverityList(TarnXMLElement element, const ObjectKeyedArrayList<SeverityItem> &list);
+    void SaveCategoryList(TarnXMLWriter::Element &element, const CategoryList &list);
+    void SaveSeverityList(TarnXMLWriter::Element &element,
+                          const ObjectKeyedArrayList<SeverityItem> &list);
 
     // Whether hidden categories load; by default only the administrator's program sees them.
     static bool IsQuorinAdministrator();
@@ -46,39 +49,43 @@ public:
 
 private:
     void LoadProperties(TarnXMLElement element, Rulebase &rulebase);
-    void SaveProperties(TarnXMLElement element, Rulebase &rulebase);
+    void SaveProperties(TarnXMLWriter::Element &element, Rulebase &rulebase);
     void LoadTags(TarnXMLElement element, ObjectKeyedArrayList<TagItem> &list, int tagType);
     std::shared_ptr<TagItem> FindTagInList(const ObjectKeyedArrayList<TagItem> &list,
                                            const QString &name);
-    void SaveTags(TarnXMLElement element,
+    void SaveTags(TarnXMLWriter::Element &element,
                   const ObjectKeyedArrayList<TagItem> &list,
-                  const QString &elementName,
+                  const char *elementName,
                   int tagType);
     void LoadDefaultViolations(TarnXMLElement element, DefaultViolations &violations);
-    void SaveDefaultViolations(TarnXMLElement element, const DefaultViolations &violations);
+    void SaveDefaultViolations(TarnXMLWriter::Element &element,
+                               const DefaultViolations &violations);
     void
     LoadCategoryList(TarnXMLElement element, RulebaseLoadCriteria &criteria, CategoryList &list);
     void LoadSeverityList(TarnXMLElement element, ObjectKeyedArrayList<SeverityItem> &list);
     void LoadAuthorisedComponents(TarnXMLElement element, AuthorisedComponents &list);
-    void SaveAuthorisedComponents(TarnXMLElement element, const AuthorisedComponents &list);
+    void SaveAuthorisedComponents(TarnXMLWriter::Element &element,
+                                  const AuthorisedComponents &list);
     void LoadAuthorisedReferences(TarnXMLElement element, AuthorisedReferences &list);
-    void SaveAuthorisedReferences(TarnXMLElement element, const AuthorisedReferences &list);
+    void SaveAuthorisedReferences(TarnXMLWriter::Element &element,
+                                  const AuthorisedReferences &list);
     void LoadUnauthorisedKeywords(TarnXMLElement element,
                                   RulebaseLoadCriteria &criteria,
                                   RuleLists &rules);
-    void SaveUnauthorisedKeywords(TarnXMLElement element, const RuleLists &rules);
+    void SaveUnauthorisedKeywords(TarnXMLWriter::Element &element, const RuleLists &rules);
     void
     LoadCodingConventions(TarnXMLElement element, RulebaseLoadCriteria &criteria, RuleLists &rules);
-    void SaveCodingConventions(TarnXMLElement element, const RuleLists &rules);
+    void SaveCodingConventions(TarnXMLWriter::Element &element, const RuleLists &rules);
     void
     LoadNamingConventions(TarnXMLElement element, RulebaseLoadCriteria &criteria, RuleLists &rules);
-    void SaveNamingConventions(TarnXMLElement element, const RuleLists &rules);
+    void SaveNamingConventions(TarnXMLWriter::Element &element, const RuleLists &rules);
     bool IsLoadableRule(RulebaseLoadCriteria &criteria, const TarnXMLElement &element);
     bool CheckSchemaVersion(TarnXMLElement root);
     void LoadViolationDefinition(const TarnXMLElement &rule, ViolationDefinition &definition);
-    void SaveViolationDefintion(TarnXMLElement rule, const ViolationDefinition &definition);
+    void SaveViolationDefintion(TarnXMLWriter::Element &rule,
+                                const ViolationDefinition &definition);
     void LoadReport(TarnXMLElement element, Rulebase &rulebase);
-    void SaveReport(TarnXMLElement element, const ObjectArrayList<IListItem> &sections);
+    void SaveReport(TarnXMLWriter::Element &element, const ObjectArrayList<IListItem> &sections);
     QString UpdateSchema(TarnXMLElement root, const QString &version);
     void Apply_6_1_SchemaUpdates(TarnXMLElement root);
     void Apply_6_2_SchemaUpdates(TarnXMLElement root);

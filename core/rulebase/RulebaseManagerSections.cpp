@@ -69,17 +69,17 @@ void loadPrefixSuffixItems(const TarnXMLElement &rule,
     });
 }
 
-void savePrefixSuffixItems(TarnXMLElement &rule,
+void savePrefixSuffixItems(TarnXMLWriter::Element &rule,
                            const char *listName,
                            const char *itemName,
                            const ObjectArrayList<PrefixSuffixItem> &items)
 {
-    TarnXMLElement list = rule.AddElement(QLatin1String(listName));
+    TarnXMLWriter::Element list = rule.AddElement(QLatin1String(listName));
     for (qint32 i = 1; i <= items.Count(); ++i) {
         const std::shared_ptr<PrefixSuffixItem> item = items.Item(i);
         if (item->PSType() == 0)
             continue; // an empty slot; the gap closes up
-        TarnXMLElement element = list.AddElement(QLatin1String(itemName));
+        TarnXMLWriter::Element element = list.AddElement(QLatin1String(itemName));
         writeNumber(element, "PSType", item->PSType());
         writeText(element, "PSValue", item->Value());
     }
@@ -122,15 +122,15 @@ void RulebaseManager::LoadTags(TarnXMLElement element,
     });
 }
 
-void RulebaseManager::SaveTags(TarnXMLElement element,
+void RulebaseManager::SaveTags(TarnXMLWriter::Element &element,
                                const ObjectKeyedArrayList<TagItem> &list,
-                               const QString &elementName,
+                               const char *elementName,
                                int tagType)
 {
     guardedVoid("SaveTags", module, [&] {
         for (qint32 i = 1; i <= list.Count(); ++i) {
             const std::shared_ptr<TagItem> item = list.Item(i);
-            TarnXMLElement tag = element.AddElement(elementName);
+            TarnXMLWriter::Element tag = element.AddElement(QLatin1String(elementName));
             writeText(tag, "TagName", item->TagName());
             writeText(tag, "TagValue", item->TagValue());
             if (tagType == 1)
@@ -158,13 +158,13 @@ void RulebaseManager::LoadDefaultViolations(TarnXMLElement element, DefaultViola
     });
 }
 
-void RulebaseManager::SaveDefaultViolations(TarnXMLElement element,
+void RulebaseManager::SaveDefaultViolations(TarnXMLWriter::Element &element,
                                             const DefaultViolations &violations)
 {
     guardedVoid("SaveDefaultViolations", module, [&] {
         for (qint32 i = 1; i <= violations.Count(); ++i) {
             const std::shared_ptr<ViolationDefinition> item = violations.Item(i);
-            TarnXMLElement child = element.AddElement(QStringLiteral("ViolationItem"));
+            TarnXMLWriter::Element child = element.AddElement(QLatin1String("ViolationItem"));
             writeText(child, "Advice", item->Advice());
             writeNumber(child, "CategoryID", item->CategoryID());
             writeText(child, "Description", item->Description());
@@ -176,13 +176,13 @@ void RulebaseManager::SaveDefaultViolations(TarnXMLElement element,
 
 // ---------------------------------------------------------------- categories and severities
 
-void RulebaseManager::SaveCategoryList(TarnXMLElement element, const CategoryList &list)
+void RulebaseManager::SaveCategoryList(TarnXMLWriter::Element &element, const CategoryList &list)
 {
     guardedVoid("SaveCategoryList", module, [&] {
         writeNumber(element, "LastID", list.LastID());
         for (qint32 i = 1; i <= list.Count(); ++i) {
             const std::shared_ptr<CategoryItem> item = list.Item(i);
-            TarnXMLElement child = element.AddElement(QStringLiteral("CategoryItem"));
+            TarnXMLWriter::Element child = element.AddElement(QLatin1String("CategoryItem"));
             writeNumber(child, "ID", item->ID());
             writeText(child, "Title", item->Title());
             writeText(child, "Description", item->Description());
@@ -216,13 +216,13 @@ void RulebaseManager::LoadCategoryList(TarnXMLElement element,
     });
 }
 
-void RulebaseManager::SaveSeverityList(TarnXMLElement element,
+void RulebaseManager::SaveSeverityList(TarnXMLWriter::Element &element,
                                        const ObjectKeyedArrayList<SeverityItem> &list)
 {
     guardedVoid("SaveSeverityList", module, [&] {
         for (qint32 i = 1; i <= list.Count(); ++i) {
             const std::shared_ptr<SeverityItem> item = list.Item(i);
-            TarnXMLElement child = element.AddElement(QStringLiteral("SeverityItem"));
+            TarnXMLWriter::Element child = element.AddElement(QLatin1String("SeverityItem"));
             writeNumber(child, "Colour", item->Colour());
             writeText(child, "Description", item->Description());
             writeNumber(child, "Impact", item->Impact());
@@ -278,13 +278,13 @@ void RulebaseManager::LoadAuthorisedComponents(TarnXMLElement element, Authorise
     });
 }
 
-void RulebaseManager::SaveAuthorisedComponents(TarnXMLElement element,
+void RulebaseManager::SaveAuthorisedComponents(TarnXMLWriter::Element &element,
                                                const AuthorisedComponents &list)
 {
     guardedVoid("SaveAuthorisedComponents", module, [&] {
         for (qint32 i = 1; i <= list.Count(); ++i) {
             const std::shared_ptr<AuthorisedComponent> item = list.Item(i);
-            TarnXMLElement child = element.AddElement(QStringLiteral("AuthorisedComponent"));
+            TarnXMLWriter::Element child = element.AddElement(QLatin1String("AuthorisedComponent"));
             writeText(child, "Advice", item->Advice());
             writeText(child, "Filename", item->Filename());
             writeText(child, "LibID", item->LibID());
@@ -308,13 +308,13 @@ void RulebaseManager::LoadAuthorisedReferences(TarnXMLElement element, Authorise
     });
 }
 
-void RulebaseManager::SaveAuthorisedReferences(TarnXMLElement element,
+void RulebaseManager::SaveAuthorisedReferences(TarnXMLWriter::Element &element,
                                                const AuthorisedReferences &list)
 {
     guardedVoid("SaveAuthorisedReferences", module, [&] {
         for (qint32 i = 1; i <= list.Count(); ++i) {
             const std::shared_ptr<AuthorisedReference> item = list.Item(i);
-            TarnXMLElement child = element.AddElement(QStringLiteral("AuthorisedReference"));
+            TarnXMLWriter::Element child = element.AddElement(QLatin1String("AuthorisedReference"));
             writeText(child, "Advice", item->Advice());
             writeText(child, "Description", item->Description());
             writeText(child, "Filename", item->Filename());
@@ -351,10 +351,10 @@ void RulebaseManager::LoadViolationDefinition(const TarnXMLElement &rule,
     definition.setAdvice(readText(element, "Advice"));
 }
 
-void RulebaseManager::SaveViolationDefintion(TarnXMLElement rule,
+void RulebaseManager::SaveViolationDefintion(TarnXMLWriter::Element &rule,
                                              const ViolationDefinition &definition)
 {
-    TarnXMLElement element = rule.AddElement(QStringLiteral("ViolationDefinition"));
+    TarnXMLWriter::Element element = rule.AddElement(QLatin1String("ViolationDefinition"));
     writeText(element, "Name", definition.Title());
     writeText(element, "Description", definition.Description());
     writeNumber(element, "SeverityLevel", definition.Severity());
@@ -384,13 +384,14 @@ void RulebaseManager::LoadUnauthorisedKeywords(TarnXMLElement element,
     });
 }
 
-void RulebaseManager::SaveUnauthorisedKeywords(TarnXMLElement element, const RuleLists &rules)
+void RulebaseManager::SaveUnauthorisedKeywords(TarnXMLWriter::Element &element,
+                                               const RuleLists &rules)
 {
     guardedVoid("SaveUnauthorisedKeywords", module, [&] {
         const auto &list = *rules.UnauthorisedKeywords();
         for (qint32 i = 1; i <= list.Count(); ++i) {
             const std::shared_ptr<UnauthorisedKeyword> rule = list.Item(i);
-            TarnXMLElement child = element.AddElement(QStringLiteral("UnauthorisedKeyword"));
+            TarnXMLWriter::Element child = element.AddElement(QLatin1String("UnauthorisedKeyword"));
             writeNumber(child, "RuleID", rule->RuleID());
             writeBool(child, "RuleActive", rule->RuleActive());
             writeText(child, "Title", rule->Title());
@@ -425,13 +426,13 @@ void RulebaseManager::LoadCodingConventions(TarnXMLElement element,
     });
 }
 
-void RulebaseManager::SaveCodingConventions(TarnXMLElement element, const RuleLists &rules)
+void RulebaseManager::SaveCodingConventions(TarnXMLWriter::Element &element, const RuleLists &rules)
 {
     guardedVoid("SaveCodingConventions", module, [&] {
         const auto &list = *rules.CodingConventions();
         for (qint32 i = 1; i <= list.Count(); ++i) {
             const std::shared_ptr<CodingConvention> rule = list.Item(i);
-            TarnXMLElement child = element.AddElement(QStringLiteral("CodingConvention"));
+            TarnXMLWriter::Element child = element.AddElement(QLatin1String("CodingConvention"));
             writeNumber(child, "RuleID", rule->RuleID());
             writeBool(child, "RuleActive", rule->RuleActive());
             writeText(child, "Title", rule->Title());
@@ -488,13 +489,13 @@ void RulebaseManager::LoadNamingConventions(TarnXMLElement element,
     });
 }
 
-void RulebaseManager::SaveNamingConventions(TarnXMLElement element, const RuleLists &rules)
+void RulebaseManager::SaveNamingConventions(TarnXMLWriter::Element &element, const RuleLists &rules)
 {
     guardedVoid("SaveNamingConventions", module, [&] {
         const auto &list = *rules.NamingConventions();
         for (qint32 i = 1; i <= list.Count(); ++i) {
             const std::shared_ptr<NamingConvention> rule = list.Item(i);
-            TarnXMLElement child = element.AddElement(QStringLiteral("NamingConvention"));
+            TarnXMLWriter::Element child = element.AddElement(QLatin1String("NamingConvention"));
             writeNumber(child, "RuleID", rule->RuleID());
             writeBool(child, "RuleActive", rule->RuleActive());
             writeBool(child, "CaseSensitive", rule->CaseSensitive());
@@ -526,7 +527,8 @@ void RulebaseManager::SaveNamingConventions(TarnXMLElement element, const RuleLi
 
 // ---------------------------------------------------------------- report
 
-void RulebaseManager::SaveReport(TarnXMLElement element, const ObjectArrayList<IListItem> &sections)
+void RulebaseManager::SaveReport(TarnXMLWriter::Element &element,
+                                 const ObjectArrayList<IListItem> &sections)
 {
     guardedVoid("SaveReport", module, [&] {
         for (qint32 i = 1; i <= sections.Count(); ++i) {
@@ -538,7 +540,7 @@ void RulebaseManager::SaveReport(TarnXMLElement element, const ObjectArrayList<I
                 QStringList ids;
                 for (qint32 r = 1; r <= rules->Count(); ++r)
                     ids << QString::number(rules->Item(r)->RuleID());
-                TarnXMLElement section = element.AddElement(QStringLiteral("Section"));
+                TarnXMLWriter::Element section = element.AddElement(QLatin1String("Section"));
                 writeText(section, "SectionType", QStringLiteral("Category"));
                 writeNumber(section, "CategoryID", category->ID());
                 writeText(section, "CategoryRuleList", ids.join(QLatin1Char('|')));
@@ -546,7 +548,7 @@ void RulebaseManager::SaveReport(TarnXMLElement element, const ObjectArrayList<I
                 const auto table = std::dynamic_pointer_cast<TableItem>(entry);
                 if (!table)
                     throw QuorinError::typeMismatch(QStringLiteral("RulebaseManager::SaveReport"));
-                TarnXMLElement section = element.AddElement(QStringLiteral("Section"));
+                TarnXMLWriter::Element section = element.AddElement(QLatin1String("Section"));
                 writeText(section, "SectionType", QStringLiteral("Table"));
                 writeText(section, "TableKey", table->TableKey());
                 writeText(section, "TableText", table->TableText());

@@ -1,5 +1,6 @@
 #include "tools/StatsCommand.h"
 
+#include "project/FolderListingCache.h"
 #include "tools/ProjectLineCounter.h"
 #include "tools/ToolContext.h"
 #include "tools/ToolExit.h"
@@ -84,6 +85,8 @@ int StatsCommand::execute(const QCommandLineParser &parser, ToolContext &context
         return usageError(context, QStringLiteral("no project or group file given"));
     const bool listFiles = parser.isSet(filesOption());
 
+    // Nothing changes the trees while they are counted: each folder is listed once.
+    const FolderListingCache folders;
     int result = ToolExit::Ok;
     QStringList projectFiles;
     QSet<QString> seen;

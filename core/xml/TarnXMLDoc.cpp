@@ -355,6 +355,18 @@ bool TarnXMLDoc::SaveToFile(const QString &filename)
     });
 }
 
+qint32 TarnXMLDoc::saveBytes(const QString &filename, QByteArrayView bytes)
+{
+    return guarded("SaveToFile", Module, DomFailure, [&] {
+        qint32 code = 0;
+        QString reason;
+        if (writeAtomically(filename, bytes, code, reason))
+            return 0;
+        logParserError(code, reason, "SaveToFile", Module);
+        return code;
+    });
+}
+
 QString TarnXMLDoc::TransformDocument(const TarnXMLDoc &stylesheet) const
 {
     return guarded("TransformDocument", Module, QString(), [&] {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QString>
 
 #include <memory>
@@ -41,6 +42,9 @@ public:
 
     // The user's text for a LastError code, as a failed save reports it.
     static QString SaveErrorText(qint32 code);
+    // Writes a document's bytes as SaveToFile does: atomically, a failure logged. Gives the
+    // LastError code, 0 for success.
+    static qint32 saveBytes(const QString &filename, QByteArrayView bytes);
 
 private:
     bool parseInto(QIODevice &device, const QString &filename);

@@ -1,7 +1,10 @@
 #include "ProjectTestSupport.h"
 
 #include "project/CaseInsensitivePath.h"
+#include "project/FolderListingCache.h"
 #include "project/modQuorinUtils.h"
+
+#include <optional>
 
 namespace {
 
@@ -35,27 +38,37 @@ TEST_F(ProjectPaths, WindowsPathsResolveAsText)
     EXPECT_FALSE(modQuorinUtils::IsVBPFile(QStringLiteral("a.vbg")));
 }
 
+// With and without the listings a stats run keeps.
 TEST_F(ProjectPaths, FindsFilesIgnoringCaseThroughFoldersWithSpacesAndDotDot)
 {
     const QString real = writeFile(QStringLiteral("My Projects/Tools Dir/Form One.frm"), "x");
     writeFile(QStringLiteral("My Projects/App/keep.txt"), "x");
     const QString base = path(QStringLiteral("My Projects/App/"));
-
-    EXPECT_EQ(RelativeToAbsolutePath(QStringLiteral("..\\TOOLS DIR\\form one.FRM"), base), real);
-    EXPECT_EQ(RelativeToAbsolutePath(QStringLiteral("..\\..\\my projects\\tools dir\\FORM ONE.frm"),
-                                     base),
-              real);
-    // ".." inside the path is taken as Windows takes it, without "sub" having to exist.
-    EXPECT_EQ(RelativeToAbsolutePath(QStringLiteral("sub\\..\\..\\Tools Dir/./Form One.frm"), base),
-              real);
-    // A missing file gives the path as built, so messages show what the project asked for.
-    EXPECT_EQ(RelativeToAbsolutePath(QStringLiteral("gone\\x.bas"), base),
-              base + QStringLiteral("gone\\x.bas"));
-    // The exact spelling wins when two names differ only in case.
     const QString lower = writeFile(QStringLiteral("twins/a.bas"), "1");
     const QString upper = writeFile(QStringLiteral("twins/A.bas"), "2");
-    EXPECT_EQ(CaseInsensitivePath::resolve(upper), upper);
-    EXPECT_EQ(CaseInsensitivePath::resolve(lower), lower);
+    for (const bool kept : {false, true}) {
+        std::optional<FolderListingCache> listings;
+        if (kept)
+            listings.emplace();
+        EXPECT_EQ(RelativeToAbsolutePath(QStringLiteral("..\\TOOLS DIR\\form one.FRM"), base),
+                  real);
+        EXPECT_EQ(RelativeToAbsolutePath(
+                      QStringLiteral("..\\..\\my projects\\tools dir\\FORM ONE.frm"), base),
+                  real);
+        // ".." inside the path is taken as Windows takes it, without "sub" having to exist.
+        EXPECT_EQ(
+            RelativeToAbsolutePath(QStringLiteral("sub\\..\\..\\Tools Dir/./Form One.frm"), base),
+            real);
+        // A missing file gives the path as built, so messages show what the project asked for.
+        EXPECT_EQ(RelativeToAbsolutePath(QStringLiteral("gone\\x.bas"), base),
+                  base + QStringLiteral("gone\\x.bas"));
+        EXPECT_EQ(CaseInsensitivePath::resolve(path(QStringLiteral("Twins/gone.bas"))),
+                  path(QStringLiteral("Twins/gone.bas")));
+        // The exact spelling wins when two names differ only in case.
+        EXPECT_EQ(CaseInsensitivePath::resolve(upper), upper);
+        EXPECT_EQ(CaseInsensitivePath::resolve(lower), lower);
+        EXPECT_EQ(RelativeToAbsolutePath(QStringLiteral("twins\\A.bas"), path(QString())), upper);
+    }
 }
 
 TEST_F(ProjectPaths, GroupFileListsProjectLinesInOrderWithDuplicates)

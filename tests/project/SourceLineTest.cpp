@@ -1,6 +1,9 @@
 #include "ProjectTestSupport.h"
 
+#include "project/Windows1252.h"
 #include "project/modSource.h"
+
+#include <random>
 
 namespace {
 
@@ -40,6 +43,42 @@ TEST_F(SourceLineAnalysis, ClassifiesLinesByTheTextRules)
     // Only the order of the tests tells a comment-only line from one with an in-line comment.
     EXPECT_TRUE(modSource::HasInLineComment(QStringLiteral("' only")));
     EXPECT_FALSE(modSource::IsCommentOnlyLine(QString()));
+}
+
+// The file reader classifies the bytes as they stand; it must agree with the rules on the
+// decoded text for every mix of the characters the rules look at and of bytes beyond ASCII.
+TEST_F(SourceLineAnalysis, BytesClassifyAsTheirDecodedText)
+{
+    const char pieces[][7] = {" ",
+                              "\t",
+                              ":",
+                              "7",
+                              "'",
+                              "\"",
+                              "_",
+                              "Rem ",
+                              "rEm",
+                              ": rem ",
+                              "x",
+                              "=",
+                              "\xe9",
+                              "\x8a",
+                              "\x93",
+                              "\xa0",
+                              "\xd2"};
+    std::mt19937 random(7);
+    for (int n = 0; n < 20000; ++n) {
+        QByteArray line;
+        for (int k = int(random() % 9); k > 0; --k)
+            line += pieces[random() % std::size(pieces)];
+        EXPECT_EQ(modSource::LineTypeOfWindows1252(line),
+                  modSource::SourceLineType(Windows1252::decode(line)))
+            << "line: " << line.toStdString();
+    }
+    // Past the 16-bit positions both fail alike.
+    const QByteArray longLine = QByteArray(40000, 'x') + "\"a'b\"";
+    EXPECT_EQ(modSource::LineTypeOfWindows1252(longLine), SourceLineType::Code);
+    EXPECT_EQ(logRecords().size(), 1);
 }
 
 TEST_F(SourceLineAnalysis, QuotedTextIsEmptiedAndEndQuotesRemoved)

@@ -3,6 +3,7 @@
 #include "collections/KeyedArrayList.h"
 #include "collections/ObjectKeyedArrayList.h"
 #include "project/SourceLineStatistics.h"
+#include "project/SourceTextFile.h"
 #include "project/VirtualObject.h"
 #include "project/VirtualProject.h"
 #include "project/VirtualSourceFile.h"
@@ -180,6 +181,57 @@ TEST_F(SourceFileReader, LineEndsAndWindows1252)
     EXPECT_EQ(lines[0].logical, QStringLiteral("a = \"\u20AC\u2014\u00E9\""));
     EXPECT_EQ(lines[2].logical, QString());
     EXPECT_EQ(lines[3].logical, QStringLiteral("c = 2"));
+}
+
+// A file read a block at a time gives the lines of the whole read: here a CR LF straddles the
+// first block's end, lines end in CR, LF and CR LF, one is longer than a block, the last has
+// no line end.
+TEST_F(SourceFileReader, ReadingAsLinesAreReadGivesTheLinesOfTheWholeFile)
+{
+    const QByteArray bytes
+        = QByteArray(4095, 'a') + "\r\nb\rc\n\nd\r\r\n" + QByteArray(9000, 'e') + "\rf";
+    const QString name = writeFile(QStringLiteral("blocks.bas"), bytes);
+    writeFile(QStringLiteral("empty.bas"), QByteArray());
+    for (const QString &file : {name, path(QStringLiteral("empty.bas"))}) {
+        SourceTextFile whole(file);
+        SourceTextFile lazy(file, SourceTextFile::Reading::AsLinesAreRead);
+        QStringList wholeLines;
+        QStringList lazyLines;
+        while (!whole.atEnd())
+            wholeLines << whole.readLine();
+        while (!lazy.atEnd())
+            lazyLines << lazy.readLine();
+        EXPECT_EQ(lazyLines, wholeLines);
+        EXPECT_EQ(wholeLines.size(), file == name ? 8 : 0);
+        try {
+            lazy.readLine();
+            ADD_FAILURE() << "read past the end";
+        } catch (const QuorinError &error) {
+            EXPECT_EQ(error.number(), FileErrorNumber::InputPastEndOfFile);
+        }
+    }
+}
+
+TEST_F(SourceFileReader, OpeningTellsAMissingFileFolderOrADirectory)
+{
+    writeFile(QStringLiteral("Sub/Real.bas"), "x = 1\r\n");
+    const std::pair<const char *, qint32> cases[] = {
+        {"sub/REAL.BAS", 0}, // found ignoring case
+        {"Sub\\Real.bas", 0},
+        {"Sub/gone.bas", FileErrorNumber::FileNotFound},
+        {"gone/x.bas", FileErrorNumber::PathNotFound},
+        {"Sub", FileErrorNumber::PathFileAccessError},
+    };
+    for (const auto &[name, number] : cases) {
+        qint32 raised = 0;
+        try {
+            SourceTextFile file(path(QLatin1String(name)));
+            EXPECT_EQ(file.readLine(), QStringLiteral("x = 1")) << name;
+        } catch (const QuorinError &error) {
+            raised = error.number();
+        }
+        EXPECT_EQ(raised, number) << name;
+    }
 }
 
 TEST_F(SourceFileReader, ConnectingToAMissingFileIsLogged)

@@ -12,6 +12,7 @@
 #include "rulebase/NamingConvention.h"
 #include "rulebase/PrefixSuffixItem.h"
 #include "rulebase/Report.h"
+#include "rulebase/RuleBase.h"
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseFileValues.h"
@@ -28,8 +29,11 @@
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
+
+#include <random>
 
 #include <gtest/gtest.h>
 
@@ -270,6 +274,80 @@ TEST_F(RulebaseFileTest, EveryFieldSurvivesIncludingTextThatNeedsEscaping)
     EXPECT_EQ(readBytes(dir + QStringLiteral("a.qrb")), readBytes(dir + QStringLiteral("b.qrb")));
     EXPECT_TRUE(
         readBytes(dir + QStringLiteral("a.qrb")).contains("a%LT%b%GT%c &amp; &quot;q&quot;"));
+}
+
+namespace {
+
+// A rulebase of every rule type whose texts mix what the file escapes, in both its ways, with
+// text beyond ASCII and beyond the 16-bit plane; the same for the same seed.
+std::shared_ptr<Rulebase> awkwardRulebase(int rules, unsigned seed)
+{
+    const QString pieces[]
+        = {QStringLiteral("a"),     QStringLiteral("Zoo 42"), QStringLiteral("<"),
+           QStringLiteral(">"),     QStringLiteral("&"),      QStringLiteral("\""),
+           QStringLiteral("'"),     QStringLiteral("%"),      QStringLiteral("%LT%"),
+           QStringLiteral("\t"),    QStringLiteral("\r\n"),   QStringLiteral("\r"),
+           QStringLiteral("\n"),    QStringLiteral(" "),      QStringLiteral("é"),
+           QStringLiteral("東京"),  QStringLiteral("😀"),      QStringLiteral("\uFFFD"),
+           QStringLiteral("&amp;"), QStringLiteral("]]>")};
+    std::mt19937 random(seed);
+    auto text = [&] {
+        QString value;
+        for (int k = int(random() % 12); k > 0; --k)
+            value += pieces[random() % std::size(pieces)];
+        return value;
+    };
+    auto rulebase = std::make_shared<Rulebase>();
+    rulebase->setAutoIncrementVersion(false);
+    rulebase->setTitle(text());
+    rulebase->setDescription(text());
+    for (int i = 0; i < rules; ++i) {
+        std::shared_ptr<RuleBase> rule;
+        if (i % 3 == 0) {
+            auto coding = std::make_shared<CodingConvention>();
+            coding->AddParserEventID(int(random() % 40) + 1);
+            coding->setCondition(text());
+            rule = coding;
+        } else if (i % 3 == 1) {
+            auto naming = std::make_shared<NamingConvention>();
+            naming->setPrefixActive(true);
+            naming->PrefixItems()->Item(1)->setPSType(1);
+            naming->PrefixItems()->Item(1)->setValue(text());
+            naming->setExclusionList(text());
+            rule = naming;
+        } else {
+            auto keyword = std::make_shared<UnauthorisedKeyword>();
+            keyword->setCondition(text());
+            rule = keyword;
+        }
+        rule->setTitle(text());
+        rule->setDescription(text());
+        rulebase->RuleLists()->AddConvention(rule, true);
+    }
+    return rulebase;
+}
+
+} // namespace
+
+// The bytes a save writes, as the writer that built a tree of the whole file wrote them.
+TEST_F(RulebaseFileTest, SavedBytesAreThoseOfTheTreeWriter)
+{
+    const auto sample = load(TestEnvironment::sampleRulebase());
+    ASSERT_TRUE(sample);
+    sample->setAutoIncrementVersion(false);
+    const std::pair<std::shared_ptr<Rulebase>, const char *> cases[] = {
+        {sample, "9e01f2cbd330f5461672265c7772c38078627194f8169690cebc86214421e949"},
+        {awkwardRulebase(300, 11),
+         "4ea7f195b8304afcf38361410a6edf1d852c0f67d280d56bfae96770c198cf94"},
+    };
+    for (const auto &[rulebase, sha256] : cases) {
+        const QString file = dir + QStringLiteral("saved.qrb");
+        ASSERT_TRUE(RulebaseManager().Save(*rulebase, file));
+        EXPECT_EQ(QCryptographicHash::hash(readBytes(file), QCryptographicHash::Sha256)
+                      .toHex()
+                      .toStdString(),
+                  sha256);
+    }
 }
 
 TEST_F(RulebaseFileTest, LoadingKeepsFileQuirks)
