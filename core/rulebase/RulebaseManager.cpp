@@ -104,6 +104,7 @@ std::shared_ptr<Rulebase> RulebaseManager::LoadRulebase(RulebaseLoadCriteria &cr
                           QStringLiteral("RulebaseManager::LoadRulebase"),
                           noFilenameText());
 
+    m_loadedInPart = false;
     return guarded("LoadRulebase", module, nullptr, [&]() -> std::shared_ptr<Rulebase> {
         auto rulebase = std::make_shared<Rulebase>();
         TarnXMLDoc doc;
@@ -167,6 +168,7 @@ std::shared_ptr<Rulebase> RulebaseManager::LoadRulebase(RulebaseLoadCriteria &cr
             LoadReport(root.ElementByName(QStringLiteral("Report")), *rulebase);
 
         rulebase->setDirty(false);
+        rulebase->setLoadedInPart(m_loadedInPart);
         return rulebase;
     });
 }
@@ -240,7 +242,7 @@ bool RulebaseManager::Save(Rulebase &rulebase, const QString &filename)
 
 void RulebaseManager::LoadProperties(TarnXMLElement element, Rulebase &rulebase)
 {
-    guardedVoid("LoadProperties", module, [&] {
+    m_loadedInPart |= !guardedVoid("LoadProperties", module, [&] {
         rulebase.setTitle(readText(element, "Name"));
         rulebase.setVersion(readText(element, "Version"));
         rulebase.setAutoIncrementVersion(readBool(element, "AutoIncrementVersion"));

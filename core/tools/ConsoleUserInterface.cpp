@@ -54,7 +54,8 @@ MessageResult ConsoleUserInterface::defaultAnswer(MessageButtons buttons)
 MessageResult ConsoleUserInterface::messageBox(const QString &text,
                                                MessageButtons buttons,
                                                MessageIcon,
-                                               const QString &title)
+                                               const QString &title,
+                                               MessageResult)
 {
     const QString message
         = title == unexpectedErrorTitle ? title + QStringLiteral(": ") + text : text;

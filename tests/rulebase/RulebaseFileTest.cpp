@@ -304,6 +304,7 @@ TEST_F(RulebaseFileTest, LoadingKeepsFileQuirks)
     EXPECT_EQ(naming->ExclusionList(), QStringLiteral(" x;y "));
     EXPECT_FALSE(naming->CaseSensitive());
     EXPECT_FALSE(rulebase->Dirty());
+    EXPECT_FALSE(rulebase->LoadedInPart());
 }
 
 TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
@@ -313,6 +314,8 @@ TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
                               codingRule("5001") + codingRule("12x") + codingRule("5003"),
                               namingRule("5004", "<PrefixItem PSType=\"1\" PSValue=\"a\"/>")));
     ASSERT_TRUE(rulebase); // a section's fault is its own; the load goes on
+    EXPECT_TRUE(rulebase->LoadedInPart());
+    EXPECT_FALSE(rulebase->Dirty());
     EXPECT_EQ(rulebase->RuleLists()->CodingConventions()->Count(), 1);
     EXPECT_EQ(rulebase->RuleLists()->NamingConventions()->Count(), 1);
     ASSERT_EQ(ui.messages.size(), 1u);
@@ -335,6 +338,7 @@ TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
             "<PrefixItem PSType=\"1\" PSValue=\"a\"/><PrefixItem PSType=\"1\" PSValue=\"a\"/>"
             "<PrefixItem PSType=\"1\" PSValue=\"a\"/><PrefixItem PSType=\"1\" PSValue=\"a\"/>")));
     ASSERT_TRUE(overflow);
+    EXPECT_TRUE(overflow->LoadedInPart());
     EXPECT_EQ(overflow->RuleLists()->AllConventions()->Count(), 0);
     ASSERT_EQ(ui.messages.size(), 2u);
     EXPECT_TRUE(ui.messages[0].text.startsWith(
@@ -399,6 +403,7 @@ TEST_F(RulebaseFileTest, FilesThatAreNotRulebasesAreRefusedWithTheirWarnings)
     ui.messages.clear();
     const auto noReport = loadBytes(smallFile("", "", "", ""));
     ASSERT_TRUE(noReport);
+    EXPECT_TRUE(noReport->LoadedInPart());
     EXPECT_EQ(noReport->Report()->Sections()->Count(), 0);
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_TRUE(ui.messages[0].text.endsWith(
