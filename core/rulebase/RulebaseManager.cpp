@@ -104,8 +104,9 @@ std::shared_ptr<Rulebase> RulebaseManager::LoadRulebase(RulebaseLoadCriteria &cr
                           QStringLiteral("RulebaseManager::LoadRulebase"),
                           noFilenameText());
 
-    m_loadedInPart = false;
     return guarded("LoadRulebase", module, nullptr, [&]() -> std::shared_ptr<Rulebase> {
+        // Any frame that gives up on the way, a section's or a rule's, leaves something out.
+        const quint64 errorsBefore = reportedErrorCount();
         auto rulebase = std::make_shared<Rulebase>();
         TarnXMLDoc doc;
         if (!doc.LoadFromFile(filename)) {
@@ -168,7 +169,7 @@ std::shared_ptr<Rulebase> RulebaseManager::LoadRulebase(RulebaseLoadCriteria &cr
             LoadReport(root.ElementByName(QStringLiteral("Report")), *rulebase);
 
         rulebase->setDirty(false);
-        rulebase->setLoadedInPart(m_loadedInPart);
+        rulebase->setLoadedInPart(reportedErrorCount() != errorsBefore);
         return rulebase;
     });
 }
@@ -242,7 +243,7 @@ bool RulebaseManager::Save(Rulebase &rulebase, const QString &filename)
 
 void RulebaseManager::LoadProperties(TarnXMLElement element, Rulebase &rulebase)
 {
-    m_loadedInPart |= !guardedVoid("LoadProperties", module, [&] {
+    guardedVoid("LoadProperties", module, [&] {
         rulebase.setTitle(readText(element, "Name"));
         rulebase.setVersion(readText(element, "Version"));
         rulebase.setAutoIncrementVersion(readBool(element, "AutoIncrementVersion"));

@@ -22,9 +22,9 @@ class ObjectKeyedArrayList;
 template<typename T>
 class ObjectArrayList;
 
-// Reads and writes rulebase files. Made for one call and dropped. Each section of the file
-// has its own error frame, so a fault stops its section and no more; the rulebase then says
-// that it loaded in part.
+// Reads and writes rulebase files. It holds no state: made for one call and dropped. Each
+// section of the file has its own error frame, so a fault stops its section and no more; the
+// rulebase then says that it loaded in part.
 class RulebaseManager
 {
 public:
@@ -83,6 +83,4 @@ private:
     QString UpdateSchema(TarnXMLElement root, const QString &version);
     void Apply_6_1_SchemaUpdates(TarnXMLElement root);
     void Apply_6_2_SchemaUpdates(TarnXMLElement root);
-
-    bool m_loadedInPart = false; // a section of the load in hand stopped at a fault
 };

@@ -104,7 +104,7 @@ void RulebaseManager::LoadTags(TarnXMLElement element,
                                ObjectKeyedArrayList<TagItem> &list,
                                int tagType)
 {
-    m_loadedInPart |= !guardedVoid("LoadTags", module, [&] {
+    guardedVoid("LoadTags", module, [&] {
         // Tags in the file merge into the default set: defaults absent from the file stay.
         forEachChild(element, [&](const TarnXMLElement &child, qint32) {
             const QString name = readText(child, "TagName");
@@ -144,7 +144,7 @@ void RulebaseManager::SaveTags(TarnXMLElement element,
 
 void RulebaseManager::LoadDefaultViolations(TarnXMLElement element, DefaultViolations &violations)
 {
-    m_loadedInPart |= !guardedVoid("LoadDefaultViolations", module, [&] {
+    guardedVoid("LoadDefaultViolations", module, [&] {
         forEachChild(element, [&](const TarnXMLElement &child, qint32 p) {
             const std::shared_ptr<ViolationDefinition> item = violations.Item(p + 1);
             if (!item)
@@ -195,7 +195,7 @@ void RulebaseManager::LoadCategoryList(TarnXMLElement element,
                                        RulebaseLoadCriteria &criteria,
                                        CategoryList &list)
 {
-    m_loadedInPart |= !guardedVoid("LoadCategoryList", module, [&] {
+    guardedVoid("LoadCategoryList", module, [&] {
         list.setLastID(readLong(element, "LastID"));
         const bool administrator = IsQuorinAdministrator();
         forEachChild(element, [&](const TarnXMLElement &child, qint32) {
@@ -236,7 +236,7 @@ void RulebaseManager::SaveSeverityList(TarnXMLElement element,
 void RulebaseManager::LoadSeverityList(TarnXMLElement element,
                                        ObjectKeyedArrayList<SeverityItem> &list)
 {
-    m_loadedInPart |= !guardedVoid("LoadSeverityList", module, [&] {
+    guardedVoid("LoadSeverityList", module, [&] {
         // Levels in the file merge with the defaults; an existing level keeps its own level text.
         forEachChild(element, [&](const TarnXMLElement &child, qint32) {
             const qint32 level = readLong(child, "SeverityLevel");
@@ -266,7 +266,7 @@ void RulebaseManager::LoadSeverityList(TarnXMLElement element,
 
 void RulebaseManager::LoadAuthorisedComponents(TarnXMLElement element, AuthorisedComponents &list)
 {
-    m_loadedInPart |= !guardedVoid("LoadAuthorisedComponents", module, [&] {
+    guardedVoid("LoadAuthorisedComponents", module, [&] {
         forEachChild(element, [&](const TarnXMLElement &child, qint32) {
             auto item = std::make_shared<AuthorisedComponent>();
             item->setAdvice(readText(child, "Advice"));
@@ -295,7 +295,7 @@ void RulebaseManager::SaveAuthorisedComponents(TarnXMLElement element,
 
 void RulebaseManager::LoadAuthorisedReferences(TarnXMLElement element, AuthorisedReferences &list)
 {
-    m_loadedInPart |= !guardedVoid("LoadAuthorisedReferences", module, [&] {
+    guardedVoid("LoadAuthorisedReferences", module, [&] {
         forEachChild(element, [&](const TarnXMLElement &child, qint32) {
             auto item = std::make_shared<AuthorisedReference>();
             item->setAdvice(readText(child, "Advice"));
@@ -367,7 +367,7 @@ void RulebaseManager::LoadUnauthorisedKeywords(TarnXMLElement element,
                                                RulebaseLoadCriteria &criteria,
                                                RuleLists &rules)
 {
-    m_loadedInPart |= !guardedVoid("LoadUnauthorisedKeywords", module, [&] {
+    guardedVoid("LoadUnauthorisedKeywords", module, [&] {
         takeEachChild(element, [&](const TarnXMLElement &child, qint32) {
             if (!IsLoadableRule(criteria, child))
                 return;
@@ -406,7 +406,7 @@ void RulebaseManager::LoadCodingConventions(TarnXMLElement element,
                                             RulebaseLoadCriteria &criteria,
                                             RuleLists &rules)
 {
-    m_loadedInPart |= !guardedVoid("LoadCodingConventions", module, [&] {
+    guardedVoid("LoadCodingConventions", module, [&] {
         takeEachChild(element, [&](const TarnXMLElement &child, qint32) {
             if (!IsLoadableRule(criteria, child))
                 return;
@@ -449,7 +449,7 @@ void RulebaseManager::LoadNamingConventions(TarnXMLElement element,
                                             RulebaseLoadCriteria &criteria,
                                             RuleLists &rules)
 {
-    m_loadedInPart |= !guardedVoid("LoadNamingConventions", module, [&] {
+    guardedVoid("LoadNamingConventions", module, [&] {
         const bool forEdit = criteria.LoadForEdit();
         takeEachChild(element, [&](const TarnXMLElement &child, qint32) {
             if (!IsLoadableRule(criteria, child))
@@ -559,7 +559,7 @@ void RulebaseManager::SaveReport(TarnXMLElement element, const ObjectArrayList<I
 
 void RulebaseManager::LoadReport(TarnXMLElement element, Rulebase &rulebase)
 {
-    m_loadedInPart |= !guardedVoid("LoadReport", module, [&] {
+    guardedVoid("LoadReport", module, [&] {
         ObjectArrayList<IListItem> &sections = *rulebase.Report()->Sections();
         const CategoryList &categories = *rulebase.CategoryList();
         const auto &allRules = *rulebase.RuleLists()->AllConventions();

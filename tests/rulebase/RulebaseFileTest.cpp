@@ -346,6 +346,14 @@ TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
     EXPECT_TRUE(ui.messages[1].text.contains(
         QStringLiteral("LoadNamingConventions"))); // a fifth prefix item
 
+    // A rule refused on its own, as a second one of an id is, leaves the file loaded in part too.
+    ui.messages.clear();
+    const auto twice = loadBytes(smallFile("", codingRule("5001") + codingRule("5001"), ""));
+    ASSERT_TRUE(twice);
+    EXPECT_EQ(twice->RuleLists()->CodingConventions()->Count(), 1);
+    EXPECT_TRUE(twice->LoadedInPart());
+    EXPECT_FALSE(ui.messages.empty());
+
     ui.messages.clear();
     QByteArray big = smallFile("", codingRule("5001"), "");
     big.replace("Impact=\"5\"", "Impact=\"40000\"");
