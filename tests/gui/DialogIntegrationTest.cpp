@@ -684,6 +684,7 @@ TEST_F(DialogIntegration, NumberBoxesRefuseANumberTheirValueCannotHold)
 TEST_F(DialogIntegration, APickedPlaceholderGoesInAtTheCaretWhileTabStillSelectsAll)
 {
     openRule(RuleTypes::CodingConvention, "frmCodingConvention", [&](QDialog &dialog) {
+        QApplication::setActiveWindow(&dialog); // focus comes and goes as on a desktop
         child<QTabWidget>(dialog, "tbsConvention")->setCurrentIndex(3);
         auto *advice = child<QPlainTextEdit>(dialog, "txtVAdvice");
         advice->setPlainText(QStringLiteral("Rename  now."));
@@ -701,6 +702,8 @@ TEST_F(DialogIntegration, APickedPlaceholderGoesInAtTheCaretWhileTabStillSelects
                 click(picker, "cmdOK");
             });
             click(dialog, "cmdObjectProperty_1");
+            // The dialog is active again once the picker has gone, and its field has focus back.
+            QApplication::setActiveWindow(&dialog);
             QApplication::processEvents();
             if (i == 0)
                 placeholder = advice->toPlainText().mid(7, advice->toPlainText().size() - 12);
