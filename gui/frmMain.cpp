@@ -444,8 +444,8 @@ void frmMain::Update()
 {
     const std::shared_ptr<Rulebase> &rulebase = m_application ? m_application->rulebase() : nullptr;
     // A file that loaded only in part says so until a save has made file and window agree.
-    const QString part = rulebase && rulebase->LoadedInPart() ? QStringLiteral(" (loaded in part)")
-                                                              : QString();
+    const QString part
+        = rulebase && rulebase->LoadedInPart() ? QStringLiteral(" (loaded in part)") : QString();
     setWindowTitle(rulebase ? rulebase->FileTitle() + part + QStringLiteral(" - ") + programTitle()
                             : programTitle());
     SetEnabledState();

@@ -167,9 +167,11 @@ bool Application::OpenRulebase(OpenMode mode, const QString &filename)
         }
         if (!FileUtils::FileExists(name)) {
             if (mode == OpenMode::RecentList) {
-                if (askYesNo(QStringLiteral("Can't find the rulebase '") + name
-                                 + QStringLiteral("', do you want to remove it from the most recently used list?"),
-                             MessageResult::No)
+                if (askYesNo(
+                        QStringLiteral("Can't find the rulebase '") + name
+                            + QStringLiteral(
+                                "', do you want to remove it from the most recently used list?"),
+                        MessageResult::No)
                     == MessageResult::Yes) {
                     m_mainForm->RemoveFromMRUList(name);
                 }
@@ -264,8 +266,9 @@ bool Application::CheckForSave()
     return guarded("CheckForSave", module, false, [this]() -> bool {
         if (!m_rulebase || !m_rulebase->Dirty())
             return true;
-        switch (askYesNoCancel(QStringLiteral("The current rulebase has changed, do you wish to save the changes?"),
-                               MessageResult::Yes)) {
+        switch (askYesNoCancel(
+            QStringLiteral("The current rulebase has changed, do you wish to save the changes?"),
+            MessageResult::Yes)) {
         case MessageResult::Yes:
             return SaveRulebase();
         case MessageResult::No:
@@ -554,7 +557,8 @@ void Application::GenerateDocumentation()
         }
         if (cancelled || generated)
             return;
-        if (askYesNo(QStringLiteral("Do you wish to generate the Rulebase documentation?"), MessageResult::Yes)
+        if (askYesNo(QStringLiteral("Do you wish to generate the Rulebase documentation?"),
+                     MessageResult::Yes)
             != MessageResult::Yes)
             return;
         // Asked before the hourglass, which would otherwise stand over the question.

@@ -20,7 +20,8 @@ public:
     NumberValidator(const NumberRange &range, QObject *parent)
         : QValidator(parent)
         , m_range(range)
-    {}
+    {
+    }
 
     State validate(QString &input, int &) const override
     {

@@ -86,10 +86,10 @@ frmRulebaseProperties::frmRulebaseProperties(RulebasePropertiesForm &form, QWidg
     grid->addWidget(new QLabel(QStringLiteral("Counts")), 1, 1);
     grid->addWidget(new QLabel(QStringLiteral("Impact")), 1, 2);
     for (int i = 0; i < RulebasePropertiesForm::ToleranceRows; ++i) {
-        m_counts[std::size_t(i)]
-            = numberBox(QStringLiteral("txtToleranceCount"), RulebasePropertiesForm::LimitRange(), i);
-        m_impacts[std::size_t(i)]
-            = numberBox(QStringLiteral("txtToleranceImpact"), RulebasePropertiesForm::LimitRange(), i);
+        m_counts[std::size_t(i)] = numberBox(
+            QStringLiteral("txtToleranceCount"), RulebasePropertiesForm::LimitRange(), i);
+        m_impacts[std::size_t(i)] = numberBox(
+            QStringLiteral("txtToleranceImpact"), RulebasePropertiesForm::LimitRange(), i);
         auto *label = new QLabel;
         label->setObjectName(QStringLiteral("lblSeverityTolerance"));
         label->setProperty("index", i);
@@ -98,10 +98,10 @@ frmRulebaseProperties::frmRulebaseProperties(RulebasePropertiesForm &form, QWidg
         grid->addWidget(m_counts[std::size_t(i)], i + 2, 1);
         grid->addWidget(m_impacts[std::size_t(i)], i + 2, 2);
     }
-    m_percentageComments
-        = numberBox(QStringLiteral("txtPercentageComments"), RulebasePropertiesForm::PercentageRange());
-    m_cyclomaticComplexity
-        = numberBox(QStringLiteral("txtCyclomaticComplexity"), RulebasePropertiesForm::LimitRange());
+    m_percentageComments = numberBox(QStringLiteral("txtPercentageComments"),
+                                     RulebasePropertiesForm::PercentageRange());
+    m_cyclomaticComplexity = numberBox(QStringLiteral("txtCyclomaticComplexity"),
+                                       RulebasePropertiesForm::LimitRange());
     grid->addWidget(labelFor(QStringLiteral("Minimum Percentage (%) Comments"), m_percentageComments), 9, 0);
     grid->addWidget(m_percentageComments, 9, 1);
     grid->addWidget(labelFor(QStringLiteral("Maximum Cyclomatic Complexity"), m_cyclomaticComplexity), 10, 0);

@@ -241,9 +241,11 @@ TEST_F(ApplicationTest, AFailedOpenKeepsTheRulebaseBeforeItWholeAndSavable)
     EXPECT_EQ(app.rulebase(), before);
     EXPECT_TRUE(before->Dirty());
     EXPECT_EQ(ui.messageTexts().mid(1),
-              (QStringList{QStringLiteral("Unable to load the rulebase because of an unexpected error during parsing."),
-                           QStringLiteral("Failed to open '") + bad
-                               + QStringLiteral("', it may not be a valid Quorin rulebase.")}));
+              (QStringList{
+                  QStringLiteral(
+                      "Unable to load the rulebase because of an unexpected error during parsing."),
+                  QStringLiteral("Failed to open '") + bad
+                      + QStringLiteral("', it may not be a valid Quorin rulebase.")}));
     QFile log(dir + QStringLiteral("Error.log"));
     ASSERT_TRUE(log.open(QIODevice::ReadOnly));
     EXPECT_TRUE(log.readAll().contains("XML Parser Error"));
@@ -270,7 +272,8 @@ TEST_F(ApplicationTest, AFileThatLoadedInPartSaysSoAndAsksBeforeItIsWrittenOver)
     }
 
     Application app(&form, countingViews());
-    ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, TestEnvironment::sampleRulebase()));
+    ASSERT_TRUE(
+        app.OpenRulebase(Application::OpenMode::CommandLine, TestEnvironment::sampleRulebase()));
     EXPECT_FALSE(app.rulebase()->LoadedInPart());
     ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, path));
     EXPECT_TRUE(app.rulebase()->LoadedInPart());
@@ -410,7 +413,8 @@ TEST_F(ApplicationTest, EveryQuestionThatDeletesOrDiscardsDefaultsToTheSafeAnswe
         QFile sample(TestEnvironment::sampleRulebase());
         QFile file(part);
         ASSERT_TRUE(sample.open(QIODevice::ReadOnly) && file.open(QIODevice::WriteOnly));
-        file.write(sample.readAll().replace("<CategoryList LastID=\"14\">", "<CategoryList LastID=\"x\">"));
+        file.write(sample.readAll().replace("<CategoryList LastID=\"14\">",
+                                            "<CategoryList LastID=\"x\">"));
     }
     const std::vector<Case> cases = {
         {"delete coding conventions", deleteInView("tlCodingConventions"), MessageResult::No},
@@ -471,11 +475,13 @@ TEST_F(ApplicationTest, EveryQuestionThatDeletesOrDiscardsDefaultsToTheSafeAnswe
         SCOPED_TRACE(c.question);
         MemoryMainForm window;
         Application app(&window, createView);
-        ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, TestEnvironment::sampleRulebase()));
+        ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine,
+                                     TestEnvironment::sampleRulebase()));
         ui.messages.clear();
         c.ask(app, window);
         ASSERT_FALSE(ui.messages.empty());
-        EXPECT_NE(ui.messages.back().buttons, MessageButtons::OK) << ui.messages.back().text.toStdString();
+        EXPECT_NE(ui.messages.back().buttons, MessageButtons::OK)
+            << ui.messages.back().text.toStdString();
         EXPECT_EQ(ui.messages.back().defaultButton, c.safe);
     }
 }

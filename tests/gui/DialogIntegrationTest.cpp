@@ -25,11 +25,11 @@
 #include "gui/dialogs/frmParserEvent.h"
 #include "gui/dialogs/frmPatternTest.h"
 #include "gui/dialogs/frmRulebaseDocCreator.h"
-#include "gui/editor/frmRuleEditor.h"
 #include "gui/dialogs/frmRulebaseProperties.h"
 #include "gui/dialogs/frmSeverityEditor.h"
 #include "gui/dialogs/frmTagList.h"
 #include "gui/dialogs/frmUnauthorisedKeyword.h"
+#include "gui/editor/frmRuleEditor.h"
 #include "gui/factory/GuiFormFactory.h"
 #include "gui/frmMain.h"
 #include "gui/window/Images.h"
@@ -637,7 +637,8 @@ TEST_F(DialogIntegration, NumberBoxesRefuseANumberTheirValueCannotHold)
         NumberRange range;
         std::function<std::unique_ptr<QDialog>()> make;
     };
-    const auto propertiesDialog = [&] { return std::make_unique<frmRulebaseProperties>(properties); };
+    const auto propertiesDialog
+        = [&] { return std::make_unique<frmRulebaseProperties>(properties); };
     const auto namingDialog = [] {
         auto dialog = std::make_unique<frmNamingConvention>();
         child<QCheckBox>(*dialog, "chkBodyActive")->setChecked(true);

@@ -25,12 +25,12 @@
 #include <QDragEnterEvent>
 #include <QFile>
 #include <QLabel>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QSplitter>
-#include <QTreeView>
-#include <QMenuBar>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QTreeView>
 
 #include <gtest/gtest.h>
 
@@ -278,7 +278,8 @@ TEST(MainWindow, AFailedOpenLeavesTheWindowLiveAndAPartLoadSaysSoUntilSaved)
 
     w.ui.answers = {MessageResult::No};
     ASSERT_TRUE(w.app->OpenRulebase(Application::OpenMode::CommandLine, part));
-    EXPECT_EQ(w.window->windowTitle(), QStringLiteral("part.qrb (loaded in part) - Quorin Administrator"));
+    EXPECT_EQ(w.window->windowTitle(),
+              QStringLiteral("part.qrb (loaded in part) - Quorin Administrator"));
     w.ui.answers = {MessageResult::Yes};
     w.window->tool(QStringLiteral("tlSaveRulebase"))->trigger();
     EXPECT_EQ(w.window->windowTitle(), QStringLiteral("part.qrb - Quorin Administrator"));
