@@ -19,7 +19,8 @@ GuiUserInterface::GuiUserInterface(bool interactive)
 MessageResult GuiUserInterface::messageBox(const QString &text,
                                            MessageButtons buttons,
                                            MessageIcon icon,
-                                           const QString &title)
+                                           const QString &title,
+                                           MessageResult defaultButton)
 {
     if (!m_interactive) {
         QTextStream(stderr) << title << ": " << text << Qt::endl;
@@ -27,6 +28,7 @@ MessageResult GuiUserInterface::messageBox(const QString &text,
                                                                                      : MessageResult::No;
     }
     QMessageBox box(m_parent);
+    box.setObjectName(QStringLiteral("QuorinMessageBox"));
     box.setWindowTitle(title);
     box.setText(text);
     switch (icon) {
@@ -59,6 +61,20 @@ MessageResult GuiUserInterface::messageBox(const QString &text,
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
         break;
     }
+    switch (defaultButton) {
+    case MessageResult::OK:
+        box.setDefaultButton(QMessageBox::Ok);
+        break;
+    case MessageResult::Cancel:
+        box.setDefaultButton(QMessageBox::Cancel);
+        break;
+    case MessageResult::Yes:
+        box.setDefaultButton(QMessageBox::Yes);
+        break;
+    case MessageResult::No:
+        box.setDefaultButton(QMessageBox::No);
+        break;
+    }
     switch (box.exec()) {
     case QMessageBox::Yes:
         return MessageResult::Yes;
@@ -89,7 +105,9 @@ QString GuiUserInterface::qtFilter(int fileType, bool forSave)
         filter = QStringLiteral("VB Project Groups (*.vbg)|*.vbg");
         break;
     case 5:
-        filter = QStringLiteral("VB Project Groups (*.vbg)|*.vbg|VB Projects (*.vbp)|*.vbp");
+        // Both kinds first: a folder of projects must not look empty.
+        filter = QStringLiteral("VB Projects and Groups (*.vbp, *.vbg)|*.vbp;*.vbg|"
+                                "VB Projects (*.vbp)|*.vbp|VB Project Groups (*.vbg)|*.vbg");
         break;
     case 6:
         filter = QStringLiteral("ActiveX Controls (*.ocx)|*.ocx");

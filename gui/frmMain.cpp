@@ -476,7 +476,10 @@ void frmMain::updateRuleActiveTools()
 void frmMain::Update()
 {
     const std::shared_ptr<Rulebase> &rulebase = m_application ? m_application->rulebase() : nullptr;
-    setWindowTitle(rulebase ? rulebase->FileTitle() + QStringLiteral(" - ") + programTitle()
+    // A file that loaded only in part says so until a save has made file and window agree.
+    const QString part
+        = rulebase && rulebase->LoadedInPart() ? QStringLiteral(" (loaded in part)") : QString();
+    setWindowTitle(rulebase ? rulebase->FileTitle() + part + QStringLiteral(" - ") + programTitle()
                             : programTitle());
     if (m_preview)
         m_preview->setRulebase(rulebase);

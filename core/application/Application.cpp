@@ -34,6 +34,7 @@
 #include "views/TreeControl.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace {
 
@@ -166,8 +167,11 @@ bool Application::OpenRulebase(OpenMode mode, const QString &filename)
         }
         if (!FileUtils::FileExists(name)) {
             if (mode == OpenMode::RecentList) {
-                if (askYesNo(QStringLiteral("Can't find the rulebase '") + name
-                             + QStringLiteral("', do you want to remove it from the most recently used list?"))
+                if (askYesNo(
+                        QStringLiteral("Can't find the rulebase '") + name
+                            + QStringLiteral(
+                                "', do you want to remove it from the most recently used list?"),
+                        MessageResult::No)
                     == MessageResult::Yes) {
                     m_mainForm->RemoveFromMRUList(name);
                 }
@@ -180,13 +184,15 @@ bool Application::OpenRulebase(OpenMode mode, const QString &filename)
         RulebaseLoadCriteria criteria;
         criteria.setRulebaseFile(name);
         criteria.setLoadForEdit(true);
-        // A failed load leaves no rulebase open: the one before is gone either way.
-        m_rulebase = RulebaseManager().LoadRulebase(criteria);
-        if (!m_rulebase) {
+        // A failed load keeps the rulebase open before it, whole: its view still edits it, Save
+        // still writes it and closing still asks. The window never shows one it can't save.
+        std::shared_ptr<Rulebase> loaded = RulebaseManager().LoadRulebase(criteria);
+        if (!loaded) {
             showWarning(QStringLiteral("Failed to open '") + name
                         + QStringLiteral("', it may not be a valid Quorin rulebase."));
             return false;
         }
+        m_rulebase = std::move(loaded);
         if (!Text::same(m_currentViewName, QStringLiteral("tlCategoryView"))) {
             SwitchView(QStringLiteral("tlCategoryView"));
         } else if (m_currentView) {
@@ -205,7 +211,7 @@ bool Application::SaveRulebase()
             return false;
         if (m_rulebase->Filename().isEmpty())
             return SaveRulebaseAs();
-        return RulebaseManager().Save(*m_rulebase, QString());
+        return SaveTo(m_rulebase->Filename());
     });
 }
 
@@ -229,7 +235,7 @@ bool Application::SaveRulebaseAs()
         }
         if (!UserInterface::current().getSaveFilename(request))
             return false;
-        const bool saved = RulebaseManager().Save(*m_rulebase, request.path);
+        const bool saved = SaveTo(request.path);
         if (saved) {
             m_rulebase->setFilename(request.path);
             m_mainForm->AddToMRUList(request.path);
@@ -238,12 +244,31 @@ bool Application::SaveRulebaseAs()
     });
 }
 
+bool Application::SaveTo(const QString &path)
+{
+    // What a part-loaded file holds beyond this rulebase would be gone once it is written over.
+    if (m_rulebase->LoadedInPart() && QFileInfo(path) == QFileInfo(m_rulebase->Filename())
+        && askYesNo(QStringLiteral("'") + m_rulebase->Filename()
+                        + QStringLiteral("' loaded only in part: what could not be read is not in "
+                                         "this rulebase, and saving over the file would lose it "
+                                         "for good. Do you want to save over it anyway?"),
+                    MessageResult::No)
+               != MessageResult::Yes)
+        return false;
+    if (!RulebaseManager().Save(*m_rulebase, path))
+        return false;
+    m_rulebase->setLoadedInPart(false);
+    return true;
+}
+
 bool Application::CheckForSave()
 {
     return guarded("CheckForSave", module, false, [this]() -> bool {
         if (!m_rulebase || !m_rulebase->Dirty())
             return true;
-        switch (askYesNoCancel(QStringLiteral("The current rulebase has changed, do you wish to save the changes?"))) {
+        switch (askYesNoCancel(
+            QStringLiteral("The current rulebase has changed, do you wish to save the changes?"),
+            MessageResult::Yes)) {
         case MessageResult::Yes:
             return SaveRulebase();
         case MessageResult::No:
@@ -532,7 +557,9 @@ void Application::GenerateDocumentation()
         }
         if (cancelled || generated)
             return;
-        if (askYesNo(QStringLiteral("Do you wish to generate the Rulebase documentation?")) != MessageResult::Yes)
+        if (askYesNo(QStringLiteral("Do you wish to generate the Rulebase documentation?"),
+                     MessageResult::Yes)
+            != MessageResult::Yes)
             return;
         // Asked before the hourglass, which would otherwise stand over the question.
         QString organisation;

@@ -66,6 +66,9 @@ public:
 
 private:
     void SetupView();
+    // Saves to `path`, asking first when that writes over a file the rulebase loaded only in
+    // part; a save clears that mark.
+    bool SaveTo(const QString &path);
 
     IMainForm *m_mainForm; // not owned: the window owns the application's lifetime
     std::shared_ptr<Rulebase> m_rulebase;

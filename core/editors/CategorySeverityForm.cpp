@@ -193,7 +193,7 @@ void CategorySeverityForm::Delete()
     if (!CanDelete() || m_selected < 0)
         return;
     guardedVoid("cmdDelete_Click", module, [&] {
-        if (askYesNo(DeleteQuestion()) != MessageResult::Yes)
+        if (askYesNo(DeleteQuestion(), MessageResult::No) != MessageResult::Yes)
             return;
         const QString key = m_rows.at(std::size_t(m_selected)).key;
         MoveCategoryItemsToUnallocated(Text::valLong(key));

@@ -170,6 +170,8 @@ std::optional<FormFault> CodingConventionForm::FirstFault() const
                 QStringLiteral(
                     "Please assign the coding convention to at least one parser event.")};
     }
+    if (auto fault = ConditionFault(ConditionTab, m_screen.txtCondition, conditionRuleType))
+        return fault;
     return ViolationTitleFault(ViolationTab);
 }
 

@@ -1,6 +1,8 @@
 #include "editors/ConventionFormBase.h"
 
 #include "application/Application.h"
+#include "basic/ConditionRules.h"
+#include "basic/ScriptText.h"
 #include "platform/TextUtils.h"
 #include "platform/UserInterface.h"
 #include "rulebase/CategoryList.h"
@@ -138,7 +140,10 @@ bool ConventionFormBase::ScreenIsValid(const FaultMover &moveTo)
         return true;
     if (moveTo)
         moveTo(*m_lastFault);
-    showWarning(m_lastFault->message);
+    if (m_lastFault->title.isEmpty())
+        showWarning(m_lastFault->message);
+    else
+        showWarning(m_lastFault->message, m_lastFault->title);
     return false;
 }
 
@@ -155,6 +160,23 @@ QString ConventionFormBase::InsertText(const QString &text, int caret, const QSt
 {
     const int at = qBound(0, caret, int(text.size()));
     return text.left(at) + insert + text.mid(at);
+}
+
+std::optional<FormFault>
+ConventionFormBase::ConditionFault(int tab, const QString &condition, qint32 ruleType)
+{
+    // The condition editor's own check and words, so a condition typed in the box can't be
+    // saved when the editor would have refused it.
+    const ConditionRules::ConditionCheck check
+        = ConditionRules::CheckCondition(ScriptText::fromEditor(condition), ruleType);
+    if (check.passed)
+        return std::nullopt;
+    FormFault fault{tab, QStringLiteral("txtCondition"), -1, check.message};
+    if (check.syntaxError)
+        fault.title = programTitle() + ConditionRules::SyntaxErrorTitleSuffix;
+    fault.line = check.line;
+    fault.column = check.column;
+    return fault;
 }
 
 bool ConventionFormBase::CheckNumericKey(QChar key)

@@ -2,6 +2,7 @@
 
 #include "editors/ChoiceList.h"
 #include "editors/FormFault.h"
+#include "editors/NumberRange.h"
 
 #include <QString>
 
@@ -79,6 +80,8 @@ public:
     static bool CheckNumericKey(QChar key);
     // The leading number of a digits-only field, 0 when empty, into 16 bits.
     static qint16 NumberFromField(const QString &text);
+    // What the 16-bit number fields (txtVImpact, the body lengths) can take.
+    static constexpr NumberRange NumberFieldRange() { return NumberRange::sixteenBit(); }
 
 protected:
     // The lists only this dialog has, filled between the categories and the severities.
@@ -96,6 +99,9 @@ protected:
     std::optional<FormFault> TitleFault(int tab, const QString &message) const;
     // The violation title check that closes it.
     std::optional<FormFault> ViolationTitleFault(int tab) const;
+    // The condition editor's check of a condition on `tab`'s txtCondition, with its message.
+    static std::optional<FormFault>
+    ConditionFault(int tab, const QString &condition, qint32 ruleType);
 
 private:
     Application *m_application = nullptr; // not owned

@@ -221,8 +221,8 @@ int DefaultViolationsForm::InsertIntoAdvice(const QString &text, int position, i
 void DefaultViolationsForm::OK()
 {
     guardedVoid("cmdOK_Click", module, [this] {
-        // The originals take the copies' values field by field; the rulebase's Dirty does not
-        // count them, so a change made only here leaves the rulebase clean.
+        // The originals take the copies' values field by field, which marks the rulebase for
+        // saving: closing or New asks before these edits are lost.
         for (qint32 i = 1; i <= m_copies.Count() && m_violations && i <= m_violations->Count(); ++i) {
             const auto copy = m_copies.Item(i);
             const auto target = m_violations->Item(i);

@@ -2,6 +2,7 @@
 
 #include "collections/ObjectArrayList.h"
 #include "collections/ObjectKeyedArrayList.h"
+#include "editors/NumberRange.h"
 
 #include <QString>
 
@@ -70,8 +71,9 @@ public:
     // Field changes go into the shown copy at once.
     void setDescription(const QString &text);
     void setAdvice(const QString &text);
-    // Digits only; empty counts as 0.
+    // Digits only, within ImpactRange; empty counts as 0.
     void setImpact(const QString &text);
+    static constexpr NumberRange ImpactRange() { return NumberRange::sixteenBit(); }
     // Leaving the impact empty shows 0.
     void leaveImpact();
     void setCategoryIndex(int index);

@@ -10,6 +10,11 @@ struct FormFault
     QString field;
     int index = -1;
     QString message;
+    // The warning's title when it is not the program's; where in a text the fault is, 1-based,
+    // line 0 for nowhere in particular.
+    QString title = {};
+    int line = 0;
+    int column = 0;
 
     // The objectName of the control in the dialog: "txtTitle", or "txtPrefix_2" in an array.
     QString controlName() const

@@ -275,7 +275,8 @@ bool NamingConventionForm::ActionPicksWorkfield(Part part, int index) const
 void NamingConventionForm::cmdDelete_Click()
 {
     if (askYesNo(QStringLiteral(
-            "Are you sure you wish to delete the condition for this naming convention?"))
+                     "Are you sure you wish to delete the condition for this naming convention?"),
+                 MessageResult::No)
         == MessageResult::Yes)
         m_screen.txtCondition.clear();
 }
@@ -326,6 +327,8 @@ std::optional<FormFault> NamingConventionForm::FirstFault() const
             QStringLiteral("imgcboObject"),
             -1,
             QStringLiteral("Please select an object/property for the naming convention.")};
+    if (auto fault = ConditionFault(ConditionTab, m_screen.txtCondition, conditionRuleType))
+        return fault;
     if (m_screen.chkPrefixActive) {
         if (auto fault = ItemFault(Prefix))
             return fault;

@@ -20,7 +20,8 @@ void PatternTestForm::cmdTest_Click()
                 : QStringLiteral("No match for the pattern was found in the text."),
             MessageButtons::OK,
             MessageIcon::Information,
-            programTitle());
+            programTitle(),
+            MessageResult::OK);
     });
 }
 

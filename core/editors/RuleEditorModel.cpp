@@ -177,7 +177,8 @@ bool RuleEditorModel::CheckSyntax(const QString &text)
             UserInterface::current().messageBox(ConditionRules::SyntaxCorrectMessage,
                                                 MessageButtons::OK,
                                                 MessageIcon::Information,
-                                                programTitle());
+                                                programTitle(),
+                                                MessageResult::OK);
         } else {
             showWarning(checker.errorMessage(),
                         programTitle() + ConditionRules::SyntaxErrorTitleSuffix);
@@ -195,7 +196,10 @@ bool RuleEditorModel::QueryAbortClose(const QString &text)
                 .compare(ScriptText::toEditor(text), Qt::CaseInsensitive)
             == 0)
             return false;
-        switch (askYesNoCancel(QStringLiteral("Do you want to save your changes?"))) {
+        // Cancel by default: Enter after Escape goes back to the text, neither keeping a change
+        // the person meant to drop nor dropping one they meant to keep.
+        switch (askYesNoCancel(QStringLiteral("Do you want to save your changes?"),
+                               MessageResult::Cancel)) {
         case MessageResult::Yes:
             if (!CheckCondition(text))
                 return true;

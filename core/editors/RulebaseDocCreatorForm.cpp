@@ -549,8 +549,9 @@ bool RulebaseDocCreatorForm::Cancel()
     return guarded("cmdCancel_Click", module, false, [&] {
         if (DocHasChanged()
             && askYesNo(
-                   QStringLiteral("Document content has changed. Continue without saving changes?"))
-                   == MessageResult::No)
+                   QStringLiteral("Document content has changed. Continue without saving changes?"),
+                   MessageResult::No)
+                   != MessageResult::Yes)
             return false;
         RestorePlan();
         return true;

@@ -135,6 +135,11 @@ void RulebasePropertiesForm::DataFromScreen()
     m_rulebase->setToleranceCyclomaticComplexity(LimitValue(m_cyclomaticComplexity));
 }
 
+NumberRange RulebasePropertiesForm::MinorRange()
+{
+    return {0, VersionNumber::LargestPart};
+}
+
 QString RulebasePropertiesForm::LimitText(qint32 value)
 {
     return value == -1 ? QString() : QString::number(value);

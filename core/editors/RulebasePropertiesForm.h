@@ -1,5 +1,7 @@
 #pragma once
 
+#include "editors/NumberRange.h"
+
 #include <QString>
 
 #include <array>
@@ -45,8 +47,14 @@ public:
     void leaveMajor();
     void leaveMinor();
     void leaveRevision();
+    // Minor and revision carry into the part before them past VersionNumber::LargestPart.
+    static constexpr NumberRange MajorRange() { return NumberRange::sixteenBit(); }
+    static NumberRange MinorRange();
+    static NumberRange RevisionRange() { return MinorRange(); }
 
     // Tolerance boxes: empty means no tolerance (-1).
+    static constexpr NumberRange LimitRange() { return NumberRange::thirtyTwoBit(); }
+    static constexpr NumberRange PercentageRange() { return {0, 100}; }
     QString ToleranceCount(int row) const { return m_toleranceCount.at(std::size_t(row)); }
     void setToleranceCount(int row, const QString &text) { m_toleranceCount.at(std::size_t(row)) = text; }
     QString ToleranceImpact(int row) const { return m_toleranceImpact.at(std::size_t(row)); }

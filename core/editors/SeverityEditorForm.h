@@ -1,5 +1,7 @@
 #pragma once
 
+#include "editors/NumberRange.h"
+
 #include <QString>
 
 #include <memory>
@@ -25,8 +27,9 @@ public:
 
     QString Title() const { return m_title; }
     void setTitle(const QString &title) { m_title = title; }
-    // Digits only; the box filters the keys.
+    // Digits only, within ImpactRange; the box filters the keys.
     QString Impact() const { return m_impact; }
+    static constexpr NumberRange ImpactRange() { return NumberRange::sixteenBit(); }
     void setImpact(const QString &impact) { m_impact = impact; }
     QString Description() const { return m_description; }
     void setDescription(const QString &description) { m_description = description; }

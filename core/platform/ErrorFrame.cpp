@@ -5,8 +5,20 @@
 
 #include <QDebug>
 
+#include <atomic>
+
+namespace {
+std::atomic<quint64> reported{0};
+}
+
+quint64 reportedErrorCount()
+{
+    return reported.load();
+}
+
 void reportError(const QuorinError &error, const char *function, const char *module)
 {
+    ++reported;
     const QString fn = QString::fromLatin1(function);
     const QString mod = QString::fromLatin1(module);
     if (gobjLogFile) {

@@ -9,6 +9,9 @@
 // is reported through the log (and its box) and the routine gives its failure value instead.
 // No exception leaves a guarded body.
 void reportError(const QuorinError &error, const char *function, const char *module);
+// How many failures have been reported so far: a long operation compares it before and after to
+// learn whether any frame inside it gave up on something.
+quint64 reportedErrorCount();
 
 template<typename Body, typename Fail>
 std::invoke_result_t<Body> guarded(const char *function, const char *module, Fail &&failValue, Body &&body)

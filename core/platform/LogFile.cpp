@@ -37,7 +37,8 @@ void LogFile::LogBasicError(const QuorinError &error, const QString &function, c
                                                 + QStringLiteral(" module ") + module,
                                             MessageButtons::OK,
                                             MessageIcon::Critical,
-                                            QStringLiteral("Quorin Unexpected Error"));
+                                            QStringLiteral("Quorin Unexpected Error"),
+                                            MessageResult::OK);
     }
 }
 
@@ -48,7 +49,8 @@ void LogFile::LogSetupError(const QString &message, const QString &function, con
         UserInterface::current().messageBox(message,
                                             MessageButtons::OK,
                                             MessageIcon::Exclamation,
-                                            QStringLiteral("Quorin Setup Error"));
+                                            QStringLiteral("Quorin Setup Error"),
+                                            MessageResult::OK);
     }
 }
 

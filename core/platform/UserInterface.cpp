@@ -11,7 +11,8 @@ public:
     MessageResult messageBox(const QString &text,
                              MessageButtons buttons,
                              MessageIcon,
-                             const QString &title) override
+                             const QString &title,
+                             MessageResult) override
     {
         QTextStream(stderr) << title << ": " << text << Qt::endl;
         switch (buttons) {
@@ -61,18 +62,18 @@ QString programTitle()
 
 void showWarning(const QString &text, const QString &title)
 {
-    UserInterface::current().messageBox(text, MessageButtons::OK, MessageIcon::Exclamation, title);
+    UserInterface::current().messageBox(
+        text, MessageButtons::OK, MessageIcon::Exclamation, title, MessageResult::OK);
 }
 
-MessageResult askYesNo(const QString &text, const QString &title)
+MessageResult askYesNo(const QString &text, MessageResult defaultButton, const QString &title)
 {
-    return UserInterface::current().messageBox(text, MessageButtons::YesNo, MessageIcon::Question, title);
+    return UserInterface::current().messageBox(
+        text, MessageButtons::YesNo, MessageIcon::Question, title, defaultButton);
 }
 
-MessageResult askYesNoCancel(const QString &text, const QString &title)
+MessageResult askYesNoCancel(const QString &text, MessageResult defaultButton, const QString &title)
 {
-    return UserInterface::current().messageBox(text,
-                                               MessageButtons::YesNoCancel,
-                                               MessageIcon::Question,
-                                               title);
+    return UserInterface::current().messageBox(
+        text, MessageButtons::YesNoCancel, MessageIcon::Question, title, defaultButton);
 }

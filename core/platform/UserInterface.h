@@ -25,10 +25,12 @@ class UserInterface
 public:
     virtual ~UserInterface();
 
+    // `defaultButton` is the answer Enter gives: the safe one for a question that destroys.
     virtual MessageResult messageBox(const QString &text,
                                      MessageButtons buttons,
                                      MessageIcon icon,
-                                     const QString &title)
+                                     const QString &title,
+                                     MessageResult defaultButton)
         = 0;
     virtual bool getOpenFilename(FileDialogRequest &request) = 0;
     virtual bool getSaveFilename(FileDialogRequest &request) = 0;
@@ -49,7 +51,12 @@ public:
 // The program's title, carried by every message box that is given none.
 QString programTitle();
 
-// The box shapes the Parts use, each on UserInterface::current().
+// The box shapes the logic uses, each on UserInterface::current(). Every question names its
+// default answer: No where Yes would delete or discard something.
 void showWarning(const QString &text, const QString &title = programTitle());
-MessageResult askYesNo(const QString &text, const QString &title = programTitle());
-MessageResult askYesNoCancel(const QString &text, const QString &title = programTitle());
+MessageResult askYesNo(const QString &text,
+                       MessageResult defaultButton,
+                       const QString &title = programTitle());
+MessageResult askYesNoCancel(const QString &text,
+                             MessageResult defaultButton,
+                             const QString &title = programTitle());

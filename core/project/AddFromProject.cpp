@@ -172,7 +172,8 @@ void AddFromProject::ShowNewItems(qint32 components, qint32 references, const QS
     UserInterface::current().messageBox(NewItemsMessage(components, references, project),
                                         MessageButtons::OK,
                                         MessageIcon::Information,
-                                        programTitle());
+                                        programTitle(),
+                                        MessageResult::OK);
 }
 
 QString

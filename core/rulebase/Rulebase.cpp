@@ -178,7 +178,8 @@ Rulebase::Rulebase()
         m_toleranceCount.Add(-1);
         m_toleranceImpact.Add(-1);
     }
-    // A new rulebase is not dirty. The default violations stay dirty, which nobody asks.
+    // A new rulebase is not dirty.
+    m_defaultViolations->setDirty(false);
     m_controlTags->setDirty(false);
     m_dataTypeTags->setDirty(false);
     m_scopeTags->setDirty(false);
@@ -200,7 +201,8 @@ bool Rulebase::Dirty() const
 {
     if (m_dirty || m_authorisedComponents->Dirty() || m_authorisedReferences->Dirty()
         || m_ruleLists->Dirty() || m_categoryList->Dirty() || m_severityList->Dirty()
-        || m_toleranceCount.Dirty() || m_toleranceImpact.Dirty() || m_report->Dirty())
+        || m_toleranceCount.Dirty() || m_toleranceImpact.Dirty() || m_report->Dirty()
+        || m_defaultViolations->Dirty())
         return true;
     // The tag sets' own flags are not asked: a change shows through the items.
     bool dirty = false;
@@ -220,6 +222,7 @@ void Rulebase::setDirty(bool dirty)
     m_toleranceCount.setDirty(dirty);
     m_toleranceImpact.setDirty(dirty);
     m_report->setDirty(dirty);
+    m_defaultViolations->setDirty(dirty);
     for (const auto &tags : {m_controlTags, m_dataTypeTags, m_scopeTags})
         forEachTag(*tags, [&](TagItem &tag) { tag.setDirty(dirty); });
 }

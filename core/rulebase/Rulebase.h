@@ -38,7 +38,6 @@ public:
     std::shared_ptr<ObjectKeyedArrayList<TagItem>> ControlTags() const { return m_controlTags; }
     std::shared_ptr<ObjectKeyedArrayList<TagItem>> DataTypeTags() const { return m_dataTypeTags; }
     std::shared_ptr<ObjectKeyedArrayList<TagItem>> ScopeTags() const { return m_scopeTags; }
-    // Takes no part in Dirty: a change made only here leaves the rulebase clean.
     std::shared_ptr<::DefaultViolations> DefaultViolations() const { return m_defaultViolations; }
     // Full path; empty until saved or loaded. Setting it leaves Dirty alone.
     QString Filename() const { return m_filename; }
@@ -46,10 +45,13 @@ public:
     // "[Untitled]" without a file name; else the name after the last folder separator, and
     // empty when that has no ".".
     QString FileTitle() const;
-    // The own flag, or that of any part but DefaultViolations; tag sets count through their
-    // items only.
+    // The own flag, or that of any part; tag sets count through their items only.
     bool Dirty() const;
     void setDirty(bool dirty);
+    // Set by the loader when a section of the file stopped at a bad value: what followed it
+    // there is missing here, and a save over the file would lose it for good.
+    bool LoadedInPart() const { return m_loadedInPart; }
+    void setLoadedInPart(bool inPart) { m_loadedInPart = inPart; }
 
     // Each setter below marks the rulebase, whether or not the value changes.
     QString Title() const { return m_title; }
@@ -94,6 +96,7 @@ private:
     void DefaultSeverityList();
 
     bool m_dirty = false;
+    bool m_loadedInPart = false;
     QString m_title = QStringLiteral("Untitled");
     QString m_version = QStringLiteral("1.0.0");
     bool m_autoIncrementVersion = true;

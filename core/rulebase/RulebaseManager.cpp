@@ -105,6 +105,8 @@ std::shared_ptr<Rulebase> RulebaseManager::LoadRulebase(RulebaseLoadCriteria &cr
                           noFilenameText());
 
     return guarded("LoadRulebase", module, nullptr, [&]() -> std::shared_ptr<Rulebase> {
+        // Any frame that gives up on the way, a section's or a rule's, leaves something out.
+        const quint64 errorsBefore = reportedErrorCount();
         auto rulebase = std::make_shared<Rulebase>();
         TarnXMLDoc doc;
         if (!doc.LoadFromFile(filename)) {
@@ -167,6 +169,7 @@ std::shared_ptr<Rulebase> RulebaseManager::LoadRulebase(RulebaseLoadCriteria &cr
             LoadReport(root.ElementByName(QStringLiteral("Report")), *rulebase);
 
         rulebase->setDirty(false);
+        rulebase->setLoadedInPart(reportedErrorCount() != errorsBefore);
         return rulebase;
     });
 }

@@ -25,7 +25,8 @@ template<typename T>
 class ObjectArrayList;
 
 // Reads and writes rulebase files. It holds no state: made for one call and dropped. Each
-// section of the file has its own error frame, so a fault stops its section and no more.
+// section of the file has its own error frame, so a fault stops its section and no more; the
+// rulebase then says that it loaded in part.
 class RulebaseManager
 {
 public:

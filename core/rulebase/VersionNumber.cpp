@@ -10,7 +10,6 @@
 namespace {
 
 constexpr const char *module = "VersionNumber";
-constexpr qint16 largestPart = 9999;
 
 qint16 partFromText(const QString &text, const char *member)
 {
@@ -73,10 +72,10 @@ void VersionNumber::Increment()
 {
     guardedVoid("Increment", module, [&] {
         m_revision = nextOf(m_revision);
-        if (m_revision > largestPart) {
+        if (m_revision > LargestPart) {
             m_revision = 0;
             m_minor = nextOf(m_minor);
-            if (m_minor > largestPart) {
+            if (m_minor > LargestPart) {
                 m_minor = 0;
                 m_major = nextOf(m_major);
             }

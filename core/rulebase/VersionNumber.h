@@ -6,6 +6,9 @@
 class VersionNumber final
 {
 public:
+    // The largest minor and revision; one more carries into the part before.
+    static constexpr qint16 LargestPart = 9999;
+
     qint16 Major() const { return m_major; }
     void setMajor(qint16 major) { m_major = major; }
     qint16 Minor() const { return m_minor; }

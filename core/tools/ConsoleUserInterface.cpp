@@ -51,10 +51,8 @@ MessageResult ConsoleUserInterface::defaultAnswer(MessageButtons buttons)
     return MessageResult::Cancel;
 }
 
-MessageResult ConsoleUserInterface::messageBox(const QString &text,
-                                               MessageButtons buttons,
-                                               MessageIcon,
-                                               const QString &title)
+MessageResult ConsoleUserInterface::messageBox(
+    const QString &text, MessageButtons buttons, MessageIcon, const QString &title, MessageResult)
 {
     const QString message
         = title == unexpectedErrorTitle ? title + QStringLiteral(": ") + text : text;

@@ -55,7 +55,7 @@ std::shared_ptr<Rulebase>
 loadWhole(const QString &filename, const QString &command, ToolContext &context)
 {
     const LoadedRulebase loaded = ToolRulebaseLoader::load(filename);
-    if (!loaded.rulebase || !loaded.messages.isEmpty()) {
+    if (!loaded.whole()) {
         failWith(context,
                  command,
                  filename + QStringLiteral(": could not be read completely; nothing written"),

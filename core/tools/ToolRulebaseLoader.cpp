@@ -7,6 +7,11 @@
 #include <QFile>
 #include <QFileInfo>
 
+bool LoadedRulebase::whole() const
+{
+    return rulebase && !rulebase->LoadedInPart();
+}
+
 bool ToolRulebaseLoader::isReadable(const QString &filename, QString &reason)
 {
     const QFileInfo info(filename);

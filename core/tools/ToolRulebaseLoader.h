@@ -16,6 +16,9 @@ struct LoadedRulebase
     std::shared_ptr<Rulebase> rulebase;
     // Every box the load showed, in order; empty for a clean load.
     QStringList messages;
+
+    // Loaded, and no section stopped part-way: only such a rulebase may be written out.
+    bool whole() const;
 };
 
 class ToolRulebaseLoader final

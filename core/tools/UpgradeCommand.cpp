@@ -108,7 +108,7 @@ int UpgradeCommand::execute(const QCommandLineParser &parser, ToolContext &conte
     }
 
     const LoadedRulebase loaded = ToolRulebaseLoader::load(input);
-    if (!loaded.rulebase || !loaded.messages.isEmpty()) {
+    if (!loaded.whole()) {
         // A partial read written out would lose rules for good.
         error(context, input + QStringLiteral(": could not be read completely; nothing written"));
         for (const QString &message : loaded.messages)

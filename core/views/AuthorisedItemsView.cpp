@@ -489,7 +489,8 @@ void AuthorisedItemsView::DeleteItems()
     guardedVoid("IViewController_DeleteItems", module, [this] {
         if (!hasControls() || !m_rulebase || m_lvwList->selectedItem() == 0)
             return;
-        if (askYesNo(QStringLiteral("Are you sure you wish to delete the selected item(s)?"))
+        if (askYesNo(QStringLiteral("Are you sure you wish to delete the selected item(s)?"),
+                     MessageResult::No)
             != MessageResult::Yes)
             return;
         const QString key = m_sCurrentNodeKey;
@@ -810,7 +811,7 @@ void AuthorisedItemsView::AddAXComponentsFromFile(const QStringList &fileList)
                                      + (one ? QStringLiteral(" is not an ActiveX component")
                                             : QStringLiteral(" are not ActiveX components"))
                                      + QStringLiteral(".  Would you like to see the details?");
-            if (askYesNo(question) == MessageResult::Yes) {
+            if (askYesNo(question, MessageResult::Yes) == MessageResult::Yes) {
                 const QString text
                     = QLocale().toString(QDate::currentDate(), QLocale::LongFormat) + crlf
                       + QStringLiteral("THE FOLLOWING")
@@ -873,6 +874,7 @@ void AuthorisedItemsView::FilesDropped(const QStringList &files)
                            "files (*.dll, *.exe, *.ocx, *.tlb, *.olb) can be accepted."),
             MessageButtons::OK,
             MessageIcon::Information,
-            programTitle());
+            programTitle(),
+            MessageResult::OK);
     });
 }

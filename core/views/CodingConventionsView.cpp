@@ -185,7 +185,8 @@ QString CodingConventionsView::RemovePendingViolationsFromIDList(const QString &
                            "moved manually."),
             MessageButtons::OK,
             MessageIcon::Information,
-            programTitle());
+            programTitle(),
+            MessageResult::OK);
     return kept.join(QLatin1Char('|'));
 }
 

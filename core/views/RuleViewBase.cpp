@@ -107,7 +107,7 @@ void RuleViewBase::DeleteItems()
     guardedVoid("IViewController_DeleteItems", module(), [this] {
         if (!hasControls() || !m_rulebase)
             return;
-        if (askYesNo(m_shape.deleteQuestion) != MessageResult::Yes)
+        if (askYesNo(m_shape.deleteQuestion, MessageResult::No) != MessageResult::Yes)
             return;
         modViewCommon::DeleteRules(ruleLists(), *m_lvwList);
         RefreshView();

@@ -1,5 +1,6 @@
 #include "gui/dialogs/AuthorisedItemDialog.h"
 
+#include "gui/dialogs/DialogSupport.h"
 #include "gui/dialogs/frmObjectProperty.h"
 
 #include "editors/AuthorisedItemForm.h"
@@ -193,7 +194,7 @@ void AuthorisedItemDialog::keyPressEvent(QKeyEvent *event)
 bool AuthorisedItemDialog::eventFilter(QObject *watched, QEvent *event)
 {
     // A field entered by the keyboard has its text selected, ready to be typed over.
-    if (event->type() == QEvent::FocusIn) {
+    if (DialogSupport::tabbedInto(event)) {
         if (auto *edit = qobject_cast<QLineEdit *>(watched))
             QTimer::singleShot(0, edit, &QLineEdit::selectAll);
     }

@@ -3,6 +3,7 @@
 #include "editors/ChoiceList.h"
 #include "editors/ConventionFormBase.h"
 #include "editors/FormFault.h"
+#include "gui/dialogs/DialogSupport.h"
 #include "gui/dialogs/frmPatternTest.h"
 #include "gui/editor/frmRuleEditor.h"
 #include "gui/window/Images.h"
@@ -18,10 +19,11 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QRegularExpressionValidator>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QTabWidget>
+#include <QTextBlock>
+#include <QTextDocument>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -109,8 +111,19 @@ void frmConventionBase::cmdOK_Click()
 void frmConventionBase::moveToFault(const FormFault &fault)
 {
     m_tbsConvention->setCurrentIndex(fault.tab - 1);
-    if (QWidget *field = findChild<QWidget *>(fault.controlName()))
-        field->setFocus();
+    QWidget *field = findChild<QWidget *>(fault.controlName());
+    if (!field)
+        return;
+    field->setFocus();
+    // A fault in a condition: the caret goes to it, as in the condition editor.
+    auto *text = qobject_cast<QPlainTextEdit *>(field);
+    if (text && fault.line > 0) {
+        QTextCursor cursor(text->document()->findBlockByNumber(fault.line - 1));
+        cursor.movePosition(QTextCursor::Right,
+                            QTextCursor::MoveAnchor,
+                            qMax(0, qMin(fault.column - 1, cursor.block().length() - 1)));
+        text->setTextCursor(cursor);
+    }
 }
 
 void frmConventionBase::nextTab()
@@ -314,10 +327,16 @@ void frmConventionBase::setText(QPlainTextEdit *field, const QString &text)
 
 void frmConventionBase::InsertText(QWidget *field, const QString &text)
 {
-    if (auto *line = qobject_cast<QLineEdit *>(field))
+    // At the caret, over nothing: a selection left from tabbing in is no reason to lose the text.
+    if (auto *line = qobject_cast<QLineEdit *>(field)) {
+        line->deselect();
         line->insert(text);
-    else if (auto *edit = qobject_cast<QPlainTextEdit *>(field))
-        edit->insertPlainText(text);
+    } else if (auto *edit = qobject_cast<QPlainTextEdit *>(field)) {
+        QTextCursor cursor = edit->textCursor();
+        cursor.clearSelection();
+        cursor.insertText(text);
+        edit->setTextCursor(cursor);
+    }
     if (field)
         field->setFocus();
 }
@@ -398,14 +417,13 @@ QComboBox *frmConventionBase::comboBox(const QString &name, QWidget *parent)
 
 void frmConventionBase::digitsOnly(QLineEdit *field)
 {
-    field->setValidator(
-        new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), field));
+    DialogSupport::digitsOnly(field, ConventionFormBase::NumberFieldRange());
 }
 
 bool frmConventionBase::eventFilter(QObject *watched, QEvent *event)
 {
-    // Entering a text field selects all of it.
-    if (event->type() == QEvent::FocusIn) {
+    // Tabbing into a text field selects all of it.
+    if (DialogSupport::tabbedInto(event)) {
         if (auto *line = qobject_cast<QLineEdit *>(watched))
             QTimer::singleShot(0, line, &QLineEdit::selectAll);
         else if (auto *edit = qobject_cast<QPlainTextEdit *>(watched))

@@ -66,7 +66,7 @@ protected:
     QPushButton *button(const QString &name, const QString &text, QWidget *parent);
     QCheckBox *checkBox(const QString &name, const QString &text, QWidget *parent);
     QComboBox *comboBox(const QString &name, QWidget *parent);
-    // Digits and Backspace only.
+    // Digits and Backspace only, up to what the 16-bit number fields hold.
     void digitsOnly(QLineEdit *field);
     // Shows a combo's rows once they changed, and its selection always.
     void showChoices(QComboBox *combo, const ChoiceList &choices, int &revision);

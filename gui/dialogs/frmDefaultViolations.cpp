@@ -107,8 +107,7 @@ frmDefaultViolations::frmDefaultViolations(DefaultViolationsForm &form, QWidget 
     m_category->setObjectName(QStringLiteral("cboCategory"));
     m_impact = new QLineEdit;
     m_impact->setObjectName(QStringLiteral("txtImpact"));
-    DialogSupport::digitsOnly(m_impact);
-    m_impact->setMaxLength(5);
+    DialogSupport::digitsOnly(m_impact, DefaultViolationsForm::ImpactRange());
     m_advice = new QPlainTextEdit;
     m_advice->setObjectName(QStringLiteral("txtAdvice"));
     m_advice->setTabChangesFocus(true);

@@ -1,5 +1,7 @@
 #include "gui/dialogs/frmPatternTest.h"
 
+#include "gui/dialogs/DialogSupport.h"
+
 #include "platform/UserInterface.h"
 
 #include <QCheckBox>
@@ -106,7 +108,7 @@ void frmPatternTest::enableTest()
 
 bool frmPatternTest::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::FocusIn) {
+    if (DialogSupport::tabbedInto(event)) {
         if (watched == m_txtPattern)
             QTimer::singleShot(0, m_txtPattern, &QLineEdit::selectAll);
         else if (watched == m_txtText)

@@ -19,13 +19,13 @@
 
 namespace {
 
-QLineEdit *numberBox(const QString &name, int index = -1)
+QLineEdit *numberBox(const QString &name, const NumberRange &range, int index = -1)
 {
     auto *box = new QLineEdit;
     box->setObjectName(name);
     if (index >= 0)
         box->setProperty("index", index);
-    DialogSupport::digitsOnly(box);
+    DialogSupport::digitsOnly(box, range);
     box->setMaximumWidth(80);
     return box;
 }
@@ -52,9 +52,9 @@ frmRulebaseProperties::frmRulebaseProperties(RulebasePropertiesForm &form, QWidg
     m_description = new QPlainTextEdit;
     m_description->setObjectName(QStringLiteral("txtDescription"));
     m_description->setTabChangesFocus(true);
-    m_major = numberBox(QStringLiteral("txtMajor"));
-    m_minor = numberBox(QStringLiteral("txtMinor"));
-    m_revision = numberBox(QStringLiteral("txtRevision"));
+    m_major = numberBox(QStringLiteral("txtMajor"), RulebasePropertiesForm::MajorRange());
+    m_minor = numberBox(QStringLiteral("txtMinor"), RulebasePropertiesForm::MinorRange());
+    m_revision = numberBox(QStringLiteral("txtRevision"), RulebasePropertiesForm::RevisionRange());
     m_autoIncrement = new QCheckBox(QStringLiteral("&Auto Increment"));
     m_autoIncrement->setObjectName(QStringLiteral("chkAutoIncrement"));
 
@@ -86,8 +86,10 @@ frmRulebaseProperties::frmRulebaseProperties(RulebasePropertiesForm &form, QWidg
     grid->addWidget(new QLabel(QStringLiteral("Counts")), 1, 1);
     grid->addWidget(new QLabel(QStringLiteral("Impact")), 1, 2);
     for (int i = 0; i < RulebasePropertiesForm::ToleranceRows; ++i) {
-        m_counts[std::size_t(i)] = numberBox(QStringLiteral("txtToleranceCount"), i);
-        m_impacts[std::size_t(i)] = numberBox(QStringLiteral("txtToleranceImpact"), i);
+        m_counts[std::size_t(i)] = numberBox(
+            QStringLiteral("txtToleranceCount"), RulebasePropertiesForm::LimitRange(), i);
+        m_impacts[std::size_t(i)] = numberBox(
+            QStringLiteral("txtToleranceImpact"), RulebasePropertiesForm::LimitRange(), i);
         auto *label = new QLabel;
         label->setObjectName(QStringLiteral("lblSeverityTolerance"));
         label->setProperty("index", i);
@@ -96,8 +98,10 @@ frmRulebaseProperties::frmRulebaseProperties(RulebasePropertiesForm &form, QWidg
         grid->addWidget(m_counts[std::size_t(i)], i + 2, 1);
         grid->addWidget(m_impacts[std::size_t(i)], i + 2, 2);
     }
-    m_percentageComments = numberBox(QStringLiteral("txtPercentageComments"));
-    m_cyclomaticComplexity = numberBox(QStringLiteral("txtCyclomaticComplexity"));
+    m_percentageComments = numberBox(QStringLiteral("txtPercentageComments"),
+                                     RulebasePropertiesForm::PercentageRange());
+    m_cyclomaticComplexity = numberBox(QStringLiteral("txtCyclomaticComplexity"),
+                                       RulebasePropertiesForm::LimitRange());
     grid->addWidget(labelFor(QStringLiteral("Minimum Percentage (%) Comments"), m_percentageComments), 9, 0);
     grid->addWidget(m_percentageComments, 9, 1);
     grid->addWidget(labelFor(QStringLiteral("Maximum Cyclomatic Complexity"), m_cyclomaticComplexity), 10, 0);

@@ -26,8 +26,7 @@ frmSeverityEditor::frmSeverityEditor(SeverityEditorForm &form, QWidget *parent)
     title->setObjectName(QStringLiteral("txtTitle"));
     auto *impact = new QLineEdit(m_form.Impact());
     impact->setObjectName(QStringLiteral("txtImpact"));
-    DialogSupport::digitsOnly(impact);
-    impact->setMaxLength(5);
+    DialogSupport::digitsOnly(impact, SeverityEditorForm::ImpactRange());
     auto *description = new QPlainTextEdit(m_form.Description());
     description->setObjectName(QStringLiteral("txtDescription"));
     description->setTabChangesFocus(true);

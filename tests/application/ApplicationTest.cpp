@@ -1,15 +1,25 @@
 #include "application/Application.h"
 #include "application/IMainForm.h"
 #include "application/Startup.h"
+#include "collections/ObjectKeyedListAdapter.h"
+#include "editors/CategorySeverityForm.h"
+#include "editors/NamingConventionForm.h"
+#include "editors/RuleEditorModel.h"
+#include "editors/RulebaseDocCreatorForm.h"
 #include "platform/GlobalObjects.h"
 #include "platform/LogFile.h"
 #include "platform/MRUUtils.h"
 #include "platform/QuorinAdminData.h"
 #include "platform/QuorinData.h"
+#include "rulebase/CategoryList.h"
+#include "rulebase/IRule.h"
+#include "rulebase/NamingConvention.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseManager.h"
 #include "views/IViewController.h"
+#include "views/ViewFactory.h"
 
+#include "support/MemoryMainForm.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
@@ -17,6 +27,8 @@
 #include <QFile>
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 namespace {
 
@@ -209,7 +221,7 @@ TEST_F(ApplicationTest, MissingRecentFileOffersToRemoveIt)
     EXPECT_EQ(form.calls, QStringList{QStringLiteral("RemoveFromMRUList ") + gone});
 }
 
-TEST_F(ApplicationTest, FailedLoadShowsBothWarningsAndLeavesNoRulebase)
+TEST_F(ApplicationTest, AFailedOpenKeepsTheRulebaseBeforeItWholeAndSavable)
 {
     const QString good = writeRulebase(QStringLiteral("good.qrb"));
     const QString bad = dir + QStringLiteral("bad.qrb");
@@ -220,16 +232,76 @@ TEST_F(ApplicationTest, FailedLoadShowsBothWarningsAndLeavesNoRulebase)
     }
     Application app(&form, countingViews());
     ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, good));
+    const std::shared_ptr<Rulebase> before = app.rulebase();
+    before->setTitle(QStringLiteral("Edited"));
+
+    // No to saving first, then the open fails: the edited rulebase is still the open one.
+    ui.answers = {MessageResult::No};
     EXPECT_FALSE(app.OpenRulebase(Application::OpenMode::CommandLine, bad));
-    EXPECT_FALSE(app.RulebaseOpen());
-    EXPECT_NE(app.CurrentView(), nullptr); // the view is orphaned, not told
-    EXPECT_EQ(ui.messageTexts(),
-              (QStringList{QStringLiteral("Unable to load the rulebase because of an unexpected error during parsing."),
-                           QStringLiteral("Failed to open '") + bad
-                               + QStringLiteral("', it may not be a valid Quorin rulebase.")}));
+    EXPECT_EQ(app.rulebase(), before);
+    EXPECT_TRUE(before->Dirty());
+    EXPECT_EQ(ui.messageTexts().mid(1),
+              (QStringList{
+                  QStringLiteral(
+                      "Unable to load the rulebase because of an unexpected error during parsing."),
+                  QStringLiteral("Failed to open '") + bad
+                      + QStringLiteral("', it may not be a valid Quorin rulebase.")}));
     QFile log(dir + QStringLiteral("Error.log"));
     ASSERT_TRUE(log.open(QIODevice::ReadOnly));
     EXPECT_TRUE(log.readAll().contains("XML Parser Error"));
+
+    // Closing still asks, and Save writes the edit.
+    ui.answers = {MessageResult::Cancel};
+    EXPECT_FALSE(app.CheckForSave());
+    EXPECT_TRUE(app.SaveRulebase());
+    EXPECT_EQ(RulebaseManager().LoadRulebase(good)->Title(), QStringLiteral("Edited"));
+}
+
+TEST_F(ApplicationTest, AFileThatLoadedInPartSaysSoAndAsksBeforeItIsWrittenOver)
+{
+    const QString path = dir + QStringLiteral("part.qrb");
+    QFile sample(TestEnvironment::sampleRulebase());
+    ASSERT_TRUE(sample.open(QIODevice::ReadOnly));
+    QByteArray bytes = sample.readAll();
+    ASSERT_TRUE(bytes.contains("<CategoryList LastID=\"14\">"));
+    bytes.replace("<CategoryList LastID=\"14\">", "<CategoryList LastID=\"fourteen\">");
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    Application app(&form, countingViews());
+    ASSERT_TRUE(
+        app.OpenRulebase(Application::OpenMode::CommandLine, TestEnvironment::sampleRulebase()));
+    EXPECT_FALSE(app.rulebase()->LoadedInPart());
+    ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, path));
+    EXPECT_TRUE(app.rulebase()->LoadedInPart());
+    EXPECT_FALSE(app.rulebase()->Dirty());
+    ui.messages.clear();
+
+    // No keeps the file as it is.
+    ui.answers = {MessageResult::No};
+    EXPECT_FALSE(app.SaveRulebase());
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_TRUE(ui.messages[0].text.contains(QStringLiteral("loaded only in part")));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), bytes);
+    file.close();
+
+    // Save As to another file asks nothing; Yes over the file itself writes it.
+    const QString copy = dir + QStringLiteral("copy.qrb");
+    ui.saveAnswers = {copy};
+    EXPECT_TRUE(app.SaveRulebaseAs());
+    EXPECT_FALSE(app.rulebase()->LoadedInPart());
+    ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, path));
+    ui.answers = {MessageResult::Yes};
+    EXPECT_TRUE(app.SaveRulebase());
+    EXPECT_FALSE(app.rulebase()->LoadedInPart());
+    ASSERT_TRUE(app.SaveRulebase()); // asked once only
+    EXPECT_EQ(ui.messages.size(), 3u);
+    EXPECT_EQ(ui.unscriptedQuestions, 0);
 }
 
 TEST_F(ApplicationTest, UnsavedChangesAreAskedAboutAndCancelStopsEverything)
@@ -317,4 +389,99 @@ TEST_F(ApplicationTest, SaveAsProposesTheTitleAndSetsTheNameOnlyAfterSuccess)
     EXPECT_FALSE(app.rulebase()->Dirty());
     EXPECT_EQ(form.calls.filter(QStringLiteral("AddToMRUList")), QStringList{QStringLiteral("AddToMRUList ") + target});
     EXPECT_TRUE(app.CheckForSave());
+}
+
+TEST_F(ApplicationTest, EveryQuestionThatDeletesOrDiscardsDefaultsToTheSafeAnswer)
+{
+    // Each case leaves its question last; Enter must not destroy anything.
+    struct Case
+    {
+        const char *question;
+        std::function<void(Application &, MemoryMainForm &)> ask;
+        MessageResult safe;
+    };
+    const auto deleteInView = [](const char *view) {
+        return [view](Application &app, MemoryMainForm &window) {
+            app.SwitchView(QLatin1String(view));
+            window.listControl.click(1);
+            app.CurrentView()->DeleteItems();
+        };
+    };
+    const QString gone = dir + QStringLiteral("gone.qrb");
+    const QString part = dir + QStringLiteral("part.qrb");
+    {
+        QFile sample(TestEnvironment::sampleRulebase());
+        QFile file(part);
+        ASSERT_TRUE(sample.open(QIODevice::ReadOnly) && file.open(QIODevice::WriteOnly));
+        file.write(sample.readAll().replace("<CategoryList LastID=\"14\">",
+                                            "<CategoryList LastID=\"x\">"));
+    }
+    const std::vector<Case> cases = {
+        {"delete coding conventions", deleteInView("tlCodingConventions"), MessageResult::No},
+        {"delete naming conventions", deleteInView("tlNamingConventions"), MessageResult::No},
+        {"delete the rules of a category", deleteInView("tlCategoryView"), MessageResult::No},
+        {"delete the rules of a severity", deleteInView("tlSeverityView"), MessageResult::No},
+        {"delete authorised items", deleteInView("tlAuthorisedItems"), MessageResult::No},
+        {"delete a category",
+         [](Application &app, MemoryMainForm &) {
+             CategorySeverityForm form;
+             form.setDialogType(CategorySeverityForm::Categories);
+             form.setItemList(asKeyedList(app.rulebase()->CategoryList()));
+             form.setRulebase(app.rulebase());
+             form.Load();
+             form.Delete();
+         },
+         MessageResult::No},
+        {"delete a naming convention's condition",
+         [](Application &app, MemoryMainForm &) {
+             NamingConventionForm form;
+             form.setConvention(std::make_shared<NamingConvention>());
+             form.setRulebase(app.rulebase());
+             form.Load();
+             form.screen().txtCondition = QStringLiteral("Quorin.ApplyConvention");
+             form.cmdDelete_Click();
+         },
+         MessageResult::No},
+        {"drop the document designer's changes",
+         [](Application &app, MemoryMainForm &) {
+             RulebaseDocCreatorForm form;
+             form.setRulebase(app.rulebase());
+             form.Load();
+             form.clickSection(2);
+             form.moveSectionUp();
+             form.Cancel();
+         },
+         MessageResult::No},
+        {"close the condition editor with changes",
+         [](Application &, MemoryMainForm &) {
+             RuleEditorModel editor;
+             editor.setRuleCode(QStringLiteral("Sub Main\r\nEnd Sub"));
+             editor.CloseTool(QStringLiteral("Sub Main\r\n  x = 1\r\nEnd Sub"));
+         },
+         MessageResult::Cancel},
+        {"remove a missing file from the recent list",
+         [&](Application &app, MemoryMainForm &) {
+             app.OpenRulebase(Application::OpenMode::RecentList, gone);
+         },
+         MessageResult::No},
+        {"write over a file that loaded in part",
+         [&](Application &app, MemoryMainForm &) {
+             app.OpenRulebase(Application::OpenMode::CommandLine, part);
+             app.SaveRulebase();
+         },
+         MessageResult::No},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.question);
+        MemoryMainForm window;
+        Application app(&window, createView);
+        ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine,
+                                     TestEnvironment::sampleRulebase()));
+        ui.messages.clear();
+        c.ask(app, window);
+        ASSERT_FALSE(ui.messages.empty());
+        EXPECT_NE(ui.messages.back().buttons, MessageButtons::OK)
+            << ui.messages.back().text.toStdString();
+        EXPECT_EQ(ui.messages.back().defaultButton, c.safe);
+    }
 }

@@ -155,9 +155,18 @@ TEST(RulebaseDialogCommands, TheSeverityListTellsTheViewAndKeepsTheEditFromBeing
     EXPECT_TRUE(c.rulebase->Dirty());
 }
 
-TEST(RulebaseDialogCommands, DefaultViolationsChangedAloneLeaveTheRulebaseClean)
+TEST(RulebaseDialogCommands, DefaultViolationsChangedAloneMarkTheRulebaseSoNewAsks)
 {
     Commands c;
+    // Cancelled, nothing is marked.
+    c.scripts.defaultViolations = [](DefaultViolationsForm &form) {
+        form.setAdvice(QStringLiteral("Dropped."));
+        form.Cancel();
+        return false;
+    };
+    c.app.ShowDefaultViolations();
+    EXPECT_FALSE(c.rulebase->Dirty());
+
     c.scripts.defaultViolations = [](DefaultViolationsForm &form) {
         EXPECT_EQ(form.CurrentType(), 1);
         form.setAdvice(QStringLiteral("Remove it."));
@@ -166,9 +175,13 @@ TEST(RulebaseDialogCommands, DefaultViolationsChangedAloneLeaveTheRulebaseClean)
     };
     c.app.ShowDefaultViolations();
     EXPECT_EQ(c.rulebase->DefaultViolations()->ItemByType(1)->Advice(), QStringLiteral("Remove it."));
-    EXPECT_FALSE(c.rulebase->Dirty());
-    EXPECT_TRUE(c.app.CheckForSave());
-    EXPECT_TRUE(c.ui.messages.empty());
+    EXPECT_TRUE(c.rulebase->Dirty());
+    c.ui.answers = {MessageResult::Cancel};
+    c.app.NewRulebase();
+    EXPECT_EQ(c.app.rulebase(), c.rulebase);
+    EXPECT_EQ(c.ui.messageTexts(),
+              QStringList{QStringLiteral(
+                  "The current rulebase has changed, do you wish to save the changes?")});
 }
 
 TEST(RulebaseDialogCommands, RulebasePropertiesWriteOnOKOnly)

@@ -1,5 +1,8 @@
 #include "editors/CodingConventionForm.h"
+#include "editors/NamingConventionForm.h"
+#include "editors/RuleEditorModel.h"
 #include "rulebase/CodingConvention.h"
+#include "rulebase/NamingConvention.h"
 #include "rulebase/ViolationDefinition.h"
 #include "vocabulary/VBParserEvents.h"
 
@@ -259,4 +262,64 @@ TEST(CodingConventionForm, CollapseButtonsAndCategoryOfADeletedCategory)
     screen.txtTitle = screen.txtVTitle = QStringLiteral("x");
     ASSERT_TRUE(o.form.cmdOK_Click());
     EXPECT_EQ(o.rule->CategoryID(), -1);
+}
+
+TEST(ConventionForms, OKRefusesAConditionTheConditionEditorWouldRefuseInItsWords)
+{
+    struct Case
+    {
+        qint32 ruleType;
+        QString condition; // as the box holds it, LF line ends
+    };
+    const Case cases[] = {
+        {RuleTypes::CodingConvention, "Sub Main\n  If x Then\n  y = 1\nEnd Sub"},
+        {RuleTypes::CodingConvention, "Sub Main\nEnd Sub\nSub Other\nEnd Sub"},
+        {RuleTypes::NamingConvention, "Sub Main\n  x = 1\nEnd Sub"},
+        {RuleTypes::NamingConvention, "Sub Main\n  Quorin.ApplyConvention\n  x = (\nEnd Sub"},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.condition.toStdString());
+        ScriptedUserInterface ui;
+        RuleEditorModel editor;
+        editor.setRuleType(c.ruleType);
+        ASSERT_FALSE(editor.SaveAndCloseForm(c.condition));
+        ASSERT_EQ(ui.messages.size(), 1u);
+
+        // Each dialog otherwise ready for OK.
+        CodingConventionForm coding;
+        NamingConventionForm naming;
+        const bool isCoding = c.ruleType == RuleTypes::CodingConvention;
+        ConventionFormBase &form = isCoding ? static_cast<ConventionFormBase &>(coding) : naming;
+        if (isCoding) {
+            coding.setConvention(std::make_shared<CodingConvention>());
+        } else {
+            auto rule = std::make_shared<NamingConvention>();
+            rule->setObjectType(17);
+            naming.setConvention(rule);
+        }
+        form.setRulebase(EditorsTest::rulebaseWithCategories());
+        form.Load();
+        if (isCoding)
+            coding.screen().tvwEvent.setChecked(1, true);
+        form.common().txtTitle = QStringLiteral("T");
+        form.common().txtVTitle = QStringLiteral("V");
+        QString &condition = isCoding ? coding.screen().txtCondition : naming.screen().txtCondition;
+        condition = c.condition;
+
+        EXPECT_FALSE(form.cmdOK_Click());
+        EXPECT_TRUE(form.Cancelled());
+        ASSERT_EQ(ui.messages.size(), 2u);
+        EXPECT_EQ(ui.messages[1].text, ui.messages[0].text);
+        EXPECT_EQ(ui.messages[1].title, ui.messages[0].title);
+        ASSERT_TRUE(form.lastFault());
+        EXPECT_EQ(form.lastFault()->field, QStringLiteral("txtCondition"));
+        EXPECT_EQ(form.lastFault()->tab,
+                  isCoding ? int(CodingConventionForm::ConditionTab)
+                           : int(NamingConventionForm::ConditionTab));
+        EXPECT_EQ(form.lastFault()->line, editor.ErrorLine());
+
+        condition = isCoding ? QStringLiteral("Sub Main\nEnd Sub")
+                             : QStringLiteral("Sub Main\n  Quorin.ApplyConvention\nEnd Sub");
+        EXPECT_TRUE(form.cmdOK_Click());
+    }
 }

@@ -210,7 +210,7 @@ TEST(NamingConventionForm, OkWritesTheRuleAndCancelWritesNothing)
     s.cboCategory.setCurrentIndex(0);
     s.chkCaseSensitive = false;
     s.txtExclusionList = "i;j";
-    s.txtCondition = "Quorin.ApplyConvention";
+    s.txtCondition = "Sub Main\r\n  Quorin.ApplyConvention\r\nEnd Sub";
     EXPECT_TRUE(o.form.cmdDeleteEnabled());
     s.chkPrefixActive = true;
     o.form.chkPrefixActive_Click();
@@ -246,7 +246,7 @@ TEST(NamingConventionForm, OkWritesTheRuleAndCancelWritesNothing)
     EXPECT_FALSE(rule.PropertyName().isEmpty());
     EXPECT_FALSE(rule.CaseSensitive());
     EXPECT_EQ(rule.ExclusionList(), QStringLiteral("i;j"));
-    EXPECT_EQ(rule.Condition(), QStringLiteral("Quorin.ApplyConvention"));
+    EXPECT_EQ(rule.Condition(), QStringLiteral("Sub Main\r\n  Quorin.ApplyConvention\r\nEnd Sub"));
     EXPECT_TRUE(rule.PrefixActive());
     EXPECT_EQ(rule.PrefixItems()->Item(1)->PSType(), 4);
     EXPECT_EQ(rule.PrefixItems()->Item(2)->PSType(), 1);

@@ -6,6 +6,7 @@
 #include "editors/AuthorisedReferenceForm.h"
 #include "editors/CategoryEditorForm.h"
 #include "editors/CategorySeverityForm.h"
+#include "editors/ConventionFormBase.h"
 #include "editors/DefaultViolationsForm.h"
 #include "editors/IConventionForm.h"
 #include "editors/RulebaseDocCreatorForm.h"
@@ -24,11 +25,11 @@
 #include "gui/dialogs/frmParserEvent.h"
 #include "gui/dialogs/frmPatternTest.h"
 #include "gui/dialogs/frmRulebaseDocCreator.h"
-#include "gui/editor/frmRuleEditor.h"
 #include "gui/dialogs/frmRulebaseProperties.h"
 #include "gui/dialogs/frmSeverityEditor.h"
 #include "gui/dialogs/frmTagList.h"
 #include "gui/dialogs/frmUnauthorisedKeyword.h"
+#include "gui/editor/frmRuleEditor.h"
 #include "gui/factory/GuiFormFactory.h"
 #include "gui/frmMain.h"
 #include "gui/window/Images.h"
@@ -58,6 +59,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
@@ -71,6 +73,7 @@
 #include <QPushButton>
 #include <QSet>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -112,6 +115,17 @@ QStringList withoutIcon(QTreeWidget &tree)
             bare << (*it)->text(0);
     }
     return bare;
+}
+
+// Keys as a person types them, one press and release each.
+void typeInto(QWidget *widget, const QString &text)
+{
+    for (const QChar c : text) {
+        QKeyEvent press(QEvent::KeyPress, c.unicode(), Qt::NoModifier, QString(c));
+        QApplication::sendEvent(widget, &press);
+        QKeyEvent release(QEvent::KeyRelease, c.unicode(), Qt::NoModifier, QString(c));
+        QApplication::sendEvent(widget, &release);
+    }
 }
 
 std::string joined(const QStringList &texts)
@@ -601,4 +615,124 @@ TEST_F(DialogIntegration, EveryDialogsHelpButtonAndF1OpenItsOwnPage)
             }
         }
     }
+}
+
+TEST_F(DialogIntegration, NumberBoxesRefuseANumberTheirValueCannotHold)
+{
+    SeverityEditorForm severityEditor;
+    severityEditor.setSeverityItem(rulebase->SeverityList()->Item(1));
+    severityEditor.Load();
+    DefaultViolationsForm violations;
+    violations.setDefaultViolations(rulebase->DefaultViolations());
+    violations.setCategoryList(rulebase->CategoryList());
+    violations.setSeverityList(rulebase->SeverityList());
+    violations.Load();
+    RulebasePropertiesForm properties;
+    properties.setRulebase(rulebase);
+    properties.Load();
+
+    struct Case
+    {
+        const char *box;
+        NumberRange range;
+        std::function<std::unique_ptr<QDialog>()> make;
+    };
+    const auto propertiesDialog
+        = [&] { return std::make_unique<frmRulebaseProperties>(properties); };
+    const auto namingDialog = [] {
+        auto dialog = std::make_unique<frmNamingConvention>();
+        child<QCheckBox>(*dialog, "chkBodyActive")->setChecked(true);
+        return dialog;
+    };
+    const std::vector<Case> cases = {
+        {"txtImpact",
+         SeverityEditorForm::ImpactRange(),
+         [&] { return std::make_unique<frmSeverityEditor>(severityEditor); }},
+        {"txtImpact",
+         DefaultViolationsForm::ImpactRange(),
+         [&] { return std::make_unique<frmDefaultViolations>(violations); }},
+        {"txtMajor", RulebasePropertiesForm::MajorRange(), propertiesDialog},
+        {"txtMinor", RulebasePropertiesForm::MinorRange(), propertiesDialog},
+        {"txtRevision", RulebasePropertiesForm::RevisionRange(), propertiesDialog},
+        {"txtVImpact",
+         ConventionFormBase::NumberFieldRange(),
+         [] { return std::make_unique<frmCodingConvention>(); }},
+        {"txtBody_1", ConventionFormBase::NumberFieldRange(), namingDialog},
+        {"txtBody_2", ConventionFormBase::NumberFieldRange(), namingDialog},
+    };
+    for (const Case &c : cases) {
+        const std::unique_ptr<QDialog> dialog = c.make();
+        SCOPED_TRACE(dialog->objectName().toStdString() + " " + c.box);
+        auto *box = child<QLineEdit>(*dialog, c.box);
+        ASSERT_NE(box, nullptr);
+        ASSERT_TRUE(box->isEnabled());
+        // The largest value goes in whole; one more loses its last keystroke.
+        const QString largest = QString::number(c.range.maximum);
+        box->clear();
+        typeInto(box, largest);
+        EXPECT_EQ(box->text(), largest);
+        const QString beyond = QString::number(qint64(c.range.maximum) + 1);
+        box->clear();
+        typeInto(box, beyond);
+        EXPECT_EQ(box->text(), beyond.chopped(1));
+        box->clear();
+        typeInto(box, QStringLiteral("1x2"));
+        EXPECT_EQ(box->text(), QStringLiteral("12"));
+    }
+    EXPECT_TRUE(ui.messages.empty()) << joined(ui.messageTexts());
+}
+
+TEST_F(DialogIntegration, APickedPlaceholderGoesInAtTheCaretWhileTabStillSelectsAll)
+{
+    openRule(RuleTypes::CodingConvention, "frmCodingConvention", [&](QDialog &dialog) {
+        QApplication::setActiveWindow(&dialog); // focus comes and goes as on a desktop
+        child<QTabWidget>(dialog, "tbsConvention")->setCurrentIndex(3);
+        auto *advice = child<QPlainTextEdit>(dialog, "txtVAdvice");
+        advice->setPlainText(QStringLiteral("Rename  now."));
+        advice->setFocus(Qt::MouseFocusReason);
+        QTextCursor cursor = advice->textCursor();
+        cursor.setPosition(7);
+        advice->setTextCursor(cursor);
+
+        QString placeholder;
+        for (int i = 0; i < 2; ++i) {
+            whenModal(QStringLiteral("frmObjectProperty"), [&](QDialog &picker) {
+                auto *properties = child<QListWidget>(picker, "lvwProperty");
+                ASSERT_GT(properties->count(), 0);
+                properties->setCurrentRow(0);
+                click(picker, "cmdOK");
+            });
+            click(dialog, "cmdObjectProperty_1");
+            // The dialog is active again once the picker has gone, and its field has focus back.
+            QApplication::setActiveWindow(&dialog);
+            QApplication::processEvents();
+            if (i == 0)
+                placeholder = advice->toPlainText().mid(7, advice->toPlainText().size() - 12);
+        }
+        ASSERT_TRUE(placeholder.startsWith(QLatin1Char('%'))) << placeholder.toStdString();
+        EXPECT_EQ(advice->toPlainText(),
+                  QStringLiteral("Rename ") + placeholder + placeholder + QStringLiteral(" now."));
+        EXPECT_FALSE(advice->textCursor().hasSelection());
+
+        auto *title = child<QLineEdit>(dialog, "txtVTitle");
+        ASSERT_FALSE(title->text().isEmpty());
+        title->setFocus(Qt::TabFocusReason);
+        QApplication::processEvents();
+        EXPECT_EQ(title->selectedText(), title->text());
+    });
+}
+
+TEST_F(DialogIntegration, OKRefusesABrokenConditionTypedIntoTheBoxAndShowsWhere)
+{
+    openRule(RuleTypes::CodingConvention, "frmCodingConvention", [&](QDialog &dialog) {
+        auto *condition = child<QPlainTextEdit>(dialog, "txtCondition");
+        condition->setPlainText(QStringLiteral("Sub Main\n  x = 1\n  If x Then\nEnd Sub"));
+        ui.messages.clear();
+        click(dialog, "cmdOK");
+        EXPECT_TRUE(dialog.isVisible());
+        ASSERT_EQ(ui.messages.size(), 1u);
+        EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Administrator - Syntax Error"));
+        EXPECT_EQ(child<QTabWidget>(dialog, "tbsConvention")->currentIndex(), 2);
+        EXPECT_GE(condition->textCursor().blockNumber(), 2);
+    });
 }

@@ -23,13 +23,14 @@
 #include <QAction>
 #include <QApplication>
 #include <QDragEnterEvent>
+#include <QFile>
 #include <QLabel>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QSplitter>
-#include <QTreeView>
-#include <QMenuBar>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QTreeView>
 
 #include <gtest/gtest.h>
 
@@ -240,4 +241,47 @@ TEST(MainWindow, ARowDraggedOntoACategoryNodeMovesTheRule)
     QDragEnterEvent other(at, Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(viewport, &other);
     EXPECT_FALSE(other.isAccepted());
+}
+
+TEST(MainWindow, AFailedOpenLeavesTheWindowLiveAndAPartLoadSaysSoUntilSaved)
+{
+    TestEnvironment::clearSettings();
+    const QString dir = TestEnvironment::makeTempDir() + QLatin1Char('/');
+    const QString bad = dir + QStringLiteral("bad.qrb");
+    const QString part = dir + QStringLiteral("part.qrb");
+    {
+        QFile sample(TestEnvironment::sampleRulebase());
+        QFile truncated(bad);
+        QFile partial(part);
+        ASSERT_TRUE(sample.open(QIODevice::ReadOnly) && truncated.open(QIODevice::WriteOnly)
+                    && partial.open(QIODevice::WriteOnly));
+        const QByteArray bytes = sample.readAll();
+        truncated.write(bytes.left(400));
+        partial.write(QByteArray(bytes).replace("<CategoryList LastID=\"14\">",
+                                                "<CategoryList LastID=\"x\">"));
+    }
+    SampleWindow w;
+    ASSERT_TRUE(w.opened);
+    const QString title = w.window->windowTitle();
+
+    // Not saved first, and the open fails: the edit is still there to save, and closing asks.
+    w.app->rulebase()->setTitle(QStringLiteral("Edited"));
+    w.ui.answers = {MessageResult::No};
+    EXPECT_FALSE(w.app->OpenRulebase(Application::OpenMode::CommandLine, bad));
+    EXPECT_EQ(w.window->windowTitle(), title);
+    EXPECT_TRUE(w.window->tool(QStringLiteral("tlSaveRulebase"))->isEnabled());
+    EXPECT_EQ(w.app->rulebase()->Title(), QStringLiteral("Edited"));
+    w.ui.answers = {MessageResult::Cancel};
+    EXPECT_FALSE(w.window->close());
+    EXPECT_EQ(w.ui.messages.back().text,
+              QStringLiteral("The current rulebase has changed, do you wish to save the changes?"));
+
+    w.ui.answers = {MessageResult::No};
+    ASSERT_TRUE(w.app->OpenRulebase(Application::OpenMode::CommandLine, part));
+    EXPECT_EQ(w.window->windowTitle(),
+              QStringLiteral("part.qrb (loaded in part) - Quorin Administrator"));
+    w.ui.answers = {MessageResult::Yes};
+    w.window->tool(QStringLiteral("tlSaveRulebase"))->trigger();
+    EXPECT_EQ(w.window->windowTitle(), QStringLiteral("part.qrb - Quorin Administrator"));
+    EXPECT_EQ(w.ui.unscriptedQuestions, 0);
 }

@@ -169,12 +169,16 @@ TEST(RuleEditor, ClosingAsksAboutChangesAndRunsModally)
         dialog.editor()->setCaretPosition(0);
         type(dialog.editor(), QStringLiteral("' note\n"));
 
-        // The frame's close asks; Cancel stays, No leaves without the change.
+        // The frame's close asks; Cancel stays, No leaves without the change. Escape asks
+        // with Cancel as the default, so Enter next keeps the text as it is.
         ui.answers = {MessageResult::Cancel, MessageResult::No};
         dialog.close();
         EXPECT_TRUE(dialog.isVisible());
-        dialog.reject(); // Escape
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QApplication::sendEvent(dialog.editor(), &escape);
         EXPECT_FALSE(dialog.isVisible());
+        ASSERT_EQ(ui.messages.size(), 2u);
+        EXPECT_EQ(ui.messages[1].defaultButton, MessageResult::Cancel);
         EXPECT_TRUE(dialog.Cancelled());
         EXPECT_EQ(ui.messageTexts(),
                   (QStringList{"Do you want to save your changes?",

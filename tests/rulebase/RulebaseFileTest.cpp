@@ -382,6 +382,7 @@ TEST_F(RulebaseFileTest, LoadingKeepsFileQuirks)
     EXPECT_EQ(naming->ExclusionList(), QStringLiteral(" x;y "));
     EXPECT_FALSE(naming->CaseSensitive());
     EXPECT_FALSE(rulebase->Dirty());
+    EXPECT_FALSE(rulebase->LoadedInPart());
 }
 
 TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
@@ -391,6 +392,8 @@ TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
                               codingRule("5001") + codingRule("12x") + codingRule("5003"),
                               namingRule("5004", "<PrefixItem PSType=\"1\" PSValue=\"a\"/>")));
     ASSERT_TRUE(rulebase); // a section's fault is its own; the load goes on
+    EXPECT_TRUE(rulebase->LoadedInPart());
+    EXPECT_FALSE(rulebase->Dirty());
     EXPECT_EQ(rulebase->RuleLists()->CodingConventions()->Count(), 1);
     EXPECT_EQ(rulebase->RuleLists()->NamingConventions()->Count(), 1);
     ASSERT_EQ(ui.messages.size(), 1u);
@@ -413,12 +416,21 @@ TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
             "<PrefixItem PSType=\"1\" PSValue=\"a\"/><PrefixItem PSType=\"1\" PSValue=\"a\"/>"
             "<PrefixItem PSType=\"1\" PSValue=\"a\"/><PrefixItem PSType=\"1\" PSValue=\"a\"/>")));
     ASSERT_TRUE(overflow);
+    EXPECT_TRUE(overflow->LoadedInPart());
     EXPECT_EQ(overflow->RuleLists()->AllConventions()->Count(), 0);
     ASSERT_EQ(ui.messages.size(), 2u);
     EXPECT_TRUE(ui.messages[0].text.startsWith(
         QStringLiteral("Error 13 - Type mismatch (attribute 'RuleActive'")));
     EXPECT_TRUE(ui.messages[1].text.contains(
         QStringLiteral("LoadNamingConventions"))); // a fifth prefix item
+
+    // A rule refused on its own, as a second one of an id is, leaves the file loaded in part too.
+    ui.messages.clear();
+    const auto twice = loadBytes(smallFile("", codingRule("5001") + codingRule("5001"), ""));
+    ASSERT_TRUE(twice);
+    EXPECT_EQ(twice->RuleLists()->CodingConventions()->Count(), 1);
+    EXPECT_TRUE(twice->LoadedInPart());
+    EXPECT_FALSE(ui.messages.empty());
 
     ui.messages.clear();
     QByteArray big = smallFile("", codingRule("5001"), "");
@@ -477,6 +489,7 @@ TEST_F(RulebaseFileTest, FilesThatAreNotRulebasesAreRefusedWithTheirWarnings)
     ui.messages.clear();
     const auto noReport = loadBytes(smallFile("", "", "", ""));
     ASSERT_TRUE(noReport);
+    EXPECT_TRUE(noReport->LoadedInPart());
     EXPECT_EQ(noReport->Report()->Sections()->Count(), 0);
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_TRUE(ui.messages[0].text.endsWith(

@@ -93,21 +93,21 @@ TEST(Rulebase, DefaultSeverityListKeepsItsTextsToTheLetter)
         QStringLiteral("Items flagged with 'Information' severity, are not")));
 }
 
-TEST(Rulebase, DirtyIsComputedFromItsPartsButNotFromDefaultViolations)
+TEST(Rulebase, DirtyIsComputedFromItsParts)
 {
     Rulebase rulebase;
+    EXPECT_FALSE(rulebase.Dirty());
     rulebase.setTitle(rulebase.Title()); // an unchanged value still counts
     EXPECT_TRUE(rulebase.Dirty());
     rulebase.setDirty(false);
     rulebase.setFilename(QStringLiteral("C:\\a\\b.qrb"));
     EXPECT_FALSE(rulebase.Dirty());
 
-    // Only the default violations changed: the rulebase stays clean.
+    // Only the default violations changed: that too is a change to save.
     rulebase.DefaultViolations()->ItemByType(2)->setAdvice(QStringLiteral("Upgrade."));
-    EXPECT_TRUE(rulebase.DefaultViolations()->Dirty());
-    EXPECT_FALSE(rulebase.Dirty());
+    EXPECT_TRUE(rulebase.Dirty());
     rulebase.setDirty(false);
-    EXPECT_TRUE(rulebase.DefaultViolations()->Dirty());
+    EXPECT_FALSE(rulebase.DefaultViolations()->Dirty());
 
     // Tag sets count through their items, not through their own flags.
     rulebase.ControlTags()->setDirty(true);

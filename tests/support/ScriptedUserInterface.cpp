@@ -15,9 +15,10 @@ ScriptedUserInterface::~ScriptedUserInterface()
 MessageResult ScriptedUserInterface::messageBox(const QString &text,
                                                 MessageButtons buttons,
                                                 MessageIcon icon,
-                                                const QString &title)
+                                                const QString &title,
+                                                MessageResult defaultButton)
 {
-    messages.push_back({text, buttons, icon, title});
+    messages.push_back({text, buttons, icon, title, defaultButton});
     if (buttons == MessageButtons::OK)
         return MessageResult::OK;
     if (answers.empty()) {

@@ -14,6 +14,7 @@ struct ShownMessage
     MessageButtons buttons;
     MessageIcon icon;
     QString title;
+    MessageResult defaultButton;
 };
 
 struct HelpRequest
@@ -34,7 +35,8 @@ public:
     MessageResult messageBox(const QString &text,
                              MessageButtons buttons,
                              MessageIcon icon,
-                             const QString &title) override;
+                             const QString &title,
+                             MessageResult defaultButton) override;
     bool getOpenFilename(FileDialogRequest &request) override;
     bool getSaveFilename(FileDialogRequest &request) override;
     void showHelp(HelpCommand command, const QString &topic, int context) override;

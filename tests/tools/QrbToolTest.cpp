@@ -99,12 +99,15 @@ TEST(QrbTool, TheConsoleAnswersEveryQuestionNoAndCatchesTheErrorFramesReports)
         QTextStream echo(&echoed);
         ConsoleUserInterface console(&echo);
         EXPECT_EQ(&UserInterface::current(), &console);
-        EXPECT_EQ(askYesNo(QStringLiteral("Save?")), MessageResult::No);
-        EXPECT_EQ(askYesNoCancel(QStringLiteral("Save now?")), MessageResult::Cancel);
+        // Nobody to ask: the cautious answer, whatever the box's default.
+        EXPECT_EQ(askYesNo(QStringLiteral("Save?"), MessageResult::Yes), MessageResult::No);
+        EXPECT_EQ(askYesNoCancel(QStringLiteral("Save now?"), MessageResult::Yes),
+                  MessageResult::Cancel);
         EXPECT_EQ(console.messageBox(QStringLiteral("Go on?"),
                                      MessageButtons::OKCancel,
                                      MessageIcon::Question,
-                                     QString()),
+                                     QString(),
+                                     MessageResult::OK),
                   MessageResult::Cancel);
         showWarning(QStringLiteral("Careful."));
         FileDialogRequest request;
