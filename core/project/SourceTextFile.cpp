@@ -110,11 +110,15 @@ void SourceTextFile::readLineAhead()
 
 QString SourceTextFile::readLine()
 {
-    const QByteArrayView bytes = takeLine();
-    const QString line = m_utf8 ? QString::fromUtf8(bytes) : Windows1252::decode(bytes);
+    const QString line = decode(takeLine());
     if (m_rest)
         readLineAhead();
     return line;
+}
+
+QString SourceTextFile::decode(QByteArrayView bytes) const
+{
+    return m_utf8 ? QString::fromUtf8(bytes) : Windows1252::decode(bytes);
 }
 
 QByteArrayView SourceTextFile::readLineBytes()

@@ -38,6 +38,8 @@ public:
     // The same line as the file's bytes, valid while the file lives. Reads the rest of a file
     // read as lines are read first.
     QByteArrayView readLineBytes();
+    // Text of bytes read from this file, in the file's encoding.
+    QString decode(QByteArrayView bytes) const;
     // Length in bytes of what has been read: the file's, when it was read whole.
     qint64 size() const { return m_bytes.size(); }
 

@@ -9,7 +9,6 @@
 #include "project/SourceLineStatistics.h"
 #include "project/SourceTextFile.h"
 #include "project/VirtualObject.h"
-#include "project/Windows1252.h"
 #include "project/modQuorinUtils.h"
 #include "project/modSource.h"
 #include "project/modVOSource.h"
@@ -286,8 +285,8 @@ bool VirtualSourceFile::GetNextSourceLine(QString &rawText,
         readLogicalLine(*m_file, line, true);
         QByteArrayView logical = line.text;
         physicalLines = PassLogicalLine(line.first, logical, line.physical);
-        rawText = Windows1252::decode(line.physical > 1 ? QByteArrayView(line.raw) : line.first);
-        logicalLine = Windows1252::decode(logical);
+        rawText = m_file->decode(line.physical > 1 ? QByteArrayView(line.raw) : line.first);
+        logicalLine = m_file->decode(logical);
         length = qint32(rawText.size());
         return true;
     });
