@@ -6,6 +6,7 @@
 #include "project/VirtualProject.h"
 #include "project/VirtualSourceFile.h"
 #include "project/modQuorinUtils.h"
+#include "tools/ConsoleUserInterface.h"
 
 #include <QFileInfo>
 
@@ -39,7 +40,13 @@ bool ProjectLineCounter::projectFiles(const QString &argument,
         return true;
     }
     if (modQuorinUtils::IsVBGFile(path)) {
+        // The reader's error frame would name its own routine: the file is named here instead.
+        ConsoleUserInterface recorder(nullptr);
         const StringArrayList list = modQuorinUtils::ProjectFileListFromVBG(path);
+        if (!recorder.messages().isEmpty()) {
+            problem = QStringLiteral("The group file could not be read");
+            return false;
+        }
         for (qint32 i = 1; i <= list.Count(); ++i)
             projects << list.Item(i);
         if (list.Count() == 0) {
@@ -57,6 +64,9 @@ ProjectLineCounter::Project ProjectLineCounter::count(const QString &projectFile
     Project result;
     result.path = projectFile;
     result.name = QFileInfo(projectFile).completeBaseName();
+    // A file that can't be read is reported below by its name; the readers' error frames,
+    // which name their routines, are kept off the console.
+    ConsoleUserInterface recorder(nullptr);
     auto project = std::make_shared<VirtualProject>();
     switch (project->LoadProject(projectFile)) {
     case ProjectLoadStatus::Read:
@@ -80,8 +90,10 @@ ProjectLineCounter::Project ProjectLineCounter::count(const QString &projectFile
         file.name = source->Name();
         file.path = source->Filename();
         const QFileInfo info(file.path);
-        if (!info.isFile()) {
+        if (!info.exists()) {
             file.problem = QStringLiteral("No such file");
+        } else if (!info.isFile()) {
+            file.problem = QStringLiteral("Not a file");
         } else if (source->CountSourceLines() != 0) {
             file.problem = QStringLiteral("The file could not be read");
         } else {
