@@ -325,6 +325,11 @@ bool TarnXMLDoc::parseText(const QString &text)
     return parseInto(buffer, QString());
 }
 
+QString TarnXMLDoc::ParseErrorReason() const
+{
+    return m_document->parseErrorReason();
+}
+
 TarnXMLElement TarnXMLDoc::RootElement()
 {
     return guarded("RootElement", Module, TarnXMLElement(), [&] {
