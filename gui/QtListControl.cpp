@@ -44,6 +44,7 @@ Qt::Alignment alignmentOf(ColumnAlignment alignment)
 QtListControl::QtListControl(QTreeView *view)
     : QAbstractTableModel(view)
     , m_view(view)
+    , m_viewport(view->viewport())
 {
     // The list sorts itself, so that row numbers stay the order shown.
     m_view->setSortingEnabled(false);
@@ -411,7 +412,7 @@ void QtListControl::setToolTipText(const QString &text)
 
 bool QtListControl::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_view->viewport()) {
+    if (watched == m_viewport) {
         if (event->type() == QEvent::MouseButtonPress) {
             // A press starts afresh: a click on the current row still reports it.
             m_reportedByPress = 0;

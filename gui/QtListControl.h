@@ -10,6 +10,7 @@
 
 class QMimeData;
 class QTreeView;
+class QWidget;
 
 // The main window's report-style list: a model of rows held in a vector, shown in a QTreeView,
 // with the view's selection, header and signals turned into the ListControl the views borrow.
@@ -130,6 +131,8 @@ private:
     void headerClicked(int section);
 
     QTreeView *m_view;
+    // Kept, since the view is half destroyed when its viewport's last events arrive.
+    QWidget *m_viewport;
     std::vector<Row> m_rows;
     QHash<QString, int> m_positions; // row positions by case-folded key
     std::vector<Column> m_columns;

@@ -18,6 +18,7 @@
 QtTreeControl::QtTreeControl(QTreeView *view)
     : QAbstractItemModel(view)
     , m_view(view)
+    , m_viewport(view->viewport())
 {
     m_view->setModel(this);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -46,7 +47,7 @@ QtTreeControl::QtTreeControl(QTreeView *view)
 
 bool QtTreeControl::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_view->viewport()) {
+    if (watched == m_viewport) {
         if (event->type() == QEvent::MouseButtonPress)
             m_reportedByPress = 0;
         else if (dragEvent(event))

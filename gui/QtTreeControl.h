@@ -9,6 +9,7 @@
 class QDropEvent;
 class QTimer;
 class QTreeView;
+class QWidget;
 
 // The main window's tree: a model of RuleTree nodes shown in a QTreeView, with the view's
 // expansion, selection and signals turned into the TreeControl the views borrow. A model index
@@ -85,6 +86,8 @@ private:
     void repeatDragOver();
 
     QTreeView *m_view;
+    // Kept, since the view is half destroyed when its viewport's last events arrive.
+    QWidget *m_viewport;
     RuleTree m_tree;
     QString m_imageList;
     int m_dropHighlight = 0;

@@ -4,6 +4,8 @@
 #include "platform/QuorinError.h"
 #include "rulebase/CategoryItem.h"
 
+#include <limits>
+
 CategoryList::CategoryList()
     : m_list(std::make_shared<ObjectKeyedArrayList<CategoryItem>>())
 {
@@ -27,6 +29,12 @@ bool CategoryList::ContainsID(qint32 id) const
 void CategoryList::Add(const std::shared_ptr<CategoryItem> &item, bool assignID)
 {
     if (assignID) {
+        if (m_lastID == std::numeric_limits<qint32>::max())
+            throw QuorinError(ErrorNumber::Overflow,
+                              QStringLiteral("CategoryList::Add"),
+                              QStringLiteral("No new category can be added: the rulebase has used "
+                                             "every category id up to %1.")
+                                  .arg(m_lastID));
         ++m_lastID;
         item->setID(m_lastID);
     }

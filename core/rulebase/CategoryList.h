@@ -25,8 +25,9 @@ public:
     std::shared_ptr<CategoryItem> Item(qint32 index) const;
     // False for -1, the id of no category.
     bool ContainsID(qint32 id) const;
-    // With `assignID` the item gets the next id. A key in use raises the duplicate-key error
-    // to the caller, after the id was given.
+    // With `assignID` the item gets the next id; once every id is used, the overflow error is
+    // raised and nothing added. A key in use raises the duplicate-key error to the caller,
+    // after the id was given.
     void Add(const std::shared_ptr<CategoryItem> &item, bool assignID);
     void Remove(const QString &key) { m_list->Remove(key); }
     void Remove(qint32 index) { m_list->Remove(index); }

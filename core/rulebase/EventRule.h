@@ -1,11 +1,11 @@
 #pragma once
 
 #include "rulebase/ParserEventArray.h"
-#include "rulebase/RuleBase.h"
+#include "rulebase/CommonRuleFields.h"
 
 // A rule that runs at parser events of its own: the coding conventions and the unauthorised
 // keywords.
-class EventRule : public RuleBase
+class EventRule : public CommonRuleFields
 {
 public:
     qint32 EventCount() const { return m_events.Count(); }
@@ -20,7 +20,7 @@ public:
 
 protected:
     explicit EventRule(const char *className)
-        : RuleBase(className)
+        : CommonRuleFields(className)
         , m_module(className)
     {
     }

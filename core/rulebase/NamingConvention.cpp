@@ -30,7 +30,7 @@ void copyItems(const ObjectArrayList<PrefixSuffixItem> &from, ObjectArrayList<Pr
 } // namespace
 
 NamingConvention::NamingConvention()
-    : RuleBase(module)
+    : CommonRuleFields(module)
     , m_prefixItems(blankItems())
     , m_suffixItems(blankItems())
 {
@@ -38,12 +38,12 @@ NamingConvention::NamingConvention()
 
 bool NamingConvention::Dirty() const
 {
-    return RuleBase::Dirty() || m_prefixItems->Dirty() || m_suffixItems->Dirty();
+    return CommonRuleFields::Dirty() || m_prefixItems->Dirty() || m_suffixItems->Dirty();
 }
 
 void NamingConvention::setDirty(bool dirty)
 {
-    RuleBase::setDirty(dirty);
+    CommonRuleFields::setDirty(dirty);
     m_prefixItems->setDirty(dirty);
     m_suffixItems->setDirty(dirty);
 }

@@ -1,14 +1,14 @@
 #pragma once
 
 #include "collections/ObjectArrayList.h"
-#include "rulebase/RuleBase.h"
+#include "rulebase/CommonRuleFields.h"
 
 class PrefixSuffixItem;
 
 // How the name of one kind of thing must be built: prefix, body and suffix, each switched on
 // separately. Applies to one object type and, where it has several name-bearing properties,
 // one property of it.
-class NamingConvention final : public RuleBase
+class NamingConvention final : public CommonRuleFields
 {
 public:
     NamingConvention();

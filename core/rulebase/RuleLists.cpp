@@ -119,6 +119,13 @@ std::shared_ptr<ObjectArrayList<NamingConvention>> RuleLists::ObjectNCList(qint3
 
 void RuleLists::AddConvention(const std::shared_ptr<IRule> &rule, bool newRule)
 {
+    // Refused before the frame, so that the caller's frame reports it and adds the rule nowhere.
+    if (newRule && m_lastID == std::numeric_limits<qint32>::max())
+        throw QuorinError(ErrorNumber::Overflow,
+                          QStringLiteral("RuleLists::AddConvention"),
+                          QStringLiteral("No new rule can be added: the rulebase has used every "
+                                         "rule id up to %1.")
+                              .arg(m_lastID));
     guardedVoid("AddConvention", module, [&] {
         if (!rule)
             throw QuorinError::objectNotSet(QStringLiteral("RuleLists::AddConvention"));

@@ -53,7 +53,8 @@ public:
     std::shared_ptr<ObjectArrayList<CodingConvention>> PendingViolations(qint32 eventID) const;
     std::shared_ptr<ObjectArrayList<NamingConvention>> ObjectNCList(qint32 objectType, bool create);
 
-    // Numbers the rule first when `newRule`; loading passes False so stored ids stand.
+    // Numbers the rule first when `newRule`; loading passes False so stored ids stand. Once
+    // every id is used, a new rule raises the overflow error to the caller and is not added.
     void AddConvention(const std::shared_ptr<IRule> &rule, bool newRule);
     // Leaves a coding convention in its pending list, which only PendingViolations reads.
     void RemoveRule(const QString &key);

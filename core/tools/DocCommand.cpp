@@ -21,7 +21,10 @@ QString DocCommand::description() const
 {
     return QStringLiteral(
         "Writes the coding standards document of the rulebase FILE as one HTML file, as\n"
-        "Quorin Administrator's document designer does with the rulebase's own plan.");
+        "Quorin Administrator's document designer does: the rulebase's plan, brought up to\n"
+        "date with its categories and rules as the designer shows it. Without --organisation\n"
+        "the name QuorinAdmin remembers stands in the document; without that either, \"Your\n"
+        "Organisation\" does, with a warning.");
 }
 
 QCommandLineOption DocCommand::outputOption()

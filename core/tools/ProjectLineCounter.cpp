@@ -6,6 +6,7 @@
 #include "project/VirtualObject.h"
 #include "project/VirtualProject.h"
 #include "project/VirtualSourceFile.h"
+#include "tools/ConsoleUserInterface.h"
 
 #include <QFileInfo>
 
@@ -24,7 +25,14 @@ bool ProjectLineCounter::projectFiles(const QString &argument,
                                       QStringList &projects,
                                       QString &problem)
 {
-    return ProjectFileList::expand(argument, projects, problem);
+    // The reader's error frame would name its own routine: the file is named here instead.
+    ConsoleUserInterface recorder(nullptr);
+    const bool expanded = ProjectFileList::expand(argument, projects, problem);
+    if (!recorder.messages().isEmpty()) {
+        problem = QStringLiteral("The group file could not be read");
+        return false;
+    }
+    return expanded;
 }
 
 ProjectLineCounter::Project ProjectLineCounter::count(const QString &projectFile)
@@ -32,6 +40,9 @@ ProjectLineCounter::Project ProjectLineCounter::count(const QString &projectFile
     Project result;
     result.path = projectFile;
     result.name = QFileInfo(projectFile).completeBaseName();
+    // A file that can't be read is reported below by its name; the readers' error frames,
+    // which name their routines, are kept off the console.
+    ConsoleUserInterface recorder(nullptr);
     auto project = std::make_shared<VirtualProject>();
     switch (project->LoadProject(projectFile)) {
     case ProjectLoadStatus::Read:
@@ -55,8 +66,10 @@ ProjectLineCounter::Project ProjectLineCounter::count(const QString &projectFile
         file.name = source->Name();
         file.path = source->Filename();
         const QFileInfo info(file.path);
-        if (!info.isFile()) {
+        if (!info.exists()) {
             file.problem = QStringLiteral("No such file");
+        } else if (!info.isFile()) {
+            file.problem = QStringLiteral("Not a file");
         } else if (source->CountSourceLines() != 0) {
             file.problem = QStringLiteral("The file could not be read");
         } else {

@@ -106,6 +106,12 @@ void RulebaseChecker::checkFile(const LoadedRulebase &loaded)
                 m_scan.errorLine(),
                 0,
                 m_scan.errorColumn());
+        } else if (!loaded.parseError.isEmpty()) {
+            // Well-formed, but refused by the loader's parser: its entities, say.
+            add(Severity::Error,
+                QStringLiteral("xml"),
+                QStringLiteral("the file was refused: ") + loaded.parseError,
+                0);
         } else if (!m_scan.hasSchemaVersion()) {
             add(Severity::Error,
                 QStringLiteral("schema"),

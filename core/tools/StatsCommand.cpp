@@ -1,12 +1,14 @@
 #include "tools/StatsCommand.h"
 
 #include "project/FolderListingCache.h"
+#include "project/modQuorinUtils.h"
 #include "tools/ProjectLineCounter.h"
 #include "tools/ToolContext.h"
 #include "tools/ToolExit.h"
 
 #include <QCommandLineParser>
 #include <QDir>
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -60,8 +62,9 @@ QString StatsCommand::description() const
         "Reads each project, or each project of a group, and counts the lines of its source\n"
         "files past their headers as the reviewer does: code lines (in-line comments\n"
         "included), comment-only lines and blank lines. A project named twice is counted\n"
-        "once. Source files that are missing or unreadable are reported on standard error\n"
-        "and give exit code 1; a project or group that can't be read gives 2.");
+        "once. Source files, and projects of a group, that are missing or unreadable are\n"
+        "reported on standard error and give exit code 1; a project or group named here\n"
+        "that can't be read gives 2.");
 }
 
 QCommandLineOption StatsCommand::filesOption()
@@ -90,6 +93,9 @@ int StatsCommand::execute(const QCommandLineParser &parser, ToolContext &context
     int result = ToolExit::Ok;
     QStringList projectFiles;
     QSet<QString> seen;
+    // The group each project named by a group came through: such a project that can't be read
+    // is a finding, as a missing source file is, since the group itself was read.
+    QHash<QString, QString> groupOf;
     for (const QString &argument : arguments) {
         QStringList found;
         QString problem;
@@ -103,6 +109,8 @@ int StatsCommand::execute(const QCommandLineParser &parser, ToolContext &context
             if (!seen.contains(file.toLower())) {
                 seen.insert(file.toLower());
                 projectFiles << file;
+                if (modQuorinUtils::IsVBGFile(argument))
+                    groupOf.insert(file, argument);
             }
         }
     }
@@ -115,8 +123,17 @@ int StatsCommand::execute(const QCommandLineParser &parser, ToolContext &context
                              .arg(projectFiles.size()));
         ProjectLineCounter::Project project = ProjectLineCounter::count(projectFiles.at(n));
         if (!project.read) {
-            error(context, shownPath(project.path) + QStringLiteral(": ") + project.problem);
-            result = ToolExit::Failure;
+            const QString group = groupOf.value(project.path);
+            if (group.isEmpty()) {
+                error(context, shownPath(project.path) + QStringLiteral(": ") + project.problem);
+                result = ToolExit::Failure;
+                continue;
+            }
+            error(context,
+                  QStringLiteral("%1: %2 (in group %3)")
+                      .arg(shownPath(project.path), project.problem, shownPath(group)));
+            if (result == ToolExit::Ok)
+                result = ToolExit::Findings;
             continue;
         }
         for (const ProjectLineCounter::SourceFile &file : project.files) {

@@ -1,6 +1,7 @@
 #include "tools/ToolBackends.h"
 
 #include "docs/RulebaseDocCreator.h"
+#include "editors/RulebaseDocCreatorForm.h"
 #include "platform/QuorinAdminData.h"
 #include "platform/RegistryUtils.h"
 #include "project/AddFromProject.h"
@@ -162,11 +163,28 @@ int writeDocument(const DocRequest &request, ToolContext &context)
     if (!rulebase)
         return ToolExit::Failure;
 
+    // The plan as the designer shows it: reconciled with the categories and rules as they
+    // stand, or made afresh when none was stored. The rulebase is not saved, so the file keeps
+    // its own plan.
+    RulebaseDocCreatorForm designer;
+    designer.setRulebase(rulebase);
+
     RulebaseDocCreator writer;
     writer.setTargetFilename(request.output);
-    // Never the writer's question: the organisation given, else the remembered one, else none.
-    writer.setOrganisation(request.organisation.isEmpty() ? rememberedOrganisation()
-                                                          : request.organisation);
+    // Never the writer's question: the organisation given, else the remembered one, else a
+    // stand-in that the reader sees is one.
+    QString organisation = request.organisation.trimmed();
+    if (organisation.isEmpty())
+        organisation = rememberedOrganisation();
+    if (organisation.isEmpty()) {
+        organisation = QStringLiteral("Your Organisation");
+        context.err() << "qrbtool " << command
+                      << ": warning: no organisation given (--organisation NAME) and none "
+                         "remembered by QuorinAdmin; the document names \""
+                      << organisation << "\"\n";
+        context.err().flush();
+    }
+    writer.setOrganisation(organisation);
     ConsoleUserInterface recorder(nullptr);
     QString written;
     if (!writer.CreateDocumentation(*rulebase, written)) {

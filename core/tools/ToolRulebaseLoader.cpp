@@ -3,6 +3,7 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseManager.h"
 #include "tools/ConsoleUserInterface.h"
+#include "xml/TarnXMLDoc.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -40,5 +41,10 @@ LoadedRulebase ToolRulebaseLoader::load(const QString &filename)
     RulebaseManager manager;
     result.rulebase = manager.LoadRulebase(filename);
     result.messages = recorder.takeMessages();
+    if (!result.rulebase) {
+        TarnXMLDoc doc;
+        if (!doc.LoadFromFile(filename))
+            result.parseError = doc.ParseErrorReason();
+    }
     return result;
 }

@@ -16,6 +16,8 @@ struct LoadedRulebase
     std::shared_ptr<Rulebase> rulebase;
     // Every box the load showed, in order; empty for a clean load.
     QStringList messages;
+    // Why the XML parser refused the file, when it did: the load's box only says it failed.
+    QString parseError;
 
     // Loaded, and no section stopped part-way: only such a rulebase may be written out.
     bool whole() const;

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <libxml/SAX2.h>
 #include <libxml/parser.h>
 #include <libxml/xmlIO.h>
 #include <libxslt/transform.h>
@@ -108,11 +109,53 @@ int readChunk(void *context, char *buffer, int length)
     return read < 0 ? -1 : int(read);
 }
 
-// `filename` empty: the device holds text handed over as a string.
+// A rulebase is read on its own: an entity or DTD kept in another file is refused before it is
+// read, whatever it names, and the parse stops there.
+void refuseExternal(void *context, const xmlChar *systemId, const xmlChar *publicId)
+{
+    auto *parser = static_cast<xmlParserCtxtPtr>(context);
+    const xmlChar *name = systemId ? systemId : publicId;
+    QString reason = QStringLiteral("The file refers to the external entity \"") + fromXml(name)
+                     + QStringLiteral("\"; a rulebase is read on its own, so the file was refused");
+    if (const int line = xmlSAX2GetLineNumber(context); line > 0)
+        reason += QStringLiteral(" (line %1)").arg(line);
+    if (parser->_private)
+        static_cast<ErrorCapture *>(parser->_private)->refuse(XML_ERR_ENTITY_IS_EXTERNAL, reason);
+    // Stopping alone would hand back the tree read so far as a whole one.
+    parser->wellFormed = 0;
+    xmlStopParser(parser);
+}
+
+void entityDeclaration(void *context,
+                       const xmlChar *name,
+                       int type,
+                       const xmlChar *publicId,
+                       const xmlChar *systemId,
+                       xmlChar *content)
+{
+    if (systemId || publicId)
+        refuseExternal(context, systemId, publicId);
+    else
+        xmlSAX2EntityDecl(context, name, type, publicId, systemId, content);
+}
+
+void externalSubset(void *context,
+                    const xmlChar *name,
+                    const xmlChar *publicId,
+                    const xmlChar *systemId)
+{
+    if (systemId || publicId)
+        refuseExternal(context, systemId, publicId);
+    else
+        xmlSAX2ExternalSubset(context, name, publicId, systemId);
+}
+
+// `filename` empty: the device holds text handed over as a string. The library's limits on
+// entity expansion stay in force, so a file of a few kilobytes can't expand to gigabytes.
 ParseResult parse(QIODevice &device, const QString &filename, bool validate)
 {
     ParseResult result;
-    int options = XML_PARSE_NOBLANKS | XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_COMPACT;
+    int options = XML_PARSE_NOBLANKS | XML_PARSE_NONET | XML_PARSE_COMPACT;
     if (validate)
         options |= XML_PARSE_DTDVALID;
     // A string is ours, UTF-8 whatever its declaration says.
@@ -131,6 +174,8 @@ ParseResult parse(QIODevice &device, const QString &filename, bool validate)
     if (!context)
         throw std::bad_alloc();
     capture.attach(context.get());
+    context->sax->entityDecl = entityDeclaration;
+    context->sax->externalSubset = externalSubset;
     DocPtr document(xmlCtxtReadIO(context.get(),
                                   readChunk,
                                   nullptr,
@@ -278,6 +323,11 @@ bool TarnXMLDoc::parseText(const QString &text)
     QBuffer buffer(&utf8);
     buffer.open(QIODevice::ReadOnly);
     return parseInto(buffer, QString());
+}
+
+QString TarnXMLDoc::ParseErrorReason() const
+{
+    return m_document->parseErrorReason();
 }
 
 TarnXMLElement TarnXMLDoc::RootElement()

@@ -24,6 +24,8 @@ public:
     TarnXMLDoc &operator=(const TarnXMLDoc &) = delete;
 
     TarnXMLDocument *Document() const;
+    // Why the last load failed, with the line and column the parser gave; empty after a good one.
+    QString ParseErrorReason() const;
     // The code of the last failed SaveToFile; SaveErrorText gives its text.
     qint32 LastError() const { return m_lastError; }
     // Makes a "Root_Element" first when the document has no root.

@@ -4,6 +4,7 @@
 #include "platform/QuorinError.h"
 #include "platform/TextUtils.h"
 #include "xml/TarnXMLDocState.h"
+#include "xml/XmlSafeText.h"
 #include "xml/XmlSupport.h"
 
 #include <QByteArray>
@@ -97,19 +98,33 @@ QString replaceText(const QString &value)
     return escaped;
 }
 
-// A value as the tree stores it: escaped, in UTF-8, ending in a NUL. Text that needs no
-// escape is used as converted.
+// The text a value is stored as, and looked up by: what XML can hold of it, escaped.
+QString storedText(const QString &value)
+{
+    return replaceText(xmlSafeText(value));
+}
+
+// A value as the tree stores it: without what XML can't hold, escaped, in UTF-8, ending in a
+// NUL. Text that needs no escape is used as converted.
 class StoredValue final
 {
 public:
     explicit StoredValue(const QString &value)
-        : m_utf8(value.toUtf8())
+        : m_utf8(xmlSafeText(value).toUtf8())
         , m_data(m_utf8.constData())
     {
         if (std::any_of(m_utf8.cbegin(), m_utf8.cend(), needsEscape<char>))
             escape(m_utf8);
     }
-    explicit StoredValue(QUtf8StringView value) { escape(value); }
+    explicit StoredValue(QUtf8StringView value)
+    {
+        if (isXmlSafeAscii(value)) {
+            escape(value);
+            return;
+        }
+        m_utf8 = xmlSafeText(value.toString()).toUtf8();
+        escape(m_utf8);
+    }
 
     const char *data() const { return m_data; }
 
@@ -702,7 +717,7 @@ TarnXMLElement TarnXMLElement::ElementByAttributeValue(const QString &attributeN
                      Module);
             return TarnXMLElement();
         }
-        const QString escaped = replaceText(value);
+        const QString escaped = storedText(value);
         for (xmlNodePtr child = nodeOf(m_node)->children; child; child = child->next) {
             const xmlAttrPtr attribute = attributeNamed(child, attributeName);
             if (attribute && Text::same(storedValue(attribute), escaped))

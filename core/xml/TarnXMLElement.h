@@ -15,7 +15,8 @@ struct TarnXMLNode;
 // addressed by 0-based position. Searches that find nothing give a null handle; every member
 // except isNull() and XMLNode() fails on a null handle with the runtime's error for a missing
 // object (QuorinError), which reaches the caller's error frame. Attribute values are escaped
-// on the way in and restored on the way out (ReplaceIllegalChars / RestoreIllegalChars).
+// on the way in and restored on the way out (ReplaceIllegalChars / RestoreIllegalChars); the
+// characters XML 1.0 can't hold are dropped on the way in (xmlSafeText), so a save always loads.
 // A removed node is freed at once unless a handle holds it or a node below it: then it stays,
 // and the handle valid, until the tree goes.
 class TarnXMLElement final

@@ -1,6 +1,7 @@
 #include "xml/TarnXMLWriter.h"
 
 #include "xml/TarnXMLDoc.h"
+#include "xml/XmlSafeText.h"
 
 #include <algorithm>
 #include <array>
@@ -67,10 +68,19 @@ TarnXMLWriter::Element TarnXMLWriter::Element::AddElement(QLatin1String name)
 
 void TarnXMLWriter::Element::setAttribute(QLatin1String name, const QString &value)
 {
-    setAttribute(name, QUtf8StringView(value.toUtf8()));
+    writeAttribute(name, QUtf8StringView(xmlSafeText(value).toUtf8()));
 }
 
 void TarnXMLWriter::Element::setAttribute(QLatin1String name, QUtf8StringView value)
+{
+    // Plain ASCII, such as digits, needs no decoding to know XML holds it.
+    if (isXmlSafeAscii(value))
+        writeAttribute(name, value);
+    else
+        setAttribute(name, value.toString());
+}
+
+void TarnXMLWriter::Element::writeAttribute(QLatin1String name, QUtf8StringView value)
 {
     requireInnermost(true);
     QByteArray &bytes = m_writer.m_bytes;
@@ -90,9 +100,8 @@ TarnXMLWriter::Element TarnXMLWriter::RootElement(QLatin1String name)
 
 void TarnXMLWriter::appendEscaped(QUtf8StringView value)
 {
-    // The tree takes a value as a C string: it ends at a NUL.
     const char *p = value.data();
-    const char *const end = std::find(p, p + value.size(), '\0');
+    const char *const end = p + value.size();
     while (p != end) {
         const char *run = p;
         while (run != end && !Replacements[static_cast<unsigned char>(*run)])

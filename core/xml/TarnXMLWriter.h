@@ -30,6 +30,8 @@ public:
         friend class TarnXMLWriter;
         Element(TarnXMLWriter &writer, QLatin1String name);
         void requireInnermost(bool inStartTag) const;
+        // `value` is known to hold only what XML can.
+        void writeAttribute(QLatin1String name, QUtf8StringView value);
 
         TarnXMLWriter &m_writer;
         QLatin1String m_name;

@@ -192,7 +192,12 @@ void ErrorCapture::record(const xmlError *error)
         return;
     m_level = error->level;
     m_code = error->code;
-    m_reason = oneLine(QString::fromUtf8(error->message ? error->message : ""));
+    // The library's name for it fits only the loop, not the far likelier expansion attack.
+    m_reason = error->code == XML_ERR_ENTITY_LOOP
+                   ? QStringLiteral("An entity refers to itself or expands to far more text than "
+                                    "the file holds; a rulebase needs no such entity, so the file "
+                                    "was refused")
+                   : oneLine(QString::fromUtf8(error->message ? error->message : ""));
     if (error->line > 0) {
         m_reason += QStringLiteral(" (line %1").arg(error->line);
         // Parser reports carry the column in int2.
@@ -200,6 +205,15 @@ void ErrorCapture::record(const xmlError *error)
             m_reason += QStringLiteral(", column %1").arg(error->int2);
         m_reason += QLatin1Char(')');
     }
+}
+
+void ErrorCapture::refuse(qint32 code, const QString &reason)
+{
+    if (m_level == XML_ERR_FATAL)
+        return;
+    m_level = XML_ERR_FATAL;
+    m_code = code;
+    m_reason = reason;
 }
 
 void ErrorCapture::recordText(const QString &text)

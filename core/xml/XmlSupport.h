@@ -90,6 +90,8 @@ public:
 
     void record(const xmlError *error);
     void recordText(const QString &text);
+    // Our own refusal of what the document holds; it outranks every report but an earlier one.
+    void refuse(qint32 code, const QString &reason);
 
 private:
     xmlErrorLevel m_level = XML_ERR_NONE;

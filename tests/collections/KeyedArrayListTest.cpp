@@ -5,6 +5,7 @@
 #include "collections/StringKeyedArrayList.h"
 #include "platform/QuorinError.h"
 #include "platform/TextUtils.h"
+#include "support/TestSeed.h"
 
 #include <gtest/gtest.h>
 
@@ -214,7 +215,8 @@ TEST(KeyedArrayList, KeyLookupsAgreeWithALinearSearchAfterRandomChanges)
                               QStringLiteral("𐐀x"),
                               QStringLiteral(""),
                               QStringLiteral("Item1")};
-    std::mt19937 random(20240611u);
+    const TestSeed seed(20240611u);
+    std::mt19937 random(seed.value());
     auto pick = [&](int n) { return int(random() % unsigned(n)); };
     auto randomCase = [&](const QString &key) {
         QString out;

@@ -37,6 +37,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <limits>
+
 namespace {
 
 QByteArray readBytes(const QString &path)
@@ -647,6 +650,50 @@ TEST_F(RulebaseFileTest, AFailedSaveLeavesTheOldFileAndTheDirtyFlag)
     EXPECT_EQ(readBytes(path), before);
     EXPECT_TRUE(rulebase->Dirty());
     EXPECT_NE(rulebase->Version(), version); // the increment stands: a retry counts twice
+}
+
+// Ids are 32-bit: once the last one is given, adding is refused with the reason, and the
+// rulebase keeps what it had.
+TEST_F(RulebaseFileTest, AddingPastTheLastIdIsRefusedAndChangesNothing)
+{
+    QByteArray bytes = smallFile("", codingRule("5001"), "");
+    bytes.replace("LastRuleID=\"5010\"", "LastRuleID=\"2147483646\"");
+    bytes.replace("<CategoryList LastID=\"4\"", "<CategoryList LastID=\"2147483646\"");
+    const auto rulebase = loadBytes(bytes);
+    ASSERT_TRUE(rulebase);
+    const auto rules = rulebase->RuleLists();
+    const auto categories = rulebase->CategoryList();
+    const struct
+    {
+        const char *refusal;
+        std::function<void()> add;
+        std::function<qint32()> count;
+        std::function<qint32()> lastID;
+    } adders[] = {
+        {"every rule id",
+         [&] { rules->AddConvention(std::make_shared<CodingConvention>(), true); },
+         [&] { return rules->AllConventions()->Count(); },
+         [&] { return rules->LastID(); }},
+        {"every category id",
+         [&] { categories->Add(std::make_shared<CategoryItem>(), true); },
+         [&] { return categories->Count(); },
+         [&] { return categories->LastID(); }},
+    };
+    for (const auto &adder : adders) {
+        SCOPED_TRACE(adder.refusal);
+        adder.add();
+        const qint32 count = adder.count();
+        EXPECT_EQ(adder.lastID(), std::numeric_limits<qint32>::max());
+        try {
+            adder.add();
+            ADD_FAILURE() << "no refusal";
+        } catch (const QuorinError &e) {
+            EXPECT_TRUE(e.description().contains(QLatin1String(adder.refusal)))
+                << e.description().toStdString();
+        }
+        EXPECT_EQ(adder.count(), count);
+        EXPECT_EQ(adder.lastID(), std::numeric_limits<qint32>::max());
+    }
 }
 
 // Numbers and Booleans are read in place when plain: whatever the text, the result, or the error

@@ -240,6 +240,17 @@ TEST(CheckCommand, UnreadableFilesGiveTheParsersPlaceAndNeverCrash)
         html.out.contains(QLatin1String("the required element Rules is missing [missing-element]")))
         << html.out.toStdString();
 
+    // A file the scan reads but the loader refuses gets the loader's reason.
+    QByteArray withEntity = sample;
+    withEntity.insert(sample.indexOf("?>") + 2,
+                      "<!DOCTYPE Quorin_Rulebase [<!ENTITY x SYSTEM \"Truncated.qrb\">]>");
+    const QString external = writeBytes(dir + QStringLiteral("/External.qrb"), withEntity);
+    const ToolRun refused = runQrbTool({QStringLiteral("check"), external});
+    EXPECT_TRUE(refused.out.contains(
+        QLatin1String("the file was refused: The file refers to the external entity "
+                      "\"Truncated.qrb\"")))
+        << refused.out.toStdString();
+
     // A file that isn't there is an input error: exit 2, named with its reason, and the files
     // beside it are still checked.
     const QString missing = dir + QStringLiteral("/Missing.qrb");

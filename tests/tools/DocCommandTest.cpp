@@ -1,6 +1,8 @@
 #include "ToolTestSupport.h"
 
+#include "collections/IListItem.h"
 #include "docs/RulebaseDocCreator.h"
+#include "editors/RulebaseDocCreatorForm.h"
 #include "platform/QuorinAdminData.h"
 #include "platform/RegistryUtils.h"
 #include "rulebase/Rulebase.h"
@@ -99,7 +101,7 @@ TEST(DocCommand, WritesTheDocumentToOutAloneAndLeavesTheSettingsAlone)
     EXPECT_TRUE(readBytes(out).contains("<h2>Other Ltd</h2>"));
 }
 
-TEST(DocCommand, WithoutAnOrganisationTakesTheRememberedOneOrNoneAndNeverAsks)
+TEST(DocCommand, WithoutAnOrganisationTakesTheRememberedOneOrWarnsAndNeverAsks)
 {
     TestEnvironment::clearSettings();
     const QString dir = TestEnvironment::makeTempDir();
@@ -108,8 +110,11 @@ TEST(DocCommand, WithoutAnOrganisationTakesTheRememberedOneOrNoneAndNeverAsks)
 
     const ToolRun none = runQrbTool({QStringLiteral("doc"), rulebase, QStringLiteral("-o"), out});
     ASSERT_EQ(none.exitCode, 0) << none.err.toStdString();
-    EXPECT_TRUE(none.err.isEmpty()) << none.err.toStdString();
-    EXPECT_TRUE(readBytes(out).contains("<h3>for</h3>\r\n            <h2></h2>"));
+    EXPECT_TRUE(none.err.contains(QLatin1String("warning: no organisation")))
+        << none.err.toStdString();
+    const QByteArray html = readBytes(out);
+    EXPECT_TRUE(html.contains("<h3>for</h3>\r\n            <h2>Your Organisation</h2>"));
+    EXPECT_TRUE(html.contains(" Your Organisation. All rights reserved."));
     EXPECT_TRUE(allSettings().isEmpty());
 
     rememberOrganisation(QStringLiteral("Remembered & Co"));
@@ -117,9 +122,46 @@ TEST(DocCommand, WithoutAnOrganisationTakesTheRememberedOneOrNoneAndNeverAsks)
     const ToolRun remembered
         = runQrbTool({QStringLiteral("doc"), rulebase, QStringLiteral("-o"), out});
     ASSERT_EQ(remembered.exitCode, 0) << remembered.err.toStdString();
+    EXPECT_TRUE(remembered.err.isEmpty()) << remembered.err.toStdString();
     EXPECT_TRUE(readBytes(out).contains("<h2>Remembered & Co</h2>"));
     EXPECT_EQ(allSettings(), before);
     TestEnvironment::clearSettings();
+}
+
+// The document holds the plan the designer shows: reconciled with the categories and rules as
+// they stand, whether a plan was stored or not.
+TEST(DocCommand, TheDocumentHoldsTheSectionsTheDesignerShows)
+{
+    QByteArray unplanned = sampleBytes();
+    const qsizetype start = unplanned.indexOf("<Report>");
+    const qsizetype end = unplanned.indexOf("</Report>") + qsizetype(sizeof "</Report>") - 1;
+    ASSERT_TRUE(start > 0 && end > start);
+    unplanned.replace(start, end - start, "<Report/>");
+    for (const QByteArray &bytes : {sampleBytes(), unplanned}) {
+        const QString dir = TestEnvironment::makeTempDir();
+        const QString rulebase = writeBytes(dir + QStringLiteral("/Team.qrb"), bytes);
+        const QString out = dir + QStringLiteral("/doc.html");
+        const ToolRun run = runQrbTool({QStringLiteral("doc"),
+                                        rulebase,
+                                        QStringLiteral("-o"),
+                                        out,
+                                        QStringLiteral("--organisation"),
+                                        QStringLiteral("K")});
+        ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
+        const QByteArray html = readBytes(out);
+
+        ScriptedUserInterface ui;
+        RulebaseManager::setAdministratorOverride(true);
+        RulebaseDocCreatorForm designer;
+        designer.setRulebase(RulebaseManager().LoadRulebase(rulebase));
+        const auto sections = designer.Sections();
+        ASSERT_GT(sections->Count(), 6);
+        EXPECT_EQ(html.count("<li class=\"level1_li\">"), sections->Count());
+        for (qint32 i = 1; i <= sections->Count(); ++i) {
+            const QByteArray entry = "\">" + sections->Item(i)->Title().toLatin1() + "</a></li>";
+            EXPECT_TRUE(html.contains(entry)) << entry.toStdString();
+        }
+    }
 }
 
 TEST(DocCommand, AFolderThatTakesNoFileFailsNamingTheFileAndLeavesNothing)

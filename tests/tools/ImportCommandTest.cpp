@@ -165,3 +165,21 @@ TEST(ImportCommand, UnreadSourcesAreNamedAndForeignOnesStopTheRun)
         << version.out.toStdString();
     EXPECT_TRUE(version.out.contains(QLatin1String("0 components, ")));
 }
+
+// A project's texts go into the rulebase as they come; what XML can't hold is dropped on the
+// way, so the saved rulebase loads again.
+TEST(ImportCommand, AReferenceDescriptionWithACharacterXmlForbidsIsSavedWithoutIt)
+{
+    const QString dir = TestEnvironment::makeTempDir();
+    const QString rulebase = writeBytes(dir + QStringLiteral("/Team.qrb"), sampleBytes());
+    const QString guid = QStringLiteral("{ABCDEF00-0000-0000-0000-000000000003}");
+    const QString project = writeBytes(dir + QStringLiteral("/p.vbp"),
+                                       "Type=Exe\r\nReference=*\\G" + guid.toLatin1()
+                                           + "#1.0#0#odd.tlb#Odd\x01 Library\x1F\r\n");
+    const ToolRun run = runQrbTool(importArguments(rulebase, {project}));
+    ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
+    const auto saved = loadQuietly(rulebase);
+    ASSERT_NE(saved, nullptr);
+    EXPECT_EQ(saved->AuthorisedReferences()->Item(guid)->Description(),
+              QStringLiteral("Odd Library"));
+}

@@ -145,3 +145,31 @@ TEST(StatsCommand, TheSharedProjectsAddUpAndAMissingSourceFileIsAFinding)
                     .endsWith(QLatin1String("modGone.bas")));
     EXPECT_EQ(number(projects.at(4).toObject(), "files"), 0);
 }
+
+// A group whose member project is missing or unreadable is still read and the rest counted: such
+// a member is a finding named by its file, as a missing source file is, never an error frame's
+// text.
+TEST(StatsCommand, AMissingOrUnreadableMemberIsAFindingNamedByItsFile)
+{
+    const QString dir = TestEnvironment::makeTempDir();
+    writeBytes(dir + QStringLiteral("/Tiny.vbp"),
+               "Type=Exe\r\nModule=modTiny; modTiny.bas\r\nModule=modDir; modDir.bas\r\n");
+    writeBytes(dir + QStringLiteral("/modTiny.bas"),
+               "Attribute VB_Name = \"modTiny\"\r\nSub A()\r\nEnd Sub\r\n");
+    QDir(dir).mkdir(QStringLiteral("modDir.bas"));
+    QDir(dir).mkdir(QStringLiteral("Folder.vbp"));
+    const QString group = writeBytes(
+        dir + QStringLiteral("/All.vbg"),
+        "VBGROUP 5.0\r\nStartupProject=Tiny.vbp\r\nProject=Gone.vbp\r\nProject=Folder.vbp\r\n");
+
+    const ToolRun run = runQrbTool(
+        {QStringLiteral("stats"), QStringLiteral("--format"), QStringLiteral("json"), group});
+    EXPECT_EQ(run.exitCode, 1) << run.err.toStdString();
+    for (const char *named : {"Gone.vbp: ", "Folder.vbp: ", "modDir.bas: "})
+        EXPECT_TRUE(run.err.contains(QLatin1String(named))) << named << run.err.toStdString();
+    EXPECT_FALSE(run.err.contains(QLatin1String(" in function "))) << run.err.toStdString();
+    const QJsonArray projects
+        = parseJsonObject(run.out).value(QStringLiteral("projects")).toArray();
+    ASSERT_EQ(projects.size(), 1);
+    EXPECT_EQ(number(projects.at(0).toObject(), "files"), 1);
+}

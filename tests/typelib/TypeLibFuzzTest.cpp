@@ -1,5 +1,6 @@
 #include "TypeLibSamples.h"
 #include "support/TestEnvironment.h"
+#include "support/TestSeed.h"
 
 #include "typelib/TypeLibReader.h"
 
@@ -76,7 +77,8 @@ TEST(TypeLibFuzz, TruncatedAtEveryLength)
 
 TEST(TypeLibFuzz, FlippedBytes)
 {
-    std::mt19937 random(20240611);
+    const TestSeed seed(20240611u);
+    std::mt19937 random(seed.value());
     for (const Subject &s : subjects()) {
         SCOPED_TRACE(s.name);
         const auto whole = readExact(s.data);

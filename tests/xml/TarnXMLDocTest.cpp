@@ -133,6 +133,57 @@ TEST_F(DocumentTest, ValidationBindsOnlyADocumentWithADtd)
     EXPECT_TRUE(doc.LoadFromString(invalid));
 }
 
+// A rulebase needs no entities of its own: ones that expand without end, and ones or DTDs
+// kept outside the file, are refused with the reason before they are expanded or read.
+TEST_F(DocumentTest, EntityBombsAndExternalEntitiesAreRefused)
+{
+    QByteArray laughs = "<!DOCTYPE R [<!ELEMENT R ANY><!ATTLIST R a CDATA #IMPLIED>"
+                        "<!ENTITY l0 \"lol\">";
+    for (int i = 1; i < 10; ++i)
+        laughs += "<!ENTITY l" + QByteArray::number(i) + " \""
+                  + ("&l" + QByteArray::number(i - 1) + ';').repeated(10) + "\">";
+    laughs += "]>";
+    writeFile(QStringLiteral("secret.txt"), "top secret");
+    writeFile(QStringLiteral("r.dtd"), "<!ELEMENT R ANY>");
+    const struct
+    {
+        const char *name;
+        QByteArray bytes;
+        const char *reason; // null: the file loads
+    } cases[] = {
+        {"laughs.qrb", laughs + "<R>&l9;</R>", "expands to far more text"},
+        {"laughs-in-attribute.qrb", laughs + "<R a=\"&l9;\"/>", "expands to far more text"},
+        {"external.qrb",
+         "<!DOCTYPE R [<!ELEMENT R ANY><!ENTITY x SYSTEM \"secret.txt\">]><R>&x;</R>",
+         "external entity \"secret.txt\""},
+        {"external-parameter.qrb",
+         "<!DOCTYPE R [<!ENTITY % p SYSTEM \"r.dtd\"> %p;]><R/>",
+         "external entity \"r.dtd\""},
+        {"external-dtd.qrb", "<!DOCTYPE R SYSTEM \"r.dtd\"><R/>", "external entity \"r.dtd\""},
+        {"internal.qrb",
+         "<!DOCTYPE R [<!ELEMENT R ANY><!ATTLIST R a CDATA #IMPLIED><!ENTITY e \"x\">]>"
+         "<R a=\"&e;&e;\"/>",
+         nullptr},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.name);
+        TarnXMLDoc doc;
+        const bool loaded = doc.LoadFromFile(writeFile(QString::fromLatin1(c.name), c.bytes));
+        if (c.reason == nullptr) {
+            ASSERT_TRUE(loaded);
+            EXPECT_EQ(doc.RootElement().AttributeValueByName(QStringLiteral("a")),
+                      QStringLiteral("xx"));
+            continue;
+        }
+        EXPECT_FALSE(loaded);
+        const QStringList records = logged(QStringLiteral("#TarnXMLDoc::LoadFromFile"));
+        ASSERT_FALSE(records.isEmpty());
+        EXPECT_TRUE(records.last().contains(QLatin1String(c.reason)))
+            << records.last().toStdString();
+    }
+    EXPECT_TRUE(logged(QStringLiteral("top secret")).isEmpty());
+}
+
 using SaveTest = XmlTest;
 
 TEST_F(SaveTest, WritesTheTreeAsBuiltInUtf8)

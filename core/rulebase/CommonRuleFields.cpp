@@ -1,27 +1,27 @@
-#include "rulebase/RuleBase.h"
+#include "rulebase/CommonRuleFields.h"
 
 #include "platform/QuorinError.h"
 #include "rulebase/ViolationDefinition.h"
 
-RuleBase::RuleBase(const char *className)
+CommonRuleFields::CommonRuleFields(const char *className)
     : m_violationDefinition(std::make_shared<::ViolationDefinition>())
     , m_className(className)
 {
 }
 
-bool RuleBase::Dirty() const
+bool CommonRuleFields::Dirty() const
 {
     return m_dirty || (m_violationDefinition && m_violationDefinition->Dirty());
 }
 
-void RuleBase::setDirty(bool dirty)
+void CommonRuleFields::setDirty(bool dirty)
 {
     m_dirty = dirty;
     if (m_violationDefinition)
         m_violationDefinition->setDirty(dirty);
 }
 
-::ViolationDefinition &RuleBase::definition() const
+::ViolationDefinition &CommonRuleFields::definition() const
 {
     if (!m_violationDefinition)
         throw QuorinError::objectNotSet(QLatin1String(m_className)
@@ -29,42 +29,42 @@ void RuleBase::setDirty(bool dirty)
     return *m_violationDefinition;
 }
 
-qint32 RuleBase::CategoryID() const
+qint32 CommonRuleFields::CategoryID() const
 {
     return definition().CategoryID();
 }
 
-void RuleBase::setCategoryID(qint32 categoryID)
+void CommonRuleFields::setCategoryID(qint32 categoryID)
 {
     definition().setCategoryID(categoryID);
     m_dirty = true;
 }
 
-void RuleBase::setCondition(const QString &condition)
+void CommonRuleFields::setCondition(const QString &condition)
 {
     m_condition = condition;
     m_dirty = true;
 }
 
-void RuleBase::setDescription(const QString &description)
+void CommonRuleFields::setDescription(const QString &description)
 {
     m_description = description;
     m_dirty = true;
 }
 
-void RuleBase::setRuleID(qint32 ruleID)
+void CommonRuleFields::setRuleID(qint32 ruleID)
 {
     m_ruleID = ruleID;
     m_dirty = true;
 }
 
-void RuleBase::setRuleActive(bool active)
+void CommonRuleFields::setRuleActive(bool active)
 {
     m_ruleActive = active;
     m_dirty = true;
 }
 
-void RuleBase::setTitle(const QString &title)
+void CommonRuleFields::setTitle(const QString &title)
 {
     m_title = title;
     m_dirty = true;

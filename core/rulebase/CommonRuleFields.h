@@ -4,7 +4,7 @@
 
 // What every kind of rule holds: id, active flag, title, description, condition and the
 // violation definition. Each setter marks the rule, whether or not the value changes.
-class RuleBase : public IRule
+class CommonRuleFields : public IRule
 {
 public:
     // Also the Dirty of the definition.
@@ -36,7 +36,7 @@ public:
 
 protected:
     // `className` names the rule's class in the error of a missing definition.
-    explicit RuleBase(const char *className);
+    explicit CommonRuleFields(const char *className);
 
     // The definition, or the runtime's object error when it was replaced by none.
     ::ViolationDefinition &definition() const;

@@ -1,0 +1,17 @@
+# ctest: the sample loaded and saved through qrb-load keeps its hidden category, as a save in
+# QuorinAdmin does. -DQRB_LOAD=... -DSAMPLE=... -DOUT=...
+execute_process(COMMAND "${QRB_LOAD}" "${SAMPLE}" --save "${OUT}" RESULT_VARIABLE result)
+if(NOT result EQUAL 0)
+  message(FATAL_ERROR "qrb-load failed (${result})")
+endif()
+foreach(file "${SAMPLE}" "${OUT}")
+  file(READ "${file}" text)
+  string(REGEX MATCHALL "Hidden=\"True\"" hidden "${text}")
+  list(LENGTH hidden count)
+  list(APPEND counts ${count})
+endforeach()
+list(GET counts 0 before)
+list(GET counts 1 after)
+if(before EQUAL 0 OR NOT before EQUAL after)
+  message(FATAL_ERROR "hidden categories: ${before} in the sample, ${after} after qrb-load --save")
+endif()
