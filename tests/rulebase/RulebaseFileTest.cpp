@@ -12,7 +12,7 @@
 #include "rulebase/NamingConvention.h"
 #include "rulebase/PrefixSuffixItem.h"
 #include "rulebase/Report.h"
-#include "rulebase/RuleBase.h"
+#include "rulebase/CommonRuleFields.h"
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseFileValues.h"
@@ -305,7 +305,7 @@ std::shared_ptr<Rulebase> awkwardRulebase(int rules, unsigned seed)
     rulebase->setTitle(text());
     rulebase->setDescription(text());
     for (int i = 0; i < rules; ++i) {
-        std::shared_ptr<RuleBase> rule;
+        std::shared_ptr<CommonRuleFields> rule;
         if (i % 3 == 0) {
             auto coding = std::make_shared<CodingConvention>();
             coding->AddParserEventID(int(random() % 40) + 1);
