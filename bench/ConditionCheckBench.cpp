@@ -82,26 +82,24 @@ QString statementMix(int lines)
 }
 
 // The whole syntax check, as the editor runs it after typing stops and on Save and Close.
-void BM_CheckCondition(benchmark::State &state)
+void checkScript(benchmark::State &state, const QString &script)
 {
-    const QString script = condition(int(state.range(0)));
-    BasicSyntaxChecker checker;
-    if (!checker.check(script))
-        state.SkipWithError(qPrintable(checker.errorText()));
-    for (auto _ : state)
-        benchmark::DoNotOptimize(checker.check(script));
-    state.SetItemsProcessed(state.iterations() * state.range(0));
-}
-
-void BM_CheckStatementMix(benchmark::State &state)
-{
-    const QString script = statementMix(int(state.range(0)));
     BasicSyntaxChecker checker;
     if (!checker.check(script))
         state.SkipWithError(qPrintable(checker.errorMessage()));
     for (auto _ : state)
         benchmark::DoNotOptimize(checker.check(script));
     state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+void BM_CheckCondition(benchmark::State &state)
+{
+    checkScript(state, condition(int(state.range(0))));
+}
+
+void BM_CheckStatementMix(benchmark::State &state)
+{
+    checkScript(state, statementMix(int(state.range(0))));
 }
 
 // What qrbtool check does with a loaded rulebase, conditions included: a third of the rules are
