@@ -1,6 +1,5 @@
 #include "application/Application.h"
 #include "application/Startup.h"
-#include "collections/ObjectArrayList.h"
 #include "gui/factory/GuiFormFactory.h"
 #include "gui/frmMain.h"
 #include "gui/preview/PreviewResultsModel.h"
@@ -8,8 +7,6 @@
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
 #include "rulebase/NamingConvention.h"
-#include "rulebase/PrefixSuffixItem.h"
-#include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseManager.h"
 #include "rulebase/UnauthorisedKeyword.h"
@@ -17,6 +14,7 @@
 #include "views/IViewController.h"
 #include "views/ViewFactory.h"
 
+#include "support/PreviewRules.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
@@ -45,30 +43,15 @@ namespace {
 QString writeRulebase()
 {
     Rulebase rulebase;
-    auto privates = std::make_shared<NamingConvention>();
-    privates->setTitle(QStringLiteral("Private variables"));
-    privates->setObjectType(30);
-    privates->setPrefixActive(true);
-    privates->PrefixItems()->Item(1)->setPSType(1);
-    privates->PrefixItems()->Item(1)->setValue(QStringLiteral("m"));
-    privates->setBodyActive(true);
-    privates->setBodyPattern(QStringLiteral("^[A-Z]"));
-    privates->setPrefixAdvice(QStringLiteral("Begin with m."));
-    privates->setBodyAdvice(QStringLiteral("Go on with a capital."));
-    rulebase.RuleLists()->AddConvention(privates, true);
-    auto keyword = std::make_shared<UnauthorisedKeyword>();
-    keyword->setTitle(QStringLiteral("GoTo"));
-    keyword->setCondition(QStringLiteral(R"(\bGoTo\b)"));
-    keyword->AddParserEventID(30);
-    rulebase.RuleLists()->AddConvention(keyword, true);
-    auto controls = std::make_shared<NamingConvention>();
-    controls->setTitle(QStringLiteral("Controls"));
-    controls->setObjectType(6);
-    controls->setCondition(QStringLiteral("Sub Main\nEnd Sub"));
-    rulebase.RuleLists()->AddConvention(controls, true);
-    for (const std::shared_ptr<IRule> &rule : {std::shared_ptr<IRule>(privates),
-                                               std::shared_ptr<IRule>(keyword),
-                                               std::shared_ptr<IRule>(controls)}) {
+    const PreviewRules rules
+        = addPreviewRules(rulebase, QStringLiteral("m"), QStringLiteral("Controls"), 6);
+    rules.privates->setBodyActive(true);
+    rules.privates->setBodyPattern(QStringLiteral("^[A-Z]"));
+    rules.privates->setPrefixAdvice(QStringLiteral("Begin with m."));
+    rules.privates->setBodyAdvice(QStringLiteral("Go on with a capital."));
+    for (const std::shared_ptr<IRule> &rule : {std::shared_ptr<IRule>(rules.privates),
+                                               std::shared_ptr<IRule>(rules.keyword),
+                                               std::shared_ptr<IRule>(rules.conditional)}) {
         rule->ViolationDefinition()->setTitle(rule->Title());
         rule->ViolationDefinition()->setSeverity(3);
     }
