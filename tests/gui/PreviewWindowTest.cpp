@@ -1,18 +1,12 @@
 #include "application/Application.h"
-#include "application/Startup.h"
-#include "gui/factory/GuiFormFactory.h"
 #include "gui/frmMain.h"
 #include "gui/preview/PreviewResultsModel.h"
 #include "gui/preview/frmPreview.h"
-#include "platform/GlobalObjects.h"
-#include "platform/QuorinAdminData.h"
 #include "rulebase/NamingConvention.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseManager.h"
 #include "rulebase/UnauthorisedKeyword.h"
 #include "rulebase/ViolationDefinition.h"
-#include "views/IViewController.h"
-#include "views/ViewFactory.h"
 
 #include "support/PreviewRules.h"
 #include "support/ScriptedUserInterface.h"
@@ -33,6 +27,7 @@
 #endif
 
 #include "GuiTestSupport.h"
+#include "StartedMainWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -74,21 +69,12 @@ QStringList groups(const QAbstractItemModel &model)
 // finding, and a rule edited from its row, after which the results are those of the edit.
 TEST(PreviewWindow, ShowsFindingsByRuleAndFileAndRefreshesAfterARuleIsEdited)
 {
-    TestEnvironment::clearSettings();
     ScriptedUserInterface ui;
-    ASSERT_EQ(CreateGlobalObjects(), 0);
-    gobjAdminData->setFirstUse(false);
-    gobjAdminData->setDisplayTips(false);
     {
-        frmMain window(false);
-        GuiFormFactory forms(&window);
-        IFormFactory::install(&forms);
-        const std::unique_ptr<GuiFormFactory, void (*)(GuiFormFactory *)> installed(
-            &forms, [](GuiFormFactory *) { IFormFactory::install(nullptr); });
-        Application app(&window, createView);
-        window.setApplication(&app);
-        window.ShowWindow();
-        ASSERT_TRUE(RunStartup(app, writeRulebase()));
+        StartedMainWindow session(writeRulebase());
+        ASSERT_TRUE(session.started);
+        frmMain &window = session.window;
+        Application &app = session.app;
 
         QAction *tool = window.tool(QStringLiteral("tlPreviewProject"));
         ASSERT_NE(tool, nullptr);
@@ -161,5 +147,4 @@ TEST(PreviewWindow, ShowsFindingsByRuleAndFileAndRefreshesAfterARuleIsEdited)
         ui.answers = {MessageResult::No};
         window.close();
     }
-    DestroyGlobalObjects();
 }
