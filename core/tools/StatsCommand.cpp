@@ -1,6 +1,7 @@
 #include "tools/StatsCommand.h"
 
 #include "project/FolderListingCache.h"
+#include "project/ProjectFileList.h"
 #include "tools/ProjectLineCounter.h"
 #include "tools/ToolContext.h"
 #include "tools/ToolExit.h"
@@ -10,7 +11,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSet>
 #include <QTextStream>
 
 namespace {
@@ -88,24 +88,11 @@ int StatsCommand::execute(const QCommandLineParser &parser, ToolContext &context
     // Nothing changes the trees while they are counted: each folder is listed once.
     const FolderListingCache folders;
     int result = ToolExit::Ok;
-    QStringList projectFiles;
-    QSet<QString> seen;
-    for (const QString &argument : arguments) {
-        QStringList found;
-        QString problem;
-        if (!ProjectLineCounter::projectFiles(argument, found, problem)) {
+    const QStringList projectFiles = ProjectFileList::expandAll(
+        arguments, [&](const QString &argument, const QString &problem) {
             error(context, argument + QStringLiteral(": ") + problem);
             result = ToolExit::Failure;
-            continue;
-        }
-        for (const QString &file : found) {
-            // The same project through two groups, or twice in one group, counts once.
-            if (!seen.contains(file.toLower())) {
-                seen.insert(file.toLower());
-                projectFiles << file;
-            }
-        }
-    }
+        });
 
     std::vector<ProjectLineCounter::Project> projects;
     for (qsizetype n = 0; n < projectFiles.size(); ++n) {
