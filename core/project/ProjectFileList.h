@@ -16,7 +16,7 @@ public:
     static bool expand(const QString &argument, QStringList &projects, QString &problem);
     // The projects of all the arguments, each once however many groups name it (paths
     // compared without case); an argument that stands for none goes to `refused` instead.
-    static QStringList expandAll(
-        const QStringList &arguments,
-        const std::function<void(const QString &argument, const QString &problem)> &refused);
+    static QStringList
+    expandAll(const QStringList &arguments,
+              const std::function<void(const QString &argument, const QString &problem)> &refused);
 };
