@@ -15,6 +15,18 @@
 
 namespace {
 
+// A Sub Main of about `lines` lines: `block` again and again, each %1 the block's number.
+QString repeated(const QStringList &block, int lines)
+{
+    QStringList text{QStringLiteral("Sub Main")};
+    for (int n = 1; text.size() < lines - 1; ++n) {
+        for (const QString &line : block)
+            text << (line.contains(QLatin1String("%1")) ? line.arg(n) : line);
+    }
+    text << QStringLiteral("End Sub");
+    return text.join(QLatin1String("\r\n"));
+}
+
 // A condition of about `lines` lines that uses every construct the editor sees often: nested
 // blocks, Quorin calls with vocabulary names, comments, strings and arithmetic.
 QString condition(int lines)
@@ -39,13 +51,7 @@ QString condition(int lines)
         "        End Select",
         "    End If",
     };
-    QStringList text{QStringLiteral("Sub Main")};
-    for (int n = 1; text.size() < lines - 1; ++n) {
-        for (const QString &line : block)
-            text << (line.contains(QLatin1String("%1")) ? line.arg(n) : line);
-    }
-    text << QStringLiteral("End Sub");
-    return text.join(QLatin1String("\r\n"));
+    return repeated(block, lines);
 }
 
 // The same length of pasted module code: file statements, graphics, numbered lines, continued
@@ -72,36 +78,28 @@ QString statementMix(int lines)
         "        Case Else: Mid$(text%1, 1) = \"x\"",
         "    End Select",
     };
-    QStringList text{QStringLiteral("Sub Main")};
-    for (int n = 1; text.size() < lines - 1; ++n) {
-        for (const QString &line : block)
-            text << (line.contains(QLatin1String("%1")) ? line.arg(n) : line);
-    }
-    text << QStringLiteral("End Sub");
-    return text.join(QLatin1String("\r\n"));
+    return repeated(block, lines);
 }
 
 // The whole syntax check, as the editor runs it after typing stops and on Save and Close.
-void BM_CheckCondition(benchmark::State &state)
+void checkScript(benchmark::State &state, const QString &script)
 {
-    const QString script = condition(int(state.range(0)));
-    BasicSyntaxChecker checker;
-    if (!checker.check(script))
-        state.SkipWithError(qPrintable(checker.errorText()));
-    for (auto _ : state)
-        benchmark::DoNotOptimize(checker.check(script));
-    state.SetItemsProcessed(state.iterations() * state.range(0));
-}
-
-void BM_CheckStatementMix(benchmark::State &state)
-{
-    const QString script = statementMix(int(state.range(0)));
     BasicSyntaxChecker checker;
     if (!checker.check(script))
         state.SkipWithError(qPrintable(checker.errorMessage()));
     for (auto _ : state)
         benchmark::DoNotOptimize(checker.check(script));
     state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+void BM_CheckCondition(benchmark::State &state)
+{
+    checkScript(state, condition(int(state.range(0))));
+}
+
+void BM_CheckStatementMix(benchmark::State &state)
+{
+    checkScript(state, statementMix(int(state.range(0))));
 }
 
 // What qrbtool check does with a loaded rulebase, conditions included: a third of the rules are

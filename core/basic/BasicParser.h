@@ -215,6 +215,7 @@ private:
     bool parseWordStatement();
     void parseOpen();
     void parseOpenMode();
+    void parseReadWrite();
     void parseLineInput();
     void parseLock();
     void parseName();

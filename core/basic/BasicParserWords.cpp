@@ -73,29 +73,13 @@ void BasicParser::parseOpen()
         parseOpenMode();
     if (isWord(u"Access")) {
         advance();
-        if (isWord(u"Read")) {
-            advance();
-            if (isWord(u"Write"))
-                advance();
-        } else if (isWord(u"Write")) {
-            advance();
-        } else {
-            fail(QStringLiteral("Expected: Read or Write"));
-        }
+        parseReadWrite();
     }
     if (isWord(u"Shared")) {
         advance();
     } else if (isWord(u"Lock")) {
         advance();
-        if (isWord(u"Read")) {
-            advance();
-            if (isWord(u"Write"))
-                advance();
-        } else if (isWord(u"Write")) {
-            advance();
-        } else {
-            fail(QStringLiteral("Expected: Read or Write"));
-        }
+        parseReadWrite();
     }
     expect(K::As, "Expected: As");
     expression();
@@ -103,6 +87,20 @@ void BasicParser::parseOpen()
         advance();
         expect(S::Equal, "Expected: =");
         expression();
+    }
+}
+
+// Read, Write or Read Write, after Access and after Lock.
+void BasicParser::parseReadWrite()
+{
+    if (isWord(u"Read")) {
+        advance();
+        if (isWord(u"Write"))
+            advance();
+    } else if (isWord(u"Write")) {
+        advance();
+    } else {
+        fail(QStringLiteral("Expected: Read or Write"));
     }
 }
 

@@ -244,23 +244,10 @@ void RunState::addUnread(const QString &path, const QString &problem, qint32 pro
 
 void RunState::readProjects(const QStringList &paths)
 {
-    QStringList projectFiles;
-    QSet<QString> seen;
-    for (const QString &path : paths) {
-        QStringList found;
-        QString problem;
-        if (!ProjectFileList::expand(path, found, problem)) {
-            addUnread(QFileInfo(path).absoluteFilePath(), problem, -1);
-            continue;
-        }
-        for (const QString &file : found) {
-            // The same project through two groups, or twice in one group, is read once.
-            if (!seen.contains(file.toLower())) {
-                seen.insert(file.toLower());
-                projectFiles << file;
-            }
-        }
-    }
+    const QStringList projectFiles
+        = ProjectFileList::expandAll(paths, [this](const QString &path, const QString &problem) {
+              addUnread(QFileInfo(path).absoluteFilePath(), problem, -1);
+          });
     for (const QString &file : projectFiles) {
         PreviewProject project;
         project.path = localPath(file);

@@ -61,31 +61,34 @@ void ToleranceChecker::check(const PreviewProject &project,
             = severities->FindIndexByKey(QString::number(entry) + QStringLiteral("Key"));
         return index > 0 ? severities->Item(index)->Title() : QString::number(entry);
     };
+    auto exceeded = [&](qint32 entry,
+                        qint32 maximum,
+                        qint64 value,
+                        const QString &check,
+                        const QString &title,
+                        const QString &what) {
+        if (maximum < 0 || value <= maximum)
+            return;
+        PreviewFinding finding = projectFinding(project, projectIndex, check, title);
+        finding.message = QStringLiteral("%1 %2: %3, at most %4 allowed")
+                              .arg(levelName(entry), what)
+                              .arg(value)
+                              .arg(maximum);
+        out.push_back(finding);
+    };
     for (qint32 entry = 1; entry <= Levels + 1; ++entry) {
-        const qint32 maximumCount = m_rulebase.ToleranceCount(entry);
-        if (maximumCount >= 0 && counts[entry - 1] > maximumCount) {
-            PreviewFinding finding = projectFinding(project,
-                                                    projectIndex,
-                                                    PreviewCheck::ToleranceCount,
-                                                    QStringLiteral("Maximum Violation Counts"));
-            finding.message = QStringLiteral("%1 violations: %2, at most %3 allowed")
-                                  .arg(levelName(entry))
-                                  .arg(counts[entry - 1])
-                                  .arg(maximumCount);
-            out.push_back(finding);
-        }
-        const qint32 maximumImpact = m_rulebase.ToleranceImpact(entry);
-        if (maximumImpact >= 0 && impacts[entry - 1] > maximumImpact) {
-            PreviewFinding finding = projectFinding(project,
-                                                    projectIndex,
-                                                    PreviewCheck::ToleranceImpact,
-                                                    QStringLiteral("Maximum Violation Impact"));
-            finding.message = QStringLiteral("%1 impact: %2, at most %3 allowed")
-                                  .arg(levelName(entry))
-                                  .arg(impacts[entry - 1])
-                                  .arg(maximumImpact);
-            out.push_back(finding);
-        }
+        exceeded(entry,
+                 m_rulebase.ToleranceCount(entry),
+                 counts[entry - 1],
+                 PreviewCheck::ToleranceCount,
+                 QStringLiteral("Maximum Violation Counts"),
+                 QStringLiteral("violations"));
+        exceeded(entry,
+                 m_rulebase.ToleranceImpact(entry),
+                 impacts[entry - 1],
+                 PreviewCheck::ToleranceImpact,
+                 QStringLiteral("Maximum Violation Impact"),
+                 QStringLiteral("impact"));
     }
 
     const qint32 minimumComments = m_rulebase.TolerancePercentageComments();

@@ -3,6 +3,7 @@
 #include "project/modQuorinUtils.h"
 
 #include <QFileInfo>
+#include <QSet>
 
 bool ProjectFileList::expand(const QString &argument, QStringList &projects, QString &problem)
 {
@@ -32,4 +33,28 @@ bool ProjectFileList::expand(const QString &argument, QStringList &projects, QSt
     }
     problem = QStringLiteral("Neither a project (.vbp) nor a group (.vbg) file");
     return false;
+}
+
+QStringList ProjectFileList::expandAll(
+    const QStringList &arguments,
+    const std::function<void(const QString &argument, const QString &problem)> &refused)
+{
+    QStringList projects;
+    QSet<QString> seen;
+    for (const QString &argument : arguments) {
+        QStringList found;
+        QString problem;
+        if (!expand(argument, found, problem)) {
+            refused(argument, problem);
+            continue;
+        }
+        for (const QString &file : found) {
+            // The same project through two groups, or twice in one group, is read once.
+            if (!seen.contains(file.toLower())) {
+                seen.insert(file.toLower());
+                projects << file;
+            }
+        }
+    }
+    return projects;
 }

@@ -1,14 +1,9 @@
 #include "application/Application.h"
-#include "application/Startup.h"
-#include "gui/factory/GuiFormFactory.h"
 #include "gui/frmMain.h"
-#include "platform/GlobalObjects.h"
-#include "platform/QuorinAdminData.h"
 #include "rulebase/AuthorisedComponents.h"
 #include "rulebase/AuthorisedReferences.h"
 #include "rulebase/Rulebase.h"
 #include "views/AuthorisedItemsView.h"
-#include "views/ViewFactory.h"
 
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
@@ -30,6 +25,7 @@
 #include <QUrl>
 
 #include "GuiTestSupport.h"
+#include "StartedMainWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -42,22 +38,12 @@ namespace {
 
 TEST(AuthorisedItemsWindow, TheViewShowsAndAReferenceIsAddedThroughItsDialog)
 {
-    TestEnvironment::clearSettings();
     ScriptedUserInterface ui;
-    ASSERT_EQ(CreateGlobalObjects(), 0);
-    gobjAdminData->setFirstUse(false);
-    gobjAdminData->setDisplayTips(false);
     {
-        frmMain window(false);
-        GuiFormFactory forms(&window);
-        IFormFactory::install(&forms);
-        // Uninstalled however the test ends.
-        const std::unique_ptr<GuiFormFactory, void (*)(GuiFormFactory *)> installed(
-            &forms, [](GuiFormFactory *) { IFormFactory::install(nullptr); });
-        Application app(&window, createView);
-        window.setApplication(&app);
-        window.ShowWindow();
-        ASSERT_TRUE(RunStartup(app, TestEnvironment::sampleRulebase()));
+        StartedMainWindow session(TestEnvironment::sampleRulebase());
+        ASSERT_TRUE(session.started);
+        frmMain &window = session.window;
+        Application &app = session.app;
         const std::shared_ptr<Rulebase> rulebase = app.rulebase();
 
         // Off until the authority items view stands.
@@ -156,5 +142,4 @@ TEST(AuthorisedItemsWindow, TheViewShowsAndAReferenceIsAddedThroughItsDialog)
         ui.answers = {MessageResult::No}; // not saving the changes
         EXPECT_TRUE(window.close());
     }
-    DestroyGlobalObjects();
 }

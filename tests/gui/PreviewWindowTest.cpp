@@ -1,22 +1,14 @@
 #include "application/Application.h"
-#include "application/Startup.h"
-#include "collections/ObjectArrayList.h"
-#include "gui/factory/GuiFormFactory.h"
 #include "gui/frmMain.h"
 #include "gui/preview/PreviewResultsModel.h"
 #include "gui/preview/frmPreview.h"
-#include "platform/GlobalObjects.h"
-#include "platform/QuorinAdminData.h"
 #include "rulebase/NamingConvention.h"
-#include "rulebase/PrefixSuffixItem.h"
-#include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseManager.h"
 #include "rulebase/UnauthorisedKeyword.h"
 #include "rulebase/ViolationDefinition.h"
-#include "views/IViewController.h"
-#include "views/ViewFactory.h"
 
+#include "support/PreviewRules.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
@@ -35,6 +27,7 @@
 #endif
 
 #include "GuiTestSupport.h"
+#include "StartedMainWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -45,30 +38,15 @@ namespace {
 QString writeRulebase()
 {
     Rulebase rulebase;
-    auto privates = std::make_shared<NamingConvention>();
-    privates->setTitle(QStringLiteral("Private variables"));
-    privates->setObjectType(30);
-    privates->setPrefixActive(true);
-    privates->PrefixItems()->Item(1)->setPSType(1);
-    privates->PrefixItems()->Item(1)->setValue(QStringLiteral("m"));
-    privates->setBodyActive(true);
-    privates->setBodyPattern(QStringLiteral("^[A-Z]"));
-    privates->setPrefixAdvice(QStringLiteral("Begin with m."));
-    privates->setBodyAdvice(QStringLiteral("Go on with a capital."));
-    rulebase.RuleLists()->AddConvention(privates, true);
-    auto keyword = std::make_shared<UnauthorisedKeyword>();
-    keyword->setTitle(QStringLiteral("GoTo"));
-    keyword->setCondition(QStringLiteral(R"(\bGoTo\b)"));
-    keyword->AddParserEventID(30);
-    rulebase.RuleLists()->AddConvention(keyword, true);
-    auto controls = std::make_shared<NamingConvention>();
-    controls->setTitle(QStringLiteral("Controls"));
-    controls->setObjectType(6);
-    controls->setCondition(QStringLiteral("Sub Main\nEnd Sub"));
-    rulebase.RuleLists()->AddConvention(controls, true);
-    for (const std::shared_ptr<IRule> &rule : {std::shared_ptr<IRule>(privates),
-                                               std::shared_ptr<IRule>(keyword),
-                                               std::shared_ptr<IRule>(controls)}) {
+    const PreviewRules rules
+        = addPreviewRules(rulebase, QStringLiteral("m"), QStringLiteral("Controls"), 6);
+    rules.privates->setBodyActive(true);
+    rules.privates->setBodyPattern(QStringLiteral("^[A-Z]"));
+    rules.privates->setPrefixAdvice(QStringLiteral("Begin with m."));
+    rules.privates->setBodyAdvice(QStringLiteral("Go on with a capital."));
+    for (const std::shared_ptr<IRule> &rule : {std::shared_ptr<IRule>(rules.privates),
+                                               std::shared_ptr<IRule>(rules.keyword),
+                                               std::shared_ptr<IRule>(rules.conditional)}) {
         rule->ViolationDefinition()->setTitle(rule->Title());
         rule->ViolationDefinition()->setSeverity(3);
     }
@@ -91,21 +69,12 @@ QStringList groups(const QAbstractItemModel &model)
 // finding, and a rule edited from its row, after which the results are those of the edit.
 TEST(PreviewWindow, ShowsFindingsByRuleAndFileAndRefreshesAfterARuleIsEdited)
 {
-    TestEnvironment::clearSettings();
     ScriptedUserInterface ui;
-    ASSERT_EQ(CreateGlobalObjects(), 0);
-    gobjAdminData->setFirstUse(false);
-    gobjAdminData->setDisplayTips(false);
     {
-        frmMain window(false);
-        GuiFormFactory forms(&window);
-        IFormFactory::install(&forms);
-        const std::unique_ptr<GuiFormFactory, void (*)(GuiFormFactory *)> installed(
-            &forms, [](GuiFormFactory *) { IFormFactory::install(nullptr); });
-        Application app(&window, createView);
-        window.setApplication(&app);
-        window.ShowWindow();
-        ASSERT_TRUE(RunStartup(app, writeRulebase()));
+        StartedMainWindow session(writeRulebase());
+        ASSERT_TRUE(session.started);
+        frmMain &window = session.window;
+        Application &app = session.app;
 
         QAction *tool = window.tool(QStringLiteral("tlPreviewProject"));
         ASSERT_NE(tool, nullptr);
@@ -178,5 +147,4 @@ TEST(PreviewWindow, ShowsFindingsByRuleAndFileAndRefreshesAfterARuleIsEdited)
         ui.answers = {MessageResult::No};
         window.close();
     }
-    DestroyGlobalObjects();
 }

@@ -1,13 +1,9 @@
 #include "ToolTestSupport.h"
 
-#include "collections/ObjectArrayList.h"
-#include "rulebase/NamingConvention.h"
-#include "rulebase/PrefixSuffixItem.h"
-#include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseManager.h"
-#include "rulebase/UnauthorisedKeyword.h"
 
+#include "support/PreviewRules.h"
 #include "support/TestEnvironment.h"
 
 #include <QDir>
@@ -23,23 +19,7 @@ namespace {
 QString writeRulebase(const QString &folder)
 {
     Rulebase rulebase;
-    auto privates = std::make_shared<NamingConvention>();
-    privates->setTitle(QStringLiteral("Private variables"));
-    privates->setObjectType(30);
-    privates->setPrefixActive(true);
-    privates->PrefixItems()->Item(1)->setPSType(1);
-    privates->PrefixItems()->Item(1)->setValue(QStringLiteral("m_"));
-    rulebase.RuleLists()->AddConvention(privates, true);
-    auto keyword = std::make_shared<UnauthorisedKeyword>();
-    keyword->setTitle(QStringLiteral("GoTo"));
-    keyword->setCondition(QStringLiteral(R"(\bGoTo\b)"));
-    keyword->AddParserEventID(30);
-    rulebase.RuleLists()->AddConvention(keyword, true);
-    auto constants = std::make_shared<NamingConvention>();
-    constants->setTitle(QStringLiteral("Constants"));
-    constants->setObjectType(5);
-    constants->setCondition(QStringLiteral("Sub Main\nEnd Sub"));
-    rulebase.RuleLists()->AddConvention(constants, true);
+    addPreviewRules(rulebase, QStringLiteral("m_"), QStringLiteral("Constants"), 5);
     const QString path = folder + QStringLiteral("/Team.qrb");
     EXPECT_TRUE(RulebaseManager().Save(rulebase, path));
     return path;
