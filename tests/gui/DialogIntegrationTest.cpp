@@ -102,45 +102,7 @@ void pressF1(QDialog &dialog)
     QApplication::sendEvent(target, &release);
 }
 
-class DialogIntegration : public ::testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        TestEnvironment::clearSettings();
-        ASSERT_EQ(CreateGlobalObjects(), 0);
-        gobjAdminData->setFirstUse(false);
-        gobjAdminData->setDisplayTips(false);
-        Images::initialise();
-        window = std::make_unique<frmMain>(false);
-        app = std::make_unique<Application>(window.get(), createView);
-        window->setApplication(app.get());
-        forms = std::make_unique<GuiFormFactory>(window.get());
-        IFormFactory::install(forms.get());
-        window->ShowWindow();
-        ASSERT_TRUE(RunStartup(*app, TestEnvironment::sampleRulebase()));
-        rulebase = app->rulebase();
-    }
-
-    void TearDown() override
-    {
-        IFormFactory::install(nullptr);
-        frmDefaultViolations::setObjectPicker({});
-        rulebase.reset();
-        window->setApplication(nullptr);
-        app->TerminateApplication();
-        forms.reset();
-        app.reset();
-        window.reset();
-        DestroyGlobalObjects();
-    }
-
-    ScriptedUserInterface ui;
-    std::unique_ptr<frmMain> window;
-    std::unique_ptr<Application> app;
-    std::unique_ptr<GuiFormFactory> forms;
-    std::shared_ptr<Rulebase> rulebase;
-};
+using DialogIntegration = GuiSample;
 
 } // namespace
 

@@ -92,8 +92,9 @@ TEST(ObjectCatalogue, IsConsistentWithItselfAndWithTheLookUps)
                                      : words[0] == ObjectHelper::PropertyName(row.id))
                 << row.id;
             // Index is a Long on an argument but a String on a control.
-            if (row.id != 115 && types.contains(row.id))
+            if (row.id != 115 && types.contains(row.id)) {
                 EXPECT_EQ(types[row.id], row.valueType()) << row.id;
+            }
             types[row.id] = row.valueType();
         }
     }
@@ -135,9 +136,10 @@ TEST(ObjectHelper, PropertyNamesAndIconsAndUnknownIdsAreLogged)
     LogCapture log;
     for (qint32 id = 1; id <= 150; ++id) {
         EXPECT_EQ(ObjectHelper::PropertyName(id).isEmpty(), isUnassigned(id)) << id;
-        if (!isUnassigned(id))
+        if (!isUnassigned(id)) {
             EXPECT_EQ(ObjectHelper::PropertyIDFromName(ObjectHelper::PropertyName(id).toLower()),
                       id);
+        }
     }
     EXPECT_EQ(ObjectHelper::PropertyName(22), u"Instancing"_s);
     EXPECT_EQ(ObjectHelper::PropertyName(61), u"CompatibleEXE32"_s);
