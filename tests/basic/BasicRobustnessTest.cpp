@@ -279,13 +279,13 @@ TEST(BasicRobustness, AMegabyteOfTextIsChecked)
     EXPECT_EQ(checker.errorLine(), 2);
 }
 
-// QUORIN_FUZZ_RUNS sets the number of inputs (default 3000), QUORIN_FUZZ_SEED the start (default
+// QUORIN_FUZZ_RUNS sets the number of inputs (default 1500), QUORIN_FUZZ_SEED the start (default
 // fixed); the same seed replays the same inputs in the same order, so a failure is found again.
 TEST(BasicRobustness, MutatedScriptsNeverBreakTheChecker)
 {
     const int budget = qEnvironmentVariableIsSet("QUORIN_FUZZ_RUNS")
                            ? qEnvironmentVariableIntValue("QUORIN_FUZZ_RUNS")
-                           : 3000;
+                           : 1500;
     const unsigned seed = qEnvironmentVariableIsSet("QUORIN_FUZZ_SEED")
                               ? unsigned(qEnvironmentVariableIntValue("QUORIN_FUZZ_SEED"))
                               : 20240611u;
