@@ -10,6 +10,7 @@
 #include "rulebase/RulebaseManager.h"
 #include "views/IViewController.h"
 
+#include "support/MemoryMainForm.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
@@ -19,38 +20,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-// Records what the Application asks of its window, in order.
-class FakeMainForm final : public IMainForm
-{
-public:
-    void Update() override { calls << QStringLiteral("Update"); }
-    void AddToMRUList(const QString &f) override { calls << QStringLiteral("AddToMRUList ") + f; }
-    void RemoveFromMRUList(const QString &f) override { calls << QStringLiteral("RemoveFromMRUList ") + f; }
-    void SetCurrentViewTool(const QString &v) override { calls << QStringLiteral("View ") + v; }
-    void SetHelpContext(int c) override { helpContext = c; }
-    void SetBusy(bool) override {}
-    void ShowSplashScreen() override { calls << QStringLiteral("Splash"); }
-    void ShowWindow() override { calls << QStringLiteral("Window"); }
-    int RunTipOfDay(int last) override
-    {
-        calls << QStringLiteral("Tip");
-        return last + 1;
-    }
-    void RunAbout() override { calls << QStringLiteral("About"); }
-    TreeControl *tree() override { return nullptr; }
-    ListControl *list() override { return nullptr; }
-    void setDocumentation(const QString &) override {}
-    void setStatusText(const QString &) override {}
-    void setTreeTitle(const QString &) override {}
-    void setListTitle(const QString &) override {}
-    void setListHeaderImage(const QString &) override {}
-    void setNoItemsVisible(bool) override {}
-    void setToolEnabled(const QString &, bool) override {}
-
-    QStringList calls;
-    int helpContext = 0;
-};
 
 // A view that only counts what is done to it.
 class CountingView final : public IViewController
@@ -112,7 +81,7 @@ protected:
 
     QString dir;
     ScriptedUserInterface ui;
-    FakeMainForm form;
+    MemoryMainForm form;
     int populates = 0;
 };
 
@@ -163,7 +132,7 @@ TEST_F(ApplicationTest, StartUpFallsBackToTheSampleAndAddsItToTheRecentList)
     // With nothing to open the window stands with no rulebase and no view.
     TestEnvironment::clearSettings();
     QFile::remove(sample);
-    FakeMainForm bare;
+    MemoryMainForm bare;
     Application empty(&bare, countingViews());
     EXPECT_FALSE(RunStartup(empty, QString()));
     EXPECT_FALSE(empty.RulebaseOpen());

@@ -9,6 +9,7 @@
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
 #include "rulebase/Rulebase.h"
+#include "views/IViewController.h"
 #include "views/ViewFactory.h"
 #include "support/TestEnvironment.h"
 

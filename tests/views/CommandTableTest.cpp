@@ -6,41 +6,13 @@
 #include "views/CommandTable.h"
 #include "views/ToolDispatcher.h"
 
+#include "support/MemoryMainForm.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
 #include <QSet>
 
 #include <gtest/gtest.h>
-
-namespace {
-
-class RecordingForm final : public IMainForm
-{
-public:
-    void Update() override { calls << QStringLiteral("Update"); }
-    void AddToMRUList(const QString &f) override { calls << QStringLiteral("MRU ") + f; }
-    void RemoveFromMRUList(const QString &) override {}
-    void SetCurrentViewTool(const QString &v) override { calls << QStringLiteral("View ") + v; }
-    void SetHelpContext(int) override {}
-    void SetBusy(bool) override {}
-    void ShowSplashScreen() override {}
-    void ShowWindow() override {}
-    int RunTipOfDay(int last) override { return last; }
-    void RunAbout() override { calls << QStringLiteral("About"); }
-    TreeControl *tree() override { return nullptr; }
-    ListControl *list() override { return nullptr; }
-    void setDocumentation(const QString &) override {}
-    void setStatusText(const QString &) override {}
-    void setTreeTitle(const QString &) override {}
-    void setListTitle(const QString &) override {}
-    void setListHeaderImage(const QString &) override {}
-    void setNoItemsVisible(bool) override {}
-    void setToolEnabled(const QString &, bool) override {}
-    QStringList calls;
-};
-
-} // namespace
 
 TEST(CommandTable, EveryBandNamesKnownToolsAndEverySubMenuExists)
 {
@@ -70,7 +42,7 @@ TEST(CommandTable, EveryBandNamesKnownToolsAndEverySubMenuExists)
 TEST(ToolDispatcher, ToolsReachTheApplicationAndWindowToolsAreLeftToTheWindow)
 {
     ScriptedUserInterface ui;
-    RecordingForm form;
+    MemoryMainForm form;
     Application app(&form);
 
     EXPECT_TRUE(ExecuteTool(app, QStringLiteral("tlSeverityView")));
@@ -87,10 +59,10 @@ TEST(ToolDispatcher, ToolsReachTheApplicationAndWindowToolsAreLeftToTheWindow)
     ui.openAnswers = {path};
     form.calls.clear();
     EXPECT_TRUE(ExecuteTool(app, QStringLiteral("tlOpenRulebase")));
-    EXPECT_TRUE(form.calls.contains(QStringLiteral("MRU ") + path));
+    EXPECT_TRUE(form.calls.contains(QStringLiteral("AddToMRUList ") + path));
     form.calls.clear();
     EXPECT_TRUE(OpenRecentFile(app, path));
-    EXPECT_TRUE(form.calls.contains(QStringLiteral("MRU ") + path));
+    EXPECT_TRUE(form.calls.contains(QStringLiteral("AddToMRUList ") + path));
     EXPECT_FALSE(OpenRecentFile(app, path + QStringLiteral(".gone")));
     EXPECT_TRUE(ui.messages.back().text.startsWith(QStringLiteral("Can't find the rulebase")));
 }
