@@ -231,6 +231,21 @@ TEST_F(ApplicationTest, UnsavedChangesAreAskedAboutAndCancelStopsEverything)
     EXPECT_EQ(RulebaseManager().LoadRulebase(second)->Title(), QStringLiteral("Saved on the way"));
 }
 
+// A question about unsaved changes that cannot be asked keeps them: nothing replaces the rulebase.
+TEST_F(ApplicationTest, AFailedQuestionKeepsTheChangedRulebase)
+{
+    const QString file = writeRulebase(QStringLiteral("file.qrb"));
+    Application app(&form, countingViews());
+    ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, file));
+    app.rulebase()->setTitle(QStringLiteral("Changed"));
+    ui.failQuestions = true;
+    EXPECT_FALSE(app.CheckForSave());
+    app.NewRulebase();
+    EXPECT_EQ(app.rulebase()->Filename(), file);
+    EXPECT_EQ(app.rulebase()->Title(), QStringLiteral("Changed"));
+    EXPECT_TRUE(app.rulebase()->Dirty());
+}
+
 TEST_F(ApplicationTest, NewStaysInTheCurrentViewWhileOpenGoesToTheCategoryView)
 {
     const QString file = writeRulebase(QStringLiteral("file.qrb"));

@@ -4,7 +4,9 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseManager.h"
 #include "views/CommandTable.h"
+#include "views/IViewController.h"
 #include "views/ToolDispatcher.h"
+#include "views/ViewFactory.h"
 
 #include "support/MemoryMainForm.h"
 #include "support/ScriptedUserInterface.h"
@@ -34,6 +36,13 @@ TEST(CommandTable, EveryBandNamesKnownToolsAndEverySubMenuExists)
         if (QLatin1String(tool.id) != QLatin1String("tlDocumentationConventions")) {
             EXPECT_TRUE(placed.contains(QString::fromLatin1(tool.id).toLower())) << tool.id << " is on no band";
         }
+    }
+    // Only the views and the window parts that are shown or hidden carry a check mark.
+    for (const ToolDefinition &tool : CommandTable::tools()) {
+        const QString id = QLatin1String(tool.id);
+        const bool windowPart = id.endsWith(QLatin1String("Toolbar")) || id.endsWith(QLatin1String("Bar"))
+                                || id.endsWith(QLatin1String("Window"));
+        EXPECT_EQ(tool.checkable, windowPart || createView(id) != nullptr) << tool.id;
     }
     EXPECT_EQ(CommandTable::findTool(QStringLiteral("TLDELETERULE"))->toolbarCaption, std::string_view("&Delete Rule"));
     EXPECT_EQ(CommandTable::findTool(QStringLiteral("nothing")), nullptr);
