@@ -32,38 +32,6 @@
 
 namespace {
 
-// Records what the Application asks of its window, in order.
-class FakeMainForm final : public IMainForm
-{
-public:
-    void Update() override { calls << QStringLiteral("Update"); }
-    void AddToMRUList(const QString &f) override { calls << QStringLiteral("AddToMRUList ") + f; }
-    void RemoveFromMRUList(const QString &f) override { calls << QStringLiteral("RemoveFromMRUList ") + f; }
-    void SetCurrentViewTool(const QString &v) override { calls << QStringLiteral("View ") + v; }
-    void SetHelpContext(int c) override { helpContext = c; }
-    void SetBusy(bool) override {}
-    void ShowSplashScreen() override { calls << QStringLiteral("Splash"); }
-    void ShowWindow() override { calls << QStringLiteral("Window"); }
-    int RunTipOfDay(int last) override
-    {
-        calls << QStringLiteral("Tip");
-        return last + 1;
-    }
-    void RunAbout() override { calls << QStringLiteral("About"); }
-    TreeControl *tree() override { return nullptr; }
-    ListControl *list() override { return nullptr; }
-    void setDocumentation(const QString &) override {}
-    void setStatusText(const QString &) override {}
-    void setTreeTitle(const QString &) override {}
-    void setListTitle(const QString &) override {}
-    void setListHeaderImage(const QString &) override {}
-    void setNoItemsVisible(bool) override {}
-    void setToolEnabled(const QString &, bool) override {}
-
-    QStringList calls;
-    int helpContext = 0;
-};
-
 // A view that only counts what is done to it.
 class CountingView final : public IViewController
 {
@@ -124,7 +92,7 @@ protected:
 
     QString dir;
     ScriptedUserInterface ui;
-    FakeMainForm form;
+    MemoryMainForm form;
     int populates = 0;
 };
 
@@ -175,7 +143,7 @@ TEST_F(ApplicationTest, StartUpFallsBackToTheSampleAndAddsItToTheRecentList)
     // With nothing to open the window stands with no rulebase and no view.
     TestEnvironment::clearSettings();
     QFile::remove(sample);
-    FakeMainForm bare;
+    MemoryMainForm bare;
     Application empty(&bare, countingViews());
     EXPECT_FALSE(RunStartup(empty, QString()));
     EXPECT_FALSE(empty.RulebaseOpen());
@@ -332,6 +300,21 @@ TEST_F(ApplicationTest, UnsavedChangesAreAskedAboutAndCancelStopsEverything)
     ui.answers = {MessageResult::Yes};
     app.NewRulebase();
     EXPECT_EQ(RulebaseManager().LoadRulebase(second)->Title(), QStringLiteral("Saved on the way"));
+}
+
+// A question about unsaved changes that cannot be asked keeps them: nothing replaces the rulebase.
+TEST_F(ApplicationTest, AFailedQuestionKeepsTheChangedRulebase)
+{
+    const QString file = writeRulebase(QStringLiteral("file.qrb"));
+    Application app(&form, countingViews());
+    ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, file));
+    app.rulebase()->setTitle(QStringLiteral("Changed"));
+    ui.failQuestions = true;
+    EXPECT_FALSE(app.CheckForSave());
+    app.NewRulebase();
+    EXPECT_EQ(app.rulebase()->Filename(), file);
+    EXPECT_EQ(app.rulebase()->Title(), QStringLiteral("Changed"));
+    EXPECT_TRUE(app.rulebase()->Dirty());
 }
 
 TEST_F(ApplicationTest, NewStaysInTheCurrentViewWhileOpenGoesToTheCategoryView)

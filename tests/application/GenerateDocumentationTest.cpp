@@ -7,6 +7,7 @@
 #include "rulebase/Report.h"
 #include "rulebase/Rulebase.h"
 
+#include "support/MemoryMainForm.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
@@ -17,33 +18,6 @@
 #include <functional>
 
 namespace {
-
-// Only what the command asks of the window: the hourglass.
-class BusyRecordingForm final : public IMainForm
-{
-public:
-    void Update() override {}
-    void AddToMRUList(const QString &) override {}
-    void RemoveFromMRUList(const QString &) override {}
-    void SetCurrentViewTool(const QString &) override {}
-    void SetHelpContext(int) override {}
-    void SetBusy(bool busy) override { busyCalls.push_back(busy); }
-    void ShowSplashScreen() override {}
-    void ShowWindow() override {}
-    int RunTipOfDay(int lastTip) override { return lastTip; }
-    void RunAbout() override {}
-    TreeControl *tree() override { return nullptr; }
-    ListControl *list() override { return nullptr; }
-    void setDocumentation(const QString &) override {}
-    void setStatusText(const QString &) override {}
-    void setTreeTitle(const QString &) override {}
-    void setListTitle(const QString &) override {}
-    void setListHeaderImage(const QString &) override {}
-    void setNoItemsVisible(bool) override {}
-    void setToolEnabled(const QString &, bool) override {}
-
-    std::vector<bool> busyCalls;
-};
 
 // Runs the wizard as a person would, through the form's own buttons.
 class ScriptedDocFactory final : public IFormFactory
@@ -85,7 +59,7 @@ protected:
     const QString question = QStringLiteral("Do you wish to generate the Rulebase documentation?");
     ScriptedUserInterface ui;
     ScriptedDocFactory factory;
-    BusyRecordingForm window;
+    MemoryMainForm window;
     Application app{&window};
     QString folder;
     QString document;

@@ -11,8 +11,8 @@ namespace {
 
 using T = BasicTokenKind;
 
-// "Kind:text" for every token but the last (EndOfText), line ends shown as "EOL".
-QStringList describe(const QString &text)
+// "Kind:text" for every token but the last (EndOfText), line ends shown as "EOL", joined by "|".
+QString describe(const QString &text)
 {
     QStringList result;
     const auto tokens = BasicLexer::tokenize(text);
@@ -25,7 +25,7 @@ QStringList describe(const QString &text)
             entry += QLatin1Char(':') + text.mid(t.offset, t.length);
         result << entry;
     }
-    return result;
+    return result.join(u'|');
 }
 
 } // namespace
@@ -33,132 +33,55 @@ QStringList describe(const QString &text)
 TEST(BasicLexer, SortsWordsNumbersStringsAndSymbols)
 {
     EXPECT_EQ(describe(QStringLiteral("dIM s$, n% : s = UCase$(\"a\"\"b\") & 1.5E-3")),
-              (QStringList{"Kw:dIM",
-                           "Id:s$",
-                           "Punct:,",
-                           "Id:n%",
-                           "Punct::",
-                           "Id:s",
-                           "Op:=",
-                           "Id:UCase$",
-                           "Punct:(",
-                           "Str:\"a\"\"b\"",
-                           "Punct:)",
-                           "Op:&",
-                           "Num:1.5E-3"}));
-    EXPECT_EQ(describe(QStringLiteral("x = &HFF& + &O17 + 12% + 3# + .5 + 2@")),
-              (QStringList{"Id:x",
-                           "Op:=",
-                           "Num:&HFF&",
-                           "Op:+",
-                           "Num:&O17",
-                           "Op:+",
-                           "Num:12%",
-                           "Op:+",
-                           "Num:3#",
-                           "Op:+",
-                           "Num:.5",
-                           "Op:+",
-                           "Num:2@"}));
+              QStringLiteral("Kw:dIM|Id:s$|Punct:,|Id:n%|Punct::|Id:s|Op:=|Id:UCase$|Punct:(|Str:"
+                             "\"a\"\"b\"|Punct:)|Op:&|Num:1.5E-3"));
+    EXPECT_EQ(
+        describe(QStringLiteral("x = &HFF& + &O17 + 12% + 3# + .5 + 2@")),
+        QStringLiteral(
+            "Id:x|Op:=|Num:&HFF&|Op:+|Num:&O17|Op:+|Num:12%|Op:+|Num:3#|Op:+|Num:.5|Op:+|Num:2@"));
     EXPECT_EQ(describe(QStringLiteral("d = #1/2/2000# : Print #1, a <= b <> c >= d, n:=1")),
-              (QStringList{"Id:d",
-                           "Op:=",
-                           "Date:#1/2/2000#",
-                           "Punct::",
-                           "Id:Print",
-                           "Punct:#",
-                           "Num:1",
-                           "Punct:,",
-                           "Id:a",
-                           "Op:<=",
-                           "Id:b",
-                           "Op:<>",
-                           "Id:c",
-                           "Op:>=",
-                           "Id:d",
-                           "Punct:,",
-                           "Id:n",
-                           "Punct::=",
-                           "Num:1"}));
+              QStringLiteral("Id:d|Op:=|Date:#1/2/"
+                             "2000#|Punct::|Id:Print|Punct:#|Num:1|Punct:,|Id:a|Op:<=|Id:b|Op:<>|"
+                             "Id:c|Op:>=|Id:d|Punct:,|Id:n|Punct::=|Num:1"));
 }
 
 TEST(BasicLexer, DateLiteralsOnlyWhereTheTextReadsAsADate)
 {
     EXPECT_EQ(
         describe(QStringLiteral("d = #Jan 1, 2000# + #2000-01-02 12:30:00 PM# + #1-Feb-2000#")),
-        (QStringList{"Id:d",
-                     "Op:=",
-                     "Date:#Jan 1, 2000#",
-                     "Op:+",
-                     "Date:#2000-01-02 12:30:00 PM#",
-                     "Op:+",
-                     "Date:#1-Feb-2000#"}));
+        QStringLiteral(
+            "Id:d|Op:=|Date:#Jan 1, 2000#|Op:+|Date:#2000-01-02 12:30:00 PM#|Op:+|Date:#1-Feb-2000#"));
+    EXPECT_EQ(describe(QStringLiteral("Write #1, a, #1/2/2000#")),
+              QStringLiteral("Id:Write|Punct:#|Num:1|Punct:,|Id:a|Punct:,|Date:#1/2/2000#"));
     EXPECT_EQ(
-        describe(QStringLiteral("Write #1, a, #1/2/2000#")),
-        (QStringList{
-            "Id:Write", "Punct:#", "Num:1", "Punct:,", "Id:a", "Punct:,", "Date:#1/2/2000#"}));
-    EXPECT_EQ(describe(QStringLiteral("Print #1, x: Print #1, y")),
-              (QStringList{"Id:Print",
-                           "Punct:#",
-                           "Num:1",
-                           "Punct:,",
-                           "Id:x",
-                           "Punct::",
-                           "Id:Print",
-                           "Punct:#",
-                           "Num:1",
-                           "Punct:,",
-                           "Id:y"}));
+        describe(QStringLiteral("Print #1, x: Print #1, y")),
+        QStringLiteral(
+            "Id:Print|Punct:#|Num:1|Punct:,|Id:x|Punct::|Id:Print|Punct:#|Num:1|Punct:,|Id:y"));
 }
 
 TEST(BasicLexer, MemberNamesAfterADotAreNeverKeywords)
 {
     EXPECT_EQ(describe(QStringLiteral("rs.Type = x.End + rs!Name + a! + [My Name]")),
-              (QStringList{"Id:rs",
-                           "Punct:.",
-                           "Id:Type",
-                           "Op:=",
-                           "Id:x",
-                           "Punct:.",
-                           "Id:End",
-                           "Op:+",
-                           "Id:rs",
-                           "Punct:!",
-                           "Id:Name",
-                           "Op:+",
-                           "Id:a!",
-                           "Op:+",
-                           "Id:[My Name]"}));
+              QStringLiteral("Id:rs|Punct:.|Id:Type|Op:=|Id:x|Punct:.|Id:End|Op:+|Id:rs|Punct:!|Id:"
+                             "Name|Op:+|Id:a!|Op:+|Id:[My Name]"));
 }
 
 TEST(BasicLexer, CommentsByApostropheAndByRemAtAStatementStartOnly)
 {
     EXPECT_EQ(describe(QStringLiteral("Remark = 1 ' note\nREM all of it\nx = 1: Rem tail")),
-              (QStringList{"Id:Remark",
-                           "Op:=",
-                           "Num:1",
-                           "Rem:' note",
-                           "EOL",
-                           "Rem:REM all of it",
-                           "EOL",
-                           "Id:x",
-                           "Op:=",
-                           "Num:1",
-                           "Punct::",
-                           "Rem:Rem tail"}));
+              QStringLiteral("Id:Remark|Op:=|Num:1|Rem:' note|EOL|Rem:REM all of "
+                             "it|EOL|Id:x|Op:=|Num:1|Punct::|Rem:Rem tail"));
     EXPECT_EQ(describe(QStringLiteral("If a Then Rem why")),
-              (QStringList{"Kw:If", "Id:a", "Kw:Then", "Rem:Rem why"}));
+              QStringLiteral("Kw:If|Id:a|Kw:Then|Rem:Rem why"));
     EXPECT_EQ(describe(QStringLiteral("10 Rem numbered\nRem = 1 + Rem")),
-              (QStringList{"Num:10", "Rem:Rem numbered", "EOL", "Rem:Rem = 1 + Rem"}));
+              QStringLiteral("Num:10|Rem:Rem numbered|EOL|Rem:Rem = 1 + Rem"));
 }
 
 TEST(BasicLexer, ContinuationJoinsLinesWithoutALineEnd)
 {
     const QString text = QStringLiteral("x = a _\r\n    + b\r\ny = a_b");
-    EXPECT_EQ(
-        describe(text),
-        (QStringList{
-            "Id:x", "Op:=", "Id:a", "Cont:_", "Op:+", "Id:b", "EOL", "Id:y", "Op:=", "Id:a_b"}));
+    EXPECT_EQ(describe(text),
+              QStringLiteral("Id:x|Op:=|Id:a|Cont:_|Op:+|Id:b|EOL|Id:y|Op:=|Id:a_b"));
     const auto tokens = BasicLexer::tokenize(text);
     EXPECT_EQ(tokens[4].line, 2);
     EXPECT_EQ(tokens[4].column, 5);
@@ -166,7 +89,7 @@ TEST(BasicLexer, ContinuationJoinsLinesWithoutALineEnd)
 
     // A comment ending in " _" runs on over the next line.
     EXPECT_EQ(describe(QStringLiteral("' one _\ntwo\nx")),
-              (QStringList{"Rem:' one _\ntwo", "EOL", "Id:x"}));
+              QStringLiteral("Rem:' one _\ntwo|EOL|Id:x"));
 }
 
 TEST(BasicLexer, PositionsCountEveryKindOfLineEnd)

@@ -131,86 +131,20 @@ std::vector<std::pair<QString, QString>> corpus()
     return inputs;
 }
 
-// Pieces that make a parser take its rarer paths.
-const char *const dictionary[] = {"Sub Main\r\n",
-                                  "End Sub\r\n",
-                                  "If ",
-                                  " Then",
-                                  "Then\r\n",
-                                  " Else ",
-                                  "ElseIf ",
-                                  "End If\r\n",
-                                  "Select Case ",
-                                  "Case ",
-                                  "Case Else",
-                                  "End Select",
-                                  "For i = 1 To 9",
-                                  " Step ",
-                                  "Next",
-                                  "For Each x In y",
-                                  "Do While ",
-                                  "Loop Until ",
-                                  "While ",
-                                  "Wend",
-                                  "With x",
-                                  "End With",
-                                  ".a",
-                                  "!b",
-                                  "Quorin.",
-                                  "Quorin.ParserEvent() = \"",
-                                  "Quorin.GetObjectProperty(\"Procedure\", \"",
-                                  "Quorin.GetObjectWorkField(",
-                                  "Call Quorin.RaiseViolation()",
-                                  "Quorin.ApplyConvention",
-                                  "\"",
-                                  "\"\"",
-                                  "'",
-                                  "Rem ",
-                                  " _\r\n",
-                                  "\r\n",
-                                  "\r",
-                                  "\n",
-                                  ":",
-                                  "(",
-                                  ")",
-                                  ",",
-                                  "=",
-                                  "<>",
-                                  "&",
-                                  "^",
-                                  "-",
-                                  "Not ",
-                                  "And ",
-                                  "#1/2/2003#",
-                                  "#",
-                                  "&H1F",
-                                  "&O7",
-                                  "1.5E+3",
-                                  "[",
-                                  "]",
-                                  ":=",
-                                  "Dim x As New ",
-                                  "ReDim Preserve a(",
-                                  "On Error GoTo ",
-                                  "Resume Next",
-                                  "10 ",
-                                  "lbl:",
-                                  "Type T\r\n",
-                                  "Function F(",
-                                  "#If x Then\r\n",
-                                  "#ElseIf ",
-                                  "#Else\r\n",
-                                  "#End If\r\n",
-                                  "#Const c = ",
-                                  "Open f For Binary Access Read As #",
-                                  "Line Input #",
-                                  ".Line (1, 2)-Step(",
-                                  "Circle Step (",
-                                  "Lock #1, 1 To ",
-                                  "Name a As ",
-                                  "RaiseEvent ",
-                                  "#1/2/2003",
-                                  "\t"};
+// Pieces that make a parser take its rarer paths, separated by "|".
+const QStringList dictionary
+    = QString::fromUtf8(
+          "Sub Main\r\n|End Sub\r\n|If | Then|Then\r\n| Else |ElseIf |End If\r\n|"
+          "Select Case |Case |Case Else|End Select|For i = 1 To 9| Step |Next|"
+          "For Each x In y|Do While |Loop Until |While |Wend|With x|End With|.a|!b|Quorin.|"
+          "Quorin.ParserEvent() = \"|Quorin.GetObjectProperty(\"Procedure\", \"|"
+          "Quorin.GetObjectWorkField(|Call Quorin.RaiseViolation()|Quorin.ApplyConvention|"
+          "\"|\"\"|'|Rem | _\r\n|\r\n|\r|\n|:|(|)|,|=|<>|&|^|-|Not |And |#1/2/2003#|#|&H1F|"
+          "&O7|1.5E+3|[|]|:=|Dim x As New |ReDim Preserve a(|On Error GoTo |Resume Next|"
+          "10 |lbl:|Type T\r\n|Function F(|#If x Then\r\n|#ElseIf |#Else\r\n|#End If\r\n|"
+           "#Const c = |Open f For Binary Access Read As #|Line Input #|.Line (1, 2)-Step(|"
+           "Circle Step (|Lock #1, 1 To |Name a As |RaiseEvent |#1/2/2003|\t")
+          .split(u'|');
 
 QString mutate(QString text, const std::vector<QString> &seeds, std::mt19937 &random)
 {
@@ -221,9 +155,7 @@ QString mutate(QString text, const std::vector<QString> &seeds, std::mt19937 &ra
         const qsizetype at = pick(text.size());
         switch (pick(6)) {
         case 0:
-            text.insert(
-                at,
-                QString::fromUtf8(dictionary[size_t(pick(qsizetype(std::size(dictionary)) - 1))]));
+            text.insert(at, dictionary[pick(dictionary.size() - 1)]);
             break;
         case 1:
             text.remove(at, pick(16));
@@ -328,7 +260,7 @@ TEST(BasicRobustness, MutatedScriptsNeverBreakTheChecker)
 
     int runs = 0;
     QString input = seeds.front();
-    while (runs < count) {
+    for (; runs < count; ++runs) {
         // Mostly build on the last input, so that changes pile up; now and then start afresh.
         if (random() % 8 == 0)
             input = seeds[random() % seeds.size()];
@@ -339,8 +271,8 @@ TEST(BasicRobustness, MutatedScriptsNeverBreakTheChecker)
             QFile file(saved);
             if (file.open(QIODevice::WriteOnly))
                 file.write(input.toUtf8());
-            FAIL() << fault << " after " << runs << " runs; input saved in " << qPrintable(saved);
+            FAIL() << fault << " after " << runs << " runs; input saved in "
+                   << qPrintable(saved);
         }
-        ++runs;
     }
 }

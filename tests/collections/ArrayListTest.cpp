@@ -9,25 +9,28 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-StringArrayList strings(std::initializer_list<const char *> texts)
+StringArrayList strings(const QString &spaced)
 {
     StringArrayList list;
-    for (const char *text : texts)
-        list.Add(QString::fromLatin1(text));
+    for (const QString &text : spaced.split(u' ', Qt::SkipEmptyParts))
+        list.Add(text);
     return list;
 }
 
-QStringList contents(const StringArrayList &list)
+// The entries up to Count, "*" after a selected one.
+QString contents(const StringArrayList &list)
 {
     QStringList out;
     for (qint32 i = 1; i <= list.Count(); ++i)
-        out << list.Item(i);
-    return out;
+        out << list.Item(i) + (list.Selected(i) ? u"*"_s : QString());
+    return out.join(u' ');
 }
 
-qint32 subscriptError(const std::function<void()> &call)
+qint32 errorOf(const std::function<void()> &call)
 {
     try {
         call();
@@ -39,83 +42,47 @@ qint32 subscriptError(const std::function<void()> &call)
 
 } // namespace
 
-TEST(ArrayList, CapacityDoublesOnGrowthAndHalvesDownToOne)
+// The storage is a fixed array of Capacity slots: callers read stale slots behind Count.
+TEST(ArrayList, StaleSlotsUpToCapacityAreReachableAndOnlyIndexesOutsideFail)
 {
-    LongArrayList list;
-    for (qint32 i = 1; i <= 10; ++i)
-        list.Add(i);
-    EXPECT_EQ(list.Capacity(), 10);
-    EXPECT_EQ(list.Add(11), 11);
-    EXPECT_EQ(list.Capacity(), 20);
+    StringArrayList list = strings(u"A B C D"_s);
+    EXPECT_EQ(list.Item(5), QString());
+    for (const auto &call : std::vector<std::function<void()>>{[&] { list.Item(11); },
+                                                               [&] { list.Item(0); },
+                                                               [&] { list.setItem(11, u"x"_s); },
+                                                               [&] { list.setSelected(0, true); }})
+        EXPECT_EQ(errorOf(call), ErrorNumber::SubscriptOutOfRange);
 
-    // Halving happens once Count drops below Capacity / 2, one step per Remove.
-    std::vector<qint32> capacities;
-    while (list.Count() > 0) {
-        list.Remove(list.Count());
-        capacities.push_back(list.Capacity());
-    }
-    EXPECT_EQ(capacities.back(), 1); // never 0: 0 is not below 1 / 2
-    EXPECT_EQ(capacities[1], 10);    // Count 9 < 20 / 2
-    EXPECT_EQ(std::vector<qint32>(capacities.end() - 4, capacities.end()),
-              (std::vector<qint32>{5, 5, 2, 1}));
-}
-
-TEST(ArrayList, ItemReachesStaleSlotsUpToCapacityOnly)
-{
-    StringArrayList list = strings({"A", "B", "C"});
-    EXPECT_EQ(list.Item(4), QString()); // beyond Count, inside the array: no error
-    EXPECT_EQ(subscriptError([&] { list.Item(11); }), ErrorNumber::SubscriptOutOfRange);
-    EXPECT_EQ(subscriptError([&] { list.Item(0); }), ErrorNumber::SubscriptOutOfRange);
-    EXPECT_EQ(subscriptError([&] { list.setItem(11, QStringLiteral("x")); }),
-              ErrorNumber::SubscriptOutOfRange);
-    EXPECT_EQ(subscriptError([&] { list.setSelected(0, true); }), ErrorNumber::SubscriptOutOfRange);
-
-    // Removing from the middle leaves a stale copy of the old last entry behind Count.
-    list.Remove(1);
-    EXPECT_EQ(contents(list), (QStringList{"B", "C"}));
-    EXPECT_EQ(list.Item(3), QStringLiteral("C"));
-
-    // Writing a stale slot is allowed and marks the list dirty, but does not grow Count.
-    list.setDirty(false);
-    list.setItem(5, QStringLiteral("Z"));
-    EXPECT_TRUE(list.Dirty());
-    EXPECT_EQ(list.Count(), 2);
-}
-
-TEST(ArrayList, RemoveKeepsFlagsWithValuesAndSetsDirtyEvenWhenNothingGoes)
-{
-    StringArrayList list = strings({"A", "B", "C", "D"});
     list.setSelected(3, true);
     list.setDirty(false);
     list.Remove(9); // beyond Count: only Dirty
-    EXPECT_EQ(list.Count(), 4);
     EXPECT_TRUE(list.Dirty());
-
-    list.Remove(2);
-    EXPECT_EQ(contents(list), (QStringList{"A", "C", "D"}));
-    EXPECT_TRUE(list.Selected(2));
-    EXPECT_FALSE(list.Selected(3));
-    EXPECT_EQ(list.SelectedCount(), 1);
-
-    // A flag left behind a removed last entry is not counted any more.
+    list.Remove(1);
+    EXPECT_EQ(contents(list), u"B C* D"_s);
+    EXPECT_EQ(list.Item(4), u"D"_s); // a stale copy of the old last entry
     list.setSelected(3, true);
-    list.Remove(3);
+    list.Remove(3); // the last slot is emptied and its flag no longer counts
+    EXPECT_EQ(list.Item(3), QString());
     EXPECT_EQ(list.SelectedCount(), 1);
-    EXPECT_EQ(list.Item(3), QString()); // the last slot is emptied
 
-    // An index below 1 fails inside the frame: reported, nothing thrown, nothing changed.
     list.setDirty(false);
-    EXPECT_NO_THROW(list.Remove(0));
-    EXPECT_EQ(contents(list), (QStringList{"A", "C"}));
-    EXPECT_FALSE(list.Dirty());
-
-    list.Remove(2);
+    list.setItem(5, u"Z"_s); // writing a stale slot marks the list but does not grow it
     EXPECT_TRUE(list.Dirty());
+    EXPECT_EQ(list.Count(), 2);
+    list.setDirty(false);
+    EXPECT_NO_THROW(list.Remove(0)); // reported inside the frame, nothing changed
+    EXPECT_EQ(contents(list), u"B C*"_s);
+    EXPECT_FALSE(list.Dirty());
     list.Clear();
     EXPECT_FALSE(list.Dirty());
-    EXPECT_EQ(list.Count(), 0);
-    EXPECT_EQ(list.Capacity(), 10);
     EXPECT_EQ(list.Item(1), QString()); // Clear drops the stale values too
+
+    for (int i = 0; i < 11; ++i)
+        list.Add(u"x"_s); // growing past ten keeps every entry
+    EXPECT_EQ(list.Item(11), u"x"_s);
+    while (list.Count() > 1)
+        list.Remove(list.Count());
+    EXPECT_EQ(list.Item(1), u"x"_s);
 }
 
 TEST(ArrayList, RemovingTheLastEntryClearsItsSlotByElementType)
@@ -132,7 +99,7 @@ TEST(ArrayList, RemovingTheLastEntryClearsItsSlotByElementType)
     EXPECT_EQ(objects.Item(1), nullptr);
 
     ArrayList values;
-    values.Add(QStringLiteral("x"));
+    values.Add(u"x"_s);
     values.Add(VariantObject::wrap(std::make_shared<int>(2)));
     values.Remove(2);
     EXPECT_TRUE(VariantObject::holdsObject(values.Item(2)));
@@ -143,41 +110,36 @@ TEST(ArrayList, RemovingTheLastEntryClearsItsSlotByElementType)
 
 TEST(ArrayList, MoveItemShiftsTheEntriesBetweenWithTheirFlags)
 {
-    StringArrayList list = strings({"A", "B", "C"});
-    list.setSelected(1, true);
-    list.MoveItem(1, 3);
-    EXPECT_EQ(contents(list), (QStringList{"B", "C", "A"}));
-    EXPECT_TRUE(list.Selected(3));
-    EXPECT_FALSE(list.Selected(1));
-
-    list = strings({"A", "B", "C"});
-    list.setSelected(3, true);
-    list.MoveItem(3, 1);
-    EXPECT_EQ(contents(list), (QStringList{"C", "A", "B"}));
-    EXPECT_TRUE(list.Selected(1));
-
-    list.setDirty(false);
-    list.MoveItem(2, 2);
-    EXPECT_FALSE(list.Dirty());
-    list.MoveItem(2, 3);
-    EXPECT_TRUE(list.Dirty());
+    const struct
+    {
+        qint32 from, to;
+        const char *expected;
+    } cases[] = {{1, 3, "B C A*"}, {3, 1, "C A* B"}, {2, 2, "A* B C"}};
+    for (const auto &c : cases) {
+        StringArrayList list = strings(u"A B C"_s);
+        list.setSelected(1, true);
+        list.setDirty(false);
+        list.MoveItem(c.from, c.to);
+        EXPECT_EQ(contents(list), QString::fromLatin1(c.expected));
+        EXPECT_EQ(list.Dirty(), c.from != c.to);
+    }
 }
 
 TEST(ArrayList, IndexOfValueMatchesByTheRulesOfEachElementType)
 {
-    StringArrayList texts = strings({"x", "ABC"});
-    EXPECT_EQ(texts.IndexOfValue(QStringLiteral("abc")), 2);
-    EXPECT_EQ(texts.IndexOfValue(QStringLiteral("abd")), -1);
-    EXPECT_TRUE(texts.ContainsValue(QStringLiteral("X")));
+    StringArrayList texts = strings(u"x ABC"_s);
+    EXPECT_EQ(texts.IndexOfValue(u"abc"_s), 2);
+    EXPECT_EQ(texts.IndexOfValue(u"abd"_s), -1);
+    EXPECT_TRUE(texts.ContainsValue(u"X"_s));
 
     const auto shared = std::make_shared<int>(5);
     const auto twin = std::make_shared<int>(5);
     ArrayList values;
-    values.Add(QStringLiteral("ABC"));
+    values.Add(u"ABC"_s);
     values.Add(12);
     values.Add(VariantObject::wrap(shared));
-    EXPECT_EQ(values.IndexOfValue(QStringLiteral("abc")), 1);
-    EXPECT_EQ(values.IndexOfValue(QStringLiteral("12")), 2); // text-mode equality
+    EXPECT_EQ(values.IndexOfValue(u"abc"_s), 1);
+    EXPECT_EQ(values.IndexOfValue(u"12"_s), 2); // text-mode equality
     EXPECT_EQ(values.IndexOfValue(VariantObject::wrap(shared)), 3);
     EXPECT_EQ(values.IndexOfValue(VariantObject::wrap(twin)), -1); // identity, not equality
     EXPECT_EQ(VariantObject::unwrap<int>(values.Item(3)), shared);
@@ -188,7 +150,6 @@ TEST(ArrayList, IndexOfValueMatchesByTheRulesOfEachElementType)
     objects.Add(shared);
     EXPECT_EQ(objects.IndexOfValue(shared), 2);
     objects.RemoveByValue(twin);
-    EXPECT_EQ(objects.Count(), 1);
     EXPECT_EQ(objects.Item(1), shared);
 
     LongArrayList numbers;
@@ -200,18 +161,16 @@ TEST(ArrayList, IndexOfValueMatchesByTheRulesOfEachElementType)
 
 TEST(ArrayList, SortIsCaseInsensitiveLaterEqualsFirstAndLeavesFlagsAndDirty)
 {
-    StringArrayList list = strings({"b", "A", "c"});
+    StringArrayList list = strings(u"b A c"_s);
     list.setSelected(1, true);
     list.setDirty(false);
     list.Sort();
-    EXPECT_EQ(contents(list), (QStringList{"A", "b", "c"}));
-    EXPECT_TRUE(list.Selected(1)); // the flag stayed at its position
+    EXPECT_EQ(contents(list), u"A* b c"_s); // the flag stayed at its position
     EXPECT_FALSE(list.Dirty());
 
-    list = strings({"a", "B", "A", "b", "a"});
+    list = strings(u"a B A b a"_s);
     list.Sort();
-    // Of texts equal but for case the later comes first.
-    EXPECT_EQ(contents(list), (QStringList{"a", "A", "a", "b", "B"}));
+    EXPECT_EQ(contents(list), u"a A a b B"_s);
     list.Remove(5);
     list.Sort(); // the stale slot beyond Count takes no part
     EXPECT_EQ(list.Count(), 4);

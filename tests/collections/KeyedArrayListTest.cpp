@@ -9,10 +9,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QElapsedTimer>
-
 #include <functional>
 #include <random>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -36,7 +36,7 @@ private:
 class Other final : public IListItem
 {
 public:
-    QString Key() const override { return QStringLiteral("other"); }
+    QString Key() const override { return u"other"_s; }
     QString Title() const override { return {}; }
     QString Description() const override { return {}; }
     qint32 ID() const override { return 0; }
@@ -45,119 +45,119 @@ private:
     void setListKey(const QString &) override {}
 };
 
-std::optional<QuorinError> raised(const std::function<void()> &call)
+// "number source: description" of what the call raised, or empty.
+QString raised(const std::function<void()> &call)
 {
     try {
         call();
     } catch (const QuorinError &e) {
-        return e;
+        return u"%1 %2: %3"_s.arg(e.number()).arg(e.source(), e.description());
     }
-    return std::nullopt;
+    return {};
 }
 
-void expectNoSuchItem(const std::function<void()> &call, const char *member)
+qint32 linearFind(const ObjectKeyedArrayList<int> &list, const QString &key)
 {
-    const auto error = raised(call);
-    ASSERT_TRUE(error.has_value()) << member;
-    EXPECT_EQ(error->number(), ErrorNumber::NoSuchItem);
-    EXPECT_EQ(error->description(), QStringLiteral("No such item."));
-    EXPECT_EQ(error->source(), QStringLiteral("KeyedArrayList::") + QLatin1String(member));
+    for (qint32 i = 1; i <= list.Count(); ++i) {
+        if (Text::same(list.Key(i), key))
+            return i;
+    }
+    return -1;
 }
 
 } // namespace
 
-TEST(KeyedArrayList, UnknownKeysAndPositionsRaiseNoSuchItemNamingTheMember)
+TEST(KeyedArrayList, UnknownKeysPositionsAndDuplicatesRaiseNamingTheMember)
 {
     ObjectKeyedArrayList<int> list;
-    list.Add(QStringLiteral("Key1"), std::make_shared<int>(1), false, true);
-    EXPECT_EQ(*list.Item(QStringLiteral("KEY1")), 1);
-
-    expectNoSuchItem([&] { list.Item(QStringLiteral("x")); }, "Item");
-    expectNoSuchItem([&] { list.Item(2); }, "Item"); // a stale slot is no item here
-    expectNoSuchItem([&] { list.Key(0); }, "Key");
-    expectNoSuchItem([&] { list.setKey(2, QStringLiteral("k")); }, "Key");
-    expectNoSuchItem([&] { list.Selected(QStringLiteral("x")); }, "Selected");
-    expectNoSuchItem([&] { list.Remove(QStringLiteral("x")); }, "Remove");
-    EXPECT_EQ(list.Count(), 1);
-
-    KeyedArrayList values;
-    expectNoSuchItem([&] { values.Remove(1); }, "Remove");
-    StringKeyedArrayList texts;
-    expectNoSuchItem([&] { texts.setItem(QStringLiteral("a"), QStringLiteral("b")); }, "Item");
-}
-
-TEST(KeyedArrayList, DuplicateKeysAreRefusedOnlyWhenChecked)
-{
-    ObjectKeyedArrayList<int> list;
-    const auto first = std::make_shared<int>(1);
-    EXPECT_EQ(list.Add(QStringLiteral("a"), first, false, false), 1);
-    EXPECT_EQ(list.Add(QStringLiteral("A"), std::make_shared<int>(2), true, false), 2);
-    EXPECT_EQ(list.Count(), 2);
-    EXPECT_EQ(list.Item(QStringLiteral("a")), first); // look-ups find the first
+    list.Add(u"a"_s, std::make_shared<int>(1), false, false);
+    list.Add(u"A"_s, std::make_shared<int>(2), true, false); // unchecked: accepted
+    EXPECT_EQ(*list.Item(u"A"_s), 1);                        // look-ups find the first
     EXPECT_TRUE(list.Selected(2));
 
-    const auto error = raised([&] { list.Add(QStringLiteral("a"), first, false, true); });
-    ASSERT_TRUE(error.has_value());
-    EXPECT_EQ(error->number(), ErrorNumber::DuplicateKey);
-    EXPECT_EQ(error->source(), QStringLiteral("KeyedArrayList::Add"));
-    EXPECT_EQ(error->description(),
-              QStringLiteral("The item cannot be added, because the key 'a' is already in use."));
-    EXPECT_EQ(list.Count(), 2);
+    const QString noItem = u"%1 KeyedArrayList::%2: No such item."_s.arg(ErrorNumber::NoSuchItem);
+    const std::pair<std::function<void()>, const char *> missing[] = {
+        {[&] { list.Item(u"x"_s); }, "Item"},
+        {[&] { list.Item(3); }, "Item"}, // a stale slot is no item here
+        {[&] { list.Key(0); }, "Key"},
+        {[&] { list.setKey(3, u"k"_s); }, "Key"},
+        {[&] { list.Selected(u"x"_s); }, "Selected"},
+        {[&] { list.Remove(u"x"_s); }, "Remove"},
+        {[] { KeyedArrayList().Remove(1); }, "Remove"},
+        {[] { StringKeyedArrayList().setItem(u"a"_s, u"b"_s); }, "Item"},
+    };
+    for (const auto &[call, member] : missing)
+        EXPECT_EQ(raised(call), noItem.arg(QLatin1String(member)));
 
-    // After the first of two equal keys goes, the second is found.
-    list.Remove(1);
-    EXPECT_EQ(*list.Item(QStringLiteral("a")), 2);
+    EXPECT_EQ(raised([&] { list.Add(u"a"_s, nullptr, false, true); }),
+              u"%1 KeyedArrayList::Add: The item cannot be added, because the key 'a' is already "
+              "in use."_s.arg(ErrorNumber::DuplicateKey));
+    EXPECT_EQ(list.Count(), 2);
+    list.Remove(1); // after the first of two equal keys goes, the second is found
+    EXPECT_EQ(*list.Item(u"a"_s), 2);
 
     // The lists without a CheckUnique argument always refuse.
     StringKeyedArrayList texts;
-    texts.Add(QStringLiteral("k"), QStringLiteral("v"), false);
-    EXPECT_TRUE(raised([&] { texts.Add(QStringLiteral("K"), QStringLiteral("w"), false); }));
+    texts.Add(u"k"_s, u"v"_s, false);
+    EXPECT_FALSE(raised([&] { texts.Add(u"K"_s, u"w"_s, false); }).isEmpty());
     KeyedArrayList values;
-    values.Add(QStringLiteral("k"), 1, false);
-    EXPECT_TRUE(raised([&] { values.Add(QStringLiteral("K"), 2, false); }));
+    values.Add(u"k"_s, 1, false);
+    EXPECT_FALSE(raised([&] { values.Add(u"K"_s, 2, false); }).isEmpty());
     EXPECT_EQ(texts.Count() + values.Count(), 2);
 }
 
-TEST(KeyedArrayList, NewUniqueKeyCountsPerListAndSurvivesClear)
+TEST(KeyedArrayList, NewUniqueKeyCountsPerListAndTheFaceUsesIt)
 {
     ObjectKeyedArrayList<int> list;
-    list.Add(QStringLiteral("Item1"), nullptr, false, true);
-    list.Add(QStringLiteral("Item2"), nullptr, false, true);
-    // The counter does not look at the keys already held.
-    EXPECT_EQ(list.NewUniqueKey(), QStringLiteral("Item1"));
-    EXPECT_EQ(list.NewUniqueKey(), QStringLiteral("Item2"));
+    list.Add(u"Item1"_s, nullptr, false, true);
+    EXPECT_EQ(list.NewUniqueKey(), u"Item1"_s); // the counter does not look at the keys held
     list.Clear();
-    EXPECT_EQ(list.Count(), 0);
-    EXPECT_FALSE(list.Contains(QStringLiteral("Item1")));
-    EXPECT_EQ(list.NewUniqueKey(), QStringLiteral("Item3"));
+    EXPECT_FALSE(list.Contains(u"Item1"_s));
+    EXPECT_EQ(list.NewUniqueKey(), u"Item2"_s); // and survives Clear
+    EXPECT_EQ(ObjectKeyedArrayList<int>().NewUniqueKey(), u"Item1"_s);
 
-    ObjectKeyedArrayList<int> another;
-    EXPECT_EQ(another.NewUniqueKey(), QStringLiteral("Item1"));
+    auto named = std::make_shared<ObjectKeyedArrayList<Named>>();
+    const std::shared_ptr<IKeyedList> face = asKeyedList(named);
+    auto item = std::make_shared<Named>(u"ignored"_s);
+    face->Add(item, true);
+    EXPECT_EQ(item->Key(), u"Item1"_s);
+    EXPECT_EQ(named->Item(u"item1"_s), item);
+    face->Add(std::make_shared<Named>(u"own"_s), false);
+    EXPECT_EQ(face->Key(2), u"own"_s);
+    EXPECT_EQ(face->Item(2)->Title(), u"own"_s);
+    EXPECT_TRUE(raised([&] {
+                    face->Add(std::make_shared<Named>(u"OWN"_s), false);
+                }).startsWith(QString::number(ErrorNumber::DuplicateKey)));
+    EXPECT_TRUE(raised([&] {
+                    face->Add(std::make_shared<Other>(), false);
+                }).startsWith(QString::number(ErrorNumber::TypeMismatch)));
+    face->Remove(u"ITEM1"_s);
+    EXPECT_EQ(named->Count(), 1);
+    face->Clear();
+    EXPECT_EQ(named->Count(), 0);
 }
 
 TEST(KeyedArrayList, RemoveAndMoveKeepKeysAndItemsPaired)
 {
     ObjectKeyedArrayList<int> list;
     for (int i = 1; i <= 5; ++i)
-        list.Add(QStringLiteral("k%1").arg(i), std::make_shared<int>(i), i == 4, true);
-    EXPECT_EQ(list.Remove(QStringLiteral("K2")), 2);
+        list.Add(u"k%1"_s.arg(i), std::make_shared<int>(i), i == 4, true);
+    EXPECT_EQ(list.Remove(u"K2"_s), 2);
     for (qint32 i = 1; i <= list.Count(); ++i)
-        EXPECT_EQ(list.Key(i), QStringLiteral("k%1").arg(*list.Item(i)));
-    EXPECT_EQ(list.FindIndexByKey(QStringLiteral("k5")), 4);
-    EXPECT_TRUE(list.Selected(QStringLiteral("k4")));
+        EXPECT_EQ(list.Key(i), u"k%1"_s.arg(*list.Item(i)));
+    EXPECT_EQ(list.FindIndexByKey(u"k5"_s), 4);
+    EXPECT_TRUE(list.Selected(u"k4"_s));
 
     list.MoveItem(4, 1); // k5 to the front
-    EXPECT_EQ(list.Key(1), QStringLiteral("k5"));
-    EXPECT_EQ(*list.Item(QStringLiteral("k5")), 5);
-    EXPECT_EQ(list.FindIndexByKey(QStringLiteral("k1")), 2);
-
-    list.setKey(1, QStringLiteral("renamed"));
-    EXPECT_FALSE(list.Contains(QStringLiteral("k5")));
-    EXPECT_EQ(list.FindIndexByKey(QStringLiteral("RENAMED")), 1);
-
-    const auto four = list.Item(QStringLiteral("k4"));
+    EXPECT_EQ(list.Key(1), u"k5"_s);
+    EXPECT_EQ(*list.Item(u"k5"_s), 5);
+    EXPECT_EQ(list.FindIndexByKey(u"k1"_s), 2);
+    list.setKey(1, u"renamed"_s);
+    EXPECT_FALSE(list.Contains(u"k5"_s));
+    EXPECT_EQ(list.FindIndexByKey(u"RENAMED"_s), 1);
+    const auto four = list.Item(u"k4"_s);
     list.RemoveByValue(four);
-    EXPECT_FALSE(list.Contains(QStringLiteral("k4")));
+    EXPECT_FALSE(list.Contains(u"k4"_s));
     EXPECT_FALSE(list.ContainsValue(four));
     EXPECT_EQ(list.SelectedCount(), 0);
 
@@ -165,56 +165,22 @@ TEST(KeyedArrayList, RemoveAndMoveKeepKeysAndItemsPaired)
     // underlying arrays do; look-ups must follow the keys that are really there.
     ObjectKeyedArrayList<int> stale;
     for (int i = 1; i <= 4; ++i)
-        stale.Add(QStringLiteral("s%1").arg(i), std::make_shared<int>(i), false, true);
+        stale.Add(u"s%1"_s.arg(i), std::make_shared<int>(i), false, true);
     stale.Remove(2); // s1 s3 s4, and a stale copy of s4 in slot 4
     stale.MoveItem(1, 4);
     EXPECT_EQ(stale.Count(), 3);
-    EXPECT_EQ(stale.Key(3), QStringLiteral("s4"));
-    EXPECT_EQ(stale.FindIndexByKey(QStringLiteral("s4")), 2);
-    EXPECT_EQ(stale.FindIndexByKey(QStringLiteral("s1")), -1);
+    EXPECT_EQ(stale.Key(3), u"s4"_s);
+    EXPECT_EQ(stale.FindIndexByKey(u"s4"_s), 2);
+    EXPECT_EQ(stale.FindIndexByKey(u"s1"_s), -1);
     stale.Remove(2);
-    EXPECT_EQ(stale.FindIndexByKey(QStringLiteral("s4")), 2);
-}
-
-TEST(KeyedArrayList, IKeyedListFaceSharesTheListAndGivesGeneratedKeys)
-{
-    auto list = std::make_shared<ObjectKeyedArrayList<Named>>();
-    const std::shared_ptr<IKeyedList> face = asKeyedList(list);
-    auto item = std::make_shared<Named>(QStringLiteral("ignored"));
-    face->Add(item, true);
-    EXPECT_EQ(item->Key(), QStringLiteral("Item1"));
-    EXPECT_EQ(list->Item(QStringLiteral("item1")), item);
-    face->Add(std::make_shared<Named>(QStringLiteral("own")), false);
-    EXPECT_EQ(face->Key(2), QStringLiteral("own"));
-    EXPECT_EQ(face->Item(2)->Title(), QStringLiteral("own"));
-
-    const auto duplicate
-        = raised([&] { face->Add(std::make_shared<Named>(QStringLiteral("OWN")), false); });
-    ASSERT_TRUE(duplicate.has_value());
-    EXPECT_EQ(duplicate->number(), ErrorNumber::DuplicateKey);
-    const auto wrongKind = raised([&] { face->Add(std::make_shared<Other>(), false); });
-    ASSERT_TRUE(wrongKind.has_value());
-    EXPECT_EQ(wrongKind->number(), ErrorNumber::TypeMismatch);
-
-    face->Remove(QStringLiteral("ITEM1"));
-    EXPECT_EQ(list->Count(), 1);
-    face->Clear();
-    EXPECT_EQ(list->Count(), 0);
+    EXPECT_EQ(stale.FindIndexByKey(u"s4"_s), 2);
 }
 
 // Whatever happens to a list, the index must give what a plain walk of the keys gives.
 TEST(KeyedArrayList, KeyLookupsAgreeWithALinearSearchAfterRandomChanges)
 {
-    const QStringList pool = {QStringLiteral("alpha"),
-                              QStringLiteral("Beta"),
-                              QStringLiteral("gamma"),
-                              QStringLiteral("5000Key"),
-                              QStringLiteral("straße"),
-                              QStringLiteral("ΣΊΣΥΦΟΣ"),
-                              QStringLiteral("ǆungla"),
-                              QStringLiteral("𐐀x"),
-                              QStringLiteral(""),
-                              QStringLiteral("Item1")};
+    const QStringList pool
+        = u"alpha|Beta|gamma|5000Key|straße|ΣΊΣΥΦΟΣ|ǆungla|𐐀x||Item1"_s.split(u'|');
     const TestSeed seed(20240611u);
     std::mt19937 random(seed.value());
     auto pick = [&](int n) { return int(random() % unsigned(n)); };
@@ -224,16 +190,7 @@ TEST(KeyedArrayList, KeyLookupsAgreeWithALinearSearchAfterRandomChanges)
             out += pick(2) ? c.toUpper() : c.toLower();
         return out;
     };
-
     ObjectKeyedArrayList<int> list;
-    auto linear = [&](const QString &key) {
-        for (qint32 i = 1; i <= list.Count(); ++i) {
-            if (Text::same(list.Key(i), key))
-                return i;
-        }
-        return qint32(-1);
-    };
-
     for (int step = 0; step < 4000; ++step) {
         const int count = list.Count();
         switch (pick(count ? 7 : 1)) {
@@ -265,14 +222,30 @@ TEST(KeyedArrayList, KeyLookupsAgreeWithALinearSearchAfterRandomChanges)
         }
         for (const QString &key : pool) {
             const QString probe = randomCase(key);
-            ASSERT_EQ(list.FindIndexByKey(probe), linear(probe))
+            ASSERT_EQ(list.FindIndexByKey(probe), linearFind(list, probe))
                 << "step " << step << " key " << qPrintable(probe);
         }
     }
+}
 
-    // The hash behind the index agrees with case-insensitive comparison for every character,
-    // in the plane of single units and beyond it (surrogate pairs): equal exactly when the
-    // comparison says equal.
+// Beyond ASCII the index finds what the case-insensitive comparison calls equal: characters
+// whose folding differs from their lower case, surrogate pairs, and lone surrogates, which the
+// comparison takes unit by unit. The hash agrees with the comparison for every character.
+TEST(KeyedArrayList, KeyLookupsBeyondAsciiAgreeWithTheComparison)
+{
+    const QString lone = QString(QChar(0xDC00)) + QChar(0xD801);
+    ObjectKeyedArrayList<int> list;
+    for (const QString &key :
+         {u"k"_s, u"σίσυφος"_s, u"straße"_s, u"\U00010400x"_s, u"ǆ"_s, u"İ"_s, u"@[z"_s, lone})
+        list.Add(key, nullptr, false, true);
+    for (const QString &probe :
+         u"\u212A|K|ΣΊΣΥΦΟΣ|ΣΊΣΥΦΟς|STRASSE|STRAẞE|\U00010428X|\U00010428x|ǅ|Ǆ|i|i̇|`{Z|@[Z"_s.split(
+             u'|')
+             + QStringList{lone, QString(QChar(0xD801)) + QChar(0xDC00)})
+        EXPECT_EQ(list.FindIndexByKey(probe), linearFind(list, probe)) << qPrintable(probe);
+    EXPECT_EQ(list.FindIndexByKey(u"\u212A"_s), 1); // Kelvin sign, folds to k
+    EXPECT_EQ(list.FindIndexByKey(u"\U00010428X"_s), 4);
+
     auto fromCode = [](char32_t code) { return QString::fromUcs4(&code, 1); };
     for (char32_t code = 0; code <= 0x10FFFF; ++code) {
         if (QChar::isSurrogate(code))
@@ -286,65 +259,4 @@ TEST(KeyedArrayList, KeyLookupsAgreeWithALinearSearchAfterRandomChanges)
             ASSERT_EQ(KeyIndex::hash(c) == KeyIndex::hash(o), Text::same(c, o)) << int(code);
         }
     }
-}
-
-// Keys beyond ASCII: the index finds what the case-insensitive comparison calls equal, for
-// characters whose folding differs from their lower case, for surrogate pairs, and for lone
-// surrogates, which the comparison takes unit by unit.
-TEST(KeyedArrayList, KeyLookupsBeyondAsciiAgreeWithTheComparison)
-{
-    const QString lone = QString(QChar(0xDC00)) + QChar(0xD801);
-    const QStringList keys = {QStringLiteral("k"),
-                              QStringLiteral("σίσυφος"),
-                              QStringLiteral("straße"),
-                              QStringLiteral("\U00010400x"),
-                              QStringLiteral("ǆ"),
-                              QStringLiteral("İ"),
-                              QStringLiteral("@[z"),
-                              lone};
-    const QStringList probes = {QStringLiteral("\u212A"), // Kelvin sign, folds to k
-                                QStringLiteral("K"),
-                                QStringLiteral("ΣΊΣΥΦΟΣ"),
-                                QStringLiteral("ΣΊΣΥΦΟς"),
-                                QStringLiteral("STRASSE"),
-                                QStringLiteral("STRAẞE"),
-                                QStringLiteral("\U00010428X"),
-                                QStringLiteral("\U00010428x"),
-                                QStringLiteral("ǅ"),
-                                QStringLiteral("Ǆ"),
-                                QStringLiteral("i"),
-                                QStringLiteral("i̇"),
-                                QStringLiteral("`{Z"),
-                                QStringLiteral("@[Z"),
-                                QString(QChar(0xDC00)) + QChar(0xD801),
-                                QString(QChar(0xD801)) + QChar(0xDC00)};
-    ObjectKeyedArrayList<int> list;
-    for (const QString &key : keys)
-        list.Add(key, nullptr, false, true);
-    for (const QString &probe : probes) {
-        qint32 expected = -1;
-        for (qint32 i = 1; i <= list.Count() && expected == -1; ++i) {
-            if (Text::same(list.Key(i), probe))
-                expected = i;
-        }
-        EXPECT_EQ(list.FindIndexByKey(probe), expected) << qPrintable(probe);
-    }
-    EXPECT_EQ(list.FindIndexByKey(QStringLiteral("\u212A")), 1);
-    EXPECT_EQ(list.FindIndexByKey(QStringLiteral("\U00010428X")), 4);
-}
-
-TEST(KeyedArrayList, AddAndLookupStayLinearOnLargeLists)
-{
-    constexpr qint32 n = 200000;
-    ObjectKeyedArrayList<int> list;
-    QElapsedTimer timer;
-    timer.start();
-    for (qint32 i = 1; i <= n; ++i)
-        list.Add(QString::number(i) + QStringLiteral("Key"), nullptr, false, true);
-    qint32 found = 0;
-    for (qint32 i = n; i >= 1; --i)
-        found += list.FindIndexByKey(QString::number(i) + QStringLiteral("KEY")) == i ? 1 : 0;
-    EXPECT_EQ(found, n);
-    // A walk per look-up would need some 10^10 comparisons here; hashing needs well under this.
-    EXPECT_LT(timer.elapsed(), 10000);
 }

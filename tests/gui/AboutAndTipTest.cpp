@@ -61,58 +61,6 @@ TEST(About, ShowsTitleVersionAndClosesOnOK)
     EXPECT_EQ(about.result(), QDialog::Accepted);
 }
 
-TEST(About, TheSplashHidesItsButtonAndClosesItselfWithoutBlocking)
-{
-    Globals globals;
-    QPointer<frmAbout> splash = new frmAbout;
-    splash->ShowSplashScreen();
-    // ShowSplashScreen returned at once, with the form up and its timer armed.
-    ASSERT_TRUE(splash->isVisible());
-    EXPECT_FALSE(splash->findChild<QPushButton *>(QStringLiteral("cmdOK"))->isVisible());
-    QTimer *delay = splash->findChild<QTimer *>(QStringLiteral("tmrDelay"));
-    ASSERT_NE(delay, nullptr);
-    EXPECT_TRUE(delay->isActive());
-    EXPECT_EQ(delay->interval(), frmAbout::SplashMilliseconds);
-    EXPECT_EQ(frmAbout::SplashMilliseconds, 1500);
-    // It goes away by itself, and takes its memory with it.
-    EXPECT_TRUE(waitFor([&] { return splash.isNull(); }, 4000));
-}
-
-TEST(TipOfTheDay, TipsComeInTurnAndStartAgainAfterTheLast)
-{
-    Globals globals;
-    const QStringList tips = frmTip::LoadTips(frmTip::tipsFile());
-    EXPECT_GE(tips.size(), 20);
-    for (const QString &tip : tips)
-        EXPECT_FALSE(tip.startsWith(QLatin1Char(';'))) << tip.toStdString();
-
-    frmTip form;
-    ASSERT_EQ(form.tipCount(), tips.size());
-    form.setLastTip(3);
-    EXPECT_EQ(form.LastTip(), 4);
-    EXPECT_EQ(form.findChild<QLabel *>(QStringLiteral("lblTipText"))->text(), tips.at(3));
-    form.findChild<QPushButton *>(QStringLiteral("cmdNextTip"))->click();
-    EXPECT_EQ(form.LastTip(), 5);
-    EXPECT_EQ(form.currentTip(), tips.at(4));
-
-    // After the last comes the first; a number beyond the file starts at the first too.
-    form.setLastTip(int(tips.size()) - 1);
-    EXPECT_EQ(form.LastTip(), tips.size());
-    form.NextTip();
-    EXPECT_EQ(form.LastTip(), 1);
-    form.setLastTip(int(tips.size()) + 10);
-    EXPECT_EQ(form.LastTip(), 1);
-
-    // A tips file of comments and blanks only, or none at all, gives no tips.
-    const QString dir = TestEnvironment::makeTempDir();
-    QFile file(dir + QStringLiteral("/empty.tip"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("; nothing here\n\n   \n");
-    file.close();
-    EXPECT_TRUE(frmTip::LoadTips(file.fileName()).isEmpty());
-    EXPECT_TRUE(frmTip::LoadTips(dir + QStringLiteral("/missing.tip")).isEmpty());
-}
-
 TEST(TipOfTheDay, TheCheckBoxIsTheStartUpSettingAndTheWindowRemembersTheLastTip)
 {
     Globals globals;

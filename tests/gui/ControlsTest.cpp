@@ -296,26 +296,6 @@ TEST(QtListControl, AddsSortsAndSelectsRowsAndPassesTheModelTester)
         << warnings.messages().join(QLatin1Char('\n')).toStdString();
 }
 
-TEST(QtListControl, FillsTenThousandRowsInOrder)
-{
-    QTreeView view;
-    auto *list = new QtListControl(&view);
-    list->addColumn(QStringLiteral("Rule"), ColumnAlignment::Left, 60);
-    list->addColumn(QStringLiteral("Title"), ColumnAlignment::Left, 200);
-    view.show();
-    for (int i = 1; i <= 10000; ++i) {
-        const QString key = QString::number(i) + QStringLiteral("Key");
-        const int row = list->add(key, QString::number(i), 1);
-        list->setSubItemText(row, 1, QStringLiteral("Rule %1").arg(i));
-        list->setSelected(row, false);
-        list->setForeColor(row, i % 2 ? 255 : 0);
-    }
-    EXPECT_EQ(list->rowCount(), 10000);
-    EXPECT_EQ(list->find(QStringLiteral("9999key")), 9999);
-    EXPECT_EQ(list->index(9998, 1).data().toString(), QStringLiteral("Rule 9999"));
-    EXPECT_EQ(list->index(9998, 0).data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::red));
-}
-
 TEST(MainWindow, ShowsTheCategoryViewInTheRealTreeAndList)
 {
     TestEnvironment::clearSettings();

@@ -40,38 +40,9 @@
 
 namespace {
 
-class ConventionDialogs : public ::testing::Test
+class ConventionDialogs : public GuiSample
 {
 protected:
-    void SetUp() override
-    {
-        TestEnvironment::clearSettings();
-        ASSERT_EQ(CreateGlobalObjects(), 0);
-        gobjAdminData->setFirstUse(false);
-        gobjAdminData->setDisplayTips(false);
-        // A copy, since the test saves it.
-        file = TestEnvironment::makeTempDir() + QStringLiteral("/Rules.qrb");
-        ASSERT_TRUE(QFile::copy(TestEnvironment::sampleRulebase(), file));
-        QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner);
-        window = std::make_unique<frmMain>(false);
-        forms = std::make_unique<GuiFormFactory>(window.get());
-        IFormFactory::install(forms.get());
-        app = std::make_unique<Application>(window.get(), createView);
-        window->setApplication(app.get());
-        window->ShowWindow();
-        ASSERT_TRUE(RunStartup(*app, file));
-    }
-    void TearDown() override
-    {
-        app->TerminateApplication();
-        window->setApplication(nullptr);
-        app.reset();
-        IFormFactory::install(nullptr);
-        forms.reset();
-        window.reset();
-        DestroyGlobalObjects();
-    }
-
     std::shared_ptr<IRule> findByTitle(const QString &title)
     {
         const auto all = app->rulebase()->RuleLists()->AllConventions();
@@ -81,12 +52,6 @@ protected:
         }
         return nullptr;
     }
-
-    QString file;
-    ScriptedUserInterface ui;
-    std::unique_ptr<frmMain> window;
-    std::unique_ptr<GuiFormFactory> forms;
-    std::unique_ptr<Application> app;
 };
 
 } // namespace

@@ -86,37 +86,6 @@
 
 namespace {
 
-// Rows of a list or combo without a picture, by text.
-QStringList withoutIcon(const QListWidget &list)
-{
-    QStringList bare;
-    for (int i = 0; i < list.count(); ++i) {
-        if (list.item(i)->icon().isNull())
-            bare << list.item(i)->text();
-    }
-    return bare;
-}
-
-QStringList withoutIcon(const QComboBox &combo)
-{
-    QStringList bare;
-    for (int i = 0; i < combo.count(); ++i) {
-        if (combo.itemIcon(i).isNull())
-            bare << combo.itemText(i).trimmed();
-    }
-    return bare;
-}
-
-QStringList withoutIcon(QTreeWidget &tree)
-{
-    QStringList bare;
-    for (QTreeWidgetItemIterator it(&tree); *it; ++it) {
-        if ((*it)->icon(0).isNull())
-            bare << (*it)->text(0);
-    }
-    return bare;
-}
-
 // Keys as a person types them, one press and release each.
 void typeInto(QWidget *widget, const QString &text)
 {
@@ -152,76 +121,7 @@ void pressF1(QDialog &dialog)
     QApplication::sendEvent(target, &release);
 }
 
-class DialogIntegration : public ::testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        TestEnvironment::clearSettings();
-        ASSERT_EQ(CreateGlobalObjects(), 0);
-        gobjAdminData->setFirstUse(false);
-        gobjAdminData->setDisplayTips(false);
-        Images::initialise();
-        window = std::make_unique<frmMain>(false);
-        app = std::make_unique<Application>(window.get(), createView);
-        window->setApplication(app.get());
-        forms = std::make_unique<GuiFormFactory>(window.get());
-        IFormFactory::install(forms.get());
-        window->ShowWindow();
-        ASSERT_TRUE(RunStartup(*app, TestEnvironment::sampleRulebase()));
-        rulebase = app->rulebase();
-    }
-
-    void TearDown() override
-    {
-        IFormFactory::install(nullptr);
-        frmDefaultViolations::setObjectPicker({});
-        rulebase.reset();
-        window->setApplication(nullptr);
-        app->TerminateApplication();
-        forms.reset();
-        app.reset();
-        window.reset();
-        DestroyGlobalObjects();
-    }
-
-    std::shared_ptr<IRule> firstRuleOfType(qint32 ruleType) const
-    {
-        const auto all = rulebase->RuleLists()->AllConventions();
-        for (qint32 i = 1; i <= all->Count(); ++i) {
-            if (all->Item(i)->RuleType() == ruleType)
-                return all->Item(i);
-        }
-        return nullptr;
-    }
-
-    // Opens the rule in its dialog from the factory and runs `act` on it.
-    void openRule(qint32 ruleType, const char *dialogName, std::function<void(QDialog &)> act)
-    {
-        const std::shared_ptr<IRule> rule = firstRuleOfType(ruleType);
-        ASSERT_NE(rule, nullptr) << ruleType;
-        std::unique_ptr<IConventionForm> form
-            = IFormFactory::current().createConventionForm(ruleType);
-        ASSERT_NE(form, nullptr);
-        form->setConvention(rule);
-        form->setApplication(app.get());
-        bool seen = false;
-        whenModal(QLatin1String(dialogName), [&](QDialog &dialog) {
-            seen = true;
-            act(dialog);
-            click(dialog, "cmdCancel");
-        });
-        form->Show();
-        EXPECT_TRUE(seen) << dialogName;
-        EXPECT_TRUE(form->Cancelled());
-    }
-
-    ScriptedUserInterface ui;
-    std::unique_ptr<frmMain> window;
-    std::unique_ptr<Application> app;
-    std::unique_ptr<GuiFormFactory> forms;
-    std::shared_ptr<Rulebase> rulebase;
-};
+using DialogIntegration = GuiSample;
 
 } // namespace
 
@@ -324,43 +224,18 @@ TEST_F(DialogIntegration, AuthorisedItemsPickAPropertyOfTheirOwnObject)
     check(referenceDialog, QStringLiteral("Reference"), [&] { return reference.Advice(); });
 }
 
-TEST_F(DialogIntegration, CodingConventionShowsItsPicturesAndPicksPropertiesOrWorkfields)
+// A new rule's violation texts take placeholders of properties or workfields.
+TEST_F(DialogIntegration, CodingConventionPicksPropertiesOrWorkfields)
 {
-    // A rule of one event shows it in the image combos.
-    openRule(RuleTypes::CodingConvention, "frmCodingConvention", [&](QDialog &dialog) {
-        auto *icon = child<QLabel>(dialog, "imgIcon");
-        EXPECT_FALSE(icon->pixmap().isNull());
-        auto *eventCombo = child<QComboBox>(dialog, "imgcboEvent");
-        auto *pendingCombo = child<QComboBox>(dialog, "imgcboPending");
-        ASSERT_GT(eventCombo->count(), 0);
-        EXPECT_TRUE(withoutIcon(*eventCombo).isEmpty()) << joined(withoutIcon(*eventCombo));
-        ASSERT_GT(pendingCombo->count(), 0);
-        EXPECT_TRUE(withoutIcon(*pendingCombo).isEmpty()) << joined(withoutIcon(*pendingCombo));
-
-        // Another severity, another picture.
-        auto *severity = child<QComboBox>(dialog, "cboSeverity");
-        const qint64 before = icon->pixmap().cacheKey();
-        severity->setCurrentIndex(severity->currentIndex() == 0 ? 1 : 0);
-        EXPECT_FALSE(icon->pixmap().isNull());
-        EXPECT_NE(icon->pixmap().cacheKey(), before);
-    });
-
-    // A new rule picks its events in the tree, and the violation's texts take placeholders.
     window->tool(QStringLiteral("tlCodingConventions"))->trigger();
     bool seen = false;
     bool picked = false;
     whenModal(QStringLiteral("frmCodingConvention"), [&](QDialog &dialog) {
         seen = true;
-        auto *events = child<QTreeWidget>(dialog, "tvwEvent");
-        ASSERT_GT(events->topLevelItemCount(), 0);
-        EXPECT_TRUE(withoutIcon(*events).isEmpty()) << joined(withoutIcon(*events));
-
         auto *description = child<QPlainTextEdit>(dialog, "txtVDescription");
         whenModal(QStringLiteral("frmObjectProperty"), [&](QDialog &picker) {
             picked = true;
             EXPECT_EQ(picker.windowTitle(), QStringLiteral("Object Property/Workfield Selection"));
-            auto *objects = child<QListWidget>(picker, "lvwObject");
-            EXPECT_TRUE(withoutIcon(*objects).isEmpty()) << joined(withoutIcon(*objects));
             auto *properties = child<QListWidget>(picker, "lvwProperty");
             ASSERT_GT(properties->count(), 0);
             properties->setCurrentRow(0);
@@ -374,107 +249,6 @@ TEST_F(DialogIntegration, CodingConventionShowsItsPicturesAndPicksPropertiesOrWo
     window->tool(QStringLiteral("tlCodingConvention"))->trigger();
     EXPECT_TRUE(seen);
     EXPECT_TRUE(picked);
-}
-
-TEST_F(DialogIntegration, NamingConventionAndKeywordShowObjectPropertyAndSeverityPictures)
-{
-    openRule(RuleTypes::NamingConvention, "frmNamingConvention", [&](QDialog &dialog) {
-        EXPECT_FALSE(child<QLabel>(dialog, "imgIcon")->pixmap().isNull());
-        auto *objects = child<QComboBox>(dialog, "imgcboObject");
-        auto *properties = child<QComboBox>(dialog, "imgcboProperty");
-        ASSERT_GT(objects->count(), 0);
-        EXPECT_TRUE(withoutIcon(*objects).isEmpty()) << joined(withoutIcon(*objects));
-        EXPECT_TRUE(withoutIcon(*properties).isEmpty()) << joined(withoutIcon(*properties));
-    });
-    openRule(RuleTypes::UnauthorisedKeyword, "frmUnauthorisedKeyword", [&](QDialog &dialog) {
-        EXPECT_FALSE(child<QLabel>(dialog, "imgIcon")->pixmap().isNull());
-        bool picked = false;
-        whenModal(QStringLiteral("frmObjectProperty"), [&](QDialog &picker) {
-            picked = true;
-            EXPECT_EQ(picker.windowTitle(), QStringLiteral("Object Property Selection"));
-            click(picker, "cmdCancel");
-        });
-        click(dialog, "cmdObjectProperty_0");
-        EXPECT_TRUE(picked);
-    });
-}
-
-TEST_F(DialogIntegration, PickersDrawTheirObjectsPropertiesAndEvents)
-{
-    // Every property of a procedure has a picture: plain, tag or statistic.
-    frmObjectProperty picker;
-    picker.setSelectionMode(2);
-    picker.setObjectListType(ObjectListType::Everything);
-    bool seen = false;
-    whenModal(QStringLiteral("frmObjectProperty"), [&](QDialog &dialog) {
-        seen = true;
-        auto *objects = child<QListWidget>(dialog, "lvwObject");
-        EXPECT_TRUE(withoutIcon(*objects).isEmpty()) << joined(withoutIcon(*objects));
-        auto *properties = child<QListWidget>(dialog, "lvwProperty");
-        for (int row = 0; row < objects->count(); ++row) {
-            objects->setCurrentRow(row);
-            EXPECT_TRUE(withoutIcon(*properties).isEmpty())
-                << objects->item(row)->text().toStdString() << ": "
-                << joined(withoutIcon(*properties));
-        }
-        click(dialog, "cmdCancel");
-    });
-    picker.exec();
-    EXPECT_TRUE(seen);
-    EXPECT_TRUE(picker.UserSelection().isEmpty());
-
-    for (const qint32 ruleType : {4, 5}) {
-        frmParserEvent events;
-        events.setRuleType(ruleType);
-        seen = false;
-        whenModal(QStringLiteral("frmParserEvent"), [&](QDialog &dialog) {
-            seen = true;
-            auto *tree = child<QTreeWidget>(dialog, "tvwEvent");
-            ASSERT_GT(tree->topLevelItemCount(), 0);
-            EXPECT_TRUE(withoutIcon(*tree).isEmpty())
-                << ruleType << ": " << joined(withoutIcon(*tree));
-            click(dialog, "cmdCancel");
-        });
-        events.exec();
-        EXPECT_TRUE(seen);
-    }
-}
-
-TEST_F(DialogIntegration, AddFromProjectShowsThePictureOfItsTabAndOfTheSortedColumn)
-{
-    AddFromProject importer;
-    importer.setRulebase(rulebase);
-    auto candidate = std::make_shared<AuthorisedComponent>();
-    candidate->setFilename(QStringLiteral("GRID.OCX"));
-    candidate->setLibID(QStringLiteral("{00000000-0000-0000-0000-000000000001}"));
-    candidate->setVersionList(QStringLiteral("1.0"));
-    importer.ComponentList()->AddComponent(candidate);
-    AddFromProjectForm form(importer);
-    frmAddFromProject dialog(form);
-    dialog.show();
-
-    auto *components = child<QLabel>(dialog, "imgComponents");
-    auto *references = child<QLabel>(dialog, "imgReferences");
-    EXPECT_FALSE(components->pixmap().isNull());
-    EXPECT_FALSE(references->pixmap().isNull());
-    EXPECT_NE(components->pixmap().cacheKey(), references->pixmap().cacheKey());
-    EXPECT_TRUE(components->isVisible());
-    EXPECT_FALSE(references->isVisible());
-    child<QTabBar>(dialog, "tbsItems")->setCurrentIndex(1);
-    EXPECT_FALSE(components->isVisible());
-    EXPECT_TRUE(references->isVisible());
-    child<QTabBar>(dialog, "tbsItems")->setCurrentIndex(0);
-
-    auto *items = child<QTreeWidget>(dialog, "lvwItems");
-    ASSERT_EQ(items->topLevelItemCount(), 1);
-    EXPECT_TRUE(items->headerItem()->icon(1).isNull());
-    emit items->header()->sectionClicked(1);
-    const qint64 ascending = items->headerItem()->icon(1).cacheKey();
-    EXPECT_FALSE(items->headerItem()->icon(1).isNull());
-    EXPECT_TRUE(items->headerItem()->icon(0).isNull());
-    emit items->header()->sectionClicked(1);
-    EXPECT_FALSE(items->headerItem()->icon(1).isNull());
-    EXPECT_NE(items->headerItem()->icon(1).cacheKey(), ascending);
 }
 
 TEST_F(DialogIntegration, EveryDialogsHelpButtonAndF1OpenItsOwnPage)

@@ -1,5 +1,21 @@
 #include "GuiTestSupport.h"
 
+#include "application/Application.h"
+#include "application/Startup.h"
+#include "gui/dialogs/frmDefaultViolations.h"
+#include "gui/factory/GuiFormFactory.h"
+#include "gui/frmMain.h"
+#include "gui/window/Images.h"
+#include "platform/GlobalObjects.h"
+#include "platform/QuorinAdminData.h"
+#include "rulebase/Rulebase.h"
+#include "views/IViewController.h"
+#include "views/ViewFactory.h"
+#include "support/TestEnvironment.h"
+
+#include <QAction>
+#include <QFile>
+
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
@@ -39,4 +55,50 @@ void click(QWidget &parent, const char *button)
 {
     if (auto *push = child<QPushButton>(parent, button))
         push->click();
+}
+
+GuiSample::GuiSample() = default;
+GuiSample::~GuiSample() = default;
+
+void GuiSample::SetUp()
+{
+    TestEnvironment::clearSettings();
+    ASSERT_EQ(CreateGlobalObjects(), 0);
+    gobjAdminData->setFirstUse(false);
+    gobjAdminData->setDisplayTips(false);
+    Images::initialise();
+    file = TestEnvironment::makeTempDir() + QStringLiteral("/Sample.qrb");
+    ASSERT_TRUE(QFile::copy(TestEnvironment::sampleRulebase(), file));
+    QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner);
+    window = std::make_unique<frmMain>(false);
+    forms = std::make_unique<GuiFormFactory>(window.get());
+    IFormFactory::install(forms.get());
+    app = std::make_unique<Application>(window.get(), createView);
+    window->setApplication(app.get());
+    window->ShowWindow();
+    ASSERT_TRUE(RunStartup(*app, file));
+    rulebase = app->rulebase();
+}
+
+void GuiSample::TearDown()
+{
+    rulebase.reset();
+    if (app) {
+        app->TerminateApplication();
+        window->setApplication(nullptr);
+    }
+    app.reset();
+    IFormFactory::install(nullptr);
+    frmDefaultViolations::setObjectPicker({});
+    forms.reset();
+    window.reset();
+    DestroyGlobalObjects();
+}
+
+void GuiSample::trigger(const char *tool)
+{
+    QAction *action = window->tool(QLatin1String(tool));
+    ASSERT_NE(action, nullptr) << tool;
+    ASSERT_TRUE(action->isEnabled()) << tool;
+    action->trigger();
 }

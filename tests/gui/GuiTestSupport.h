@@ -24,3 +24,32 @@ T *child(QWidget &parent, const char *name)
 
 // Clicks the push button of this objectName.
 void click(QWidget &parent, const char *button);
+
+#include "support/ScriptedUserInterface.h"
+
+#include <memory>
+
+class Application;
+class GuiFormFactory;
+class Rulebase;
+class frmMain;
+
+// The main window with the real dialogs over a copy of the sample, opened as the program
+// starts it, and a scripted person. Tests may save the copy (`file`).
+class GuiSample : public ::testing::Test
+{
+protected:
+    GuiSample();
+    ~GuiSample() override;
+    void SetUp() override;
+    void TearDown() override;
+    // Triggers the main window's tool of this name, which must be enabled.
+    void trigger(const char *tool);
+
+    ScriptedUserInterface ui;
+    QString file;
+    std::unique_ptr<frmMain> window;
+    std::unique_ptr<Application> app;
+    std::unique_ptr<GuiFormFactory> forms;
+    std::shared_ptr<Rulebase> rulebase;
+};

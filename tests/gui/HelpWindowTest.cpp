@@ -107,20 +107,3 @@ TEST(HelpWindow, OpensThePageOfAContextIdOrATopicAndKeepsOneWindow)
     EXPECT_EQ(help->currentPage(), HelpTopics::searchPage());
     help->close();
 }
-
-TEST(HelpWindow, SearchFindsThePagesThatHoldEveryWord)
-{
-    const QStringList severity = HelpWindow::search(QStringLiteral("severity colour"));
-    EXPECT_TRUE(severity.contains(QStringLiteral("SeverityEditor.htm")));
-    EXPECT_FALSE(severity.contains(QStringLiteral("PatternTest.htm")));
-    EXPECT_TRUE(HelpWindow::search(QStringLiteral("UNALLOCATED")).contains(QStringLiteral("CategoryView.htm")));
-    EXPECT_TRUE(HelpWindow::search(QStringLiteral("zyxwvut")).isEmpty());
-    EXPECT_TRUE(HelpWindow::search(QStringLiteral("   ")).isEmpty());
-
-    HelpWindow *help = HelpWindow::instance();
-    help->findChild<QLineEdit *>(QStringLiteral("txtSearch"))->setText(QStringLiteral("pending violation"));
-    emit help->findChild<QLineEdit *>(QStringLiteral("txtSearch"))->returnPressed();
-    const QString results = help->browser()->toHtml();
-    EXPECT_TRUE(results.contains(QStringLiteral("CodingConvention.htm")));
-    help->close();
-}

@@ -269,27 +269,6 @@ TEST(RuleEditor, PickersAndCompletionInsertTheVocabulary)
     EXPECT_TRUE(ui.messages.empty());
 }
 
-// Without installed answers the condition editor's pickers are the real picker dialogs.
-TEST(RuleEditorPickers, DefaultPickersAreThePickerDialogsAndCancelGivesNothing)
-{
-    QStringList shown;
-    auto closeModal = [&] {
-        QTimer::singleShot(0, [&] {
-            if (QWidget *modal = QApplication::activeModalWidget()) {
-                shown << modal->objectName();
-                modal->close();
-            }
-        });
-    };
-    closeModal();
-    EXPECT_TRUE(RuleEditorPickers::pickParserEvent(nullptr, RuleTypes::CodingConvention).isEmpty());
-    closeModal();
-    RuleEditorPickers::ObjectRequest request;
-    request.listType = ObjectListType::Everything;
-    EXPECT_TRUE(RuleEditorPickers::pickObject(nullptr, request).isEmpty());
-    EXPECT_EQ(shown, (QStringList{QStringLiteral("frmParserEvent"), QStringLiteral("frmObjectProperty")}));
-}
-
 TEST(RuleEditor, EditingCommandsStandInBothMenusAndWorkOnWholeLines)
 {
     ScriptedUserInterface ui;

@@ -46,53 +46,7 @@
 
 namespace {
 
-class RulebaseDialogs : public ::testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        TestEnvironment::clearSettings();
-        ASSERT_EQ(CreateGlobalObjects(), 0);
-        gobjAdminData->setFirstUse(false);
-        gobjAdminData->setDisplayTips(false);
-        window = std::make_unique<frmMain>(false);
-        app = std::make_unique<Application>(window.get(), createView);
-        window->setApplication(app.get());
-        forms = std::make_unique<GuiFormFactory>(window.get());
-        IFormFactory::install(forms.get());
-        window->ShowWindow();
-        ASSERT_TRUE(RunStartup(*app, TestEnvironment::sampleRulebase()));
-        rulebase = app->rulebase();
-    }
-
-    void TearDown() override
-    {
-        IFormFactory::install(nullptr);
-        rulebase.reset();
-        if (window) {
-            window->setApplication(nullptr);
-            app->TerminateApplication();
-        }
-        forms.reset();
-        app.reset();
-        window.reset();
-        DestroyGlobalObjects();
-    }
-
-    void trigger(const char *tool)
-    {
-        QAction *action = window->tool(QLatin1String(tool));
-        ASSERT_NE(action, nullptr);
-        ASSERT_TRUE(action->isEnabled()) << tool;
-        action->trigger();
-    }
-
-    ScriptedUserInterface ui;
-    std::unique_ptr<frmMain> window;
-    std::unique_ptr<Application> app;
-    std::unique_ptr<GuiFormFactory> forms;
-    std::shared_ptr<Rulebase> rulebase;
-};
+using RulebaseDialogs = GuiSample;
 
 } // namespace
 

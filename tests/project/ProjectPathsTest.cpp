@@ -71,6 +71,33 @@ TEST_F(ProjectPaths, FindsFilesIgnoringCaseThroughFoldersWithSpacesAndDotDot)
     }
 }
 
+// On a case-sensitive file system each segment is matched ignoring case; what can't be walked
+// comes back as it was given.
+TEST_F(ProjectPaths, ResolvingTakesEverySpellingAndGivesBackWhatItCannotWalk)
+{
+    const QString real = writeFile(QStringLiteral("My Projects/Tools Dir/Form One.frm"), "x");
+    const QString folder = path(QStringLiteral("My Projects/Tools Dir/"));
+    const QString found[] = {
+        m_dir + QStringLiteral("/MY PROJECTS/tools dir/form one.FRM"),
+        m_dir + QStringLiteral("\\my projects\\TOOLS DIR\\Form One.frm"),
+        m_dir + QStringLiteral("/my projects/./x/../Tools Dir//FORM ONE.FRM"),
+    };
+    for (const QString &spelling : found)
+        EXPECT_EQ(CaseInsensitivePath::resolve(spelling), real) << spelling.toStdString();
+    const QString unchanged[] = {
+        QString(),
+        QStringLiteral("/"),
+        folder,
+        QStringLiteral("//server/share/a.vbp"),
+        QStringLiteral("C:\\x\\a.vbp"),
+        QStringLiteral("no-such-folder/a.vbp"),
+        m_dir + QStringLiteral("/my projects/gone/Form One.frm"),
+        real + QStringLiteral("/below a file"),
+    };
+    for (const QString &given : unchanged)
+        EXPECT_EQ(CaseInsensitivePath::resolve(given), given) << given.toStdString();
+}
+
 TEST_F(ProjectPaths, GroupFileListsProjectLinesInOrderWithDuplicates)
 {
     const QString app = writeFile(QStringLiteral("grp/App/App.vbp"), "Type=Exe\r\n");

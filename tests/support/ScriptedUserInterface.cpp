@@ -1,6 +1,7 @@
 #include "support/ScriptedUserInterface.h"
 
 #include "platform/FileUtils.h"
+#include "platform/QuorinError.h"
 
 ScriptedUserInterface::ScriptedUserInterface()
 {
@@ -21,6 +22,8 @@ MessageResult ScriptedUserInterface::messageBox(const QString &text,
     messages.push_back({text, buttons, icon, title, defaultButton});
     if (buttons == MessageButtons::OK)
         return MessageResult::OK;
+    if (failQuestions)
+        throw QuorinError(ErrorNumber::ObjectNotSet, QStringLiteral("ScriptedUserInterface"), text);
     if (answers.empty()) {
         ++unscriptedQuestions;
         return buttons == MessageButtons::YesNoCancel || buttons == MessageButtons::OKCancel

@@ -55,6 +55,9 @@ public:
     // Answers to text prompts, in order; nullopt or an empty script means Cancel.
     std::deque<std::optional<QString>> textAnswers;
 
+    // Questions (not plain messages) fail with an error, as a broken interface would.
+    bool failQuestions = false;
+
     std::vector<ShownMessage> messages;
     std::vector<FileDialogRequest> fileRequests;
     std::vector<HelpRequest> helpRequests;

@@ -4,43 +4,17 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseManager.h"
 #include "views/CommandTable.h"
+#include "views/IViewController.h"
 #include "views/ToolDispatcher.h"
+#include "views/ViewFactory.h"
 
+#include "support/MemoryMainForm.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
 #include <QSet>
 
 #include <gtest/gtest.h>
-
-namespace {
-
-class RecordingForm final : public IMainForm
-{
-public:
-    void Update() override { calls << QStringLiteral("Update"); }
-    void AddToMRUList(const QString &f) override { calls << QStringLiteral("MRU ") + f; }
-    void RemoveFromMRUList(const QString &) override {}
-    void SetCurrentViewTool(const QString &v) override { calls << QStringLiteral("View ") + v; }
-    void SetHelpContext(int) override {}
-    void SetBusy(bool) override {}
-    void ShowSplashScreen() override {}
-    void ShowWindow() override {}
-    int RunTipOfDay(int last) override { return last; }
-    void RunAbout() override { calls << QStringLiteral("About"); }
-    TreeControl *tree() override { return nullptr; }
-    ListControl *list() override { return nullptr; }
-    void setDocumentation(const QString &) override {}
-    void setStatusText(const QString &) override {}
-    void setTreeTitle(const QString &) override {}
-    void setListTitle(const QString &) override {}
-    void setListHeaderImage(const QString &) override {}
-    void setNoItemsVisible(bool) override {}
-    void setToolEnabled(const QString &, bool) override {}
-    QStringList calls;
-};
-
-} // namespace
 
 TEST(CommandTable, EveryBandNamesKnownToolsAndEverySubMenuExists)
 {
@@ -63,6 +37,13 @@ TEST(CommandTable, EveryBandNamesKnownToolsAndEverySubMenuExists)
             EXPECT_TRUE(placed.contains(QString::fromLatin1(tool.id).toLower())) << tool.id << " is on no band";
         }
     }
+    // Only the views and the window parts that are shown or hidden carry a check mark.
+    for (const ToolDefinition &tool : CommandTable::tools()) {
+        const QString id = QLatin1String(tool.id);
+        const bool windowPart = id.endsWith(QLatin1String("Toolbar")) || id.endsWith(QLatin1String("Bar"))
+                                || id.endsWith(QLatin1String("Window"));
+        EXPECT_EQ(tool.checkable, windowPart || createView(id) != nullptr) << tool.id;
+    }
     EXPECT_EQ(CommandTable::findTool(QStringLiteral("TLDELETERULE"))->toolbarCaption, std::string_view("&Delete Rule"));
     EXPECT_EQ(CommandTable::findTool(QStringLiteral("nothing")), nullptr);
 }
@@ -70,7 +51,7 @@ TEST(CommandTable, EveryBandNamesKnownToolsAndEverySubMenuExists)
 TEST(ToolDispatcher, ToolsReachTheApplicationAndWindowToolsAreLeftToTheWindow)
 {
     ScriptedUserInterface ui;
-    RecordingForm form;
+    MemoryMainForm form;
     Application app(&form);
 
     EXPECT_TRUE(ExecuteTool(app, QStringLiteral("tlSeverityView")));
@@ -87,10 +68,10 @@ TEST(ToolDispatcher, ToolsReachTheApplicationAndWindowToolsAreLeftToTheWindow)
     ui.openAnswers = {path};
     form.calls.clear();
     EXPECT_TRUE(ExecuteTool(app, QStringLiteral("tlOpenRulebase")));
-    EXPECT_TRUE(form.calls.contains(QStringLiteral("MRU ") + path));
+    EXPECT_TRUE(form.calls.contains(QStringLiteral("AddToMRUList ") + path));
     form.calls.clear();
     EXPECT_TRUE(OpenRecentFile(app, path));
-    EXPECT_TRUE(form.calls.contains(QStringLiteral("MRU ") + path));
+    EXPECT_TRUE(form.calls.contains(QStringLiteral("AddToMRUList ") + path));
     EXPECT_FALSE(OpenRecentFile(app, path + QStringLiteral(".gone")));
     EXPECT_TRUE(ui.messages.back().text.startsWith(QStringLiteral("Can't find the rulebase")));
 }

@@ -73,12 +73,27 @@ qint32 categoryOf(const Rulebase &rulebase, const QString &key)
 
 } // namespace
 
-TEST(DragDrop, PayloadJoinsKeysAndTheDropReadsUpToTheDoubleBar)
+// The payload a list drag carries, and what a drop reads of whatever data arrives.
+TEST(DragDrop, PayloadJoinsKeysAndTheDropReadsUpToTheFirstDoubleBar)
 {
     EXPECT_EQ(DragDrop::payload({QStringLiteral("5001Key"), QStringLiteral("5002Key")}),
               QStringLiteral("5001Key|5002Key||"));
-    EXPECT_EQ(DragDrop::keyList(QStringLiteral("5001Key|5002Key||junk")), QStringLiteral("5001Key|5002Key"));
-    EXPECT_EQ(DragDrop::keyList(QStringLiteral("5001Key")), QStringLiteral("5001Key"));
+    EXPECT_EQ(DragDrop::payload({}), QStringLiteral("||"));
+    const std::pair<const char *, const char *> drops[] = {
+        {"5001Key|5002Key||junk", "5001Key|5002Key"},
+        {"5001Key", "5001Key"}, // no terminator: all of it
+        {"", ""},
+        {"||", ""},
+        {"|||", ""},
+        {"a|||b||", "a"},
+        {"a|b|", "a|b|"},
+        {"||a||", ""},
+    };
+    for (const auto &[data, keys] : drops)
+        EXPECT_EQ(DragDrop::keyList(QString::fromLatin1(data)), QString::fromLatin1(keys)) << data;
+    for (const QStringList &keys : {QStringList{}, QStringList{QStringLiteral("1Key")},
+                                    QStringList{QStringLiteral("a"), QStringLiteral("b c")}})
+        EXPECT_EQ(DragDrop::keyList(DragDrop::payload(keys)), keys.join(QLatin1Char('|')));
 }
 
 TEST(CategoryDragDrop, RowsDraggedOntoACategoryTakeItAndLeaveTheList)

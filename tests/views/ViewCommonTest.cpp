@@ -306,26 +306,3 @@ TEST(UIListUtils, PickersGetTitlesWithIdsAndAMissingListLeavesThemEmpty)
     modUIListUtils::PopulateCategoryListControl(combo, &empty);
     EXPECT_TRUE(combo.entries.isEmpty());
 }
-
-TEST(ViewCommon, TenThousandRowsFillSortAndFindByKey)
-{
-    const auto rulebase = ViewTest::loadSample();
-    MemoryListControl list;
-    list.setSorted(true);
-    list.setSortOrder(1);
-    std::vector<std::shared_ptr<CodingConvention>> rules;
-    for (int i = 0; i < 10000; ++i) {
-        auto rule = std::make_shared<CodingConvention>();
-        rule->setRuleID(5000 + i);
-        rule->setTitle(QString::number(i % 97));
-        rule->ViolationDefinition()->setSeverity(
-            rulebase->SeverityList()->Item(1)->SeverityLevel());
-        AddRuleToList(*rule, list, *rulebase->CategoryList(), *rulebase->SeverityList());
-        rules.push_back(rule);
-    }
-    ASSERT_EQ(list.count(), 10000);
-    list.setSorted(true);                            // puts the appended rows in order, once
-    EXPECT_EQ(list.text(1), QStringLiteral("9999")); // by text: "9999" above "14999"
-    for (const auto &rule : rules)
-        ASSERT_EQ(list.key(list.find(rule->RuleKey())), rule->RuleKey());
-}

@@ -98,32 +98,6 @@ QString withCount(const QString &text, int count)
     return count > 0 ? text + " (" + QString::number(count) + ")" : text;
 }
 
-// A window without tree and list, as the GUI has until its adapters exist.
-class NoControlsForm final : public IMainForm
-{
-public:
-    void Update() override {}
-    void AddToMRUList(const QString &) override {}
-    void RemoveFromMRUList(const QString &) override {}
-    void SetCurrentViewTool(const QString &) override {}
-    void SetHelpContext(int) override {}
-    void SetBusy(bool) override {}
-    void ShowSplashScreen() override {}
-    void ShowWindow() override {}
-    int RunTipOfDay(int last) override { return last; }
-    void RunAbout() override {}
-    TreeControl *tree() override { return nullptr; }
-    ListControl *list() override { return nullptr; }
-    void setDocumentation(const QString &) override {}
-    void setStatusText(const QString &) override {}
-    void setTreeTitle(const QString &text) override { treeTitle = text; }
-    void setListTitle(const QString &) override {}
-    void setListHeaderImage(const QString &) override {}
-    void setNoItemsVisible(bool) override {}
-    void setToolEnabled(const QString &, bool) override {}
-    QString treeTitle;
-};
-
 } // namespace
 
 TEST(CodingConventionsView, ShowsEveryConventionAtTheRootWithTitlesCountsAndTools)
@@ -492,7 +466,8 @@ TEST(ViewFactory, ViewsBearAWindowWithoutTreeAndList)
 {
     ViewTest::AdminDataScope settings;
     ScriptedUserInterface ui;
-    NoControlsForm form;
+    MemoryMainForm form;
+    form.controls = false; // as the GUI has until its adapters exist
     Application app(&form, createView);
     ASSERT_TRUE(
         app.OpenRulebase(Application::OpenMode::CommandLine, TestEnvironment::sampleRulebase()));

@@ -10,9 +10,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -55,133 +58,120 @@ public:
 
 } // namespace
 
-TEST(ParserEventCatalogue, HoldsThirtySevenEventsInIdOrderWithDistinctPlacesAndTexts)
+// Places are a permutation, texts unique, each end event after its begin event at its depth,
+// and every help scope names catalogue objects, the project last.
+TEST(ParserEventCatalogue, IsConsistentWithItselfAndTheObjectCatalogue)
 {
     const auto events = ParserEventCatalogue::events();
-    ASSERT_EQ(events.size(), 37u);
     QSet<int> places;
     QSet<QString> texts;
-    for (qsizetype i = 0; i < qsizetype(events.size()); ++i) {
-        EXPECT_EQ(events[i].id, i + 1);
-        EXPECT_TRUE(events[i].place >= 1 && events[i].place <= 37) << events[i].id;
-        places.insert(events[i].place);
-        texts.insert(events[i].text.toString().toLower());
-    }
-    EXPECT_EQ(places.size(), 37);
-    EXPECT_EQ(texts.size(), 37);
-}
-
-TEST(ParserEventCatalogue, EachEndEventSitsAtTheDepthOfItsBeginEventAndAfterIt)
-{
     int ends = 0;
-    for (const auto &event : ParserEventCatalogue::events()) {
+    for (qsizetype i = 0; i < qsizetype(events.size()); ++i) {
+        const auto &event = events[i];
+        EXPECT_EQ(event.id, i + 1);
+        EXPECT_TRUE(event.place >= 1 && event.place <= qsizetype(events.size())) << event.id;
+        places.insert(event.place);
+        texts.insert(event.text.toString().toLower());
         const QString text = event.text.toString();
-        if (!text.startsWith(QStringLiteral("end ")))
-            continue;
-        ++ends;
-        const auto *begin = ParserEventCatalogue::findEvent(
-            VBParserEvents::ParserEventIDFromText(QStringLiteral("begin ") + text.mid(4)));
-        ASSERT_NE(begin, nullptr) << text.toStdString();
-        EXPECT_EQ(event.indent, begin->indent) << text.toStdString();
-        EXPECT_GT(event.place, begin->place) << text.toStdString();
-    }
-    EXPECT_EQ(ends, 8);
-}
-
-TEST(ParserEventCatalogue, ScopeLinesNameCatalogueObjectsEndingWithTheProject)
-{
-    for (const auto &event : ParserEventCatalogue::events()) {
+        EXPECT_EQ(VBParserEvents::ParserEventIDFromText(text.toUpper()), event.id);
+        if (text.startsWith(u"end "_s)) {
+            ++ends;
+            const auto *begin = ParserEventCatalogue::findEvent(
+                VBParserEvents::ParserEventIDFromText(u"begin "_s + text.mid(4)));
+            ASSERT_NE(begin, nullptr) << qPrintable(text);
+            EXPECT_EQ(event.indent, begin->indent) << qPrintable(text);
+            EXPECT_GT(event.place, begin->place) << qPrintable(text);
+        }
         QString scope = event.helpScope.toString();
-        ASSERT_TRUE(scope.startsWith(QStringLiteral("In scope: "))) << event.id;
-        scope = scope.mid(10).section(QLatin1Char('.'), 0, 0);
-        const QStringList objects = scope.split(QStringLiteral(", "));
-        EXPECT_EQ(objects.last(), QStringLiteral("Project")) << event.id;
+        ASSERT_TRUE(scope.startsWith(u"In scope: "_s)) << event.id;
+        const QStringList objects = scope.mid(10).section(u'.', 0, 0).split(u", "_s);
+        EXPECT_EQ(objects.last(), u"Project"_s) << event.id;
         for (const QString &object : objects)
-            EXPECT_NE(ObjectHelper::ObjectIDFromName(object), 0) << object.toStdString();
+            EXPECT_NE(ObjectHelper::ObjectIDFromName(object), 0) << qPrintable(object);
     }
+    EXPECT_EQ(places.size(), qsizetype(events.size()));
+    EXPECT_EQ(texts.size(), qsizetype(events.size()));
+    EXPECT_EQ(ends, qsizetype(ParserEventCatalogue::endEvents().size()));
     // References belong to the project file, outside any source file.
     EXPECT_EQ(ParserEventCatalogue::findEvent(26)->helpScope, u"In scope: Reference, Project.");
 }
 
-TEST(VBParserEvents, KeysPutTheNumberFirstAndUnknownIdsGetFallbacksWithoutLogging)
+TEST(VBParserEvents, KeysTextsIconsAndHelpWithFallbacksForUnknownIds)
 {
     LogCapture log;
-    EXPECT_EQ(VBParserEvents::ParserEventKey(26), QStringLiteral("26Key"));
-    EXPECT_EQ(VBParserEvents::ParserEventKey(0), QStringLiteral("0Key"));
-    EXPECT_EQ(VBParserEvents::ParserEventKey(-1), QStringLiteral("-1Key"));
+    EXPECT_EQ(VBParserEvents::ParserEventKey(26), u"26Key"_s);
+    EXPECT_EQ(VBParserEvents::ParserEventKey(-1), u"-1Key"_s);
     for (qint32 id : {0, 38, -1}) {
-        EXPECT_EQ(VBParserEvents::ParserEventText(id), QStringLiteral("Unknown Event"));
-        EXPECT_EQ(VBParserEvents::ParserEventHelp(id), QStringLiteral("Unknown Parser Event"));
-        EXPECT_EQ(VBParserEvents::ParserEventIcon(id), QStringLiteral("Event"));
+        EXPECT_EQ(VBParserEvents::ParserEventText(id), u"Unknown Event"_s);
+        EXPECT_EQ(VBParserEvents::ParserEventHelp(id), u"Unknown Parser Event"_s);
+        EXPECT_EQ(VBParserEvents::ParserEventIcon(id), u"Event"_s);
     }
     EXPECT_TRUE(log.records().isEmpty());
-}
-
-TEST(VBParserEvents, TextsIconsAndHelpMatchTheVocabulary)
-{
-    EXPECT_EQ(
-        VBParserEvents::ParserEventHelp(1),
-        QStringLiteral("The parser fires this event when the next project review begins.\r\n\r\n"
-                       "In scope: Project."));
-    EXPECT_EQ(VBParserEvents::ParserEventText(15), QStringLiteral("Enum <body>"));
-    // Begin events have the plain picture, their bodies one of their own.
-    EXPECT_EQ(VBParserEvents::ParserEventIcon(14), QStringLiteral("Event"));
-    EXPECT_EQ(VBParserEvents::ParserEventIcon(15), QStringLiteral("Enum"));
-    EXPECT_EQ(VBParserEvents::ParserEventIcon(21), QStringLiteral("Event"));
-    EXPECT_EQ(VBParserEvents::ParserEventIcon(22), QStringLiteral("Type"));
-    EXPECT_EQ(VBParserEvents::ParserEventIcon(18), QStringLiteral("WithEvents"));
-    // The three argument events differ only in their bracket.
+    EXPECT_EQ(VBParserEvents::ParserEventHelp(1),
+              u"The parser fires this event when the next project review begins.\r\n\r\n"
+              "In scope: Project."_s);
+    EXPECT_EQ(VBParserEvents::ParserEventText(15), u"Enum <body>"_s);
+    EXPECT_EQ(VBParserEvents::ParserEventIcon(15), u"Enum"_s);
     const std::pair<qint32, const char *> arguments[]
         = {{13, "Declare"}, {19, "Event"}, {29, "Procedure"}};
     for (const auto &[id, owner] : arguments) {
-        EXPECT_EQ(VBParserEvents::ParserEventIcon(id), QStringLiteral("Argument"));
+        EXPECT_EQ(VBParserEvents::ParserEventIcon(id), u"Argument"_s);
         EXPECT_EQ(VBParserEvents::ParserEventText(id),
-                  QStringLiteral("Argument (%1)").arg(QLatin1String(owner)));
+                  u"Argument (%1)"_s.arg(QLatin1String(owner)));
     }
+    for (const QString &text : {u"Argument"_s, u"begin Project "_s, QString()})
+        EXPECT_EQ(VBParserEvents::ParserEventIDFromText(text), 0);
 }
 
-TEST(VBParserEvents, EventIdFromTextIgnoresCaseAndGivesZeroForUnknownTexts)
+// The full combo runs in firing order at the catalogue's depths; the end combo offers each
+// closing event once, below the closing events that enclose it; both refill from empty.
+TEST(VBParserEvents, CombosFollowTheCatalogue)
 {
-    EXPECT_EQ(VBParserEvents::ParserEventIDFromText(QStringLiteral("BEGIN project")), 1);
-    EXPECT_EQ(VBParserEvents::ParserEventIDFromText(QStringLiteral("Argument")), 0);
-    EXPECT_EQ(VBParserEvents::ParserEventIDFromText(QStringLiteral("begin Project ")), 0);
-    EXPECT_EQ(VBParserEvents::ParserEventIDFromText(QString()), 0);
-    for (qint32 id = 1; id <= 37; ++id)
-        EXPECT_EQ(VBParserEvents::ParserEventIDFromText(VBParserEvents::ParserEventText(id)), id);
-}
+    std::vector<std::pair<qint32, int>> byPlace;
+    for (const auto &event : ParserEventCatalogue::events())
+        byPlace.emplace_back(event.place, event.id);
+    std::sort(byPlace.begin(), byPlace.end());
+    std::vector<std::pair<qint32, int>> expected;
+    for (const auto &[place, id] : byPlace)
+        expected.emplace_back(id, ParserEventCatalogue::findEvent(id)->indent);
 
-TEST(VBParserEvents, FullComboRunsInFiringOrderAndRefillsFromEmpty)
-{
     RecordingCombo combo;
-    combo.items.push_back({QStringLiteral("stale"), {}, {}, 0});
+    combo.items.push_back({u"stale"_s, {}, {}, 0});
     VBParserEvents::PopulateCCEventsImageCombo(combo);
     VBParserEvents::PopulateCCEventsImageCombo(combo);
-
-    std::vector<qint32> order;
-    for (const auto &[id, indent] : combo.idsAndIndents())
-        order.push_back(id);
-    // Numeric order, except that Reference follows begin Project and the local variable comes
-    // before the line label.
-    const std::vector<qint32> expected
-        = {1,  26, 2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 14, 15, 16, 17, 18,
-           19, 20, 21, 22, 23, 24, 25, 27, 28, 29, 30, 31, 33, 32, 34, 35, 36, 37};
-    EXPECT_EQ(order, expected);
-    ASSERT_EQ(combo.items.size(), 37u);
-    EXPECT_EQ(combo.items[1].text, QStringLiteral("Reference"));
-    EXPECT_EQ(combo.items[1].image, QStringLiteral("Reference"));
-    EXPECT_EQ(combo.items[1].indentation, 1);
-    EXPECT_EQ(combo.items[16].indentation, 8); // Enum element, among the deepest
-}
-
-TEST(VBParserEvents, EndComboOffersTheEightClosingEventsOutermostFirst)
-{
-    RecordingCombo combo;
-    VBParserEvents::PopulateCCEndEventsImageCombo(combo);
-    VBParserEvents::PopulateCCEndEventsImageCombo(combo);
-    const std::vector<std::pair<qint32, int>> expected
-        = {{37, 0}, {36, 1}, {35, 2}, {8, 3}, {27, 3}, {17, 4}, {24, 4}, {34, 3}};
     EXPECT_EQ(combo.idsAndIndents(), expected);
-    EXPECT_EQ(combo.items.at(3).text, QStringLiteral("end Layout"));
+    EXPECT_EQ(expected[1].first, 26); // Reference follows begin Project
+    for (const auto &item : combo.items) {
+        EXPECT_EQ(item.text, VBParserEvents::ParserEventText(Text::valLong(item.key)));
+        EXPECT_EQ(item.image, VBParserEvents::ParserEventIcon(Text::valLong(item.key)));
+    }
+
+    RecordingCombo ends;
+    VBParserEvents::PopulateCCEndEventsImageCombo(ends);
+    VBParserEvents::PopulateCCEndEventsImageCombo(ends);
+    std::vector<const ParserEventCatalogue::EventRow *> closing;
+    for (const auto &event : ParserEventCatalogue::events()) {
+        if (event.text.startsWith(u"end "))
+            closing.push_back(&event);
+    }
+    ASSERT_EQ(ends.items.size(), closing.size());
+    QSet<qint32> shown;
+    for (const auto &[id, indent] : ends.idsAndIndents()) {
+        const auto *event = ParserEventCatalogue::findEvent(id);
+        ASSERT_TRUE(event && event->text.startsWith(u"end ")) << id;
+        QSet<int> enclosing; // the depths of closing events fired later from a shallower depth
+        bool parentShown = indent == 0;
+        for (const auto *other : closing) {
+            if (other->place > event->place && other->indent < event->indent) {
+                enclosing.insert(other->indent);
+                parentShown |= shown.contains(other->id);
+            }
+        }
+        EXPECT_EQ(indent, enclosing.size()) << id;
+        EXPECT_TRUE(parentShown) << id;
+        shown.insert(id);
+    }
+    EXPECT_EQ(ends.items.at(3).text, u"end Layout"_s);
 }
 
 TEST(VBParserEvents, AFailingComboIsReportedAndKeepsWhatItHolds)
@@ -191,16 +181,15 @@ TEST(VBParserEvents, AFailingComboIsReportedAndKeepsWhatItHolds)
     combo.failAtAdd = 5;
     VBParserEvents::PopulateCCEventsImageCombo(combo);
     // Each item is added under its own frame, so the others still arrive.
-    EXPECT_EQ(combo.items.size(), 36u);
+    EXPECT_EQ(combo.items.size(), ParserEventCatalogue::events().size() - 1);
     ASSERT_EQ(log.records().size(), 1);
-    EXPECT_EQ(log.lastRecordFields().value(0), QStringLiteral("Error"));
-    EXPECT_EQ(log.lastRecordFields().value(2),
-              QStringLiteral("C_VBParserEvents::AddImageComboItem"));
+    EXPECT_EQ(log.lastRecordFields().value(0), u"Error"_s);
+    EXPECT_EQ(log.lastRecordFields().value(2), u"C_VBParserEvents::AddImageComboItem"_s);
 
     RecordingCombo broken;
     broken.failClear = true;
     VBParserEvents::PopulateCCEndEventsImageCombo(broken);
     EXPECT_EQ(broken.adds, 0);
     EXPECT_EQ(log.lastRecordFields().value(2),
-              QStringLiteral("C_VBParserEvents::PopulateCCEndEventsImageCombo"));
+              u"C_VBParserEvents::PopulateCCEndEventsImageCombo"_s);
 }

@@ -1,5 +1,6 @@
 #include "XmlTestSupport.h"
 
+#include "support/TestEnvironment.h"
 #include "xml/TarnXMLDoc.h"
 #include "xml/TarnXMLElement.h"
 
@@ -7,127 +8,83 @@
 #include <QFile>
 #include <QFileInfo>
 
-#ifdef Q_OS_UNIX
-#include <unistd.h>
-#endif
+using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr qint32 InvalidPath = qint32(0x80070003u);
 constexpr qint32 AccessDenied = qint32(0x80070005u);
 
-bool runningAsRoot()
-{
-#ifdef Q_OS_UNIX
-    return ::geteuid() == 0;
-#else
-    return false;
-#endif
-}
-
 } // namespace
 
 using DocumentTest = XmlTest;
 
-TEST_F(DocumentTest, NewDocLeavesAnEmptyRoot)
+TEST_F(DocumentTest, NewDocAndAFailedLoadLeaveAnEmptyRoot)
 {
     TarnXMLDoc doc;
-    doc.NewDoc(QStringLiteral("Quorin_Rulebase"));
+    EXPECT_EQ(doc.RootElement().ElementName(), u"Root_Element"_s); // made when there is none
+    doc.NewDoc(u"Quorin_Rulebase"_s);
     EXPECT_EQ(doc.RootElement().ElementCount(), 0);
-    EXPECT_EQ(doc.RootElement().ElementName(), QStringLiteral("Quorin_Rulebase"));
-    EXPECT_EQ(doc.XMLString(), QStringLiteral("<Quorin_Rulebase/>"));
+    EXPECT_EQ(doc.XMLString(), u"<Quorin_Rulebase/>"_s);
+    EXPECT_FALSE(doc.LoadFromString(u"<a>"_s));
+    EXPECT_EQ(doc.RootElement().ElementName(), u"Root_Element"_s);
+    EXPECT_EQ(doc.RootElement().ElementCount(), 0);
 }
 
-TEST_F(DocumentTest, RootElementMakesARootWhenThereIsNone)
+TEST_F(DocumentTest, LoadKeepsElementsOnlyInTheFilesEncoding)
 {
     TarnXMLDoc doc;
-    TarnXMLElement root = doc.RootElement();
-    EXPECT_EQ(root.ElementName(), QStringLiteral("Root_Element"));
-    EXPECT_EQ(root.ElementCount(), 0);
-    // The same after a failed load, which leaves the document empty.
-    EXPECT_FALSE(doc.LoadFromString(QStringLiteral("<a>")));
-    EXPECT_EQ(doc.RootElement().ElementName(), QStringLiteral("Root_Element"));
-}
-
-TEST_F(DocumentTest, LoadKeepsElementsOnly)
-{
-    const QString file = writeFile(
-        QStringLiteral("edited.qrb"),
+    ASSERT_TRUE(doc.LoadFromFile(writeFile(
+        u"edited.qrb"_s,
         "<?xml version=\"1.0\"?>\n<!-- edited by hand -->\n<Root>\n  <A>\r\n  </A>\n\t<?note x?>\n"
-        "  <!-- a comment -->\n  <B x=\"1\"/>\n</Root>\n<!-- trailer -->\n");
-    TarnXMLDoc doc;
-    ASSERT_TRUE(doc.LoadFromFile(file));
-    const TarnXMLElement root = doc.RootElement();
-    ASSERT_EQ(root.ElementCount(), 2);
-    EXPECT_EQ(root.ElementAtPosition(0).ElementCount(), 0);
-    EXPECT_EQ(root.ElementAtPosition(1).ElementName(), QStringLiteral("B"));
-    EXPECT_EQ(doc.XMLString(), QStringLiteral("<Root><A/><B x=\"1\"/></Root>"));
-}
+        "  <!-- a comment -->\n  <B x=\"1\"/>\n</Root>\n<!-- trailer -->\n")));
+    EXPECT_EQ(doc.XMLString(), u"<Root><A/><B x=\"1\"/></Root>"_s);
 
-TEST_F(DocumentTest, EncodingsOfFiles)
-{
-    TarnXMLDoc doc;
-    // No declaration: UTF-8.
-    ASSERT_TRUE(doc.LoadFromFile(writeFile(QStringLiteral("utf8.qrb"), "<R a=\"\xC3\xA9\"/>")));
-    EXPECT_EQ(doc.RootElement().AttributeValueByName(QStringLiteral("a")), QStringLiteral("é"));
-    ASSERT_TRUE(doc.LoadFromFile(writeFile(QStringLiteral("latin1.qrb"),
-                                           "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>"
-                                           "<R a=\"\xE9\"/>")));
-    EXPECT_EQ(doc.RootElement().AttributeValueByName(QStringLiteral("a")), QStringLiteral("é"));
+    const std::pair<const char *, QByteArray> files[]
+        = {{"utf8.qrb", "<R a=\"\xC3\xA9\"/>"}, // no declaration: UTF-8
+           {"latin1.qrb", "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><R a=\"\xE9\"/>"}};
+    for (const auto &[name, bytes] : files) {
+        ASSERT_TRUE(doc.LoadFromFile(writeFile(QString::fromLatin1(name), bytes))) << name;
+        EXPECT_EQ(doc.RootElement().AttributeValueByName(u"a"_s), u"é"_s) << name;
+    }
     // A string is text already, whatever its declaration claims.
-    ASSERT_TRUE(doc.LoadFromString(
-        QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-16\"?><R a=\"é\"/>")));
-    EXPECT_EQ(doc.RootElement().AttributeValueByName(QStringLiteral("a")), QStringLiteral("é"));
+    ASSERT_TRUE(doc.LoadFromString(u"<?xml version=\"1.0\" encoding=\"UTF-16\"?><R a=\"é\"/>"_s));
+    EXPECT_EQ(doc.RootElement().AttributeValueByName(u"a"_s), u"é"_s);
 }
 
-TEST_F(DocumentTest, BadFilesFailWithReasonAndPlace)
+TEST_F(DocumentTest, BadFilesFailWithReasonAndPlaceInTheLogOnly)
 {
-    const struct
-    {
-        const char *name;
-        QByteArray bytes;
-        const char *where;
-    } cases[] = {
+    const std::tuple<const char *, QByteArray, const char *> cases[] = {
         {"empty.qrb", "", "(line 1, column 1)"},
         {"truncated.qrb", "<R>\n  <A x=\"1\">\n  <B", "(line 3"},
         {"text.qrb", "This is not XML.", "(line 1, column 1)"},
         {"mismatch.qrb", "<R>\n<A>\n  </B></R>", "(line 3, column 7)"},
         {"latin1.qrb", "<R>\n<A x=\"caf\xE9\"/></R>", "(line 2"},
     };
-    // The library reports to the log, never to stderr.
     ::testing::internal::CaptureStderr();
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.name);
+    for (const auto &[name, bytes, where] : cases) {
         TarnXMLDoc doc;
-        EXPECT_FALSE(doc.LoadFromFile(writeFile(QString::fromLatin1(c.name), c.bytes)));
-        const QStringList records = logged(QStringLiteral("#Event #XML Parser Error: Number="));
-        if (records.isEmpty()) {
-            ADD_FAILURE() << "nothing logged";
-            continue;
-        }
-        EXPECT_TRUE(records.last().contains(QLatin1String(" Reason=")));
-        EXPECT_TRUE(records.last().contains(QLatin1String(c.where)))
-            << records.last().toStdString();
-        EXPECT_TRUE(records.last().endsWith(QLatin1String("#TarnXMLDoc::LoadFromFile")));
+        EXPECT_FALSE(doc.LoadFromFile(writeFile(QString::fromLatin1(name), bytes))) << name;
+        const QStringList records = logged(u"#Event #XML Parser Error: Number="_s);
+        const QString last = records.isEmpty() ? QString() : records.last();
+        EXPECT_TRUE(last.contains(" Reason="_L1) && last.contains(QLatin1String(where))
+                    && last.endsWith("#TarnXMLDoc::LoadFromFile"_L1))
+            << name << ": " << last.toStdString();
     }
     EXPECT_EQ(logRecords().size(), std::size(cases));
 
     TarnXMLDoc doc;
-    EXPECT_FALSE(doc.LoadFromFile(path(QStringLiteral("missing.qrb"))));
-    EXPECT_FALSE(doc.LoadFromString(QStringLiteral("<R></S>")));
+    EXPECT_FALSE(doc.LoadFromFile(path(u"missing.qrb"_s)));
+    EXPECT_FALSE(doc.LoadFromString(u"<R></S>"_s));
     // No network: a DTD on the web is not fetched, so the document can't be validated.
-    EXPECT_FALSE(
-        doc.LoadFromString(QStringLiteral("<!DOCTYPE R SYSTEM \"http://example.com/r.dtd\"><R/>")));
+    EXPECT_FALSE(doc.LoadFromString(u"<!DOCTYPE R SYSTEM \"http://example.com/r.dtd\"><R/>"_s));
     EXPECT_EQ(::testing::internal::GetCapturedStderr(), std::string());
     EXPECT_EQ(timesLogged("#TarnXMLDoc::LoadFromFile"), std::size(cases) + 1);
     EXPECT_EQ(timesLogged("#TarnXMLDoc::LoadFromString"), 2);
-}
 
-TEST_F(DocumentTest, ValidationBindsOnlyADocumentWithADtd)
-{
-    const QString invalid = QStringLiteral("<!DOCTYPE R [<!ELEMENT R EMPTY>]><R><A/></R>");
-    TarnXMLDoc doc;
-    EXPECT_TRUE(doc.LoadFromString(QStringLiteral("<R><A/></R>")));
+    // Validation binds only a document with a DTD, and only while it is asked for.
+    const QString invalid = u"<!DOCTYPE R [<!ELEMENT R EMPTY>]><R><A/></R>"_s;
+    EXPECT_TRUE(doc.LoadFromString(u"<R><A/></R>"_s));
     EXPECT_FALSE(doc.LoadFromString(invalid));
     doc.setValidateWhileParsing(false);
     EXPECT_TRUE(doc.LoadFromString(invalid));
@@ -186,106 +143,73 @@ TEST_F(DocumentTest, EntityBombsAndExternalEntitiesAreRefused)
 
 using SaveTest = XmlTest;
 
-TEST_F(SaveTest, WritesTheTreeAsBuiltInUtf8)
+TEST_F(SaveTest, WritesTheTreeAsBuiltInUtf8AndAnEmptyNameMeansTheLoadedFile)
 {
     TarnXMLDoc doc;
-    doc.NewDoc(QStringLiteral("Quorin_Rulebase"));
+    doc.NewDoc(u"Quorin_Rulebase"_s);
     TarnXMLElement root = doc.RootElement();
-    root.AddAttribute(QStringLiteral("SchemaVersion"), QStringLiteral("6.2"));
-    root.AddElement(QStringLiteral("RulebaseProperties"))
-        .AddAttribute(QStringLiteral("Name"), QStringLiteral("Règles \"A&B\""));
-    root.AddElement(QStringLiteral("Rules")).AddElement(QStringLiteral("CodingConventions"));
-    const QString file = path(QStringLiteral("out.qrb"));
+    root.AddAttribute(u"SchemaVersion"_s, u"6.2"_s);
+    root.AddElement(u"RulebaseProperties"_s).AddAttribute(u"Name"_s, u"Règles \"A&B\""_s);
+    root.AddElement(u"Rules"_s).AddElement(u"CodingConventions"_s);
+    const QString file = path(u"out.qrb"_s);
     ASSERT_TRUE(doc.SaveToFile(file));
-    EXPECT_EQ(readFile(file),
-              QStringLiteral("<Quorin_Rulebase SchemaVersion=\"6.2\"><RulebaseProperties "
-                             "Name=\"Règles &quot;A&amp;B&quot;\"/><Rules><CodingConventions/>"
-                             "</Rules></Quorin_Rulebase>")
-                  .toUtf8());
+    EXPECT_EQ(
+        readFile(file),
+        u"<Quorin_Rulebase SchemaVersion=\"6.2\"><RulebaseProperties Name=\"Règles "
+        "&quot;A&amp;B&quot;\"/><Rules><CodingConventions/></Rules></Quorin_Rulebase>"_s.toUtf8());
     EXPECT_EQ(doc.LastError(), 0);
-}
 
-TEST_F(SaveTest, EmptyNameSavesToTheLoadedFile)
-{
-    const QString file = writeFile(QStringLiteral("r.qrb"), "<R/>");
-    TarnXMLDoc doc;
-    ASSERT_TRUE(doc.LoadFromFile(file));
-    doc.RootElement().AddElement(QStringLiteral("A"));
+    ASSERT_TRUE(doc.LoadFromFile(writeFile(u"r.qrb"_s, "<R/>")));
+    doc.RootElement().AddElement(u"A"_s);
     ASSERT_TRUE(doc.SaveToFile());
-    EXPECT_EQ(readFile(file), QByteArray("<R><A/></R>"));
-    // A string load forgets the name.
-    ASSERT_TRUE(doc.LoadFromString(QStringLiteral("<S/>")));
+    EXPECT_EQ(readFile(path(u"r.qrb"_s)), QByteArray("<R><A/></R>"));
+    ASSERT_TRUE(doc.LoadFromString(u"<S/>"_s)); // a string load forgets the name
     EXPECT_FALSE(doc.SaveToFile());
     EXPECT_EQ(doc.LastError(), InvalidPath);
 }
 
-TEST_F(SaveTest, MissingFolderIsAnInvalidPath)
+TEST_F(SaveTest, FailuresKeepTheOldFileAndGiveTheirCodeAndText)
 {
     TarnXMLDoc doc;
-    doc.NewDoc(QStringLiteral("R"));
-    EXPECT_FALSE(doc.SaveToFile(path(QStringLiteral("no/such/folder/r.qrb"))));
+    doc.NewDoc(u"New"_s);
+    EXPECT_FALSE(doc.SaveToFile(path(u"no/such/folder/r.qrb"_s)));
     EXPECT_EQ(doc.LastError(), InvalidPath);
-    EXPECT_EQ(TarnXMLDoc::SaveErrorText(doc.LastError()), QStringLiteral("Invalid path."));
-    const QStringList records
-        = logged(QStringLiteral("#Event #XML Parser Error: Number=-2147024893 "
-                                "Reason="));
+    const QStringList records = logged(u"#Event #XML Parser Error: Number=-2147024893 Reason="_s);
     ASSERT_EQ(records.size(), 1);
-    EXPECT_TRUE(records.first().endsWith(QLatin1String("#TarnXMLDoc::SaveToFile")));
-    // A later good save leaves the code of the failure.
-    EXPECT_TRUE(doc.SaveToFile(path(QStringLiteral("r.qrb"))));
-    EXPECT_EQ(doc.LastError(), InvalidPath);
-}
+    EXPECT_TRUE(records.first().endsWith("#TarnXMLDoc::SaveToFile"_L1));
+    EXPECT_TRUE(doc.SaveToFile(path(u"r.qrb"_s)));
+    EXPECT_EQ(doc.LastError(), InvalidPath); // a later good save leaves the code of the failure
 
-TEST_F(SaveTest, FailedSaveLeavesTheOldFileIntact)
-{
     // A name whose temporary sibling would be too long: the write fails whoever runs it.
-    const QString file = path(QString(250, QLatin1Char('r')) + QStringLiteral(".qrb"));
+    const QString name = QString(250, u'r') + u".qrb"_s;
     const QByteArray old = "<Old attribute=\"kept\"/>";
-    writeFile(QFileInfo(file).fileName(), old);
-    TarnXMLDoc doc;
-    doc.NewDoc(QStringLiteral("New"));
-    EXPECT_FALSE(doc.SaveToFile(file));
+    writeFile(name, old);
+    EXPECT_FALSE(doc.SaveToFile(path(name)));
     EXPECT_NE(doc.LastError(), 0);
-    EXPECT_EQ(readFile(file), old);
-    EXPECT_EQ(QDir(m_dir).entryList(QDir::Files),
-              QStringList({QStringLiteral("Error.log"), QFileInfo(file).fileName()}));
-}
+    EXPECT_EQ(readFile(path(name)), old);
+    EXPECT_EQ(QDir(m_dir).entryList(QDir::Files), QStringList({u"Error.log"_s, u"r.qrb"_s, name}));
 
-TEST_F(SaveTest, ReadOnlyFolderIsAccessDenied)
-{
-    const QString folder = path(QStringLiteral("locked"));
+    const QString folder = path(u"locked"_s);
     ASSERT_TRUE(QDir().mkpath(folder));
-    const QByteArray old = "<Old attribute=\"kept\"/>";
-    const QString file = folder + QStringLiteral("/r.qrb");
-    {
-        QFile out(file);
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-        out.write(old);
+    writeFile(u"locked/r.qrb"_s, old);
+    if (TestEnvironment::makeReadOnly(folder)) {
+        const bool saved = doc.SaveToFile(folder + u"/r.qrb"_s);
+        TestEnvironment::makeWritable(folder);
+        EXPECT_FALSE(saved);
+        EXPECT_EQ(doc.LastError(), AccessDenied);
+        EXPECT_EQ(readFile(folder + u"/r.qrb"_s), old);
+        EXPECT_EQ(QDir(folder).entryList(QDir::Files), QStringList({u"r.qrb"_s}));
     }
-    QFile::setPermissions(folder, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
-    TarnXMLDoc doc;
-    doc.NewDoc(QStringLiteral("New"));
-    const bool saved = doc.SaveToFile(file);
-    QFile::setPermissions(folder,
-                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-    if (runningAsRoot())
-        GTEST_SKIP() << "permissions do not bind root";
-    EXPECT_FALSE(saved);
-    EXPECT_EQ(doc.LastError(), AccessDenied);
-    EXPECT_EQ(readFile(file), old);
-    EXPECT_EQ(QDir(folder).entryList(QDir::Files), QStringList({"r.qrb"}));
-}
 
-TEST_F(SaveTest, ErrorTexts)
-{
-    EXPECT_EQ(TarnXMLDoc::SaveErrorText(qint32(0x80070005u)), QStringLiteral("Access denied."));
-    EXPECT_EQ(TarnXMLDoc::SaveErrorText(qint32(0x80070013u)),
-              QStringLiteral("Media is write-protected."));
-    EXPECT_EQ(TarnXMLDoc::SaveErrorText(qint32(0x80070015u)), QStringLiteral("Device not ready."));
-    EXPECT_EQ(TarnXMLDoc::SaveErrorText(qint32(0x80070070u)), QStringLiteral("Not enough space."));
-    EXPECT_EQ(TarnXMLDoc::SaveErrorText(qint32(0x80004005u)),
-              QStringLiteral("Unknown error -2147467259"));
-    EXPECT_EQ(TarnXMLDoc::SaveErrorText(0), QStringLiteral("Unknown error 0"));
+    const std::pair<quint32, const char *> texts[] = {{0x80070003u, "Invalid path."},
+                                                      {0x80070005u, "Access denied."},
+                                                      {0x80070013u, "Media is write-protected."},
+                                                      {0x80070015u, "Device not ready."},
+                                                      {0x80070070u, "Not enough space."},
+                                                      {0x80004005u, "Unknown error -2147467259"},
+                                                      {0u, "Unknown error 0"}};
+    for (const auto &[code, text] : texts)
+        EXPECT_EQ(TarnXMLDoc::SaveErrorText(qint32(code)), QLatin1String(text));
 }
 
 using TransformTest = XmlTest;
@@ -293,18 +217,16 @@ using TransformTest = XmlTest;
 TEST_F(TransformTest, AppliesAStyleSheetAndLogsABadOne)
 {
     TarnXMLDoc doc;
-    ASSERT_TRUE(
-        doc.LoadFromString(QStringLiteral("<R><Rule Title=\"Größe\"/><Rule Title=\"B\"/></R>")));
+    ASSERT_TRUE(doc.LoadFromString(u"<R><Rule Title=\"Größe\"/><Rule Title=\"B\"/></R>"_s));
     TarnXMLDoc sheet;
-    ASSERT_TRUE(sheet.LoadFromString(QStringLiteral(
-        "<xsl:stylesheet version=\"1.0\" xmlns:xsl=\"http://www.w3.org/1999/XSL/Transform\">"
+    ASSERT_TRUE(sheet.LoadFromString(
+        u"<xsl:stylesheet version=\"1.0\" xmlns:xsl=\"http://www.w3.org/1999/XSL/Transform\">"
         "<xsl:output method=\"text\" encoding=\"ISO-8859-1\"/>"
         "<xsl:template match=\"/\"><xsl:for-each select=\"R/Rule\">"
-        "<xsl:value-of select=\"@Title\"/>;</xsl:for-each></xsl:template></xsl:stylesheet>")));
-    EXPECT_EQ(doc.TransformDocument(sheet), QStringLiteral("Größe;B;"));
-
+        "<xsl:value-of select=\"@Title\"/>;</xsl:for-each></xsl:template></xsl:stylesheet>"_s));
+    EXPECT_EQ(doc.TransformDocument(sheet), u"Größe;B;"_s);
     TarnXMLDoc notASheet;
-    notASheet.NewDoc(QStringLiteral("Plain"));
+    notASheet.NewDoc(u"Plain"_s);
     EXPECT_EQ(doc.TransformDocument(notASheet), QString());
     EXPECT_EQ(timesLogged("#TarnXMLDoc::TransformDocument"), 1);
 }
