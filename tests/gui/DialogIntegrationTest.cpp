@@ -9,6 +9,7 @@
 #include "editors/ConventionFormBase.h"
 #include "editors/DefaultViolationsForm.h"
 #include "editors/IConventionForm.h"
+#include "editors/IFormFactory.h"
 #include "editors/RulebaseDocCreatorForm.h"
 #include "editors/RulebasePropertiesForm.h"
 #include "editors/SeverityEditorForm.h"
@@ -121,7 +122,40 @@ void pressF1(QDialog &dialog)
     QApplication::sendEvent(target, &release);
 }
 
-using DialogIntegration = GuiSample;
+class DialogIntegration : public GuiSample
+{
+protected:
+    std::shared_ptr<IRule> firstRuleOfType(qint32 ruleType) const
+    {
+        const auto all = rulebase->RuleLists()->AllConventions();
+        for (qint32 i = 1; i <= all->Count(); ++i) {
+            if (all->Item(i)->RuleType() == ruleType)
+                return all->Item(i);
+        }
+        return nullptr;
+    }
+
+    // Opens the rule in its dialog from the factory and runs `act` on it.
+    void openRule(qint32 ruleType, const char *dialogName, std::function<void(QDialog &)> act)
+    {
+        const std::shared_ptr<IRule> rule = firstRuleOfType(ruleType);
+        ASSERT_NE(rule, nullptr) << ruleType;
+        std::unique_ptr<IConventionForm> form
+            = IFormFactory::current().createConventionForm(ruleType);
+        ASSERT_NE(form, nullptr);
+        form->setConvention(rule);
+        form->setApplication(app.get());
+        bool seen = false;
+        whenModal(QLatin1String(dialogName), [&](QDialog &dialog) {
+            seen = true;
+            act(dialog);
+            click(dialog, "cmdCancel");
+        });
+        form->Show();
+        EXPECT_TRUE(seen) << dialogName;
+        EXPECT_TRUE(form->Cancelled());
+    }
+};
 
 } // namespace
 
