@@ -1,6 +1,6 @@
 #include "bench/RulebaseGenerator.h"
 
-#include "application/IMainForm.h"
+#include "views/IMainForm.h"
 #include "gui/frmMain.h"
 #include "rulebase/Rulebase.h"
 #include "views/IViewController.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/ListControl.h"
+#include "controls/ListControl.h"
 
 #include <QAbstractTableModel>
 #include <QHash>

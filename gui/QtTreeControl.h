@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/TreeControl.h"
+#include "controls/TreeControl.h"
 #include "vocabulary/RuleTree.h"
 
 #include <QAbstractItemModel>

@@ -18,7 +18,7 @@
 #include "views/AuthorisedItemsView.h"
 #include "views/CommandTable.h"
 #include "views/IViewController.h"
-#include "views/ToolDispatcher.h"
+#include "application/ToolDispatcher.h"
 #include "views/ViewFactory.h"
 
 #include <QAction>

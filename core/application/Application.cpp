@@ -1,6 +1,6 @@
 #include "application/Application.h"
 
-#include "application/IMainForm.h"
+#include "views/IMainForm.h"
 #include "collections/ObjectKeyedListAdapter.h"
 #include "docs/RulebaseDocCreator.h"
 #include "editors/CategorySeverityForm.h"
@@ -31,7 +31,7 @@
 #include "rulebase/ViolationDefinition.h"
 #include "views/AuthorisedItemsView.h"
 #include "views/IViewController.h"
-#include "views/TreeControl.h"
+#include "controls/TreeControl.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -92,7 +92,7 @@ std::shared_ptr<IRule> runNewRule(Application &application,
     if (!form || !application.rulebase())
         return nullptr;
     form->setConvention(rule);
-    form->setApplication(&application);
+    form->setContext(application.ruleDialogContext());
     form->Show();
     cancelled = form->Cancelled();
     if (cancelled)
@@ -109,7 +109,7 @@ constexpr qint32 namePropertyType = 37;
 Application::Application(IMainForm *mainForm, ViewFactory viewFactory)
     : m_mainForm(mainForm)
     , m_viewFactory(std::move(viewFactory))
-    , m_ruleEditors(std::make_unique<FormLauncher>(this))
+    , m_ruleEditors(std::make_unique<FormLauncher>([this] { return ruleDialogContext(); }))
 {
     // A launcher put in place before, such as a test's, keeps its place.
     if (!IRuleEditorLauncher::installed())
@@ -347,24 +347,21 @@ void Application::HelpTipOfDay()
     });
 }
 
+RuleDialogContext Application::ruleDialogContext()
+{
+    return {m_rulebase, [this] { ShowCategoryList(); }};
+}
+
 void Application::HelpTarnHomePage()
 {
     if (gobjQuorinData)
-        ShellDocumentFile(gobjQuorinData->HomePageURL());
+        openDocument(gobjQuorinData->HomePageURL());
 }
 
 void Application::HelpTarnTechSupport()
 {
     if (gobjQuorinData)
-        ShellDocumentFile(gobjQuorinData->TechSupportPageURL());
-}
-
-void Application::ShellDocumentFile(const QString &document)
-{
-    // Where the desktop has no handler for the type there is no chooser to offer here; the
-    // person at least learns where the document is.
-    if (!UserInterface::current().shellOpen(document))
-        showWarning(QStringLiteral("No program could be found to open '%1'.").arg(document));
+        openDocument(gobjQuorinData->TechSupportPageURL());
 }
 
 void Application::ShowCategoryList()
@@ -570,7 +567,7 @@ void Application::GenerateDocumentation()
         writer.setOrganisation(organisation);
         QString document;
         if (writer.CreateDocumentation(*m_rulebase, document))
-            ShellDocumentFile(document);
+            openDocument(document);
     });
     m_mainForm->SetBusy(false);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "editors/RuleDialogContext.h"
+
 #include <QString>
 
 #include <functional>
@@ -61,8 +63,8 @@ public:
     void NewAuthorisedReference();
     void GenerateDocumentation();
 
-    // Opens a document or address with the desktop's handler.
-    static void ShellDocumentFile(const QString &document);
+    // The rulebase open now and the category list editor, for a rule dialog.
+    RuleDialogContext ruleDialogContext();
 
 private:
     void SetupView();

@@ -4,7 +4,7 @@
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
 #include "platform/UserInterface.h"
-#include "project/AddFromProject.h"
+#include "editors/AddFromProject.h"
 #include "rulebase/AuthorisedComponents.h"
 #include "rulebase/AuthorisedReferences.h"
 

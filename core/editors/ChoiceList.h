@@ -2,8 +2,8 @@
 
 #include <QtGlobal>
 
-#include "views/ComboControl.h"
-#include "vocabulary/ImageComboControl.h"
+#include "controls/ComboControl.h"
+#include "controls/ImageComboControl.h"
 
 #include <QString>
 

@@ -1,6 +1,5 @@
 #include "editors/ConventionFormBase.h"
 
-#include "application/Application.h"
 #include "basic/ConditionRules.h"
 #include "basic/ScriptText.h"
 #include "platform/TextUtils.h"
@@ -9,18 +8,17 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/SeverityItem.h"
 #include "rulebase/ViolationDefinition.h"
-#include "views/modUIListUtils.h"
+#include "controls/modUIListUtils.h"
 
 #include <cmath>
 #include <limits>
 
 ConventionFormBase::~ConventionFormBase() = default;
 
-void ConventionFormBase::setApplication(Application *application)
+void ConventionFormBase::setContext(const RuleDialogContext &context)
 {
-    m_application = application;
-    if (application)
-        m_rulebase = application->rulebase();
+    m_rulebase = context.rulebase;
+    m_editCategories = context.editCategories;
 }
 
 void ConventionFormBase::setRulebase(std::shared_ptr<Rulebase> rulebase)
@@ -128,8 +126,8 @@ void ConventionFormBase::cboSeverity_Click()
 
 void ConventionFormBase::cmdCategory_Click()
 {
-    if (m_application)
-        m_application->ShowCategoryList();
+    if (m_editCategories)
+        m_editCategories();
     PopulateCategories();
 }
 

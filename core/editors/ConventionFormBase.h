@@ -3,6 +3,7 @@
 #include "editors/ChoiceList.h"
 #include "editors/FormFault.h"
 #include "editors/NumberRange.h"
+#include "editors/RuleDialogContext.h"
 
 #include <QString>
 
@@ -10,7 +11,6 @@
 #include <memory>
 #include <optional>
 
-class Application;
 class Rulebase;
 class ViolationDefinition;
 
@@ -40,9 +40,8 @@ public:
 
     virtual ~ConventionFormBase();
 
-    // The application, for the category list; its rulebase gives categories and severities.
-    void setApplication(Application *application);
-    Application *application() const { return m_application; }
+    // The rulebase and the category list editor.
+    void setContext(const RuleDialogContext &context);
     void setRulebase(std::shared_ptr<Rulebase> rulebase);
     const std::shared_ptr<Rulebase> &rulebase() const { return m_rulebase; }
 
@@ -104,7 +103,7 @@ protected:
     ConditionFault(int tab, const QString &condition, qint32 ruleType);
 
 private:
-    Application *m_application = nullptr; // not owned
+    std::function<void()> m_editCategories;
     std::shared_ptr<Rulebase> m_rulebase;
     bool m_cancelled = true;
     std::optional<FormFault> m_lastFault;

@@ -6,8 +6,8 @@
 #include "rulebase/DefaultViolations.h"
 #include "rulebase/SeverityItem.h"
 #include "rulebase/ViolationDefinition.h"
-#include "views/ComboControl.h"
-#include "views/modUIListUtils.h"
+#include "controls/ComboControl.h"
+#include "controls/modUIListUtils.h"
 
 #include <algorithm>
 #include <cmath>

@@ -16,7 +16,7 @@ bool FormLauncher::EditRule(const std::shared_ptr<IRule> &rule)
     if (!form)
         return false;
     form->setConvention(rule);
-    form->setApplication(m_application);
+    form->setContext(m_context ? m_context() : RuleDialogContext{});
     form->Show();
     return !form->Cancelled();
 }

@@ -1,17 +1,18 @@
 #pragma once
 
-#include "views/IRuleEditorLauncher.h"
+#include "editors/IRuleEditorLauncher.h"
+#include "editors/RuleDialogContext.h"
 
-class Application;
+#include <functional>
 
 // Opens what a view asks to edit through the form factory: a rule in the dialog of its type,
-// told the application so that its category button can reach the category list, and the
+// in the context of the moment (the rulebase open now, the category list editor), and the
 // category and severity editors of a tree node. Installed by the Application for its lifetime.
 class FormLauncher final : public IRuleEditorLauncher
 {
 public:
-    explicit FormLauncher(Application *application)
-        : m_application(application)
+    explicit FormLauncher(std::function<RuleDialogContext()> context)
+        : m_context(std::move(context))
     {
     }
 
@@ -20,5 +21,5 @@ public:
     bool EditSeverity(const std::shared_ptr<SeverityItem> &severity) override;
 
 private:
-    Application *m_application; // not owned
+    std::function<RuleDialogContext()> m_context;
 };

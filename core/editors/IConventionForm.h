@@ -1,8 +1,9 @@
 #pragma once
 
+#include "editors/RuleDialogContext.h"
+
 #include <memory>
 
-class Application;
 class IRule;
 
 // The contract of the three rule dialogs, through which views and the application open a rule
@@ -14,7 +15,7 @@ public:
     virtual ~IConventionForm() = default;
 
     virtual void setConvention(const std::shared_ptr<IRule> &rule) = 0;
-    virtual void setApplication(Application *application) = 0;
+    virtual void setContext(const RuleDialogContext &context) = 0;
     // True after Cancel or a close of the window; false after OK.
     virtual bool Cancelled() const = 0;
     // Shows the form modally over the main window.

@@ -1,6 +1,5 @@
 #include "editors/RulebaseDocCreatorForm.h"
 
-#include "application/Application.h"
 #include "collections/IListItem.h"
 #include "docs/RulebaseDocCreator.h"
 #include "platform/ErrorFrame.h"
@@ -533,7 +532,7 @@ bool RulebaseDocCreatorForm::Generate()
         QString document;
         if (!writer.CreateDocumentation(*m_rulebase, document))
             return false;
-        Application::ShellDocumentFile(document);
+        openDocument(document);
         m_generated = true;
         return true;
     });

@@ -77,3 +77,11 @@ MessageResult askYesNoCancel(const QString &text, MessageResult defaultButton, c
     return UserInterface::current().messageBox(
         text, MessageButtons::YesNoCancel, MessageIcon::Question, title, defaultButton);
 }
+
+void openDocument(const QString &document)
+{
+    // Where the desktop has no handler for the type there is no chooser to offer here; the
+    // person at least learns where the document is.
+    if (!UserInterface::current().shellOpen(document))
+        showWarning(QStringLiteral("No program could be found to open '%1'.").arg(document));
+}

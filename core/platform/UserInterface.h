@@ -60,3 +60,5 @@ MessageResult askYesNo(const QString &text,
 MessageResult askYesNoCancel(const QString &text,
                              MessageResult defaultButton,
                              const QString &title = programTitle());
+// Opens a document or address with the desktop's handler, or says that nothing could.
+void openDocument(const QString &document);

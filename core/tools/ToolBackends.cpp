@@ -4,7 +4,7 @@
 #include "editors/RulebaseDocCreatorForm.h"
 #include "platform/QuorinAdminData.h"
 #include "platform/RegistryUtils.h"
-#include "project/AddFromProject.h"
+#include "project/ProjectCandidates.h"
 #include "project/AuthorisedItemsMerger.h"
 #include "project/modQuorinUtils.h"
 #include "rulebase/AuthorisedComponent.h"
@@ -253,7 +253,7 @@ int importAuthorisedItems(const ImportRequest &request, ToolContext &context)
                              .arg(n + 1)
                              .arg(request.sources.size()));
         if (modQuorinUtils::IsVBPFile(source) || modQuorinUtils::IsVBGFile(source)) {
-            AddFromProject importer;
+            ProjectCandidates importer;
             importer.GatherCandidates({source}, rulebase);
             for (const QString &project : importer.UnreadFiles())
                 unread << project + QStringLiteral(": the project could not be read");

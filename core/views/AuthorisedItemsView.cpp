@@ -1,6 +1,6 @@
 #include "views/AuthorisedItemsView.h"
 
-#include "application/IMainForm.h"
+#include "views/IMainForm.h"
 #include "editors/AuthorisedComponentForm.h"
 #include "editors/AuthorisedReferenceForm.h"
 #include "editors/IFormFactory.h"
@@ -11,7 +11,7 @@
 #include "platform/QuorinError.h"
 #include "platform/TextUtils.h"
 #include "platform/UserInterface.h"
-#include "project/AddFromProject.h"
+#include "editors/AddFromProject.h"
 #include "project/AuthorisedItemsMerger.h"
 #include "project/modQuorinUtils.h"
 #include "rulebase/AuthorisedComponents.h"
@@ -21,7 +21,7 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/UnauthorisedKeyword.h"
 #include "views/CommandTable.h"
-#include "views/IRuleEditorLauncher.h"
+#include "editors/IRuleEditorLauncher.h"
 #include "views/modViewCommon.h"
 
 #include <QDate>

@@ -1,6 +1,6 @@
 #include "views/CategoryView.h"
 
-#include "application/IMainForm.h"
+#include "views/IMainForm.h"
 #include "platform/ErrorFrame.h"
 #include "platform/TextUtils.h"
 #include "rulebase/CategoryItem.h"
@@ -9,7 +9,7 @@
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/ViolationDefinition.h"
-#include "views/IRuleEditorLauncher.h"
+#include "editors/IRuleEditorLauncher.h"
 
 namespace {
 const QString rootKey = QStringLiteral("Category");

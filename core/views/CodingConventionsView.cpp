@@ -1,13 +1,13 @@
 #include "views/CodingConventionsView.h"
 
-#include "application/IMainForm.h"
+#include "views/IMainForm.h"
 #include "platform/ErrorFrame.h"
 #include "platform/TextUtils.h"
 #include "platform/UserInterface.h"
 #include "rulebase/CodingConvention.h"
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
-#include "views/IRuleEditorLauncher.h"
+#include "editors/IRuleEditorLauncher.h"
 #include "vocabulary/ObjectTreeHelper.h"
 #include "vocabulary/VBParserEvents.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/TreeControl.h"
+#include "controls/TreeControl.h"
 #include "vocabulary/RuleTree.h"
 
 // A tree held in memory, for tests and for tools without widgets. A point's y is the node's

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "views/IViewController.h"
-#include "views/ListControl.h"
-#include "views/TreeControl.h"
+#include "controls/ListControl.h"
+#include "controls/TreeControl.h"
 #include "views/modViewCommon.h"
 
 #include <QString>

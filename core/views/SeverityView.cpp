@@ -1,6 +1,6 @@
 #include "views/SeverityView.h"
 
-#include "application/IMainForm.h"
+#include "views/IMainForm.h"
 #include "collections/KeyedListErrors.h"
 #include "platform/ErrorFrame.h"
 #include "platform/TextUtils.h"
@@ -9,7 +9,7 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/SeverityItem.h"
 #include "rulebase/ViolationDefinition.h"
-#include "views/IRuleEditorLauncher.h"
+#include "editors/IRuleEditorLauncher.h"
 
 namespace {
 const QString rootKey = QStringLiteral("Severity");

@@ -8,7 +8,7 @@
 #include "rulebase/RuleLists.h"
 #include "rulebase/SeverityItem.h"
 #include "rulebase/ViolationDefinition.h"
-#include "views/ListControl.h"
+#include "controls/ListControl.h"
 
 namespace modViewCommon {
 

@@ -3,7 +3,7 @@
 #include "platform/ErrorFrame.h"
 #include "rulebase/RuleLists.h"
 #include "vocabulary/ObjectHelper.h"
-#include "vocabulary/RuleTreeControl.h"
+#include "controls/RuleTreeControl.h"
 #include "vocabulary/VBParserEvents.h"
 
 #include <QString>

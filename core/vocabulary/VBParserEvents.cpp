@@ -2,7 +2,7 @@
 
 #include "platform/ErrorFrame.h"
 #include "platform/TextUtils.h"
-#include "vocabulary/ImageComboControl.h"
+#include "controls/ImageComboControl.h"
 #include "vocabulary/ParserEventCatalogue.h"
 
 namespace {

@@ -76,9 +76,9 @@ void frmConventionBase::buildCommon()
     connect(ctrlTab, &QShortcut::activated, this, &frmConventionBase::nextTab);
 }
 
-void frmConventionBase::setApplication(Application *application)
+void frmConventionBase::setContext(const RuleDialogContext &context)
 {
-    m_model.setApplication(application);
+    m_model.setContext(context);
 }
 
 bool frmConventionBase::Cancelled() const

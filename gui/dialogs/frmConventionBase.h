@@ -25,7 +25,7 @@ class frmConventionBase : public QDialog, public IConventionForm
     Q_OBJECT
 
 public:
-    void setApplication(Application *application) override;
+    void setContext(const RuleDialogContext &context) override;
     bool Cancelled() const override;
     // Loads the rule into the model and runs the dialog modally.
     void Show() override;

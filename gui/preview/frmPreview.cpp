@@ -8,7 +8,7 @@
 #include "rulebase/IRule.h"
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
-#include "views/IRuleEditorLauncher.h"
+#include "editors/IRuleEditorLauncher.h"
 
 #include <QApplication>
 #include <QComboBox>

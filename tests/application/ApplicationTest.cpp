@@ -1,5 +1,5 @@
 #include "application/Application.h"
-#include "application/IMainForm.h"
+#include "views/IMainForm.h"
 #include "application/Startup.h"
 #include "collections/ObjectKeyedListAdapter.h"
 #include "editors/CategorySeverityForm.h"

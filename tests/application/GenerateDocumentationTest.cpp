@@ -1,5 +1,5 @@
 #include "application/Application.h"
-#include "application/IMainForm.h"
+#include "views/IMainForm.h"
 #include "editors/IFormFactory.h"
 #include "editors/RulebaseDocCreatorForm.h"
 #include "platform/GlobalObjects.h"

@@ -15,9 +15,9 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/UnauthorisedKeyword.h"
 #include "rulebase/ViolationDefinition.h"
-#include "views/IRuleEditorLauncher.h"
+#include "editors/IRuleEditorLauncher.h"
 #include "views/IViewController.h"
-#include "views/ToolDispatcher.h"
+#include "application/ToolDispatcher.h"
 #include "views/ViewFactory.h"
 
 #include "support/MemoryMainForm.h"
@@ -43,7 +43,7 @@ public:
     std::function<void(IRule &)> edit;
     QList<qint32> created;
     std::shared_ptr<IRule> lastRule;
-    Application *lastApplication = nullptr;
+    RuleDialogContext lastContext;
     // What the rule looked like when the dialog opened, for the preselection.
     QString eventsAtShow;
     qint32 categoryAtShow = 0;
@@ -60,10 +60,7 @@ public:
     {
     }
     void setConvention(const std::shared_ptr<IRule> &rule) override { m_rule = rule; }
-    void setApplication(Application *application) override
-    {
-        m_forms.lastApplication = application;
-    }
+    void setContext(const RuleDialogContext &context) override { m_forms.lastContext = context; }
     bool Cancelled() const override { return m_cancelled; }
     void Show() override
     {
@@ -150,7 +147,8 @@ TEST_F(NewRuleTest, PreselectsFromTheSelectedNodeOfEachView)
     EXPECT_TRUE(cancelled);
     EXPECT_EQ(forms.eventsAtShow, QStringLiteral("30"));
     EXPECT_EQ(forms.categoryAtShow, -1);
-    EXPECT_EQ(forms.lastApplication, app.get());
+    EXPECT_EQ(forms.lastContext.rulebase, app->rulebase());
+    EXPECT_TRUE(forms.lastContext.editCategories);
     app->NewNamingConvention(cancelled);
     EXPECT_EQ(forms.objectAtShow, 0);
 

@@ -3,7 +3,7 @@
 #include "editors/AuthorisedReferenceForm.h"
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
-#include "project/AddFromProject.h"
+#include "editors/AddFromProject.h"
 #include "rulebase/AuthorisedComponent.h"
 #include "rulebase/AuthorisedComponents.h"
 #include "rulebase/AuthorisedReference.h"

@@ -13,8 +13,8 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/ViolationDefinition.h"
 #include "views/IViewController.h"
-#include "views/ListControl.h"
-#include "views/TreeControl.h"
+#include "controls/ListControl.h"
+#include "controls/TreeControl.h"
 #include "views/ViewFactory.h"
 
 #include "support/ScriptedUserInterface.h"

@@ -38,7 +38,7 @@
 #include "gui/window/frmTip.h"
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
-#include "project/AddFromProject.h"
+#include "editors/AddFromProject.h"
 #include "rulebase/AuthorisedComponent.h"
 #include "rulebase/AuthorisedComponents.h"
 #include "rulebase/AuthorisedReference.h"
@@ -144,7 +144,7 @@ protected:
             = IFormFactory::current().createConventionForm(ruleType);
         ASSERT_NE(form, nullptr);
         form->setConvention(rule);
-        form->setApplication(app.get());
+        form->setContext(app->ruleDialogContext());
         bool seen = false;
         whenModal(QLatin1String(dialogName), [&](QDialog &dialog) {
             seen = true;

@@ -4,7 +4,7 @@
 #include "editors/IFormFactory.h"
 #include "platform/GlobalObjects.h"
 #include "platform/LogFile.h"
-#include "project/AddFromProject.h"
+#include "editors/AddFromProject.h"
 #include "project/VirtualComponent.h"
 #include "project/VirtualReference.h"
 #include "project/modTypelib.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "application/IMainForm.h"
+#include "views/IMainForm.h"
 #include "views/MemoryListControl.h"
 #include "views/MemoryTreeControl.h"
 

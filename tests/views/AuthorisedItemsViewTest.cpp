@@ -16,7 +16,7 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/UnauthorisedKeyword.h"
 #include "views/AuthorisedItemsView.h"
-#include "views/ToolDispatcher.h"
+#include "application/ToolDispatcher.h"
 #include "views/ViewFactory.h"
 #include "views/modViewCommon.h"
 

@@ -1,11 +1,11 @@
 #include "application/Application.h"
-#include "application/IMainForm.h"
+#include "views/IMainForm.h"
 #include "platform/UserInterface.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseManager.h"
 #include "views/CommandTable.h"
 #include "views/IViewController.h"
-#include "views/ToolDispatcher.h"
+#include "application/ToolDispatcher.h"
 #include "views/ViewFactory.h"
 
 #include "support/MemoryMainForm.h"

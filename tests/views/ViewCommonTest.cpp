@@ -7,10 +7,10 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/SeverityItem.h"
 #include "rulebase/ViolationDefinition.h"
-#include "views/ComboControl.h"
+#include "controls/ComboControl.h"
 #include "views/MemoryListControl.h"
 #include "views/MemoryTreeControl.h"
-#include "views/modUIListUtils.h"
+#include "controls/modUIListUtils.h"
 #include "views/modViewCommon.h"
 #include "vocabulary/ObjectTreeHelper.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/IRuleEditorLauncher.h"
+#include "editors/IRuleEditorLauncher.h"
 
 #include <functional>
 #include <memory>

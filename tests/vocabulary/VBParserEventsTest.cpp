@@ -1,7 +1,7 @@
 #include "LogCapture.h"
 
 #include "platform/TextUtils.h"
-#include "vocabulary/ImageComboControl.h"
+#include "controls/ImageComboControl.h"
 #include "vocabulary/ObjectHelper.h"
 #include "vocabulary/ParserEventCatalogue.h"
 #include "vocabulary/VBParserEvents.h"

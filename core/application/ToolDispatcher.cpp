@@ -1,7 +1,7 @@
-#include "views/ToolDispatcher.h"
+#include "application/ToolDispatcher.h"
 
 #include "application/Application.h"
-#include "application/IMainForm.h"
+#include "views/IMainForm.h"
 #include "platform/ErrorFrame.h"
 #include "platform/TextUtils.h"
 #include "rulebase/Rulebase.h"

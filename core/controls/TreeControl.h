@@ -1,6 +1,6 @@
 #pragma once
 
-#include "vocabulary/RuleTreeControl.h"
+#include "controls/RuleTreeControl.h"
 
 #include <QString>
 

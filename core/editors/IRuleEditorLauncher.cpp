@@ -1,4 +1,4 @@
-#include "views/IRuleEditorLauncher.h"
+#include "editors/IRuleEditorLauncher.h"
 
 namespace {
 

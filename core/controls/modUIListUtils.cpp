@@ -1,10 +1,10 @@
-#include "views/modUIListUtils.h"
+#include "controls/modUIListUtils.h"
 
 #include "platform/ErrorFrame.h"
 #include "rulebase/CategoryItem.h"
 #include "rulebase/CategoryList.h"
 #include "rulebase/SeverityItem.h"
-#include "views/ComboControl.h"
+#include "controls/ComboControl.h"
 
 namespace modUIListUtils {
 
