@@ -4,8 +4,8 @@
 #include "gui/frmMain.h"
 #include "rulebase/Rulebase.h"
 #include "views/IViewController.h"
-#include "views/MemoryListControl.h"
-#include "views/MemoryTreeControl.h"
+#include "support/MemoryListControl.h"
+#include "support/MemoryTreeControl.h"
 #include "views/ViewFactory.h"
 
 #include <QApplication>

@@ -2,8 +2,6 @@
 
 #include "gui/window/Images.h"
 
-#include "collections/KeyedListErrors.h"
-#include "platform/QuorinError.h"
 #include "views/DragDrop.h"
 #include "views/modViewCommon.h"
 
@@ -15,16 +13,9 @@
 #include <QMouseEvent>
 #include <QTreeView>
 
-#include <algorithm>
 #include <memory>
-#include <numeric>
 
 namespace {
-
-QString sourceOf(const char *member)
-{
-    return QStringLiteral("QtListControl::") + QString::fromLatin1(member);
-}
 
 Qt::Alignment alignmentOf(ColumnAlignment alignment)
 {
@@ -82,7 +73,7 @@ QVariant QtListControl::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
-    const Row &row = m_rows[std::size_t(index.row())];
+    const ListRows::Row &row = m_rows.at(index.row() + 1);
     const int column = index.column();
     const std::size_t sub = std::size_t(column - 1);
     switch (role) {
@@ -93,12 +84,12 @@ QVariant QtListControl::data(const QModelIndex &index, int role) const
     case Qt::ForegroundRole: {
         const qint32 colour = column == 0                 ? row.foreColor
                               : sub < row.subItems.size() ? row.subItems[sub].foreColor
-                                                          : m_foreColor;
+                                                          : m_rows.foreColor();
         // The list's own colour is the palette's, so that it follows the theme.
-        return colour == m_foreColor ? QVariant() : QVariant(colourOf(colour));
+        return colour == m_rows.foreColor() ? QVariant() : QVariant(colourOf(colour));
     }
     case Qt::TextAlignmentRole:
-        return QVariant::fromValue(alignmentOf(m_columns[std::size_t(column)].alignment));
+        return QVariant::fromValue(alignmentOf(m_rows.columnAt(column + 1).alignment));
     case Qt::DecorationRole: {
         if (column != 0 || row.smallIcon <= 0)
             return {};
@@ -116,10 +107,11 @@ QVariant QtListControl::headerData(int section, Qt::Orientation orientation, int
 {
     if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
         return {};
+    const ListRows::Column &column = m_rows.columnAt(section + 1);
     if (role == Qt::DisplayRole)
-        return m_columns[std::size_t(section)].header;
+        return column.header;
     if (role == Qt::TextAlignmentRole)
-        return QVariant::fromValue(alignmentOf(m_columns[std::size_t(section)].alignment));
+        return QVariant::fromValue(alignmentOf(column.alignment));
     return {};
 }
 
@@ -128,7 +120,6 @@ void QtListControl::clear()
     m_quiet = true;
     beginResetModel();
     m_rows.clear();
-    m_positions.clear();
     endResetModel();
     m_quiet = false;
     m_reportedByPress = 0;
@@ -136,52 +127,42 @@ void QtListControl::clear()
 
 int QtListControl::add(const QString &key, const QString &text, int smallIcon)
 {
-    const QString folded = key.toCaseFolded();
-    if (m_positions.contains(folded))
-        throw QuorinError(ErrorNumber::DuplicateKey,
-                          sourceOf("add"),
-                          QStringLiteral("Key is not unique in collection"));
-    const int row = count();
-    beginInsertRows(QModelIndex(), row, row);
-    m_rows.push_back(Row{key, text, smallIcon, m_foreColor, {}});
-    m_positions.insert(folded, row + 1);
+    if (find(key) != 0)
+        return m_rows.add(key, text, smallIcon); // raises the duplicate key
+    beginInsertRows(QModelIndex(), count(), count());
+    const int row = m_rows.add(key, text, smallIcon);
     endInsertRows();
-    return row + 1;
+    return row;
 }
 
 void QtListControl::remove(const QString &key)
 {
     const int row = find(key);
-    if (row == 0)
-        KeyedListErrors::raiseNoSuchItem("Remove");
+    if (row == 0) {
+        m_rows.remove(key); // raises "No such item."
+        return;
+    }
     m_quiet = true;
     beginRemoveRows(QModelIndex(), row - 1, row - 1);
-    m_rows.erase(m_rows.begin() + (row - 1));
-    m_positions.remove(key.toCaseFolded());
-    rehash(row);
+    m_rows.remove(key);
     endRemoveRows();
     m_quiet = false;
 }
 
-int QtListControl::find(const QString &key) const
-{
-    return m_positions.value(key.toCaseFolded(), 0);
-}
-
 void QtListControl::setText(int row, const QString &text)
 {
-    at(row).text = text;
+    m_rows.at(row).text = text;
     cellChanged(row, 0, Qt::DisplayRole);
 }
 
 void QtListControl::setSmallIcon(int row, int icon)
 {
-    at(row).smallIcon = icon;
+    m_rows.at(row).smallIcon = icon;
 }
 
 bool QtListControl::selected(int row) const
 {
-    at(row);
+    m_rows.at(row);
     return m_view->selectionModel()->isRowSelected(row - 1, QModelIndex());
 }
 
@@ -199,53 +180,28 @@ void QtListControl::setSelected(int row, bool selected)
 
 void QtListControl::setForeColor(int row, qint32 colour)
 {
-    at(row).foreColor = colour;
+    m_rows.at(row).foreColor = colour;
     cellChanged(row, 0, Qt::ForegroundRole);
-}
-
-QString QtListControl::subItemText(int row, int subItem) const
-{
-    const Row &r = at(row);
-    if (subItem < 1)
-        throw QuorinError::subscriptOutOfRange(sourceOf("ListSubItems"));
-    return std::size_t(subItem) <= r.subItems.size() ? r.subItems[std::size_t(subItem - 1)].text
-                                                     : QString();
 }
 
 void QtListControl::setSubItemText(int row, int subItem, const QString &text)
 {
-    Row &r = at(row);
-    if (subItem < 1)
-        throw QuorinError::subscriptOutOfRange(sourceOf("ListSubItems"));
-    if (std::size_t(subItem) > r.subItems.size())
-        r.subItems.resize(std::size_t(subItem), SubItem{QString(), m_foreColor});
-    r.subItems[std::size_t(subItem - 1)].text = text;
+    m_rows.setSubItemText(row, subItem, text);
     cellChanged(row, subItem, Qt::DisplayRole);
-}
-
-qint32 QtListControl::subItemForeColor(int row, int subItem) const
-{
-    const Row &r = at(row);
-    if (subItem < 1 || std::size_t(subItem) > r.subItems.size())
-        throw QuorinError::subscriptOutOfRange(sourceOf("ListSubItems"));
-    return r.subItems[std::size_t(subItem - 1)].foreColor;
 }
 
 void QtListControl::setSubItemForeColor(int row, int subItem, qint32 colour)
 {
-    Row &r = at(row);
-    if (subItem < 1 || std::size_t(subItem) > r.subItems.size())
-        throw QuorinError::subscriptOutOfRange(sourceOf("ListSubItems"));
-    r.subItems[std::size_t(subItem - 1)].foreColor = colour;
+    m_rows.setSubItemForeColor(row, subItem, colour);
     cellChanged(row, subItem, Qt::ForegroundRole);
 }
 
 void QtListControl::clearColumns()
 {
-    if (m_columns.empty())
+    if (columnCount() == 0)
         return;
     beginRemoveColumns(QModelIndex(), 0, columnCount() - 1);
-    m_columns.clear();
+    m_rows.clearColumns();
     endRemoveColumns();
 }
 
@@ -253,7 +209,7 @@ int QtListControl::addColumn(const QString &header, ColumnAlignment alignment, i
 {
     const int column = columnCount();
     beginInsertColumns(QModelIndex(), column, column);
-    m_columns.push_back(Column{header, alignment, QString()});
+    m_rows.addColumn(header, alignment, width);
     endInsertColumns();
     if (width > 0)
         m_view->header()->resizeSection(column, width);
@@ -262,19 +218,19 @@ int QtListControl::addColumn(const QString &header, ColumnAlignment alignment, i
 
 int QtListControl::columnWidth(int column) const
 {
-    columnAt(column);
+    m_rows.columnAt(column);
     return m_view->header()->sectionSize(column - 1);
 }
 
 void QtListControl::setColumnWidth(int column, int width)
 {
-    columnAt(column);
+    m_rows.columnAt(column).width = width;
     m_view->header()->resizeSection(column - 1, width);
 }
 
 void QtListControl::setColumnAlignment(int column, ColumnAlignment alignment)
 {
-    columnAt(column).alignment = alignment;
+    m_rows.columnAt(column).alignment = alignment;
     emit headerDataChanged(Qt::Horizontal, column - 1, column - 1);
     if (count() > 0)
         emit dataChanged(
@@ -283,7 +239,7 @@ void QtListControl::setColumnAlignment(int column, ColumnAlignment alignment)
 
 void QtListControl::setColumnIcon(int column, const QString &icon)
 {
-    columnAt(column).icon = icon;
+    m_rows.columnAt(column).icon = icon;
     showSortIndicator();
 }
 
@@ -292,7 +248,7 @@ void QtListControl::showSortIndicator()
 {
     QHeaderView *header = m_view->header();
     for (int column = 1; column <= columnCount(); ++column) {
-        const QString &icon = m_columns[std::size_t(column - 1)].icon;
+        const QString &icon = m_rows.columnAt(column).icon;
         const bool ascending
             = icon.compare(QLatin1String("SortAscending"), Qt::CaseInsensitive) == 0;
         if (ascending || icon.compare(QLatin1String("SortDescending"), Qt::CaseInsensitive) == 0) {
@@ -312,58 +268,28 @@ int QtListControl::width() const
 
 void QtListControl::setSortKey(int column)
 {
-    m_sortKey = column;
+    m_rows.setSortKey(column);
     sortRows();
 }
 
 void QtListControl::setSortOrder(int order)
 {
-    m_sortOrder = order;
+    m_rows.setSortOrder(order);
     sortRows();
 }
 
 void QtListControl::setSorted(bool sorted)
 {
-    m_sorted = sorted;
+    m_rows.setSorted(sorted);
     sortRows();
-}
-
-QString QtListControl::sortText(const Row &row) const
-{
-    if (m_sortKey == 0)
-        return row.text;
-    const std::size_t sub = std::size_t(m_sortKey - 1);
-    return sub < row.subItems.size() ? row.subItems[sub].text : QString();
 }
 
 void QtListControl::sortRows()
 {
-    if (!m_sorted || m_rows.empty())
+    if (!sorted() || count() == 0)
         return;
-    // By text ignoring case, stable so that equal texts keep their order.
-    std::vector<int> order(m_rows.size());
-    std::iota(order.begin(), order.end(), 0);
-    std::vector<QString> texts;
-    texts.reserve(m_rows.size());
-    for (const Row &row : m_rows)
-        texts.push_back(sortText(row));
-    std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
-        const int c
-            = QString::compare(texts[std::size_t(a)], texts[std::size_t(b)], Qt::CaseInsensitive);
-        return m_sortOrder == 1 ? c > 0 : c < 0;
-    });
-
     emit layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
-    std::vector<int> newRowOf(m_rows.size());
-    std::vector<Row> rows;
-    rows.reserve(m_rows.size());
-    for (std::size_t i = 0; i < order.size(); ++i) {
-        newRowOf[std::size_t(order[i])] = int(i);
-        rows.push_back(std::move(m_rows[std::size_t(order[i])]));
-    }
-    m_rows = std::move(rows);
-    rehash(1);
-    // Selection and current row follow their rows.
+    const std::vector<int> newRowOf = m_rows.sort();
     const QModelIndexList before = persistentIndexList();
     QModelIndexList after;
     after.reserve(before.size());
@@ -371,12 +297,6 @@ void QtListControl::sortRows()
         after << this->index(newRowOf[std::size_t(index.row())], index.column());
     changePersistentIndexList(before, after);
     emit layoutChanged({}, QAbstractItemModel::VerticalSortHint);
-}
-
-void QtListControl::rehash(int fromRow)
-{
-    for (int i = fromRow; i <= count(); ++i)
-        m_positions.insert(m_rows[std::size_t(i - 1)].key.toCaseFolded(), i);
 }
 
 int QtListControl::selectedItem() const
@@ -391,7 +311,7 @@ void QtListControl::setSelectedItem(int row)
     if (row == 0) {
         m_view->selectionModel()->setCurrentIndex(QModelIndex(), QItemSelectionModel::NoUpdate);
     } else {
-        at(row);
+        m_rows.at(row);
         m_view->selectionModel()->setCurrentIndex(
             index(row - 1, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
     }
@@ -458,40 +378,13 @@ bool QtListControl::startDrag()
     drag->setMimeData(data.release());
     // The rows' own picture travels with the pointer.
     const int row = selectedItem();
-    if (row != 0 && at(row).smallIcon > 0)
-        drag->setPixmap(Images::icon(m_imageList, QString::number(at(row).smallIcon)).pixmap(16, 16));
+    if (row != 0 && m_rows.at(row).smallIcon > 0)
+        drag->setPixmap(
+            Images::icon(m_imageList, QString::number(m_rows.at(row).smallIcon)).pixmap(16, 16));
     drag->exec(Qt::MoveAction, Qt::MoveAction);
     if (m_events)
         m_events->OLECompleteDrag();
     return true;
-}
-
-QtListControl::Row &QtListControl::at(int row)
-{
-    if (row < 1 || row > count())
-        throw QuorinError::subscriptOutOfRange(sourceOf("ListItem"));
-    return m_rows[std::size_t(row - 1)];
-}
-
-const QtListControl::Row &QtListControl::at(int row) const
-{
-    if (row < 1 || row > count())
-        throw QuorinError::subscriptOutOfRange(sourceOf("ListItem"));
-    return m_rows[std::size_t(row - 1)];
-}
-
-QtListControl::Column &QtListControl::columnAt(int column)
-{
-    if (column < 1 || column > columnCount())
-        throw QuorinError::subscriptOutOfRange(sourceOf("ColumnHeaders"));
-    return m_columns[std::size_t(column - 1)];
-}
-
-const QtListControl::Column &QtListControl::columnAt(int column) const
-{
-    if (column < 1 || column > columnCount())
-        throw QuorinError::subscriptOutOfRange(sourceOf("ColumnHeaders"));
-    return m_columns[std::size_t(column - 1)];
 }
 
 // Sub-items beyond the last column are kept but not shown.

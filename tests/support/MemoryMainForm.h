@@ -1,8 +1,8 @@
 #pragma once
 
 #include "views/IMainForm.h"
-#include "views/MemoryListControl.h"
-#include "views/MemoryTreeControl.h"
+#include "support/MemoryListControl.h"
+#include "support/MemoryTreeControl.h"
 
 #include <QHash>
 #include <QStringList>

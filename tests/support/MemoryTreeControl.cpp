@@ -1,4 +1,4 @@
-#include "views/MemoryTreeControl.h"
+#include "support/MemoryTreeControl.h"
 
 #include "platform/QuorinError.h"
 
