@@ -115,7 +115,7 @@ void writeFile(const QString &filename, const QByteArray &bytes)
 
 } // namespace
 
-bool RulebaseDocCreator::CreateDocumentation(const Rulebase &rulebase, QString &filename)
+bool RulebaseDocCreator::CreateDocumentation(Rulebase &rulebase, QString &filename)
 {
     return guarded("CreateDocumentation", module, false, [&] {
         const auto sections = rulebase.Report()->Sections();
@@ -370,7 +370,7 @@ bool RulebaseDocCreator::CreateContentsPage(QString &out, const Sections &sectio
 }
 
 bool RulebaseDocCreator::CreateSectionPages(QString &out,
-                                            const Rulebase &rulebase,
+                                            Rulebase &rulebase,
                                             const Sections &sections) const
 {
     return guarded("CreateSectionPages", module, false, [&] {

@@ -27,8 +27,9 @@ class RulebaseDocCreator final
 {
 public:
     // `filename` receives the document's name. False when the document could not be made: the
-    // error has been reported, and any earlier document is left as it was.
-    bool CreateDocumentation(const Rulebase &rulebase, QString &filename);
+    // error has been reported, and any earlier document is left as it was. The control and
+    // data type tags are sorted by name in the rulebase itself, as the document shows them.
+    bool CreateDocumentation(Rulebase &rulebase, QString &filename);
 
     // The file to write instead of the one beside the rulebase; empty (the default) keeps to
     // the rulebase's name.
@@ -54,7 +55,7 @@ private:
     bool WriteHTMLHeader(QString &out) const;
     bool CreateTitlePage(QString &out, const Rulebase &rulebase) const;
     bool CreateContentsPage(QString &out, const Sections &sections) const;
-    bool CreateSectionPages(QString &out, const Rulebase &rulebase, const Sections &sections) const;
+    bool CreateSectionPages(QString &out, Rulebase &rulebase, const Sections &sections) const;
     bool
     CreateCategoryPage(QString &out, const Rulebase &rulebase, const CategoryItem &category) const;
     bool CreateTagsPage(QString &out,

@@ -39,6 +39,7 @@ public:
     Screen &screen() { return m_screen; }
     const Screen &screen() const { return m_screen; }
     CommonScreen &common() override { return m_screen; }
+    const CommonScreen &common() const override { return m_screen; }
 
     // Then the event tab, as the loaded pending flag wants it.
     void Load() override;

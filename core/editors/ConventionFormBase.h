@@ -46,7 +46,7 @@ public:
     const std::shared_ptr<Rulebase> &rulebase() const { return m_rulebase; }
 
     virtual CommonScreen &common() = 0;
-    const CommonScreen &common() const { return const_cast<ConventionFormBase *>(this)->common(); }
+    virtual const CommonScreen &common() const = 0;
 
     // Form load: the static lists, then the rule's data.
     virtual void Load();

@@ -78,6 +78,7 @@ public:
     Screen &screen() { return m_screen; }
     const Screen &screen() const { return m_screen; }
     CommonScreen &common() override { return m_screen; }
+    const CommonScreen &common() const override { return m_screen; }
     ItemSection &section(Part part) { return part == Prefix ? m_screen.prefix : m_screen.suffix; }
     qint32 ObjectType() const { return m_objectType; }
     qint32 PropertyType() const { return m_propertyType; }

@@ -31,6 +31,7 @@ public:
     Screen &screen() { return m_screen; }
     const Screen &screen() const { return m_screen; }
     CommonScreen &common() override { return m_screen; }
+    const CommonScreen &common() const override { return m_screen; }
 
     void DataToScreen() override;
 

@@ -25,20 +25,22 @@ public:
     Rulebase();
     ~Rulebase();
 
-    std::shared_ptr<::AuthorisedReferences> AuthorisedReferences() const
-    {
-        return m_authorisedReferences;
-    }
-    std::shared_ptr<::AuthorisedComponents> AuthorisedComponents() const
-    {
-        return m_authorisedComponents;
-    }
-    std::shared_ptr<::RuleLists> RuleLists() const { return m_ruleLists; }
+    // Each list comes read-only from a read-only rulebase.
+    std::shared_ptr<::AuthorisedReferences> AuthorisedReferences() { return m_authorisedReferences; }
+    std::shared_ptr<const ::AuthorisedReferences> AuthorisedReferences() const { return m_authorisedReferences; }
+    std::shared_ptr<::AuthorisedComponents> AuthorisedComponents() { return m_authorisedComponents; }
+    std::shared_ptr<const ::AuthorisedComponents> AuthorisedComponents() const { return m_authorisedComponents; }
+    std::shared_ptr<::RuleLists> RuleLists() { return m_ruleLists; }
+    std::shared_ptr<const ::RuleLists> RuleLists() const { return m_ruleLists; }
     // Keyed by TagName.
-    std::shared_ptr<ObjectKeyedArrayList<TagItem>> ControlTags() const { return m_controlTags; }
-    std::shared_ptr<ObjectKeyedArrayList<TagItem>> DataTypeTags() const { return m_dataTypeTags; }
-    std::shared_ptr<ObjectKeyedArrayList<TagItem>> ScopeTags() const { return m_scopeTags; }
-    std::shared_ptr<::DefaultViolations> DefaultViolations() const { return m_defaultViolations; }
+    std::shared_ptr<ObjectKeyedArrayList<TagItem>> ControlTags() { return m_controlTags; }
+    std::shared_ptr<const ObjectKeyedArrayList<TagItem>> ControlTags() const { return m_controlTags; }
+    std::shared_ptr<ObjectKeyedArrayList<TagItem>> DataTypeTags() { return m_dataTypeTags; }
+    std::shared_ptr<const ObjectKeyedArrayList<TagItem>> DataTypeTags() const { return m_dataTypeTags; }
+    std::shared_ptr<ObjectKeyedArrayList<TagItem>> ScopeTags() { return m_scopeTags; }
+    std::shared_ptr<const ObjectKeyedArrayList<TagItem>> ScopeTags() const { return m_scopeTags; }
+    std::shared_ptr<::DefaultViolations> DefaultViolations() { return m_defaultViolations; }
+    std::shared_ptr<const ::DefaultViolations> DefaultViolations() const { return m_defaultViolations; }
     // Full path; empty until saved or loaded. Setting it leaves Dirty alone.
     QString Filename() const { return m_filename; }
     void setFilename(const QString &filename) { m_filename = filename; }
@@ -70,13 +72,13 @@ public:
     void setUseCTagsAsDTTags(bool use);
     QString ArrayTag() const { return m_arrayTag; }
     void setArrayTag(const QString &tag);
-    std::shared_ptr<::CategoryList> CategoryList() const { return m_categoryList; }
+    std::shared_ptr<::CategoryList> CategoryList() { return m_categoryList; }
+    std::shared_ptr<const ::CategoryList> CategoryList() const { return m_categoryList; }
     // Keyed by "<level>Key".
-    std::shared_ptr<ObjectKeyedArrayList<SeverityItem>> SeverityList() const
-    {
-        return m_severityList;
-    }
-    std::shared_ptr<::Report> Report() const { return m_report; }
+    std::shared_ptr<ObjectKeyedArrayList<SeverityItem>> SeverityList() { return m_severityList; }
+    std::shared_ptr<const ObjectKeyedArrayList<SeverityItem>> SeverityList() const { return m_severityList; }
+    std::shared_ptr<::Report> Report() { return m_report; }
+    std::shared_ptr<const ::Report> Report() const { return m_report; }
 
     // Tolerances: -1 means none is set. The counts and impacts are entries 1 to 6 of their
     // lists, whose bounds are the list's (a subscript error beyond its capacity).

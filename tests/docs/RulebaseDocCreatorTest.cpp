@@ -26,7 +26,7 @@ using namespace DocTestSupport;
 namespace {
 
 // Writes the document with the known organisation and date; gives its name, or empty.
-QString writeDocument(const Rulebase &rulebase)
+QString writeDocument(Rulebase &rulebase)
 {
     RulebaseDocCreator writer;
     writer.setOrganisation(organisation());
