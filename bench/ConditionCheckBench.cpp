@@ -16,6 +16,14 @@
 namespace {
 
 // A Sub Main of about `lines` lines: `block` again and again, each %1 the block's number.
+QStringList latin1Lines(std::initializer_list<const char *> lines)
+{
+    QStringList list;
+    for (const char *line : lines)
+        list << QLatin1String(line);
+    return list;
+}
+
 QString repeated(const QStringList &block, int lines)
 {
     QStringList text{QStringLiteral("Sub Main")};
@@ -31,7 +39,7 @@ QString repeated(const QStringList &block, int lines)
 // blocks, Quorin calls with vocabulary names, comments, strings and arithmetic.
 QString condition(int lines)
 {
-    const QStringList block = {
+    const QStringList block = latin1Lines({
         "    ' Block %1: the procedure's name against the file's",
         "    If Quorin.ParserEvent() = \"begin Procedure\" Then",
         "        name%1 = Quorin.GetObjectProperty(\"Procedure\", \"Name\")",
@@ -50,7 +58,7 @@ QString condition(int lines)
         "                total = total & \"x\"",
         "        End Select",
         "    End If",
-    };
+    });
     return repeated(block, lines);
 }
 
@@ -58,7 +66,7 @@ QString condition(int lines)
 // declarations and conditional compilation, whose branches are each read from their #If.
 QString statementMix(int lines)
 {
-    const QStringList block = {
+    const QStringList block = latin1Lines({
         "#If Win64 Then",
         "    Dim handle%1 As LongPtr, _",
         "        size%1 As LongLong",
@@ -77,7 +85,7 @@ QString statementMix(int lines)
         "        Case \"begin File\": size%1 = size%1 + 1&",
         "        Case Else: Mid$(text%1, 1) = \"x\"",
         "    End Select",
-    };
+    });
     return repeated(block, lines);
 }
 

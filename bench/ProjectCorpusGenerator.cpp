@@ -138,7 +138,7 @@ class SourceText
 public:
     SourceText(Random &random, bool tabs)
         : m_random(random)
-        , m_indent(tabs ? "\t" : "    ")
+        , m_indent(tabs ? QStringLiteral("\t") : QStringLiteral("    "))
     {
     }
 
@@ -208,8 +208,8 @@ private:
         lines
             << QStringLiteral("Attribute VB_Name = \"%1\"").arg(name)
             << QStringLiteral("Attribute VB_GlobalNameSpace = False")
-            << QStringLiteral("Attribute VB_Creatable = %1").arg(predeclared ? "False" : "True")
-            << QStringLiteral("Attribute VB_PredeclaredId = %1").arg(predeclared ? "True" : "False")
+            << QStringLiteral("Attribute VB_Creatable = %1").arg(predeclared ? QLatin1String("False") : QLatin1String("True"))
+            << QStringLiteral("Attribute VB_PredeclaredId = %1").arg(predeclared ? QLatin1String("True") : QLatin1String("False"))
             << QStringLiteral("Attribute VB_Exposed = False") << QStringLiteral("Option Explicit");
     }
     void font(const QString &indent)

@@ -40,6 +40,13 @@ void line(QString &out, int indent, QStringView text)
     out += QLatin1String("\r\n");
 }
 
+// A line built of pieces, once whole.
+template<typename A, typename B>
+void line(QString &out, int indent, const QStringBuilder<A, B> &text)
+{
+    line(out, indent, QString(text));
+}
+
 void emptyLine(QString &out)
 {
     out += QLatin1String("\r\n");

@@ -24,43 +24,43 @@ QStringList ObjectPropertyForm::ManualEntryFieldList(qint32 objectId)
 {
     if (objectId != controlPropertiesObject && objectId != layoutPropertiesObject)
         return {};
-    QStringList names{"Appearance",
-                      "BackColor",
-                      "BorderStyle",
-                      "Caption",
-                      "Enabled",
-                      "ForeColor",
-                      "Height",
-                      "HelpContextID",
-                      "Left",
-                      "Name",
-                      "ToolTipText",
-                      "Top",
-                      "Visible",
-                      "Width"};
+    QStringList names{QStringLiteral("Appearance"),
+                      QStringLiteral("BackColor"),
+                      QStringLiteral("BorderStyle"),
+                      QStringLiteral("Caption"),
+                      QStringLiteral("Enabled"),
+                      QStringLiteral("ForeColor"),
+                      QStringLiteral("Height"),
+                      QStringLiteral("HelpContextID"),
+                      QStringLiteral("Left"),
+                      QStringLiteral("Name"),
+                      QStringLiteral("ToolTipText"),
+                      QStringLiteral("Top"),
+                      QStringLiteral("Visible"),
+                      QStringLiteral("Width")};
     if (objectId == controlPropertiesObject) {
-        names << "Alignment"
-              << "AutoSize"
-              << "Index"
-              << "MaskColor"
-              << "MaxLength"
-              << "Text"
-              << "UseMaskColor"
-              << "WhatsThisHelpID";
+        names << QStringLiteral("Alignment")
+              << QStringLiteral("AutoSize")
+              << QStringLiteral("Index")
+              << QStringLiteral("MaskColor")
+              << QStringLiteral("MaxLength")
+              << QStringLiteral("Text")
+              << QStringLiteral("UseMaskColor")
+              << QStringLiteral("WhatsThisHelpID");
     } else {
-        names << "AutoRedraw"
-              << "ClipControls"
-              << "ControlBox"
-              << "KeyPreview"
-              << "MaxButton"
-              << "MinButton"
-              << "Moveable"
-              << "ScaleMode"
-              << "ShowInTaskbar"
-              << "StartUpPosition"
-              << "WhatsThisButton"
-              << "WhatsThisHelp"
-              << "WindowState";
+        names << QStringLiteral("AutoRedraw")
+              << QStringLiteral("ClipControls")
+              << QStringLiteral("ControlBox")
+              << QStringLiteral("KeyPreview")
+              << QStringLiteral("MaxButton")
+              << QStringLiteral("MinButton")
+              << QStringLiteral("Moveable")
+              << QStringLiteral("ScaleMode")
+              << QStringLiteral("ShowInTaskbar")
+              << QStringLiteral("StartUpPosition")
+              << QStringLiteral("WhatsThisButton")
+              << QStringLiteral("WhatsThisHelp")
+              << QStringLiteral("WindowState");
     }
     return names;
 }

@@ -112,7 +112,7 @@ RuleEditorModel::Insertion RuleEditorModel::InsertScriptText(const QString &cont
 {
     const int at = std::clamp(caret, 0, int(content.size()));
     Insertion result;
-    result.content = at == 0 ? text + content : content.left(at) + text + content.mid(at);
+    result.content = content.left(at) + text + content.mid(at);
     result.caret = caretOffset == -1 ? at + int(text.size()) : at + caretOffset;
     return result;
 }

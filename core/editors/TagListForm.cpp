@@ -230,8 +230,8 @@ bool TagListForm::GridIsValid(const QString &name) const
 {
     if (m_tagType == ScopeTags || !name.isEmpty())
         return true;
-    showWarning(QStringLiteral("A ") + (m_tagType == ControlTags ? QStringLiteral("ProgID") : QStringLiteral("data type"))
-                + QStringLiteral(" must be entered."));
+    showWarning(m_tagType == ControlTags ? QStringLiteral("A ProgID must be entered.")
+                                         : QStringLiteral("A data type must be entered."));
     return false;
 }
 

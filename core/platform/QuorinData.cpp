@@ -19,7 +19,7 @@ QuorinData::QuorinData()
     const QString key = productKey();
     const Root root = HKEY_LOCAL_MACHINE;
     if (!KeyExists(key, root))
-        qCInfo(lcSettings).noquote() << "Unable to find Quorin registry key: HKEY_LOCAL_MACHINE\\" + key;
+        qCInfo(lcSettings).noquote() << QStringLiteral("Unable to find Quorin registry key: HKEY_LOCAL_MACHINE\\") + key;
 
     // The folders first, so that the files inside them default to the folders in force.
     const QString dataFolder = DataLocation::dataFolder();

@@ -178,8 +178,8 @@ qsizetype matchPart(const std::vector<std::pair<bool, QString>> &pieces,
     }
     expected = QStringLiteral("matching '") + plain + QLatin1Char('\'');
     const QRegularExpression &compiled
-        = patterns.get(prefix ? QStringLiteral("^(?:") + pattern + QLatin1Char(')')
-                              : QStringLiteral("(?:") + pattern + QStringLiteral(")$"),
+        = patterns.get(prefix ? QString(QStringLiteral("^(?:") + pattern + QLatin1Char(')'))
+                              : QString(QStringLiteral("(?:") + pattern + QStringLiteral(")$")),
                        caseSensitive);
     if (!compiled.isValid()) {
         error = compiled.errorString();

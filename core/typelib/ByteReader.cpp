@@ -85,7 +85,7 @@ QString ByteReader::ansiText(qint64 offset, qint64 length) const
     text.reserve(raw.size());
     for (const char c : raw) {
         const quint8 b = quint8(c);
-        text += (b >= 0x80 && b < 0xA0) ? QChar(Cp1252High[b - 0x80]) : QChar(b);
+        text += (b >= 0x80 && b < 0xA0) ? QChar(Cp1252High[b - 0x80]) : QChar(char16_t(b));
     }
     return text;
 }

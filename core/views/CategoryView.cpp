@@ -110,9 +110,9 @@ QString CategoryView::NodeDocumentation(int node) const
         return QStringLiteral(
             "Conventions which have not yet been allocated to a specific category.");
     const std::shared_ptr<CategoryItem> category = m_rulebase->CategoryList()->Item(key);
-    return QStringLiteral("Category")
-           + (category->Hidden() ? QStringLiteral(" (Hidden): ") : QStringLiteral(": "))
-           + category->Title() + QStringLiteral("\r\n\r\n") + category->Description();
+    const QString heading = category->Hidden() ? QStringLiteral("Category (Hidden): ")
+                                               : QStringLiteral("Category: ");
+    return heading + category->Title() + QStringLiteral("\r\n\r\n") + category->Description();
 }
 
 void CategoryView::CategoryListChanged()

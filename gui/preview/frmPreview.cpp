@@ -185,7 +185,7 @@ void frmPreview::updateCounts()
     const qint64 violations = result.count(PreviewFinding::Kind::Violation);
     const qint64 open = result.count(PreviewFinding::Kind::NotPreviewed);
     const qint64 unread = result.count(PreviewFinding::Kind::Unread);
-    auto counted = [](qint64 count, const QString &one, const QString &many) {
+    auto counted = [](qint64 count, const QString &one, const QString &many) -> QString {
         return QString::number(count) + QLatin1Char(' ') + (count == 1 ? one : many);
     };
     QString text = counted(violations, tr("violation"), tr("violations")) + QStringLiteral(", ")
