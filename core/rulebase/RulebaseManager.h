@@ -49,6 +49,8 @@ public:
     static QString currentSchemaVersion() { return QStringLiteral("6.2"); }
 
 private:
+    class StreamedRules;
+
     void LoadProperties(TarnXMLElement element, Rulebase &rulebase);
     void SaveProperties(TarnXMLWriter::Element &element, Rulebase &rulebase);
     void LoadTags(TarnXMLElement element, ObjectKeyedArrayList<TagItem> &list, int tagType);
@@ -73,6 +75,16 @@ private:
     void LoadUnauthorisedKeywords(TarnXMLElement element,
                                   RulebaseLoadCriteria &criteria,
                                   RuleLists &rules);
+    // One rule of each kind, outside a frame: a fault throws to the section's.
+    void LoadUnauthorisedKeyword(const TarnXMLElement &element,
+                                 RulebaseLoadCriteria &criteria,
+                                 RuleLists &rules);
+    void LoadCodingConvention(const TarnXMLElement &element,
+                              RulebaseLoadCriteria &criteria,
+                              RuleLists &rules);
+    void LoadNamingConvention(const TarnXMLElement &element,
+                              RulebaseLoadCriteria &criteria,
+                              RuleLists &rules);
     void SaveUnauthorisedKeywords(TarnXMLWriter::Element &element, const RuleLists &rules);
     void
     LoadCodingConventions(TarnXMLElement element, RulebaseLoadCriteria &criteria, RuleLists &rules);

@@ -369,19 +369,26 @@ void RulebaseManager::LoadUnauthorisedKeywords(TarnXMLElement element,
 {
     guardedVoid("LoadUnauthorisedKeywords", module, [&] {
         takeEachChild(element, [&](const TarnXMLElement &child, qint32) {
-            if (!IsLoadableRule(criteria, child))
-                return;
-            auto rule = std::make_shared<UnauthorisedKeyword>();
-            rule->setRuleID(readLong(child, "RuleID"));
-            rule->setRuleActive(readBool(child, "RuleActive"));
-            rule->setTitle(readText(child, "Title"));
-            rule->setDescription(readText(child, "Description"));
-            rule->setCondition(readText(child, "Condition"));
-            addParserEvents(readText(child, "ParserEventID"), *rule);
-            LoadViolationDefinition(child, *rule->ViolationDefinition());
-            rules.AddConvention(rule, false);
+            LoadUnauthorisedKeyword(child, criteria, rules);
         });
     });
+}
+
+void RulebaseManager::LoadUnauthorisedKeyword(const TarnXMLElement &element,
+                                              RulebaseLoadCriteria &criteria,
+                                              RuleLists &rules)
+{
+    if (!IsLoadableRule(criteria, element))
+        return;
+    auto rule = std::make_shared<UnauthorisedKeyword>();
+    rule->setRuleID(readLong(element, "RuleID"));
+    rule->setRuleActive(readBool(element, "RuleActive"));
+    rule->setTitle(readText(element, "Title"));
+    rule->setDescription(readText(element, "Description"));
+    rule->setCondition(readText(element, "Condition"));
+    addParserEvents(readText(element, "ParserEventID"), *rule);
+    LoadViolationDefinition(element, *rule->ViolationDefinition());
+    rules.AddConvention(rule, false);
 }
 
 void RulebaseManager::SaveUnauthorisedKeywords(TarnXMLWriter::Element &element,
@@ -409,21 +416,28 @@ void RulebaseManager::LoadCodingConventions(TarnXMLElement element,
 {
     guardedVoid("LoadCodingConventions", module, [&] {
         takeEachChild(element, [&](const TarnXMLElement &child, qint32) {
-            if (!IsLoadableRule(criteria, child))
-                return;
-            auto rule = std::make_shared<CodingConvention>();
-            rule->setRuleID(readLong(child, "RuleID"));
-            rule->setRuleActive(readBool(child, "RuleActive"));
-            rule->setTitle(readText(child, "Title"));
-            rule->setDescription(readText(child, "Description"));
-            rule->setPendingViolation(readBool(child, "PendingViolation"));
-            rule->setEndEventID(readLong(child, "EndEventID"));
-            rule->setCondition(readText(child, "Condition"));
-            addParserEvents(readText(child, "ParserEventID"), *rule);
-            LoadViolationDefinition(child, *rule->ViolationDefinition());
-            rules.AddConvention(rule, false);
+            LoadCodingConvention(child, criteria, rules);
         });
     });
+}
+
+void RulebaseManager::LoadCodingConvention(const TarnXMLElement &element,
+                                           RulebaseLoadCriteria &criteria,
+                                           RuleLists &rules)
+{
+    if (!IsLoadableRule(criteria, element))
+        return;
+    auto rule = std::make_shared<CodingConvention>();
+    rule->setRuleID(readLong(element, "RuleID"));
+    rule->setRuleActive(readBool(element, "RuleActive"));
+    rule->setTitle(readText(element, "Title"));
+    rule->setDescription(readText(element, "Description"));
+    rule->setPendingViolation(readBool(element, "PendingViolation"));
+    rule->setEndEventID(readLong(element, "EndEventID"));
+    rule->setCondition(readText(element, "Condition"));
+    addParserEvents(readText(element, "ParserEventID"), *rule);
+    LoadViolationDefinition(element, *rule->ViolationDefinition());
+    rules.AddConvention(rule, false);
 }
 
 void RulebaseManager::SaveCodingConventions(TarnXMLWriter::Element &element, const RuleLists &rules)
@@ -451,42 +465,48 @@ void RulebaseManager::LoadNamingConventions(TarnXMLElement element,
                                             RuleLists &rules)
 {
     guardedVoid("LoadNamingConventions", module, [&] {
-        const bool forEdit = criteria.LoadForEdit();
         takeEachChild(element, [&](const TarnXMLElement &child, qint32) {
-            if (!IsLoadableRule(criteria, child))
-                return;
-            auto rule = std::make_shared<NamingConvention>();
-            rule->setRuleID(readLong(child, "RuleID"));
-            rule->setRuleActive(readBool(child, "RuleActive"));
-            rule->setCaseSensitive(readBool(child, "CaseSensitive"));
-            rule->setTitle(readText(child, "Title"));
-            rule->setDescription(readText(child, "Description"));
-            rule->setObjectType(readLong(child, "ObjectType"));
-            rule->setPropertyType(readLong(child, "PropertyType"));
-            rule->setPropertyName(readText(child, "PropertyName"));
-            rule->setCondition(readText(child, "Condition"));
-            // The review side searches for ";name;", so it gets whole entries delimited.
-            const QString exclusions = readText(child, "ExclusionList");
-            rule->setExclusionList(forEdit ? exclusions
-                                           : QLatin1Char(';') + Text::trimBlanks(exclusions)
-                                                 + QLatin1Char(';'));
-            rule->setPrefixActive(readBool(child, "PrefixActive"));
-            rule->setPrefixAdvice(readText(child, "PrefixAdvice"));
-            rule->setBodyActive(readBool(child, "BodyActive"));
-            rule->setBodyPattern(readText(child, "BodyPattern"));
-            rule->setMaxBodyLength(readInteger(child, "BodyMaxLength"));
-            rule->setMinBodyLength(readInteger(child, "BodyMinLength"));
-            rule->setBodyAdvice(readText(child, "BodyAdvice"));
-            rule->setSuffixActive(readBool(child, "SuffixActive"));
-            rule->setSuffixAdvice(readText(child, "SuffixAdvice"));
-            if (rule->PrefixActive())
-                loadPrefixSuffixItems(child, "PrefixItems", *rule->PrefixItems());
-            if (rule->SuffixActive())
-                loadPrefixSuffixItems(child, "SuffixItems", *rule->SuffixItems());
-            LoadViolationDefinition(child, *rule->ViolationDefinition());
-            rules.AddConvention(rule, false);
+            LoadNamingConvention(child, criteria, rules);
         });
     });
+}
+
+void RulebaseManager::LoadNamingConvention(const TarnXMLElement &element,
+                                           RulebaseLoadCriteria &criteria,
+                                           RuleLists &rules)
+{
+    if (!IsLoadableRule(criteria, element))
+        return;
+    auto rule = std::make_shared<NamingConvention>();
+    rule->setRuleID(readLong(element, "RuleID"));
+    rule->setRuleActive(readBool(element, "RuleActive"));
+    rule->setCaseSensitive(readBool(element, "CaseSensitive"));
+    rule->setTitle(readText(element, "Title"));
+    rule->setDescription(readText(element, "Description"));
+    rule->setObjectType(readLong(element, "ObjectType"));
+    rule->setPropertyType(readLong(element, "PropertyType"));
+    rule->setPropertyName(readText(element, "PropertyName"));
+    rule->setCondition(readText(element, "Condition"));
+    // The review side searches for ";name;", so it gets whole entries delimited.
+    const QString exclusions = readText(element, "ExclusionList");
+    rule->setExclusionList(criteria.LoadForEdit() ? exclusions
+                                                  : QLatin1Char(';') + Text::trimBlanks(exclusions)
+                                                        + QLatin1Char(';'));
+    rule->setPrefixActive(readBool(element, "PrefixActive"));
+    rule->setPrefixAdvice(readText(element, "PrefixAdvice"));
+    rule->setBodyActive(readBool(element, "BodyActive"));
+    rule->setBodyPattern(readText(element, "BodyPattern"));
+    rule->setMaxBodyLength(readInteger(element, "BodyMaxLength"));
+    rule->setMinBodyLength(readInteger(element, "BodyMinLength"));
+    rule->setBodyAdvice(readText(element, "BodyAdvice"));
+    rule->setSuffixActive(readBool(element, "SuffixActive"));
+    rule->setSuffixAdvice(readText(element, "SuffixAdvice"));
+    if (rule->PrefixActive())
+        loadPrefixSuffixItems(element, "PrefixItems", *rule->PrefixItems());
+    if (rule->SuffixActive())
+        loadPrefixSuffixItems(element, "SuffixItems", *rule->SuffixItems());
+    LoadViolationDefinition(element, *rule->ViolationDefinition());
+    rules.AddConvention(rule, false);
 }
 
 void RulebaseManager::SaveNamingConventions(TarnXMLWriter::Element &element, const RuleLists &rules)
