@@ -28,6 +28,10 @@
 #include "rulebase/ViolationDefinition.h"
 #include "xml/TarnXMLElement.h"
 
+#include <QVarLengthArray>
+
+#include <limits>
+
 using namespace RulebaseFileValues;
 
 namespace {
@@ -46,8 +50,33 @@ void takeEachChild(TarnXMLElement &parent, Apply &&apply)
     }
 }
 
-void addParserEvents(const QString &list, auto &rule)
+void addParserEvents(const TarnXMLElement &element, auto &rule)
 {
+    // Plain numbers, nearly every list a file holds, are read from the stored text in place.
+    const QUtf8StringView stored = element.AttributeUtf8ByName(QLatin1StringView("ParserEventID"));
+    if (!stored.isNull()) {
+        if (stored.isEmpty())
+            return;
+        QVarLengthArray<qint32, 16> ids;
+        bool plain = true;
+        for (qsizetype from = 0; plain && from <= stored.size();) {
+            qsizetype to = from;
+            while (to < stored.size() && stored[to] != '|')
+                ++to;
+            qint64 id = 0;
+            plain = Text::parsePlainInteger(stored.sliced(from, to - from), id)
+                    && id >= std::numeric_limits<qint32>::min()
+                    && id <= std::numeric_limits<qint32>::max();
+            ids.append(qint32(id));
+            from = to + 1;
+        }
+        if (plain) {
+            for (const qint32 id : ids)
+                rule.AddParserEventID(id);
+            return;
+        }
+    }
+    const QString list = readText(element, "ParserEventID");
     if (list.isEmpty())
         return;
     for (const QString &part : list.split(QLatin1Char('|')))
@@ -386,7 +415,7 @@ void RulebaseManager::LoadUnauthorisedKeyword(const TarnXMLElement &element,
     rule->setTitle(readText(element, "Title"));
     rule->setDescription(readText(element, "Description"));
     rule->setCondition(readText(element, "Condition"));
-    addParserEvents(readText(element, "ParserEventID"), *rule);
+    addParserEvents(element, *rule);
     LoadViolationDefinition(element, *rule->ViolationDefinition());
     rules.AddConvention(rule, false);
 }
@@ -435,7 +464,7 @@ void RulebaseManager::LoadCodingConvention(const TarnXMLElement &element,
     rule->setPendingViolation(readBool(element, "PendingViolation"));
     rule->setEndEventID(readLong(element, "EndEventID"));
     rule->setCondition(readText(element, "Condition"));
-    addParserEvents(readText(element, "ParserEventID"), *rule);
+    addParserEvents(element, *rule);
     LoadViolationDefinition(element, *rule->ViolationDefinition());
     rules.AddConvention(rule, false);
 }

@@ -130,7 +130,7 @@ public:
             return;
         const xmlNodePtr parent = node->parent;
         if (parent && parent->type == XML_DOCUMENT_NODE) {
-            begin(context->myDoc, node);
+            begin(context, node);
             return;
         }
         if (!m_on)
@@ -177,12 +177,18 @@ private:
         bool stopped = false;
     };
 
-    void begin(xmlDocPtr document, xmlNodePtr root)
+    void begin(xmlParserCtxtPtr context, xmlNodePtr root)
     {
         m_root = root;
+        const xmlDocPtr document = context->myDoc;
         // Validation needs the whole tree, and entities declared in a DTD stay the tree's.
         if (document->intSubset || document->extSubset)
             return;
+        // Without a DTD only the five predefined entities exist, so the parser may put their
+        // characters in attribute values itself rather than leave references to be parsed
+        // again; and no attribute but xml:id can be an ID, of no use to a reader.
+        context->replaceEntities = 1;
+        context->loadsubset |= XML_SKIP_IDS;
         m_state = std::make_shared<TarnXMLDocState>(document, false);
         call([&] { m_on = m_reader.Begin(TarnXMLDocState::elementOf(m_state, root)); });
     }
