@@ -119,6 +119,7 @@ public:
             for (const QLatin1StringView step : path.tokenize(QLatin1Char('/')))
                 list.steps.push_back(step);
             list.found.assign(list.steps.size(), nullptr);
+            m_unfound += list.steps.size();
             m_lists.push_back(std::move(list));
         }
     }
@@ -133,7 +134,7 @@ public:
             begin(context, node);
             return;
         }
-        if (!m_on)
+        if (!m_on || m_unfound == 0)
             return;
         for (List &list : m_lists) {
             for (size_t step = 0; step < list.steps.size(); ++step) {
@@ -141,6 +142,7 @@ public:
                 if (list.found[step] == nullptr && above == parent
                     && sameName(node->name, list.steps[step], Qt::CaseInsensitive)) {
                     list.found[step] = node;
+                    --m_unfound;
                 }
             }
         }
@@ -220,6 +222,7 @@ private:
                 for (xmlNodePtr above = found; above; above = above->parent) {
                     if (above == child) {
                         found = nullptr;
+                        ++m_unfound;
                         other.stopped = true;
                         break;
                     }
@@ -242,6 +245,8 @@ private:
 
     TarnXMLChildReader &m_reader;
     std::vector<List> m_lists;
+    // Steps whose element has yet to come: none, and start tags need no look.
+    size_t m_unfound = 0;
     std::shared_ptr<TarnXMLDocState> m_state;
     xmlNodePtr m_root = nullptr;
     bool m_on = false;
