@@ -127,17 +127,11 @@ public:
             if (!m_ended[before])
                 return false;
         }
+        static constexpr RuleLoader loaders[] = {&RulebaseManager::LoadUnauthorisedKeyword,
+                                                 &RulebaseManager::LoadCodingConvention,
+                                                 &RulebaseManager::LoadNamingConvention};
         try {
-            switch (list) {
-            case Keywords:
-                m_manager.LoadUnauthorisedKeyword(child, m_criteria, m_rules);
-                break;
-            case Coding:
-                m_manager.LoadCodingConvention(child, m_criteria, m_rules);
-                break;
-            default:
-                m_manager.LoadNamingConvention(child, m_criteria, m_rules);
-            }
+            (m_manager.*loaders[list])(child, m_criteria, m_rules);
         } catch (const std::exception &) {
             return false;
         }
@@ -223,7 +217,11 @@ std::shared_ptr<Rulebase> RulebaseManager::LoadRulebase(RulebaseLoadCriteria &cr
         criteria.setNumUnauthKeywords(streamed.Read(StreamedRules::Keywords)
                                       + keywords.ElementCount());
         if (criteria.UnauthorisedKeywords() || all)
-            LoadUnauthorisedKeywords(keywords, criteria, rules);
+            LoadRules("LoadUnauthorisedKeywords",
+                      keywords,
+                      criteria,
+                      rules,
+                      &RulebaseManager::LoadUnauthorisedKeyword);
 
         const TarnXMLElement rulesElement = requireChild(root, "Rules");
         rules.setLastID(readLong(rulesElement, "LastRuleID"));
@@ -232,13 +230,21 @@ std::shared_ptr<Rulebase> RulebaseManager::LoadRulebase(RulebaseLoadCriteria &cr
         criteria.setNumCodingConventions(streamed.Read(StreamedRules::Coding)
                                          + coding.ElementCount());
         if (criteria.CodingConventions() || all)
-            LoadCodingConventions(coding, criteria, rules);
+            LoadRules("LoadCodingConventions",
+                      coding,
+                      criteria,
+                      rules,
+                      &RulebaseManager::LoadCodingConvention);
 
         const TarnXMLElement naming = requireChild(rulesElement, "NamingConventions");
         criteria.setNumNamingConventions(streamed.Read(StreamedRules::Naming)
                                          + naming.ElementCount());
         if (criteria.NamingConventions() || all)
-            LoadNamingConventions(naming, criteria, rules);
+            LoadRules("LoadNamingConventions",
+                      naming,
+                      criteria,
+                      rules,
+                      &RulebaseManager::LoadNamingConvention);
 
         if (all)
             LoadReport(root.ElementByName(QStringLiteral("Report")), *rulebase);

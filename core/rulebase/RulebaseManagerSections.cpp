@@ -38,18 +38,6 @@ namespace {
 
 constexpr const char *module = "RulebaseManager";
 
-// The same for a rule section, which is most of the file: each rule goes from the tree once
-// read, so the rules that follow take its memory rather than more from the system.
-template<typename Apply>
-void takeEachChild(TarnXMLElement &parent, Apply &&apply)
-{
-    const qint32 count = parent.ElementCount();
-    for (qint32 i = 0; i < count; ++i) {
-        apply(parent.ElementAtPosition(0), i);
-        parent.RemoveElement(0);
-    }
-}
-
 void addParserEvents(const TarnXMLElement &element, auto &rule)
 {
     // Plain numbers, nearly every list a file holds, are read from the stored text in place.
@@ -392,14 +380,18 @@ void RulebaseManager::SaveViolationDefintion(TarnXMLWriter::Element &rule,
     writeText(element, "Advice", definition.Advice());
 }
 
-void RulebaseManager::LoadUnauthorisedKeywords(TarnXMLElement element,
-                                               RulebaseLoadCriteria &criteria,
-                                               RuleLists &rules)
+void RulebaseManager::LoadRules(const char *frame,
+                                TarnXMLElement element,
+                                RulebaseLoadCriteria &criteria,
+                                RuleLists &rules,
+                                RuleLoader load)
 {
-    guardedVoid("LoadUnauthorisedKeywords", module, [&] {
-        takeEachChild(element, [&](const TarnXMLElement &child, qint32) {
-            LoadUnauthorisedKeyword(child, criteria, rules);
-        });
+    guardedVoid(frame, module, [&] {
+        const qint32 count = element.ElementCount();
+        for (qint32 i = 0; i < count; ++i) {
+            (this->*load)(element.ElementAtPosition(0), criteria, rules);
+            element.RemoveElement(0);
+        }
     });
 }
 
@@ -439,17 +431,6 @@ void RulebaseManager::SaveUnauthorisedKeywords(TarnXMLWriter::Element &element,
     });
 }
 
-void RulebaseManager::LoadCodingConventions(TarnXMLElement element,
-                                            RulebaseLoadCriteria &criteria,
-                                            RuleLists &rules)
-{
-    guardedVoid("LoadCodingConventions", module, [&] {
-        takeEachChild(element, [&](const TarnXMLElement &child, qint32) {
-            LoadCodingConvention(child, criteria, rules);
-        });
-    });
-}
-
 void RulebaseManager::LoadCodingConvention(const TarnXMLElement &element,
                                            RulebaseLoadCriteria &criteria,
                                            RuleLists &rules)
@@ -486,17 +467,6 @@ void RulebaseManager::SaveCodingConventions(TarnXMLWriter::Element &element, con
             writeText(child, "ParserEventID", rule->ParserEventList());
             SaveViolationDefintion(child, *rule->ViolationDefinition());
         }
-    });
-}
-
-void RulebaseManager::LoadNamingConventions(TarnXMLElement element,
-                                            RulebaseLoadCriteria &criteria,
-                                            RuleLists &rules)
-{
-    guardedVoid("LoadNamingConventions", module, [&] {
-        takeEachChild(element, [&](const TarnXMLElement &child, qint32) {
-            LoadNamingConvention(child, criteria, rules);
-        });
     });
 }
 
