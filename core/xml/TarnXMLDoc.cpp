@@ -1,9 +1,8 @@
 #include "xml/TarnXMLDoc.h"
 
-#include "xml/TarnXMLChildReader.h"
-
 #include "platform/ErrorFrame.h"
 #include "platform/QuorinError.h"
+#include "xml/TarnXMLChildReader.h"
 #include "xml/TarnXMLDocState.h"
 #include "xml/TarnXMLElement.h"
 #include "xml/XmlSupport.h"
@@ -186,13 +185,15 @@ private:
         // Validation needs the whole tree, and entities declared in a DTD stay the tree's.
         if (document->intSubset || document->extSubset)
             return;
+        m_state = std::make_shared<TarnXMLDocState>(document, false);
+        call([&] { m_on = m_reader.Begin(TarnXMLDocState::elementOf(m_state, root)); });
+        if (!m_on)
+            return;
         // Without a DTD only the five predefined entities exist, so the parser may put their
         // characters in attribute values itself rather than leave references to be parsed
         // again; and no attribute but xml:id can be an ID, of no use to a reader.
         context->replaceEntities = 1;
         context->loadsubset |= XML_SKIP_IDS;
-        m_state = std::make_shared<TarnXMLDocState>(document, false);
-        call([&] { m_on = m_reader.Begin(TarnXMLDocState::elementOf(m_state, root)); });
     }
 
     void offer(qint32 index, List &list, xmlNodePtr child)
