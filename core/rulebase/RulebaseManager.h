@@ -82,6 +82,13 @@ private:
     void LoadNamingConvention(const TarnXMLElement &element,
                               RulebaseLoadCriteria &criteria,
                               RuleLists &rules);
+    // What keywords and coding conventions share, in file order; `own` reads the fields of the
+    // kind that stand before the condition.
+    template<typename Rule>
+    void LoadEventRule(const TarnXMLElement &element,
+                       RulebaseLoadCriteria &criteria,
+                       RuleLists &rules,
+                       void (*own)(const TarnXMLElement &, Rule &));
     using RuleLoader
         = void (RulebaseManager::*)(const TarnXMLElement &, RulebaseLoadCriteria &, RuleLists &);
     // A rule section, in the frame `frame` names: each rule goes from the tree once read, so the

@@ -14,6 +14,7 @@
 #include "rulebase/CategoryList.h"
 #include "rulebase/CodingConvention.h"
 #include "rulebase/DefaultViolations.h"
+#include "rulebase/EventRule.h"
 #include "rulebase/NamingConvention.h"
 #include "rulebase/PrefixSuffixItem.h"
 #include "rulebase/Report.h"
@@ -38,7 +39,7 @@ namespace {
 
 constexpr const char *module = "RulebaseManager";
 
-void addParserEvents(const TarnXMLElement &element, auto &rule)
+void addParserEvents(const TarnXMLElement &element, EventRule &rule)
 {
     // Plain numbers, nearly every list a file holds, are read from the stored text in place.
     const QUtf8StringView stored = element.AttributeUtf8ByName(QLatin1StringView("ParserEventID"));
@@ -395,21 +396,32 @@ void RulebaseManager::LoadRules(const char *frame,
     });
 }
 
-void RulebaseManager::LoadUnauthorisedKeyword(const TarnXMLElement &element,
-                                              RulebaseLoadCriteria &criteria,
-                                              RuleLists &rules)
+template<typename Rule>
+void RulebaseManager::LoadEventRule(const TarnXMLElement &element,
+                                    RulebaseLoadCriteria &criteria,
+                                    RuleLists &rules,
+                                    void (*own)(const TarnXMLElement &, Rule &))
 {
     if (!IsLoadableRule(criteria, element))
         return;
-    auto rule = std::make_shared<UnauthorisedKeyword>();
+    auto rule = std::make_shared<Rule>();
     rule->setRuleID(readLong(element, "RuleID"));
     rule->setRuleActive(readBool(element, "RuleActive"));
     rule->setTitle(readText(element, "Title"));
     rule->setDescription(readText(element, "Description"));
+    if (own)
+        own(element, *rule);
     rule->setCondition(readText(element, "Condition"));
     addParserEvents(element, *rule);
     LoadViolationDefinition(element, *rule->ViolationDefinition());
     rules.AddConvention(rule, false);
+}
+
+void RulebaseManager::LoadUnauthorisedKeyword(const TarnXMLElement &element,
+                                              RulebaseLoadCriteria &criteria,
+                                              RuleLists &rules)
+{
+    LoadEventRule<UnauthorisedKeyword>(element, criteria, rules, nullptr);
 }
 
 void RulebaseManager::SaveUnauthorisedKeywords(TarnXMLWriter::Element &element,
@@ -435,19 +447,11 @@ void RulebaseManager::LoadCodingConvention(const TarnXMLElement &element,
                                            RulebaseLoadCriteria &criteria,
                                            RuleLists &rules)
 {
-    if (!IsLoadableRule(criteria, element))
-        return;
-    auto rule = std::make_shared<CodingConvention>();
-    rule->setRuleID(readLong(element, "RuleID"));
-    rule->setRuleActive(readBool(element, "RuleActive"));
-    rule->setTitle(readText(element, "Title"));
-    rule->setDescription(readText(element, "Description"));
-    rule->setPendingViolation(readBool(element, "PendingViolation"));
-    rule->setEndEventID(readLong(element, "EndEventID"));
-    rule->setCondition(readText(element, "Condition"));
-    addParserEvents(element, *rule);
-    LoadViolationDefinition(element, *rule->ViolationDefinition());
-    rules.AddConvention(rule, false);
+    LoadEventRule<CodingConvention>(
+        element, criteria, rules, [](const TarnXMLElement &from, CodingConvention &rule) {
+            rule.setPendingViolation(readBool(from, "PendingViolation"));
+            rule.setEndEventID(readLong(from, "EndEventID"));
+        });
 }
 
 void RulebaseManager::SaveCodingConventions(TarnXMLWriter::Element &element, const RuleLists &rules)
