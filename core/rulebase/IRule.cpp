@@ -1,8 +1,15 @@
 #include "rulebase/IRule.h"
 
+#include <charconv>
+#include <cstring>
+
 QString ruleKey(qint32 ruleID)
 {
-    return QString::number(ruleID) + QStringLiteral("Key");
+    // The digits QString::number gives, and one allocation for the whole key.
+    char text[16];
+    char *const end = std::to_chars(text, text + sizeof text - 3, ruleID).ptr;
+    std::memcpy(end, "Key", 3);
+    return QString::fromLatin1(text, end + 3 - text);
 }
 
 QString RuleTypes::displayName(qint32 ruleType)

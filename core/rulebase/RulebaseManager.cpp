@@ -28,11 +28,14 @@
 #include "rulebase/UnauthorisedKeyword.h"
 #include "rulebase/VersionNumber.h"
 #include "rulebase/ViolationDefinition.h"
+#include "xml/TarnXMLChildReader.h"
 #include "xml/TarnXMLDoc.h"
 #include "xml/TarnXMLElement.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+
+#include <array>
 
 using namespace RulebaseFileValues;
 
@@ -88,6 +91,67 @@ void RulebaseManager::setAdministratorOverride(std::optional<bool> administrator
 
 // ---------------------------------------------------------------- frames
 
+// Reads the rules while the file is parsed, so that a large file is never held whole. The
+// sections keep their load order: a section's rules are read only once the sections loaded
+// before it have ended. A rule that fails stays, and the rest of its section with it, for the
+// section's frame to read and report in its turn, as it would have without this.
+class RulebaseManager::StreamedRules final : public TarnXMLChildReader
+{
+public:
+    enum Section { Keywords, Coding, Naming, SectionCount };
+
+    StreamedRules(RulebaseManager &manager, RulebaseLoadCriteria &criteria, RuleLists &rules)
+        : m_manager(manager)
+        , m_criteria(criteria)
+        , m_rules(rules)
+    {
+    }
+
+    QList<QLatin1StringView> ChildLists() const override
+    {
+        return {QLatin1StringView("UnauthorisedKeywords"),
+                QLatin1StringView("Rules/CodingConventions"),
+                QLatin1StringView("Rules/NamingConventions")};
+    }
+
+    // A file of another schema is brought up to date as a whole tree first.
+    bool Begin(const TarnXMLElement &root) override
+    {
+        return QAnyStringView(root.AttributeUtf8ByName(QLatin1StringView("SchemaVersion")))
+               == QAnyStringView(currentSchemaVersion());
+    }
+
+    bool ReadChild(qint32 list, const TarnXMLElement &child) override
+    {
+        for (qint32 before = 0; before < list; ++before) {
+            if (!m_ended[before])
+                return false;
+        }
+        static constexpr RuleLoader loaders[] = {&RulebaseManager::LoadUnauthorisedKeyword,
+                                                 &RulebaseManager::LoadCodingConvention,
+                                                 &RulebaseManager::LoadNamingConvention};
+        try {
+            (m_manager.*loaders[list])(child, m_criteria, m_rules);
+        } catch (const std::exception &) {
+            return false;
+        }
+        ++m_read[list];
+        return true;
+    }
+
+    void ChildListEnded(qint32 list) override { m_ended[list] = true; }
+
+    // How many rules of a section left the tree.
+    qint32 Read(Section section) const { return m_read[section]; }
+
+private:
+    RulebaseManager &m_manager;
+    RulebaseLoadCriteria &m_criteria;
+    RuleLists &m_rules;
+    std::array<bool, SectionCount> m_ended{};
+    std::array<qint32, SectionCount> m_read{};
+};
+
 std::shared_ptr<Rulebase> RulebaseManager::LoadRulebase(const QString &filename)
 {
     RulebaseLoadCriteria criteria;
@@ -108,8 +172,12 @@ std::shared_ptr<Rulebase> RulebaseManager::LoadRulebase(RulebaseLoadCriteria &cr
         // Any frame that gives up on the way, a section's or a rule's, leaves something out.
         const quint64 errorsBefore = reportedErrorCount();
         auto rulebase = std::make_shared<Rulebase>();
+        const bool all = criteria.LoadForEdit();
+        RuleLists &rules = *rulebase->RuleLists();
+        // Only an edit load takes every rule whatever the other sections say.
+        StreamedRules streamed(*this, criteria, rules);
         TarnXMLDoc doc;
-        if (!doc.LoadFromFile(filename)) {
+        if (!(all ? doc.LoadFromFile(filename, streamed) : doc.LoadFromFile(filename))) {
             showWarning(QStringLiteral(
                 "Unable to load the rulebase because of an unexpected error during parsing."));
             return nullptr;
@@ -121,7 +189,6 @@ std::shared_ptr<Rulebase> RulebaseManager::LoadRulebase(RulebaseLoadCriteria &cr
             return nullptr;
         }
         rulebase->setFilename(filename);
-        const bool all = criteria.LoadForEdit();
 
         LoadProperties(root.ElementByName(QStringLiteral("RulebaseProperties")), *rulebase);
         LoadTags(root.ElementByName(QStringLiteral("ControlTags")), *rulebase->ControlTags(), 1);
@@ -146,24 +213,38 @@ std::shared_ptr<Rulebase> RulebaseManager::LoadRulebase(RulebaseLoadCriteria &cr
         if (criteria.AuthorisedReferences() || all)
             LoadAuthorisedReferences(references, *rulebase->AuthorisedReferences());
 
-        RuleLists &rules = *rulebase->RuleLists();
         const TarnXMLElement keywords = requireChild(root, "UnauthorisedKeywords");
-        criteria.setNumUnauthKeywords(keywords.ElementCount());
+        criteria.setNumUnauthKeywords(streamed.Read(StreamedRules::Keywords)
+                                      + keywords.ElementCount());
         if (criteria.UnauthorisedKeywords() || all)
-            LoadUnauthorisedKeywords(keywords, criteria, rules);
+            LoadRules("LoadUnauthorisedKeywords",
+                      keywords,
+                      criteria,
+                      rules,
+                      &RulebaseManager::LoadUnauthorisedKeyword);
 
         const TarnXMLElement rulesElement = requireChild(root, "Rules");
         rules.setLastID(readLong(rulesElement, "LastRuleID"));
 
         const TarnXMLElement coding = requireChild(rulesElement, "CodingConventions");
-        criteria.setNumCodingConventions(coding.ElementCount());
+        criteria.setNumCodingConventions(streamed.Read(StreamedRules::Coding)
+                                         + coding.ElementCount());
         if (criteria.CodingConventions() || all)
-            LoadCodingConventions(coding, criteria, rules);
+            LoadRules("LoadCodingConventions",
+                      coding,
+                      criteria,
+                      rules,
+                      &RulebaseManager::LoadCodingConvention);
 
         const TarnXMLElement naming = requireChild(rulesElement, "NamingConventions");
-        criteria.setNumNamingConventions(naming.ElementCount());
+        criteria.setNumNamingConventions(streamed.Read(StreamedRules::Naming)
+                                         + naming.ElementCount());
         if (criteria.NamingConventions() || all)
-            LoadNamingConventions(naming, criteria, rules);
+            LoadRules("LoadNamingConventions",
+                      naming,
+                      criteria,
+                      rules,
+                      &RulebaseManager::LoadNamingConvention);
 
         if (all)
             LoadReport(root.ElementByName(QStringLiteral("Report")), *rulebase);
@@ -369,10 +450,10 @@ void RulebaseManager::Apply_6_2_SchemaUpdates(TarnXMLElement root)
             tag.AddAttribute(QStringLiteral("TagExample"), QString());
         });
         forEachChild(requireChild(requireChild(root, "Rules"), "NamingConventions"),
-                  [](TarnXMLElement rule, qint32) {
-                      rule.AddAttribute(QStringLiteral("ExclusionList"), QString());
-                      rule.AddAttribute(QStringLiteral("CaseSensitive"), QStringLiteral("True"));
-                  });
+                     [](TarnXMLElement rule, qint32) {
+                         rule.AddAttribute(QStringLiteral("ExclusionList"), QString());
+                         rule.AddAttribute(QStringLiteral("CaseSensitive"), QStringLiteral("True"));
+                     });
         requireChild(root, "RulebaseProperties")
             .AddAttribute(QStringLiteral("ArrayTag"), QString());
     });

@@ -49,6 +49,8 @@ public:
     static QString currentSchemaVersion() { return QStringLiteral("6.2"); }
 
 private:
+    class StreamedRules;
+
     void LoadProperties(TarnXMLElement element, Rulebase &rulebase);
     void SaveProperties(TarnXMLWriter::Element &element, Rulebase &rulebase);
     void LoadTags(TarnXMLElement element, ObjectKeyedArrayList<TagItem> &list, int tagType);
@@ -70,15 +72,34 @@ private:
     void LoadAuthorisedReferences(TarnXMLElement element, AuthorisedReferences &list);
     void SaveAuthorisedReferences(TarnXMLWriter::Element &element,
                                   const AuthorisedReferences &list);
-    void LoadUnauthorisedKeywords(TarnXMLElement element,
-                                  RulebaseLoadCriteria &criteria,
-                                  RuleLists &rules);
+    // One rule of each kind, outside a frame: a fault throws to the section's.
+    void LoadUnauthorisedKeyword(const TarnXMLElement &element,
+                                 RulebaseLoadCriteria &criteria,
+                                 RuleLists &rules);
+    void LoadCodingConvention(const TarnXMLElement &element,
+                              RulebaseLoadCriteria &criteria,
+                              RuleLists &rules);
+    void LoadNamingConvention(const TarnXMLElement &element,
+                              RulebaseLoadCriteria &criteria,
+                              RuleLists &rules);
+    // What keywords and coding conventions share, in file order; `own` reads the fields of the
+    // kind that stand before the condition.
+    template<typename Rule>
+    void LoadEventRule(const TarnXMLElement &element,
+                       RulebaseLoadCriteria &criteria,
+                       RuleLists &rules,
+                       void (*own)(const TarnXMLElement &, Rule &));
+    using RuleLoader
+        = void (RulebaseManager::*)(const TarnXMLElement &, RulebaseLoadCriteria &, RuleLists &);
+    // A rule section, in the frame `frame` names: each rule goes from the tree once read, so the
+    // rules that follow take its memory.
+    void LoadRules(const char *frame,
+                   TarnXMLElement element,
+                   RulebaseLoadCriteria &criteria,
+                   RuleLists &rules,
+                   RuleLoader load);
     void SaveUnauthorisedKeywords(TarnXMLWriter::Element &element, const RuleLists &rules);
-    void
-    LoadCodingConventions(TarnXMLElement element, RulebaseLoadCriteria &criteria, RuleLists &rules);
     void SaveCodingConventions(TarnXMLWriter::Element &element, const RuleLists &rules);
-    void
-    LoadNamingConventions(TarnXMLElement element, RulebaseLoadCriteria &criteria, RuleLists &rules);
     void SaveNamingConventions(TarnXMLWriter::Element &element, const RuleLists &rules);
     bool IsLoadableRule(RulebaseLoadCriteria &criteria, const TarnXMLElement &element);
     bool CheckSchemaVersion(TarnXMLElement root);

@@ -14,6 +14,7 @@
 #include "rulebase/CategoryList.h"
 #include "rulebase/CodingConvention.h"
 #include "rulebase/DefaultViolations.h"
+#include "rulebase/EventRule.h"
 #include "rulebase/NamingConvention.h"
 #include "rulebase/PrefixSuffixItem.h"
 #include "rulebase/Report.h"
@@ -28,26 +29,43 @@
 #include "rulebase/ViolationDefinition.h"
 #include "xml/TarnXMLElement.h"
 
+#include <QVarLengthArray>
+
+#include <limits>
+
 using namespace RulebaseFileValues;
 
 namespace {
 
 constexpr const char *module = "RulebaseManager";
 
-// The same for a rule section, which is most of the file: each rule goes from the tree once
-// read, so the rules that follow take its memory rather than more from the system.
-template<typename Apply>
-void takeEachChild(TarnXMLElement &parent, Apply &&apply)
+void addParserEvents(const TarnXMLElement &element, EventRule &rule)
 {
-    const qint32 count = parent.ElementCount();
-    for (qint32 i = 0; i < count; ++i) {
-        apply(parent.ElementAtPosition(0), i);
-        parent.RemoveElement(0);
+    // Plain numbers, nearly every list a file holds, are read from the stored text in place.
+    const QUtf8StringView stored = element.AttributeUtf8ByName(QLatin1StringView("ParserEventID"));
+    if (!stored.isNull()) {
+        if (stored.isEmpty())
+            return;
+        QVarLengthArray<qint32, 16> ids;
+        bool plain = true;
+        for (qsizetype from = 0; plain && from <= stored.size();) {
+            qsizetype to = from;
+            while (to < stored.size() && stored[to] != '|')
+                ++to;
+            qint64 id = 0;
+            plain = Text::parsePlainInteger(stored.sliced(from, to - from), id)
+                    && id >= std::numeric_limits<qint32>::min()
+                    && id <= std::numeric_limits<qint32>::max();
+            ids.append(qint32(id));
+            from = to + 1;
+        }
+        if (plain) {
+            for (const qint32 id : ids)
+                rule.AddParserEventID(id);
+            return;
+        }
     }
-}
-
-void addParserEvents(const QString &list, auto &rule)
-{
+    const QString list = readText(element, "ParserEventID");
     if (list.isEmpty())
         return;
     for (const QString &part : list.split(QLatin1Char('|')))
@@ -363,25 +381,47 @@ void RulebaseManager::SaveViolationDefintion(TarnXMLWriter::Element &rule,
     writeText(element, "Advice", definition.Advice());
 }
 
-void RulebaseManager::LoadUnauthorisedKeywords(TarnXMLElement element,
-                                               RulebaseLoadCriteria &criteria,
-                                               RuleLists &rules)
+void RulebaseManager::LoadRules(const char *frame,
+                                TarnXMLElement element,
+                                RulebaseLoadCriteria &criteria,
+                                RuleLists &rules,
+                                RuleLoader load)
 {
-    guardedVoid("LoadUnauthorisedKeywords", module, [&] {
-        takeEachChild(element, [&](const TarnXMLElement &child, qint32) {
-            if (!IsLoadableRule(criteria, child))
-                return;
-            auto rule = std::make_shared<UnauthorisedKeyword>();
-            rule->setRuleID(readLong(child, "RuleID"));
-            rule->setRuleActive(readBool(child, "RuleActive"));
-            rule->setTitle(readText(child, "Title"));
-            rule->setDescription(readText(child, "Description"));
-            rule->setCondition(readText(child, "Condition"));
-            addParserEvents(readText(child, "ParserEventID"), *rule);
-            LoadViolationDefinition(child, *rule->ViolationDefinition());
-            rules.AddConvention(rule, false);
-        });
+    guardedVoid(frame, module, [&] {
+        const qint32 count = element.ElementCount();
+        for (qint32 i = 0; i < count; ++i) {
+            (this->*load)(element.ElementAtPosition(0), criteria, rules);
+            element.RemoveElement(0);
+        }
     });
+}
+
+template<typename Rule>
+void RulebaseManager::LoadEventRule(const TarnXMLElement &element,
+                                    RulebaseLoadCriteria &criteria,
+                                    RuleLists &rules,
+                                    void (*own)(const TarnXMLElement &, Rule &))
+{
+    if (!IsLoadableRule(criteria, element))
+        return;
+    auto rule = std::make_shared<Rule>();
+    rule->setRuleID(readLong(element, "RuleID"));
+    rule->setRuleActive(readBool(element, "RuleActive"));
+    rule->setTitle(readText(element, "Title"));
+    rule->setDescription(readText(element, "Description"));
+    if (own)
+        own(element, *rule);
+    rule->setCondition(readText(element, "Condition"));
+    addParserEvents(element, *rule);
+    LoadViolationDefinition(element, *rule->ViolationDefinition());
+    rules.AddConvention(rule, false);
+}
+
+void RulebaseManager::LoadUnauthorisedKeyword(const TarnXMLElement &element,
+                                              RulebaseLoadCriteria &criteria,
+                                              RuleLists &rules)
+{
+    LoadEventRule<UnauthorisedKeyword>(element, criteria, rules, nullptr);
 }
 
 void RulebaseManager::SaveUnauthorisedKeywords(TarnXMLWriter::Element &element,
@@ -403,27 +443,15 @@ void RulebaseManager::SaveUnauthorisedKeywords(TarnXMLWriter::Element &element,
     });
 }
 
-void RulebaseManager::LoadCodingConventions(TarnXMLElement element,
-                                            RulebaseLoadCriteria &criteria,
-                                            RuleLists &rules)
+void RulebaseManager::LoadCodingConvention(const TarnXMLElement &element,
+                                           RulebaseLoadCriteria &criteria,
+                                           RuleLists &rules)
 {
-    guardedVoid("LoadCodingConventions", module, [&] {
-        takeEachChild(element, [&](const TarnXMLElement &child, qint32) {
-            if (!IsLoadableRule(criteria, child))
-                return;
-            auto rule = std::make_shared<CodingConvention>();
-            rule->setRuleID(readLong(child, "RuleID"));
-            rule->setRuleActive(readBool(child, "RuleActive"));
-            rule->setTitle(readText(child, "Title"));
-            rule->setDescription(readText(child, "Description"));
-            rule->setPendingViolation(readBool(child, "PendingViolation"));
-            rule->setEndEventID(readLong(child, "EndEventID"));
-            rule->setCondition(readText(child, "Condition"));
-            addParserEvents(readText(child, "ParserEventID"), *rule);
-            LoadViolationDefinition(child, *rule->ViolationDefinition());
-            rules.AddConvention(rule, false);
+    LoadEventRule<CodingConvention>(
+        element, criteria, rules, [](const TarnXMLElement &from, CodingConvention &rule) {
+            rule.setPendingViolation(readBool(from, "PendingViolation"));
+            rule.setEndEventID(readLong(from, "EndEventID"));
         });
-    });
 }
 
 void RulebaseManager::SaveCodingConventions(TarnXMLWriter::Element &element, const RuleLists &rules)
@@ -446,47 +474,42 @@ void RulebaseManager::SaveCodingConventions(TarnXMLWriter::Element &element, con
     });
 }
 
-void RulebaseManager::LoadNamingConventions(TarnXMLElement element,
-                                            RulebaseLoadCriteria &criteria,
-                                            RuleLists &rules)
+void RulebaseManager::LoadNamingConvention(const TarnXMLElement &element,
+                                           RulebaseLoadCriteria &criteria,
+                                           RuleLists &rules)
 {
-    guardedVoid("LoadNamingConventions", module, [&] {
-        const bool forEdit = criteria.LoadForEdit();
-        takeEachChild(element, [&](const TarnXMLElement &child, qint32) {
-            if (!IsLoadableRule(criteria, child))
-                return;
-            auto rule = std::make_shared<NamingConvention>();
-            rule->setRuleID(readLong(child, "RuleID"));
-            rule->setRuleActive(readBool(child, "RuleActive"));
-            rule->setCaseSensitive(readBool(child, "CaseSensitive"));
-            rule->setTitle(readText(child, "Title"));
-            rule->setDescription(readText(child, "Description"));
-            rule->setObjectType(readLong(child, "ObjectType"));
-            rule->setPropertyType(readLong(child, "PropertyType"));
-            rule->setPropertyName(readText(child, "PropertyName"));
-            rule->setCondition(readText(child, "Condition"));
-            // The review side searches for ";name;", so it gets whole entries delimited.
-            const QString exclusions = readText(child, "ExclusionList");
-            rule->setExclusionList(forEdit ? exclusions
-                                           : QLatin1Char(';') + Text::trimBlanks(exclusions)
-                                                 + QLatin1Char(';'));
-            rule->setPrefixActive(readBool(child, "PrefixActive"));
-            rule->setPrefixAdvice(readText(child, "PrefixAdvice"));
-            rule->setBodyActive(readBool(child, "BodyActive"));
-            rule->setBodyPattern(readText(child, "BodyPattern"));
-            rule->setMaxBodyLength(readInteger(child, "BodyMaxLength"));
-            rule->setMinBodyLength(readInteger(child, "BodyMinLength"));
-            rule->setBodyAdvice(readText(child, "BodyAdvice"));
-            rule->setSuffixActive(readBool(child, "SuffixActive"));
-            rule->setSuffixAdvice(readText(child, "SuffixAdvice"));
-            if (rule->PrefixActive())
-                loadPrefixSuffixItems(child, "PrefixItems", *rule->PrefixItems());
-            if (rule->SuffixActive())
-                loadPrefixSuffixItems(child, "SuffixItems", *rule->SuffixItems());
-            LoadViolationDefinition(child, *rule->ViolationDefinition());
-            rules.AddConvention(rule, false);
-        });
-    });
+    if (!IsLoadableRule(criteria, element))
+        return;
+    auto rule = std::make_shared<NamingConvention>();
+    rule->setRuleID(readLong(element, "RuleID"));
+    rule->setRuleActive(readBool(element, "RuleActive"));
+    rule->setCaseSensitive(readBool(element, "CaseSensitive"));
+    rule->setTitle(readText(element, "Title"));
+    rule->setDescription(readText(element, "Description"));
+    rule->setObjectType(readLong(element, "ObjectType"));
+    rule->setPropertyType(readLong(element, "PropertyType"));
+    rule->setPropertyName(readText(element, "PropertyName"));
+    rule->setCondition(readText(element, "Condition"));
+    // The review side searches for ";name;", so it gets whole entries delimited.
+    const QString exclusions = readText(element, "ExclusionList");
+    rule->setExclusionList(criteria.LoadForEdit() ? exclusions
+                                                  : QLatin1Char(';') + Text::trimBlanks(exclusions)
+                                                        + QLatin1Char(';'));
+    rule->setPrefixActive(readBool(element, "PrefixActive"));
+    rule->setPrefixAdvice(readText(element, "PrefixAdvice"));
+    rule->setBodyActive(readBool(element, "BodyActive"));
+    rule->setBodyPattern(readText(element, "BodyPattern"));
+    rule->setMaxBodyLength(readInteger(element, "BodyMaxLength"));
+    rule->setMinBodyLength(readInteger(element, "BodyMinLength"));
+    rule->setBodyAdvice(readText(element, "BodyAdvice"));
+    rule->setSuffixActive(readBool(element, "SuffixActive"));
+    rule->setSuffixAdvice(readText(element, "SuffixAdvice"));
+    if (rule->PrefixActive())
+        loadPrefixSuffixItems(element, "PrefixItems", *rule->PrefixItems());
+    if (rule->SuffixActive())
+        loadPrefixSuffixItems(element, "SuffixItems", *rule->SuffixItems());
+    LoadViolationDefinition(element, *rule->ViolationDefinition());
+    rules.AddConvention(rule, false);
 }
 
 void RulebaseManager::SaveNamingConventions(TarnXMLWriter::Element &element, const RuleLists &rules)

@@ -2,6 +2,7 @@
 
 #include "platform/ErrorFrame.h"
 #include "platform/QuorinError.h"
+#include "xml/TarnXMLChildReader.h"
 #include "xml/TarnXMLDocState.h"
 #include "xml/TarnXMLElement.h"
 #include "xml/XmlSupport.h"
@@ -10,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QScopeGuard>
 
 #include <libxml/SAX2.h>
 #include <libxml/parser.h>
@@ -20,6 +22,8 @@
 
 #include <cerrno>
 #include <memory>
+#include <optional>
+#include <vector>
 
 #ifdef Q_OS_UNIX
 #include <unistd.h>
@@ -70,12 +74,18 @@ std::shared_ptr<TarnXMLDocState> makeState(DocPtr document, qint32 code, const Q
     return state;
 }
 
+bool isIgnorable(xmlNodePtr node)
+{
+    return (node->type == XML_TEXT_NODE && xmlIsBlankNode(node)) || node->type == XML_COMMENT_NODE
+           || node->type == XML_PI_NODE;
+}
+
 // The DOM keeps no whitespace-only text, and the loaders count on every child being an element:
 // the parser's own dropping misses some (an element holding only a line break), so a pass
-// finishes it, and takes comments and processing instructions of hand-edited files with it.
-void dropIgnorableNodes(xmlDocPtr document)
+// finishes it below `top`, and takes comments and processing instructions of hand-edited files
+// with it.
+void dropIgnorableNodes(xmlNodePtr top)
 {
-    const xmlNodePtr top = reinterpret_cast<xmlNodePtr>(document);
     xmlNodePtr node = top->children;
     while (node) {
         if (node->type == XML_ELEMENT_NODE && node->children) {
@@ -86,13 +96,193 @@ void dropIgnorableNodes(xmlDocPtr document)
         while (next != top && next->next == nullptr)
             next = next->parent;
         next = next == top ? nullptr : next->next;
-        if ((node->type == XML_TEXT_NODE && xmlIsBlankNode(node)) || node->type == XML_COMMENT_NODE
-            || node->type == XML_PI_NODE) {
+        if (isIgnorable(node)) {
             xmlUnlinkNode(node);
             xmlFreeNode(node);
         }
         node = next;
     }
+}
+
+// A TarnXMLChildReader's side of one parse: its parents are found as their start tags arrive,
+// and their children offered as their end tags do.
+class ChildStream final
+{
+public:
+    explicit ChildStream(TarnXMLChildReader &reader)
+        : m_reader(reader)
+    {
+        const QList<QLatin1StringView> lists = reader.ChildLists();
+        for (const QLatin1StringView path : lists) {
+            List list;
+            for (const QLatin1StringView step : path.tokenize(QLatin1Char('/')))
+                list.steps.push_back(step);
+            list.found.assign(list.steps.size(), nullptr);
+            m_unfound += list.steps.size();
+            m_lists.push_back(std::move(list));
+        }
+    }
+
+    void started(xmlParserCtxtPtr context)
+    {
+        const xmlNodePtr node = context->node;
+        if (!node || node->type != XML_ELEMENT_NODE)
+            return;
+        const xmlNodePtr parent = node->parent;
+        if (parent && parent->type == XML_DOCUMENT_NODE) {
+            begin(context, node);
+            return;
+        }
+        if (!m_on || m_unfound == 0)
+            return;
+        for (List &list : m_lists) {
+            for (size_t step = 0; step < list.steps.size(); ++step) {
+                const xmlNodePtr above = step == 0 ? m_root : list.found[step - 1];
+                if (list.found[step] == nullptr && above == parent
+                    && sameName(node->name, list.steps[step], Qt::CaseInsensitive)) {
+                    list.found[step] = node;
+                    --m_unfound;
+                }
+            }
+        }
+    }
+
+    void ended(xmlNodePtr node)
+    {
+        if (!m_on || !node)
+            return;
+        for (size_t index = 0; index < m_lists.size(); ++index) {
+            List &list = m_lists[index];
+            const xmlNodePtr parent = list.found.back();
+            if (parent == nullptr || list.ended)
+                continue;
+            if (node->parent == parent) {
+                offer(qint32(index), list, node);
+                return;
+            }
+            if (node == parent) {
+                list.ended = true;
+                call([&] { m_reader.ChildListEnded(qint32(index)); });
+            }
+        }
+    }
+
+private:
+    struct List
+    {
+        std::vector<QLatin1StringView> steps;
+        // The element of each step once its start tag has come.
+        std::vector<xmlNodePtr> found;
+        bool ended = false;
+        // A child stayed: the rest of the list stay with it.
+        bool stopped = false;
+    };
+
+    void begin(xmlParserCtxtPtr context, xmlNodePtr root)
+    {
+        m_root = root;
+        const xmlDocPtr document = context->myDoc;
+        // Validation needs the whole tree, and entities declared in a DTD stay the tree's.
+        if (document->intSubset || document->extSubset)
+            return;
+        m_state = std::make_shared<TarnXMLDocState>(document, false);
+        call([&] { m_on = m_reader.Begin(TarnXMLDocState::elementOf(m_state, root)); });
+        if (!m_on)
+            return;
+        // Without a DTD only the five predefined entities exist, so the parser may put their
+        // characters in attribute values itself rather than leave references to be parsed
+        // again; and no attribute but xml:id can be an ID, of no use to a reader.
+        context->replaceEntities = 1;
+        context->loadsubset |= XML_SKIP_IDS;
+    }
+
+    void offer(qint32 index, List &list, xmlNodePtr child)
+    {
+        if (list.stopped)
+            return;
+        for (xmlNodePtr previous = child->prev; previous;) {
+            const xmlNodePtr before = previous->prev;
+            if (!isIgnorable(previous)) {
+                list.stopped = true;
+                return;
+            }
+            m_state->retire(previous);
+            previous = before;
+        }
+        dropIgnorableNodes(child);
+        bool taken = false;
+        call(
+            [&] { taken = m_reader.ReadChild(index, TarnXMLDocState::elementOf(m_state, child)); });
+        if (!taken) {
+            list.stopped = true;
+            return;
+        }
+        // A parent found inside the child goes with it.
+        for (List &other : m_lists) {
+            for (xmlNodePtr &found : other.found) {
+                for (xmlNodePtr above = found; above; above = above->parent) {
+                    if (above == child) {
+                        found = nullptr;
+                        ++m_unfound;
+                        other.stopped = true;
+                        break;
+                    }
+                }
+            }
+        }
+        m_state->retire(child);
+    }
+
+    // The reader must not throw into the parser; one that does is offered nothing more.
+    template<typename Call>
+    void call(Call &&body)
+    {
+        try {
+            body();
+        } catch (...) {
+            m_on = false;
+        }
+    }
+
+    TarnXMLChildReader &m_reader;
+    std::vector<List> m_lists;
+    // Steps whose element has yet to come: none, and start tags need no look.
+    size_t m_unfound = 0;
+    std::shared_ptr<TarnXMLDocState> m_state;
+    xmlNodePtr m_root = nullptr;
+    bool m_on = false;
+};
+
+// The stream of the parse running on this thread, for the parser's callbacks.
+thread_local ChildStream *activeStream = nullptr;
+
+void startElement(void *context,
+                  const xmlChar *localName,
+                  const xmlChar *prefix,
+                  const xmlChar *uri,
+                  int namespaceCount,
+                  const xmlChar **namespaces,
+                  int attributeCount,
+                  int defaultedCount,
+                  const xmlChar **attributes)
+{
+    xmlSAX2StartElementNs(context,
+                          localName,
+                          prefix,
+                          uri,
+                          namespaceCount,
+                          namespaces,
+                          attributeCount,
+                          defaultedCount,
+                          attributes);
+    activeStream->started(static_cast<xmlParserCtxtPtr>(context));
+}
+
+void endElement(void *context, const xmlChar *localName, const xmlChar *prefix, const xmlChar *uri)
+{
+    const xmlNodePtr node = static_cast<xmlParserCtxtPtr>(context)->node;
+    xmlSAX2EndElementNs(context, localName, prefix, uri);
+    activeStream->ended(node);
 }
 
 struct ParseResult
@@ -152,7 +342,8 @@ void externalSubset(void *context,
 
 // `filename` empty: the device holds text handed over as a string. The library's limits on
 // entity expansion stay in force, so a file of a few kilobytes can't expand to gigabytes.
-ParseResult parse(QIODevice &device, const QString &filename, bool validate)
+ParseResult
+parse(QIODevice &device, const QString &filename, bool validate, TarnXMLChildReader *reader)
 {
     ParseResult result;
     int options = XML_PARSE_NOBLANKS | XML_PARSE_NONET | XML_PARSE_COMPACT;
@@ -176,6 +367,15 @@ ParseResult parse(QIODevice &device, const QString &filename, bool validate)
     capture.attach(context.get());
     context->sax->entityDecl = entityDeclaration;
     context->sax->externalSubset = externalSubset;
+    std::optional<ChildStream> stream;
+    ChildStream *const outerStream = activeStream;
+    const auto restoreStream = qScopeGuard([outerStream] { activeStream = outerStream; });
+    if (reader) {
+        stream.emplace(*reader);
+        activeStream = &*stream;
+        context->sax->startElementNs = startElement;
+        context->sax->endElementNs = endElement;
+    }
     DocPtr document(xmlCtxtReadIO(context.get(),
                                   readChunk,
                                   nullptr,
@@ -192,7 +392,7 @@ ParseResult parse(QIODevice &device, const QString &filename, bool validate)
         result.reason = capture.reason(QStringLiteral("The document could not be parsed."));
         return result;
     }
-    dropIgnorableNodes(document.get());
+    dropIgnorableNodes(reinterpret_cast<xmlNodePtr>(document.get()));
     result.document = std::move(document);
     return result;
 }
@@ -308,9 +508,9 @@ TarnXMLDocument *TarnXMLDoc::Document() const
 
 // Replaces the tree by the parse of what the device holds, or by an empty one when they don't
 // parse. A state of its own keeps handles on the old tree valid.
-bool TarnXMLDoc::parseInto(QIODevice &device, const QString &filename)
+bool TarnXMLDoc::parseInto(QIODevice &device, const QString &filename, TarnXMLChildReader *reader)
 {
-    ParseResult result = parse(device, filename, m_validateWhileParsing);
+    ParseResult result = parse(device, filename, m_validateWhileParsing, reader);
     const bool ok = result.document != nullptr;
     m_document
         = makeState(ok ? std::move(result.document) : emptyDocument(), result.code, result.reason);
@@ -359,6 +559,16 @@ QString TarnXMLDoc::XMLString() const
 
 bool TarnXMLDoc::LoadFromFile(const QString &filename)
 {
+    return loadFile(filename, nullptr);
+}
+
+bool TarnXMLDoc::LoadFromFile(const QString &filename, TarnXMLChildReader &reader)
+{
+    return loadFile(filename, &reader);
+}
+
+bool TarnXMLDoc::loadFile(const QString &filename, TarnXMLChildReader *reader)
+{
     return guarded("LoadFromFile", Module, false, [&] {
         m_filename = filename;
         QFile file(filename);
@@ -368,7 +578,7 @@ bool TarnXMLDoc::LoadFromFile(const QString &filename)
                             readErrorCode(filename),
                             QStringLiteral("The file could not be read: ") + file.errorString()
                                 + QStringLiteral(" (") + filename + QLatin1Char(')'));
-        } else if (parseInto(file, filename)) {
+        } else if (parseInto(file, filename, reader)) {
             return true;
         }
         LogParserError(

@@ -6,6 +6,7 @@
 #include <memory>
 
 class QIODevice;
+class TarnXMLChildReader;
 class TarnXMLDocState;
 class TarnXMLElement;
 // The DOM's document, opaque outside core/xml.
@@ -37,6 +38,8 @@ public:
     void NewDoc(const QString &rootName);
     QString XMLString() const;
     bool LoadFromFile(const QString &filename);
+    // The same, with the reader taking children of the elements it names as they are parsed.
+    bool LoadFromFile(const QString &filename, TarnXMLChildReader &reader);
     bool LoadFromString(const QString &xml);
     // An empty name means the name of the last LoadFromFile.
     bool SaveToFile(const QString &filename = QString());
@@ -49,7 +52,9 @@ public:
     static qint32 saveBytes(const QString &filename, QByteArrayView bytes);
 
 private:
-    bool parseInto(QIODevice &device, const QString &filename);
+    bool loadFile(const QString &filename, TarnXMLChildReader *reader);
+    bool
+    parseInto(QIODevice &device, const QString &filename, TarnXMLChildReader *reader = nullptr);
     bool parseText(const QString &text);
     void LogParserError(qint32 code, const QString &reason, const char *function) const;
 

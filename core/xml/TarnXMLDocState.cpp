@@ -3,8 +3,9 @@
 #include "xml/TarnXMLElement.h"
 #include "xml/XmlSupport.h"
 
-TarnXMLDocState::TarnXMLDocState(xmlDocPtr document)
+TarnXMLDocState::TarnXMLDocState(xmlDocPtr document, bool owned)
     : m_document(document)
+    , m_owned(owned)
 {
 }
 
@@ -13,7 +14,14 @@ TarnXMLDocState::~TarnXMLDocState()
     // Retired nodes take their names from the document's dictionary: free them first.
     for (xmlNodePtr node : m_retired)
         xmlFreeNode(node);
-    xmlFreeDoc(m_document);
+    if (m_owned)
+        xmlFreeDoc(m_document);
+}
+
+TarnXMLElement TarnXMLDocState::elementOf(const std::shared_ptr<TarnXMLDocState> &state,
+                                          xmlNodePtr node)
+{
+    return TarnXMLElement(state, XmlSupport::handleOf(node));
 }
 
 void TarnXMLDocState::setParseError(qint32 code, const QString &reason)

@@ -7,6 +7,7 @@
 #include <libxml/tree.h>
 
 #include <array>
+#include <memory>
 #include <vector>
 
 class TarnXMLElement;
@@ -16,13 +17,15 @@ class TarnXMLElement;
 class TarnXMLDocState final
 {
 public:
-    // Takes ownership of `document`.
-    explicit TarnXMLDocState(xmlDocPtr document);
+    // Takes ownership of `document` unless told otherwise: a parse in progress owns its own.
+    explicit TarnXMLDocState(xmlDocPtr document, bool owned = true);
     ~TarnXMLDocState();
     TarnXMLDocState(const TarnXMLDocState &) = delete;
     TarnXMLDocState &operator=(const TarnXMLDocState &) = delete;
 
     xmlDocPtr document() const { return m_document; }
+    // A handle on a node of this tree.
+    static TarnXMLElement elementOf(const std::shared_ptr<TarnXMLDocState> &state, xmlNodePtr node);
 
     // The DOM's parseError: what the last load reported; 0 and empty after a good one.
     qint32 parseErrorCode() const { return m_parseErrorCode; }
@@ -47,6 +50,7 @@ public:
 
 private:
     xmlDocPtr m_document;
+    bool m_owned;
     qint32 m_parseErrorCode = 0;
     QString m_parseErrorReason;
     struct CachedChild

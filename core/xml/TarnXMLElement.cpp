@@ -155,13 +155,16 @@ constexpr Escape Escapes[] = {
     {"%GT%", 4, u">"},
 };
 
-const Escape *escapeAt(const QChar *p, const QChar *end)
+// On UTF-16 or UTF-8 alike: the escapes are ASCII, which UTF-8 never uses inside another
+// character's encoding.
+template<typename Char>
+const Escape *escapeAt(const Char *p, const Char *end)
 {
     // Each escape has a letter of its own after the '%': at most one can match.
     if (end - p < 4)
         return nullptr;
     const Escape *escape;
-    switch (p[1].unicode() | 0x20) {
+    switch (unitOf(p[1]) | 0x20) {
     case u'c':
         escape = &Escapes[0];
         break;
@@ -181,7 +184,7 @@ const Escape *escapeAt(const QChar *p, const QChar *end)
         return nullptr;
     // ASCII folding is enough: no other character folds to a letter of an escape.
     for (qsizetype i = 0; i < escape->length; ++i) {
-        const char16_t c = p[i].unicode();
+        const char16_t c = unitOf(p[i]);
         const char e = escape->text[i];
         if (c != char16_t(e) && !(e >= 'A' && e <= 'Z' && c == char16_t(e | 0x20)))
             return nullptr;
@@ -241,13 +244,35 @@ QString restoreText(const QString &value)
     return restoreInPasses(value);
 }
 
-// One conversion, and no restore pass without a '%'.
+// One conversion, and no restore pass without a '%'. The restore runs on the UTF-8, before
+// the conversion, as restoreInOnePass does on the converted text.
 QString restoreUtf8(const char *text, qsizetype size)
 {
-    QString restored = QString::fromUtf8(text, size);
-    if (!std::memchr(text, '%', size_t(size)) || restoreInOnePass(restored))
-        return restored;
-    return restoreInPasses(QString::fromUtf8(text, size));
+    const char *p = static_cast<const char *>(std::memchr(text, '%', size_t(size)));
+    if (p == nullptr)
+        return QString::fromUtf8(text, size);
+    const char *const end = text + size;
+    QVarLengthArray<char, 256> restored;
+    restored.append(text, p - text);
+    while (p != end) {
+        // `p` is at a '%'.
+        if (const Escape *escape = escapeAt(p, end)) {
+            const char *last = p + escape->length - 1;
+            if (escapeAt(last, end))
+                return restoreInPasses(QString::fromUtf8(text, size));
+            for (const char16_t *r = escape->replacement; *r; ++r)
+                restored.append(char(*r));
+            p = last + 1;
+        } else {
+            restored.append(*p++);
+        }
+        const char *next = static_cast<const char *>(std::memchr(p, '%', size_t(end - p)));
+        if (next == nullptr)
+            next = end;
+        restored.append(p, next - p);
+        p = next;
+    }
+    return QString::fromUtf8(restored.constData(), restored.size());
 }
 
 // The attribute's text as stored, that is escaped. Parsed values are one text node.

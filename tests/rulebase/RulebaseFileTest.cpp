@@ -9,10 +9,10 @@
 #include "rulebase/CategoryItem.h"
 #include "rulebase/CategoryList.h"
 #include "rulebase/CodingConvention.h"
+#include "rulebase/CommonRuleFields.h"
 #include "rulebase/NamingConvention.h"
 #include "rulebase/PrefixSuffixItem.h"
 #include "rulebase/Report.h"
-#include "rulebase/CommonRuleFields.h"
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseFileValues.h"
@@ -386,6 +386,40 @@ TEST_F(RulebaseFileTest, LoadingKeepsFileQuirks)
     EXPECT_FALSE(naming->CaseSensitive());
     EXPECT_FALSE(rulebase->Dirty());
     EXPECT_FALSE(rulebase->LoadedInPart());
+}
+
+// Rules are read as the parse reaches each one; indentation, comments and sections out of order
+// must still give what the whole tree gives, rules in the same order.
+TEST_F(RulebaseFileTest, HandEditedLayoutsLoadAsTheWrittenFile)
+{
+    const QByteArray item = "<PrefixItem PSType=\"1\" PSValue=\"a\"/>";
+    const QByteArray coding = codingRule("5001") + codingRule("5002");
+    const QByteArray naming = namingRule("5003", item) + namingRule("5004", item);
+    const auto written = loadBytes(smallFile("", coding, naming));
+    ASSERT_TRUE(written);
+    auto order = [](const Rulebase &rulebase) {
+        QStringList keys;
+        const auto &all = *rulebase.RuleLists()->AllConventions();
+        for (qint32 i = 1; i <= all.Count(); ++i)
+            keys << all.Item(i)->RuleKey();
+        return keys;
+    };
+
+    QByteArray indented = smallFile("", coding, naming);
+    for (const char *tag :
+         {"<CodingConvention ", "<NamingConvention ", "<PrefixItem ", "<ViolationDefinition "})
+        indented.replace(tag, QByteArray("\n  <!-- c --><?pi x?>\n  ") + tag);
+    QByteArray swapped = smallFile("", coding, naming);
+    swapped.replace("<CodingConventions>" + coding + "</CodingConventions>", "")
+        .replace("</NamingConventions>",
+                 "</NamingConventions><CodingConventions>" + coding + "</CodingConventions>");
+    for (const QByteArray &bytes : {indented, swapped}) {
+        const auto rulebase = loadBytes(bytes);
+        ASSERT_TRUE(rulebase);
+        EXPECT_FALSE(rulebase->LoadedInPart());
+        EXPECT_EQ(dumpRulebase(*rulebase), dumpRulebase(*written));
+        EXPECT_EQ(order(*rulebase), order(*written));
+    }
 }
 
 TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
