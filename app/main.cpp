@@ -23,14 +23,17 @@ int main(int argc, char *argv[])
     QGuiApplication::setDesktopFileName(QStringLiteral("quorinadmin"));
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Quorin Administrator: writes rulebases for the Quorin code reviewer."));
+    parser.setApplicationDescription(
+        QStringLiteral("Quorin Administrator: writes rulebases for the Quorin code reviewer."));
     parser.addHelpOption();
     const QCommandLineOption screenshotOption(
         QStringLiteral("screenshot"),
-        QStringLiteral("Opens without waiting on any dialog, saves a picture of the main window to <file> and exits."),
+        QStringLiteral("Opens without waiting on any dialog, saves a picture of the main window to "
+                       "<file> and exits."),
         QStringLiteral("file"));
     parser.addOption(screenshotOption);
-    parser.addPositionalArgument(QStringLiteral("rulebase"), QStringLiteral("The rulebase to open."));
+    parser.addPositionalArgument(QStringLiteral("rulebase"),
+                                 QStringLiteral("The rulebase to open."));
     parser.process(qapp);
     const QString screenshot = parser.value(screenshotOption);
     const bool interactive = screenshot.isEmpty();
@@ -60,8 +63,9 @@ int main(int argc, char *argv[])
             // Let the window lay itself out, then take its picture.
             QTimer::singleShot(300, &window, [&] {
                 const bool saved = window.grab().save(screenshot);
-                QTextStream(stderr) << (saved ? "Screenshot written to " : "Could not write the screenshot ")
-                                    << screenshot << Qt::endl;
+                QTextStream(stderr)
+                    << (saved ? "Screenshot written to " : "Could not write the screenshot ")
+                    << screenshot << Qt::endl;
                 result = saved ? 0 : 1;
                 window.close();
             });

@@ -205,12 +205,14 @@ public:
 private:
     void attributes(const QString &name, bool predeclared)
     {
-        lines
-            << QStringLiteral("Attribute VB_Name = \"%1\"").arg(name)
-            << QStringLiteral("Attribute VB_GlobalNameSpace = False")
-            << QStringLiteral("Attribute VB_Creatable = %1").arg(predeclared ? QLatin1String("False") : QLatin1String("True"))
-            << QStringLiteral("Attribute VB_PredeclaredId = %1").arg(predeclared ? QLatin1String("True") : QLatin1String("False"))
-            << QStringLiteral("Attribute VB_Exposed = False") << QStringLiteral("Option Explicit");
+        lines << QStringLiteral("Attribute VB_Name = \"%1\"").arg(name)
+              << QStringLiteral("Attribute VB_GlobalNameSpace = False")
+              << QStringLiteral("Attribute VB_Creatable = %1")
+                     .arg(predeclared ? QLatin1String("False") : QLatin1String("True"))
+              << QStringLiteral("Attribute VB_PredeclaredId = %1")
+                     .arg(predeclared ? QLatin1String("True") : QLatin1String("False"))
+              << QStringLiteral("Attribute VB_Exposed = False")
+              << QStringLiteral("Option Explicit");
     }
     void font(const QString &indent)
     {

@@ -63,8 +63,10 @@ void BM_StatsOverCorpus(benchmark::State &state)
         ToolContext context(out, err);
         QrbTool().run(arguments, context);
     }
-    const QStringList totals = output.trimmed().split(QLatin1Char('\n')).last().split(
-        QLatin1Char(' '), Qt::SkipEmptyParts);
+    const QStringList totals = output.trimmed()
+                                   .split(QLatin1Char('\n'))
+                                   .last()
+                                   .split(QLatin1Char(' '), Qt::SkipEmptyParts);
     const double lines = totals.size() > 4 ? totals.at(4).toDouble() : 0;
     state.counters["counted_lines"] = lines;
     state.counters["counted_lines_per_second"]

@@ -17,16 +17,20 @@
 
 namespace {
 
-const char *const words[] = {"procedure", "variable", "module",   "declare", "error",  "handler", "loop",
-                             "parameter", "constant", "function", "object",  "record", "field",   "control",
-                             "form",      "public",   "private",  "string",  "array",  "resume",  "exit"};
+const char *const words[]
+    = {"procedure", "variable", "module",   "declare", "error",  "handler", "loop",
+       "parameter", "constant", "function", "object",  "record", "field",   "control",
+       "form",      "public",   "private",  "string",  "array",  "resume",  "exit"};
 const char *const objects[] = {"Procedure", "Variable", "Const", "Argument", "File", "Control"};
 const char *const properties[] = {"Name", "Scope", "Type", "LineCount", "Filename", "IsArray"};
 
 class Texts
 {
 public:
-    explicit Texts(unsigned seed) : m_random(seed) {}
+    explicit Texts(unsigned seed)
+        : m_random(seed)
+    {
+    }
 
     int number(int below) { return int(m_random() % unsigned(below)); }
     QString word() { return QLatin1String(words[number(int(std::size(words)))]); }
@@ -41,8 +45,9 @@ public:
     }
     QString placeholder()
     {
-        return QLatin1Char('%') + QLatin1String(objects[number(int(std::size(objects)))]) + QLatin1Char('.')
-               + QLatin1String(properties[number(int(std::size(properties)))]) + QLatin1Char('%');
+        return QLatin1Char('%') + QLatin1String(objects[number(int(std::size(objects)))])
+               + QLatin1Char('.') + QLatin1String(properties[number(int(std::size(properties)))])
+               + QLatin1Char('%');
     }
     QString condition()
     {
@@ -69,8 +74,9 @@ private:
 void describe(IRule &rule, ViolationDefinition &violation, Texts &t, int categories)
 {
     violation.setTitle(t.sentence(3));
-    violation.setDescription(QStringLiteral("The %1 %2 breaks the standard: ").arg(t.placeholder(), t.word())
-                             + t.sentence(8));
+    violation.setDescription(
+        QStringLiteral("The %1 %2 breaks the standard: ").arg(t.placeholder(), t.word())
+        + t.sentence(8));
     violation.setAdvice(t.sentence(12));
     violation.setSeverity(t.number(5) + 1);
     violation.setImpact(qint16(t.number(900)));
@@ -124,7 +130,8 @@ std::shared_ptr<Rulebase> generateRulebase(int rules, unsigned seed)
             rule->setPrefixActive(true);
             rule->PrefixItems()->Item(1)->setPSType(4);
             rule->PrefixItems()->Item(2)->setPSType(1);
-            rule->PrefixItems()->Item(2)->setValue(QStringLiteral("[a-z]{%1}").arg(t.number(3) + 1));
+            rule->PrefixItems()->Item(2)->setValue(
+                QStringLiteral("[a-z]{%1}").arg(t.number(3) + 1));
             rule->setPrefixAdvice(t.sentence(8));
             rule->setBodyActive(true);
             rule->setBodyPattern(QStringLiteral("^[A-Z][A-Za-z0-9]*$"));

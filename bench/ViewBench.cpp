@@ -1,11 +1,11 @@
 #include "bench/RulebaseGenerator.h"
 
-#include "views/IMainForm.h"
 #include "gui/frmMain.h"
 #include "rulebase/Rulebase.h"
-#include "views/IViewController.h"
 #include "support/MemoryListControl.h"
 #include "support/MemoryTreeControl.h"
+#include "views/IMainForm.h"
+#include "views/IViewController.h"
 #include "views/ViewFactory.h"
 
 #include <QApplication>
@@ -43,11 +43,14 @@ private:
     MemoryListControl m_list;
 };
 
-const char *const views[] = {"tlCategoryView", "tlSeverityView", "tlCodingConventions", "tlNamingConventions"};
+const char *const views[]
+    = {"tlCategoryView", "tlSeverityView", "tlCodingConventions", "tlNamingConventions"};
 
 // What SwitchView does for one view: make it, give it the rulebase and the window, fill it.
 // The root of each shows every rule of its kind, so the list gets them all.
-void switchTo(IMainForm &form, const std::shared_ptr<Rulebase> &rulebase, const char *name,
+void switchTo(IMainForm &form,
+              const std::shared_ptr<Rulebase> &rulebase,
+              const char *name,
               std::unique_ptr<IViewController> &current)
 {
     std::unique_ptr<IViewController> view = createView(QLatin1String(name));

@@ -14,7 +14,8 @@
 
 GuiUserInterface::GuiUserInterface(bool interactive)
     : m_interactive(interactive)
-{}
+{
+}
 
 MessageResult GuiUserInterface::messageBox(const QString &text,
                                            MessageButtons buttons,
@@ -24,8 +25,9 @@ MessageResult GuiUserInterface::messageBox(const QString &text,
 {
     if (!m_interactive) {
         QTextStream(stderr) << title << ": " << text << Qt::endl;
-        return buttons == MessageButtons::OK || buttons == MessageButtons::OKCancel ? MessageResult::OK
-                                                                                     : MessageResult::No;
+        return buttons == MessageButtons::OK || buttons == MessageButtons::OKCancel
+                   ? MessageResult::OK
+                   : MessageResult::No;
     }
     QMessageBox box(m_parent);
     box.setObjectName(QStringLiteral("QuorinMessageBox"));
@@ -113,8 +115,9 @@ QString GuiUserInterface::qtFilter(int fileType, bool forSave)
         filter = QStringLiteral("ActiveX Controls (*.ocx)|*.ocx");
         break;
     case 7:
-        filter = QStringLiteral("Type Libraries (*.tlb, *.olb)|*.tlb;*.olb|Dynamic Link Libraries (*.dll)|*.dll|"
-                                "Applications (*.exe)|*.exe");
+        filter = QStringLiteral(
+            "Type Libraries (*.tlb, *.olb)|*.tlb;*.olb|Dynamic Link Libraries (*.dll)|*.dll|"
+            "Applications (*.exe)|*.exe");
         break;
     case 8:
         filter = QStringLiteral("Log Files (*.log)|*.log|All Files (*.*)|*.*");
@@ -157,8 +160,8 @@ bool GuiUserInterface::getOpenFilename(FileDialogRequest &request)
     if (!m_interactive)
         return false;
     const QString start = request.path.isEmpty() ? request.folder : request.path;
-    return finishRequest(QFileDialog::getOpenFileName(m_parent, request.title, start,
-                                                      qtFilter(request.fileType, false)),
+    return finishRequest(QFileDialog::getOpenFileName(
+                             m_parent, request.title, start, qtFilter(request.fileType, false)),
                          request);
 }
 
@@ -168,7 +171,8 @@ bool GuiUserInterface::getSaveFilename(FileDialogRequest &request)
         return false;
     QFileDialog dialog(m_parent, request.title, request.folder, qtFilter(request.fileType, true));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(request.fileType == 2 ? QStringLiteral("batch") : QStringLiteral("qrb"));
+    dialog.setDefaultSuffix(request.fileType == 2 ? QStringLiteral("batch")
+                                                  : QStringLiteral("qrb"));
     dialog.selectFile(request.path.isEmpty() ? request.fileTitle : request.path);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return false;
@@ -180,7 +184,8 @@ void GuiUserInterface::showHelp(HelpCommand command, const QString &topic, int c
     // A run that waits for nobody opens no window that would outlive the main one.
     if (!m_interactive) {
         QTextStream(stderr) << "Help: "
-                            << (command == HelpCommand::Context ? HelpTopics::topicPath(context) : topic)
+                            << (command == HelpCommand::Context ? HelpTopics::topicPath(context)
+                                                                : topic)
                             << Qt::endl;
         return;
     }
@@ -205,7 +210,8 @@ bool GuiUserInterface::shellOpen(const QString &document)
 {
     if (!m_interactive)
         return false;
-    const QUrl url = document.contains(QLatin1String("://")) ? QUrl(document) : QUrl::fromLocalFile(document);
+    const QUrl url
+        = document.contains(QLatin1String("://")) ? QUrl(document) : QUrl::fromLocalFile(document);
     return QDesktopServices::openUrl(url);
 }
 
@@ -214,7 +220,8 @@ bool GuiUserInterface::getText(const QString &prompt, const QString &title, QStr
     if (!m_interactive)
         return false;
     bool ok = false;
-    const QString answer = QInputDialog::getText(m_parent, title, prompt, QLineEdit::Normal, value, &ok);
+    const QString answer
+        = QInputDialog::getText(m_parent, title, prompt, QLineEdit::Normal, value, &ok);
     if (ok)
         value = answer;
     return ok;

@@ -8,8 +8,8 @@
 #include <QApplication>
 #include <QColor>
 #include <QDrag>
-#include <QMimeData>
 #include <QHeaderView>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QTreeView>
 
@@ -338,8 +338,8 @@ bool QtListControl::eventFilter(QObject *watched, QEvent *event)
             m_reportedByPress = 0;
             const auto *press = static_cast<QMouseEvent *>(event);
             m_pressAt = press->position().toPoint();
-            m_pressedRow = press->button() == Qt::LeftButton ? hitTest(m_pressAt.x(), m_pressAt.y())
-                                                             : 0;
+            m_pressedRow
+                = press->button() == Qt::LeftButton ? hitTest(m_pressAt.x(), m_pressAt.y()) : 0;
         } else if (event->type() == QEvent::MouseButtonRelease) {
             m_pressedRow = 0;
         } else if (event->type() == QEvent::MouseMove && m_events) {

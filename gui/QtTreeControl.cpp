@@ -70,12 +70,12 @@ bool QtTreeControl::dragEvent(QEvent *event)
         const bool enter = event->type() == QEvent::DragEnter;
         m_dragAt = drag->position().toPoint();
         m_dragHasRules = drag->mimeData()->hasFormat(QLatin1String(DragDrop::MimeType));
-        const int effect = m_events ? m_events->OLEDragOver(m_dragHasRules,
-                                                             m_dragAt.x(),
-                                                             m_dragAt.y(),
-                                                             enter ? DragDrop::StateEnter
-                                                                   : DragDrop::StateOver)
-                                    : DragDrop::EffectNone;
+        const int effect
+            = m_events ? m_events->OLEDragOver(m_dragHasRules,
+                                               m_dragAt.x(),
+                                               m_dragAt.y(),
+                                               enter ? DragDrop::StateEnter : DragDrop::StateOver)
+                       : DragDrop::EffectNone;
         // Rules are always let in, so that the moves keep coming and the hover can run.
         if (enter && m_dragHasRules)
             drag->acceptProposedAction();

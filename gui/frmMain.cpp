@@ -10,6 +10,7 @@
 #include "application/HelpTopics.h"
 
 #include "application/Application.h"
+#include "application/ToolDispatcher.h"
 #include "platform/GlobalObjects.h"
 #include "platform/MRUUtils.h"
 #include "platform/QuorinAdminData.h"
@@ -18,7 +19,6 @@
 #include "views/AuthorisedItemsView.h"
 #include "views/CommandTable.h"
 #include "views/IViewController.h"
-#include "application/ToolDispatcher.h"
 #include "views/ViewFactory.h"
 
 #include <QAction>
@@ -31,9 +31,9 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QShortcut>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTextBrowser>
@@ -236,7 +236,8 @@ void frmMain::setApplication(Application *application)
         QAction *action = tool(id);
         action->setEnabled(available);
         if (!available)
-            action->setToolTip(tr("%1 comes in a later version.").arg(action->text().remove(QLatin1Char('&'))));
+            action->setToolTip(
+                tr("%1 comes in a later version.").arg(action->text().remove(QLatin1Char('&'))));
     }
 }
 

@@ -1,7 +1,7 @@
 #include "application/Application.h"
 
-#include "views/IMainForm.h"
 #include "collections/ObjectKeyedListAdapter.h"
+#include "controls/TreeControl.h"
 #include "docs/RulebaseDocCreator.h"
 #include "editors/CategorySeverityForm.h"
 #include "editors/DefaultViolationsForm.h"
@@ -19,19 +19,19 @@
 #include "platform/TextUtils.h"
 #include "platform/UserInterface.h"
 #include "rulebase/CategoryList.h"
-#include "rulebase/Rulebase.h"
-#include "rulebase/RulebaseLoadCriteria.h"
-#include "rulebase/RulebaseManager.h"
 #include "rulebase/CodingConvention.h"
 #include "rulebase/NamingConvention.h"
 #include "rulebase/RuleLists.h"
+#include "rulebase/Rulebase.h"
+#include "rulebase/RulebaseLoadCriteria.h"
+#include "rulebase/RulebaseManager.h"
 #include "rulebase/SeverityItem.h"
 #include "rulebase/TagItem.h"
 #include "rulebase/UnauthorisedKeyword.h"
 #include "rulebase/ViolationDefinition.h"
 #include "views/AuthorisedItemsView.h"
+#include "views/IMainForm.h"
 #include "views/IViewController.h"
-#include "controls/TreeControl.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -82,9 +82,8 @@ void preselectViolation(const QString &viewName, ViolationDefinition &definition
 }
 
 // Shows the rule's dialog; unless cancelled the rule joins the rulebase as a new one.
-std::shared_ptr<IRule> runNewRule(Application &application,
-                                  const std::shared_ptr<IRule> &rule,
-                                  bool &cancelled)
+std::shared_ptr<IRule>
+runNewRule(Application &application, const std::shared_ptr<IRule> &rule, bool &cancelled)
 {
     cancelled = true;
     std::unique_ptr<IConventionForm> form
@@ -176,7 +175,8 @@ bool Application::OpenRulebase(OpenMode mode, const QString &filename)
                     m_mainForm->RemoveFromMRUList(name);
                 }
             } else {
-                showWarning(QStringLiteral("Can't find the rulebase '") + name + QStringLiteral("'."));
+                showWarning(QStringLiteral("Can't find the rulebase '") + name
+                            + QStringLiteral("'."));
             }
             return false;
         }
@@ -229,8 +229,9 @@ bool Application::SaveRulebaseAs()
             request.path = m_rulebase->Filename();
         } else {
             request.folder = QDir::currentPath() + QLatin1Char('/');
-            request.fileTitle = m_rulebase->Title().isEmpty() ? QStringLiteral("Untitled.qrb")
-                                                              : m_rulebase->Title() + QStringLiteral(".qrb");
+            request.fileTitle = m_rulebase->Title().isEmpty()
+                                    ? QStringLiteral("Untitled.qrb")
+                                    : m_rulebase->Title() + QStringLiteral(".qrb");
             request.path = request.folder + request.fileTitle;
         }
         if (!UserInterface::current().getSaveFilename(request))

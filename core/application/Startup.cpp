@@ -27,7 +27,8 @@ bool RunStartup(Application &application, const QString &commandLine)
             if (mru.Count() > 0) {
                 opened = application.OpenRulebase(Application::OpenMode::RecentList, mru.Item(1));
             } else if (gobjQuorinData) {
-                const QString sample = gobjQuorinData->LocalDataPath() + QStringLiteral("Sample.qrb");
+                const QString sample
+                    = gobjQuorinData->LocalDataPath() + QStringLiteral("Sample.qrb");
                 if (FileUtils::FileExists(sample)) {
                     mru.Add(sample);
                     opened = application.OpenRulebase(Application::OpenMode::RecentList, sample);
@@ -36,7 +37,8 @@ bool RunStartup(Application &application, const QString &commandLine)
         }
 
         if (gobjAdminData && gobjAdminData->FirstUse()) {
-            UserInterface::current().showHelp(HelpCommand::Topic, QStringLiteral("::/Introduction.html"), 0);
+            UserInterface::current().showHelp(
+                HelpCommand::Topic, QStringLiteral("::/Introduction.html"), 0);
             gobjAdminData->setFirstUse(false);
         }
         return opened;

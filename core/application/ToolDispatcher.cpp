@@ -1,11 +1,11 @@
 #include "application/ToolDispatcher.h"
 
 #include "application/Application.h"
-#include "views/IMainForm.h"
 #include "platform/ErrorFrame.h"
 #include "platform/TextUtils.h"
 #include "rulebase/Rulebase.h"
 #include "views/CommandTable.h"
+#include "views/IMainForm.h"
 #include "views/IViewController.h"
 
 #include <functional>
@@ -62,13 +62,20 @@ const std::vector<Entry> &entries()
          }},
         {"tlRulebaseProperties", [](Application &a) { a.ShowRulebasePropertiesDialog(); }},
         {"tlOpenRule", [](Application &a) { onView(a, [](IViewController &v) { v.OpenItem(); }); }},
-        {"tlCloneRule", [](Application &a) { onView(a, [](IViewController &v) { v.CloneItems(); }); }},
-        {"tlDeleteRule", [](Application &a) { onView(a, [](IViewController &v) { v.DeleteItems(); }); }},
-        {"tlRuleActive", [](Application &a) { onView(a, [](IViewController &v) { v.ActivateItems(true); }); }},
-        {"tlRuleInactive", [](Application &a) { onView(a, [](IViewController &v) { v.ActivateItems(false); }); }},
-        {"tlCodingConvention", [](Application &a) { newRule(a, &Application::NewCodingConvention); }},
-        {"tlNamingConvention", [](Application &a) { newRule(a, &Application::NewNamingConvention); }},
-        {"tlUnauthorisedKeyword", [](Application &a) { newRule(a, &Application::NewUnauthorisedKeyword); }},
+        {"tlCloneRule",
+         [](Application &a) { onView(a, [](IViewController &v) { v.CloneItems(); }); }},
+        {"tlDeleteRule",
+         [](Application &a) { onView(a, [](IViewController &v) { v.DeleteItems(); }); }},
+        {"tlRuleActive",
+         [](Application &a) { onView(a, [](IViewController &v) { v.ActivateItems(true); }); }},
+        {"tlRuleInactive",
+         [](Application &a) { onView(a, [](IViewController &v) { v.ActivateItems(false); }); }},
+        {"tlCodingConvention",
+         [](Application &a) { newRule(a, &Application::NewCodingConvention); }},
+        {"tlNamingConvention",
+         [](Application &a) { newRule(a, &Application::NewNamingConvention); }},
+        {"tlUnauthorisedKeyword",
+         [](Application &a) { newRule(a, &Application::NewUnauthorisedKeyword); }},
         {"tlAuthorisedComponent", [](Application &a) { a.NewAuthorisedComponent(); }},
         {"tlAuthorisedReference", [](Application &a) { a.NewAuthorisedReference(); }},
         {"tlAddFromProject", [](Application &a) { a.AddAuthorisedItemsFromProject(); }},

@@ -1,10 +1,10 @@
 #include "controls/modUIListUtils.h"
 
+#include "controls/ComboControl.h"
 #include "platform/ErrorFrame.h"
 #include "rulebase/CategoryItem.h"
 #include "rulebase/CategoryList.h"
 #include "rulebase/SeverityItem.h"
-#include "controls/ComboControl.h"
 
 namespace modUIListUtils {
 

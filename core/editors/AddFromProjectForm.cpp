@@ -1,10 +1,10 @@
 #include "editors/AddFromProjectForm.h"
 
+#include "editors/AddFromProject.h"
 #include "platform/ErrorFrame.h"
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
 #include "platform/UserInterface.h"
-#include "editors/AddFromProject.h"
 #include "rulebase/AuthorisedComponents.h"
 #include "rulebase/AuthorisedReferences.h"
 

@@ -40,7 +40,8 @@ int CategorySeverityForm::HelpContextID() const
 
 QString CategorySeverityForm::HelpTopic() const
 {
-    return isCategoryList() ? QStringLiteral("::/CategoryList.htm") : QStringLiteral("::/SeverityList.htm");
+    return isCategoryList() ? QStringLiteral("::/CategoryList.htm")
+                            : QStringLiteral("::/SeverityList.htm");
 }
 
 QString CategorySeverityForm::ListLabel() const
@@ -57,8 +58,9 @@ QStringList CategorySeverityForm::Columns() const
 
 QString CategorySeverityForm::DeleteQuestion()
 {
-    return QStringLiteral("All rules associated with this category will be moved to the unallocated category, "
-                          "do you wish to continue?");
+    return QStringLiteral(
+        "All rules associated with this category will be moved to the unallocated category, "
+        "do you wish to continue?");
 }
 
 QString CategorySeverityForm::DuplicateColourWarning()
@@ -134,11 +136,13 @@ void CategorySeverityForm::DisplayCategoryEditor(int itemIndex)
     guardedVoid("DisplayCategoryEditor", module, [&] {
         std::shared_ptr<CategoryItem> item;
         if (itemIndex == 0)
-            item = std::dynamic_pointer_cast<CategoryItem>(m_itemList->Item(m_rows.at(std::size_t(m_selected)).key));
+            item = std::dynamic_pointer_cast<CategoryItem>(
+                m_itemList->Item(m_rows.at(std::size_t(m_selected)).key));
         else
             item = std::make_shared<CategoryItem>();
         if (!item)
-            throw QuorinError::objectNotSet(QStringLiteral("CategorySeverity::DisplayCategoryEditor"));
+            throw QuorinError::objectNotSet(
+                QStringLiteral("CategorySeverity::DisplayCategoryEditor"));
 
         CategoryEditorForm editor;
         editor.setCategoryItem(item);
@@ -168,10 +172,11 @@ void CategorySeverityForm::DisplayCategoryEditor(int itemIndex)
 void CategorySeverityForm::DisplaySeverityEditor()
 {
     guardedVoid("DisplaySeverityEditor", module, [&] {
-        const auto item
-            = std::dynamic_pointer_cast<SeverityItem>(m_itemList->Item(m_rows.at(std::size_t(m_selected)).key));
+        const auto item = std::dynamic_pointer_cast<SeverityItem>(
+            m_itemList->Item(m_rows.at(std::size_t(m_selected)).key));
         if (!item)
-            throw QuorinError::objectNotSet(QStringLiteral("CategorySeverity::DisplaySeverityEditor"));
+            throw QuorinError::objectNotSet(
+                QStringLiteral("CategorySeverity::DisplaySeverityEditor"));
         SeverityEditorForm editor;
         editor.setSeverityItem(item);
         editor.setImageCount(m_imageCount);

@@ -2,13 +2,13 @@
 
 #include "basic/ConditionRules.h"
 #include "basic/ScriptText.h"
+#include "controls/modUIListUtils.h"
 #include "platform/TextUtils.h"
 #include "platform/UserInterface.h"
 #include "rulebase/CategoryList.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/SeverityItem.h"
 #include "rulebase/ViolationDefinition.h"
-#include "controls/modUIListUtils.h"
 
 #include <cmath>
 #include <limits>

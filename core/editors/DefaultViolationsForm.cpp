@@ -1,13 +1,13 @@
 #include "editors/DefaultViolationsForm.h"
 
+#include "controls/ComboControl.h"
+#include "controls/modUIListUtils.h"
 #include "platform/ErrorFrame.h"
 #include "platform/TextUtils.h"
 #include "rulebase/CategoryList.h"
 #include "rulebase/DefaultViolations.h"
 #include "rulebase/SeverityItem.h"
 #include "rulebase/ViolationDefinition.h"
-#include "controls/ComboControl.h"
-#include "controls/modUIListUtils.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,9 +21,15 @@ constexpr const char *module = "DefaultViolations";
 class EntryCollector final : public ComboControl
 {
 public:
-    explicit EntryCollector(std::vector<DefaultViolationsForm::Entry> &entries) : m_entries(entries) {}
+    explicit EntryCollector(std::vector<DefaultViolationsForm::Entry> &entries)
+        : m_entries(entries)
+    {
+    }
     void clear() override { m_entries.clear(); }
-    void addItem(const QString &text, qint32 itemData) override { m_entries.push_back({text, itemData}); }
+    void addItem(const QString &text, qint32 itemData) override
+    {
+        m_entries.push_back({text, itemData});
+    }
 
 private:
     std::vector<DefaultViolationsForm::Entry> &m_entries;
@@ -157,7 +163,8 @@ void DefaultViolationsForm::setImpact(const QString &text)
         return;
     guardedVoid("txtImpact_Change", module, [&] {
         const double value = std::nearbyint(Text::val(text));
-        if (value < std::numeric_limits<qint16>::min() || value > std::numeric_limits<qint16>::max())
+        if (value < std::numeric_limits<qint16>::min()
+            || value > std::numeric_limits<qint16>::max())
             throw QuorinError::overflow(QStringLiteral("DefaultViolations::txtImpact_Change"));
         m_current->setImpact(qint16(value));
     });
@@ -223,7 +230,8 @@ void DefaultViolationsForm::OK()
     guardedVoid("cmdOK_Click", module, [this] {
         // The originals take the copies' values field by field, which marks the rulebase for
         // saving: closing or New asks before these edits are lost.
-        for (qint32 i = 1; i <= m_copies.Count() && m_violations && i <= m_violations->Count(); ++i) {
+        for (qint32 i = 1; i <= m_copies.Count() && m_violations && i <= m_violations->Count();
+             ++i) {
             const auto copy = m_copies.Item(i);
             const auto target = m_violations->Item(i);
             target->setAdvice(copy->Advice());

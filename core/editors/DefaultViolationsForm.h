@@ -34,9 +34,15 @@ public:
     DefaultViolationsForm();
     ~DefaultViolationsForm();
 
-    void setDefaultViolations(std::shared_ptr<::DefaultViolations> violations) { m_violations = std::move(violations); }
+    void setDefaultViolations(std::shared_ptr<::DefaultViolations> violations)
+    {
+        m_violations = std::move(violations);
+    }
     std::shared_ptr<::DefaultViolations> DefaultViolations() const { return m_violations; }
-    void setCategoryList(std::shared_ptr<::CategoryList> categories) { m_categories = std::move(categories); }
+    void setCategoryList(std::shared_ptr<::CategoryList> categories)
+    {
+        m_categories = std::move(categories);
+    }
     void setSeverityList(std::shared_ptr<ObjectKeyedArrayList<SeverityItem>> severities)
     {
         m_severities = std::move(severities);

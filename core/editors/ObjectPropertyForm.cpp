@@ -39,27 +39,17 @@ QStringList ObjectPropertyForm::ManualEntryFieldList(qint32 objectId)
                       QStringLiteral("Visible"),
                       QStringLiteral("Width")};
     if (objectId == controlPropertiesObject) {
-        names << QStringLiteral("Alignment")
-              << QStringLiteral("AutoSize")
-              << QStringLiteral("Index")
-              << QStringLiteral("MaskColor")
-              << QStringLiteral("MaxLength")
-              << QStringLiteral("Text")
-              << QStringLiteral("UseMaskColor")
-              << QStringLiteral("WhatsThisHelpID");
+        names << QStringLiteral("Alignment") << QStringLiteral("AutoSize")
+              << QStringLiteral("Index") << QStringLiteral("MaskColor")
+              << QStringLiteral("MaxLength") << QStringLiteral("Text")
+              << QStringLiteral("UseMaskColor") << QStringLiteral("WhatsThisHelpID");
     } else {
-        names << QStringLiteral("AutoRedraw")
-              << QStringLiteral("ClipControls")
-              << QStringLiteral("ControlBox")
-              << QStringLiteral("KeyPreview")
-              << QStringLiteral("MaxButton")
-              << QStringLiteral("MinButton")
-              << QStringLiteral("Moveable")
-              << QStringLiteral("ScaleMode")
-              << QStringLiteral("ShowInTaskbar")
-              << QStringLiteral("StartUpPosition")
-              << QStringLiteral("WhatsThisButton")
-              << QStringLiteral("WhatsThisHelp")
+        names << QStringLiteral("AutoRedraw") << QStringLiteral("ClipControls")
+              << QStringLiteral("ControlBox") << QStringLiteral("KeyPreview")
+              << QStringLiteral("MaxButton") << QStringLiteral("MinButton")
+              << QStringLiteral("Moveable") << QStringLiteral("ScaleMode")
+              << QStringLiteral("ShowInTaskbar") << QStringLiteral("StartUpPosition")
+              << QStringLiteral("WhatsThisButton") << QStringLiteral("WhatsThisHelp")
               << QStringLiteral("WindowState");
     }
     return names;

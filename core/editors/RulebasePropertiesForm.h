@@ -56,9 +56,15 @@ public:
     static constexpr NumberRange LimitRange() { return NumberRange::thirtyTwoBit(); }
     static constexpr NumberRange PercentageRange() { return {0, 100}; }
     QString ToleranceCount(int row) const { return m_toleranceCount.at(std::size_t(row)); }
-    void setToleranceCount(int row, const QString &text) { m_toleranceCount.at(std::size_t(row)) = text; }
+    void setToleranceCount(int row, const QString &text)
+    {
+        m_toleranceCount.at(std::size_t(row)) = text;
+    }
     QString ToleranceImpact(int row) const { return m_toleranceImpact.at(std::size_t(row)); }
-    void setToleranceImpact(int row, const QString &text) { m_toleranceImpact.at(std::size_t(row)) = text; }
+    void setToleranceImpact(int row, const QString &text)
+    {
+        m_toleranceImpact.at(std::size_t(row)) = text;
+    }
     QString PercentageComments() const { return m_percentageComments; }
     void setPercentageComments(const QString &text) { m_percentageComments = text; }
     QString CyclomaticComplexity() const { return m_cyclomaticComplexity; }

@@ -32,7 +32,8 @@ bool SeverityEditorForm::OK()
             throw QuorinError::objectNotSet(QStringLiteral("frmSeverityEditor::cmdOK_Click"));
         // The impact is converted first, so that one too large for 16 bits writes nothing.
         const double value = std::nearbyint(Text::val(m_impact));
-        if (value < std::numeric_limits<qint16>::min() || value > std::numeric_limits<qint16>::max())
+        if (value < std::numeric_limits<qint16>::min()
+            || value > std::numeric_limits<qint16>::max())
             throw QuorinError::overflow(QStringLiteral("frmSeverityEditor::cmdOK_Click"));
         m_item->setTitle(m_title);
         m_item->setImpact(qint16(value));

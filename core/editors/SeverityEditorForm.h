@@ -39,7 +39,10 @@ public:
     void chooseColour(qint32 image) { m_colour = image; }
 
     // OK needs a title, an impact and a description.
-    bool CanOK() const { return !m_title.isEmpty() && !m_impact.isEmpty() && !m_description.isEmpty(); }
+    bool CanOK() const
+    {
+        return !m_title.isEmpty() && !m_impact.isEmpty() && !m_description.isEmpty();
+    }
     // False when the impact does not fit (reported); nothing is written then.
     bool OK();
     void Cancel() { m_cancelled = true; }

@@ -116,13 +116,20 @@ QStringList TagListForm::ColumnCaptions() const
 {
     switch (m_tagType) {
     case ControlTags:
-        return {QStringLiteral("Description"), QStringLiteral("ProgID"), QStringLiteral("Control Tag"),
-                QStringLiteral("Controls"), QStringLiteral("Locked")};
+        return {QStringLiteral("Description"),
+                QStringLiteral("ProgID"),
+                QStringLiteral("Control Tag"),
+                QStringLiteral("Controls"),
+                QStringLiteral("Locked")};
     case DataTypeTags:
-        return {QStringLiteral("Data Type"), QStringLiteral("Data Tag"), QStringLiteral("Example"),
+        return {QStringLiteral("Data Type"),
+                QStringLiteral("Data Tag"),
+                QStringLiteral("Example"),
                 QStringLiteral("Locked")};
     default:
-        return {QStringLiteral("Scope"), QStringLiteral("Scope Tag"), QStringLiteral("Scope Items"),
+        return {QStringLiteral("Scope"),
+                QStringLiteral("Scope Tag"),
+                QStringLiteral("Scope Items"),
                 QStringLiteral("Locked")};
     }
 }

@@ -14,7 +14,8 @@ void reportError(const QuorinError &error, const char *function, const char *mod
 quint64 reportedErrorCount();
 
 template<typename Body, typename Fail>
-std::invoke_result_t<Body> guarded(const char *function, const char *module, Fail &&failValue, Body &&body)
+std::invoke_result_t<Body>
+guarded(const char *function, const char *module, Fail &&failValue, Body &&body)
 {
     try {
         return std::forward<Body>(body)();

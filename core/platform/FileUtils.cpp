@@ -6,7 +6,8 @@ namespace FileUtils {
 
 static qsizetype lastSeparator(const QString &filename)
 {
-    return std::max(filename.lastIndexOf(QLatin1Char('\\')), filename.lastIndexOf(QLatin1Char('/')));
+    return std::max(filename.lastIndexOf(QLatin1Char('\\')),
+                    filename.lastIndexOf(QLatin1Char('/')));
 }
 
 bool FileExists(const QString &filename)

@@ -31,7 +31,8 @@ int CreateGlobalObjects()
                 gobjAdminData->setLastPath(gobjQuorinData->LocalDataPath());
             auto log = std::make_shared<LogFile>();
             log->setLogFileName(gobjQuorinData->ErrorLogFile());
-            log->setComponent(QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName());
+            log->setComponent(
+                QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName());
             log->setComponentVersion(programComponentVersion());
             gobjLogFile = log;
         }

@@ -11,7 +11,8 @@
 LogFile::LogFile()
     : m_component(QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName())
     , m_logFile(QCoreApplication::applicationDirPath() + QStringLiteral("/Error.log"))
-{}
+{
+}
 
 QString LogFile::FormatLogRecord(const QString &message,
                                  const QString &function,
@@ -26,10 +27,12 @@ QString LogFile::FormatLogRecord(const QString &message,
            + QLatin1Char('#') + module + QStringLiteral("::") + function;
 }
 
-void LogFile::LogBasicError(const QuorinError &error, const QString &function, const QString &module)
+void LogFile::LogBasicError(const QuorinError &error,
+                            const QString &function,
+                            const QString &module)
 {
-    const QString message = QString::number(error.number()) + QStringLiteral(" - ")
-                            + error.description();
+    const QString message
+        = QString::number(error.number()) + QStringLiteral(" - ") + error.description();
     LogMessage(FormatLogRecord(message, function, module, QStringLiteral("Error")));
     if (!m_quiet) {
         UserInterface::current().messageBox(QStringLiteral("Error ") + message

@@ -24,7 +24,10 @@ public:
     void LogBasicError(const QuorinError &error, const QString &function, const QString &module);
     void LogSetupError(const QString &message, const QString &function, const QString &module);
     void LogDebugTrace(const QString &message, const QString &function, const QString &module);
-    void LogAssert(bool condition, const QString &message, const QString &function, const QString &module);
+    void LogAssert(bool condition,
+                   const QString &message,
+                   const QString &function,
+                   const QString &module);
     void LogEvent(const QString &message, const QString &function, const QString &module);
     void LogMessage(const QString &text);
     void SetReviewLog(const QString &filename, bool truncate);

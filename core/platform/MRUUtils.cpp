@@ -26,7 +26,8 @@ void MRUUtils::LoadList()
 {
     m_files.clear();
     for (int i = 1;; ++i) {
-        const QString file = RegistryUtils::GetRegString(m_key, valueName(i), QString(), HKEY_CURRENT_USER);
+        const QString file
+            = RegistryUtils::GetRegString(m_key, valueName(i), QString(), HKEY_CURRENT_USER);
         if (file.isEmpty())
             break;
         m_files << file;
@@ -64,5 +65,6 @@ void MRUUtils::writeList() const
         RegistryUtils::SetRegString(m_key, valueName(i), m_files.at(i - 1), HKEY_CURRENT_USER);
     // An empty value ends the list when it is read again, so a shorter list stays short.
     if (m_files.size() < MaxSize)
-        RegistryUtils::SetRegString(m_key, valueName(int(m_files.size()) + 1), QString(), HKEY_CURRENT_USER);
+        RegistryUtils::SetRegString(
+            m_key, valueName(int(m_files.size()) + 1), QString(), HKEY_CURRENT_USER);
 }

@@ -79,7 +79,8 @@ QuorinAdminData::QuorinAdminData()
 {
     for (const Setting &s : settingsTable) {
         m_values.insert(QLatin1String(s.name),
-                        s.defaultValue ? QString::fromLatin1(s.defaultValue) : QuorinData::programFolder());
+                        s.defaultValue ? QString::fromLatin1(s.defaultValue)
+                                       : QuorinData::programFolder());
     }
     LoadSettings();
 }
@@ -96,8 +97,8 @@ bool QuorinAdminData::LoadSettings()
         for (const Setting &s : settingsTable) {
             const QString name = QLatin1String(s.name);
             // A missing value keeps the one in force.
-            m_values[name] = RegistryUtils::GetRegString(key, name, m_values.value(name),
-                                                         RegistryUtils::HKEY_CURRENT_USER);
+            m_values[name] = RegistryUtils::GetRegString(
+                key, name, m_values.value(name), RegistryUtils::HKEY_CURRENT_USER);
         }
     });
 }
@@ -109,7 +110,8 @@ bool QuorinAdminData::SaveSettings()
         for (const Setting &s : settingsTable) {
             if (s.saved) {
                 const QString name = QLatin1String(s.name);
-                RegistryUtils::SetRegString(key, name, m_values.value(name), RegistryUtils::HKEY_CURRENT_USER);
+                RegistryUtils::SetRegString(
+                    key, name, m_values.value(name), RegistryUtils::HKEY_CURRENT_USER);
             }
         }
     });

@@ -19,7 +19,8 @@ QuorinData::QuorinData()
     const QString key = productKey();
     const Root root = HKEY_LOCAL_MACHINE;
     if (!KeyExists(key, root))
-        qCInfo(lcSettings).noquote() << QStringLiteral("Unable to find Quorin registry key: HKEY_LOCAL_MACHINE\\") + key;
+        qCInfo(lcSettings).noquote()
+            << QStringLiteral("Unable to find Quorin registry key: HKEY_LOCAL_MACHINE\\") + key;
 
     // The folders first, so that the files inside them default to the folders in force.
     const QString dataFolder = DataLocation::dataFolder();
@@ -30,10 +31,11 @@ QuorinData::QuorinData()
         = m_localDataPath == dataFolder ? DataLocation::writableFolder() : m_localDataPath;
     m_errorLogFile = GetRegString(
         key, QStringLiteral("ErrorLogFile"), logFolder + QStringLiteral("Error.log"), root);
-    m_productVersion = GetRegString(key,
-                                    QStringLiteral("ProductVersion"),
-                                    QStringLiteral("%1.%2").arg(QUORIN_VERSION_MAJOR).arg(QUORIN_VERSION_MINOR),
-                                    root);
+    m_productVersion
+        = GetRegString(key,
+                       QStringLiteral("ProductVersion"),
+                       QStringLiteral("%1.%2").arg(QUORIN_VERSION_MAJOR).arg(QUORIN_VERSION_MINOR),
+                       root);
     m_projectResultsDB = GetRegString(key,
                                       QStringLiteral("ProjectResultsDB"),
                                       m_localDataPath + QStringLiteral("QuorinProject.mdb"),

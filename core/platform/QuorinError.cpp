@@ -5,7 +5,8 @@ QuorinError::QuorinError(qint32 number, QString source, QString description)
     , m_source(std::move(source))
     , m_description(std::move(description))
     , m_what(QStringLiteral("%1 - %2 (%3)").arg(number).arg(m_description, m_source).toUtf8())
-{}
+{
+}
 
 QuorinError QuorinError::subscriptOutOfRange(const QString &source)
 {

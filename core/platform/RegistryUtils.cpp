@@ -54,7 +54,8 @@ bool KeyExists(const QString &key, Root root)
     return !settings->childKeys().isEmpty() || !settings->childGroups().isEmpty();
 }
 
-QString GetRegString(const QString &key, const QString &valueName, const QString &defaultValue, Root root)
+QString
+GetRegString(const QString &key, const QString &valueName, const QString &defaultValue, Root root)
 {
     const auto settings = open(key, root);
     const QVariant value = settings->value(valueName);

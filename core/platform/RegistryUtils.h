@@ -13,7 +13,8 @@ QString productKey();
 
 bool KeyExists(const QString &key, Root root);
 // Gives Default when the key or the value is missing; raises when the value is not text.
-QString GetRegString(const QString &key, const QString &valueName, const QString &defaultValue, Root root);
+QString
+GetRegString(const QString &key, const QString &valueName, const QString &defaultValue, Root root);
 bool SetRegString(const QString &key, const QString &valueName, const QString &value, Root root);
 
 } // namespace RegistryUtils

@@ -54,9 +54,8 @@ QString programTitle();
 // The box shapes the logic uses, each on UserInterface::current(). Every question names its
 // default answer: No where Yes would delete or discard something.
 void showWarning(const QString &text, const QString &title = programTitle());
-MessageResult askYesNo(const QString &text,
-                       MessageResult defaultButton,
-                       const QString &title = programTitle());
+MessageResult
+askYesNo(const QString &text, MessageResult defaultButton, const QString &title = programTitle());
 MessageResult askYesNoCancel(const QString &text,
                              MessageResult defaultButton,
                              const QString &title = programTitle());

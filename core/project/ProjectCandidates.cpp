@@ -36,7 +36,8 @@ ProjectCandidates::ProjectCandidates()
 
 ProjectCandidates::~ProjectCandidates() = default;
 
-void ProjectCandidates::GatherCandidates(const QStringList &files, std::shared_ptr<Rulebase> rulebase)
+void ProjectCandidates::GatherCandidates(const QStringList &files,
+                                         std::shared_ptr<Rulebase> rulebase)
 {
     guardedVoid("GatherCandidates", module, [&] {
         m_rulebase = std::move(rulebase);

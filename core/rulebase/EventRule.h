@@ -1,7 +1,7 @@
 #pragma once
 
-#include "rulebase/ParserEventArray.h"
 #include "rulebase/CommonRuleFields.h"
+#include "rulebase/ParserEventArray.h"
 
 // A rule that runs at parser events of its own: the coding conventions and the unauthorised
 // keywords.

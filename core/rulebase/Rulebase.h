@@ -26,21 +26,42 @@ public:
     ~Rulebase();
 
     // Each list comes read-only from a read-only rulebase.
-    std::shared_ptr<::AuthorisedReferences> AuthorisedReferences() { return m_authorisedReferences; }
-    std::shared_ptr<const ::AuthorisedReferences> AuthorisedReferences() const { return m_authorisedReferences; }
-    std::shared_ptr<::AuthorisedComponents> AuthorisedComponents() { return m_authorisedComponents; }
-    std::shared_ptr<const ::AuthorisedComponents> AuthorisedComponents() const { return m_authorisedComponents; }
+    std::shared_ptr<::AuthorisedReferences> AuthorisedReferences()
+    {
+        return m_authorisedReferences;
+    }
+    std::shared_ptr<const ::AuthorisedReferences> AuthorisedReferences() const
+    {
+        return m_authorisedReferences;
+    }
+    std::shared_ptr<::AuthorisedComponents> AuthorisedComponents()
+    {
+        return m_authorisedComponents;
+    }
+    std::shared_ptr<const ::AuthorisedComponents> AuthorisedComponents() const
+    {
+        return m_authorisedComponents;
+    }
     std::shared_ptr<::RuleLists> RuleLists() { return m_ruleLists; }
     std::shared_ptr<const ::RuleLists> RuleLists() const { return m_ruleLists; }
     // Keyed by TagName.
     std::shared_ptr<ObjectKeyedArrayList<TagItem>> ControlTags() { return m_controlTags; }
-    std::shared_ptr<const ObjectKeyedArrayList<TagItem>> ControlTags() const { return m_controlTags; }
+    std::shared_ptr<const ObjectKeyedArrayList<TagItem>> ControlTags() const
+    {
+        return m_controlTags;
+    }
     std::shared_ptr<ObjectKeyedArrayList<TagItem>> DataTypeTags() { return m_dataTypeTags; }
-    std::shared_ptr<const ObjectKeyedArrayList<TagItem>> DataTypeTags() const { return m_dataTypeTags; }
+    std::shared_ptr<const ObjectKeyedArrayList<TagItem>> DataTypeTags() const
+    {
+        return m_dataTypeTags;
+    }
     std::shared_ptr<ObjectKeyedArrayList<TagItem>> ScopeTags() { return m_scopeTags; }
     std::shared_ptr<const ObjectKeyedArrayList<TagItem>> ScopeTags() const { return m_scopeTags; }
     std::shared_ptr<::DefaultViolations> DefaultViolations() { return m_defaultViolations; }
-    std::shared_ptr<const ::DefaultViolations> DefaultViolations() const { return m_defaultViolations; }
+    std::shared_ptr<const ::DefaultViolations> DefaultViolations() const
+    {
+        return m_defaultViolations;
+    }
     // Full path; empty until saved or loaded. Setting it leaves Dirty alone.
     QString Filename() const { return m_filename; }
     void setFilename(const QString &filename) { m_filename = filename; }
@@ -76,7 +97,10 @@ public:
     std::shared_ptr<const ::CategoryList> CategoryList() const { return m_categoryList; }
     // Keyed by "<level>Key".
     std::shared_ptr<ObjectKeyedArrayList<SeverityItem>> SeverityList() { return m_severityList; }
-    std::shared_ptr<const ObjectKeyedArrayList<SeverityItem>> SeverityList() const { return m_severityList; }
+    std::shared_ptr<const ObjectKeyedArrayList<SeverityItem>> SeverityList() const
+    {
+        return m_severityList;
+    }
     std::shared_ptr<::Report> Report() { return m_report; }
     std::shared_ptr<const ::Report> Report() const { return m_report; }
 

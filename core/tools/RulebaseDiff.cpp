@@ -328,8 +328,11 @@ RulebaseDiff::Records RulebaseDiff::rules(const Rulebase &rulebase)
         if (!rule)
             continue;
         const QString id = number(rule->RuleID());
-        Record record{
-            id, id, RuleTypes::displayName(rule->RuleType()) + QLatin1Char(' ') + quoted(rule->Title()), {}};
+        Record record{id,
+                      id,
+                      RuleTypes::displayName(rule->RuleType()) + QLatin1Char(' ')
+                          + quoted(rule->Title()),
+                      {}};
         auto &f = record.fields;
         f.emplace_back(QStringLiteral("RuleType"), RuleTypes::displayName(rule->RuleType()));
         f.emplace_back(QStringLiteral("Title"), rule->Title());

@@ -1,9 +1,10 @@
 #include "views/AuthorisedItemsView.h"
 
-#include "views/IMainForm.h"
+#include "editors/AddFromProject.h"
 #include "editors/AuthorisedComponentForm.h"
 #include "editors/AuthorisedReferenceForm.h"
 #include "editors/IFormFactory.h"
+#include "editors/IRuleEditorLauncher.h"
 #include "platform/ErrorFrame.h"
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
@@ -11,7 +12,6 @@
 #include "platform/QuorinError.h"
 #include "platform/TextUtils.h"
 #include "platform/UserInterface.h"
-#include "editors/AddFromProject.h"
 #include "project/AuthorisedItemsMerger.h"
 #include "project/modQuorinUtils.h"
 #include "rulebase/AuthorisedComponents.h"
@@ -21,7 +21,7 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/UnauthorisedKeyword.h"
 #include "views/CommandTable.h"
-#include "editors/IRuleEditorLauncher.h"
+#include "views/IMainForm.h"
 #include "views/modViewCommon.h"
 
 #include <QDate>

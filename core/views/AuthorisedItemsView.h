@@ -1,8 +1,8 @@
 #pragma once
 
-#include "views/IViewController.h"
 #include "controls/ListControl.h"
 #include "controls/TreeControl.h"
+#include "views/IViewController.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #include "views/CategoryView.h"
 
-#include "views/IMainForm.h"
+#include "editors/IRuleEditorLauncher.h"
 #include "platform/ErrorFrame.h"
 #include "platform/TextUtils.h"
 #include "rulebase/CategoryItem.h"
@@ -9,7 +9,7 @@
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/ViolationDefinition.h"
-#include "editors/IRuleEditorLauncher.h"
+#include "views/IMainForm.h"
 
 namespace {
 const QString rootKey = QStringLiteral("Category");
@@ -110,8 +110,8 @@ QString CategoryView::NodeDocumentation(int node) const
         return QStringLiteral(
             "Conventions which have not yet been allocated to a specific category.");
     const std::shared_ptr<CategoryItem> category = m_rulebase->CategoryList()->Item(key);
-    const QString heading = category->Hidden() ? QStringLiteral("Category (Hidden): ")
-                                               : QStringLiteral("Category: ");
+    const QString heading
+        = category->Hidden() ? QStringLiteral("Category (Hidden): ") : QStringLiteral("Category: ");
     return heading + category->Title() + QStringLiteral("\r\n\r\n") + category->Description();
 }
 

@@ -1,13 +1,13 @@
 #include "views/CodingConventionsView.h"
 
-#include "views/IMainForm.h"
+#include "editors/IRuleEditorLauncher.h"
 #include "platform/ErrorFrame.h"
 #include "platform/TextUtils.h"
 #include "platform/UserInterface.h"
 #include "rulebase/CodingConvention.h"
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
-#include "editors/IRuleEditorLauncher.h"
+#include "views/IMainForm.h"
 #include "vocabulary/ObjectTreeHelper.h"
 #include "vocabulary/VBParserEvents.h"
 

@@ -1,13 +1,13 @@
 #include "views/NamingConventionsView.h"
 
-#include "views/IMainForm.h"
+#include "editors/IRuleEditorLauncher.h"
 #include "platform/ErrorFrame.h"
 #include "platform/GlobalObjects.h"
 #include "platform/LogFile.h"
 #include "rulebase/NamingConvention.h"
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
-#include "editors/IRuleEditorLauncher.h"
+#include "views/IMainForm.h"
 #include "vocabulary/ObjectHelper.h"
 #include "vocabulary/ObjectTreeHelper.h"
 

@@ -1,6 +1,6 @@
 #include "views/RuleViewBase.h"
 
-#include "views/IMainForm.h"
+#include "editors/IRuleEditorLauncher.h"
 #include "platform/ErrorFrame.h"
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
@@ -10,7 +10,7 @@
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
 #include "views/DragDrop.h"
-#include "editors/IRuleEditorLauncher.h"
+#include "views/IMainForm.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "views/SeverityView.h"
 
-#include "views/IMainForm.h"
 #include "collections/KeyedListErrors.h"
+#include "editors/IRuleEditorLauncher.h"
 #include "platform/ErrorFrame.h"
 #include "platform/TextUtils.h"
 #include "rulebase/IRule.h"
@@ -9,7 +9,7 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/SeverityItem.h"
 #include "rulebase/ViolationDefinition.h"
-#include "editors/IRuleEditorLauncher.h"
+#include "views/IMainForm.h"
 
 namespace {
 const QString rootKey = QStringLiteral("Severity");

@@ -1,5 +1,6 @@
 #include "views/modViewCommon.h"
 
+#include "controls/ListControl.h"
 #include "platform/ErrorFrame.h"
 #include "platform/TextUtils.h"
 #include "rulebase/CategoryItem.h"
@@ -8,7 +9,6 @@
 #include "rulebase/RuleLists.h"
 #include "rulebase/SeverityItem.h"
 #include "rulebase/ViolationDefinition.h"
-#include "controls/ListControl.h"
 
 namespace modViewCommon {
 

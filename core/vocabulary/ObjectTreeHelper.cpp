@@ -1,9 +1,9 @@
 #include "vocabulary/ObjectTreeHelper.h"
 
+#include "controls/RuleTreeControl.h"
 #include "platform/ErrorFrame.h"
 #include "rulebase/RuleLists.h"
 #include "vocabulary/ObjectHelper.h"
-#include "controls/RuleTreeControl.h"
 #include "vocabulary/VBParserEvents.h"
 
 #include <QString>

@@ -1,8 +1,8 @@
 #include "vocabulary/VBParserEvents.h"
 
+#include "controls/ImageComboControl.h"
 #include "platform/ErrorFrame.h"
 #include "platform/TextUtils.h"
-#include "controls/ImageComboControl.h"
 #include "vocabulary/ParserEventCatalogue.h"
 
 namespace {

@@ -13,7 +13,8 @@ QIcon severityIcon(int image)
 
 QIcon folderIcon(bool hidden)
 {
-    return Images::icon(QStringLiteral("ilsImages"), hidden ? QStringLiteral("HiddenFolder") : QStringLiteral("Folder"));
+    return Images::icon(QStringLiteral("ilsImages"),
+                        hidden ? QStringLiteral("HiddenFolder") : QStringLiteral("Folder"));
 }
 
 QIcon violationIcon(int type)

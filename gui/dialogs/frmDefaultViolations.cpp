@@ -72,7 +72,8 @@ frmDefaultViolations::frmDefaultViolations(DefaultViolationsForm &form, QWidget 
     const auto &tools = DefaultViolationsForm::Tools();
     for (std::size_t i = 0; i < tools.size(); ++i) {
         const QString name = QLatin1String(tools[i].name);
-        QAction *tool = m_bar->addAction(DialogImages::violationIcon(tools[i].type), m_form.ToolText(int(i)));
+        QAction *tool
+            = m_bar->addAction(DialogImages::violationIcon(tools[i].type), m_form.ToolText(int(i)));
         tool->setObjectName(name);
         tool->setCheckable(true);
         group->addAction(tool);
@@ -111,7 +112,8 @@ frmDefaultViolations::frmDefaultViolations(DefaultViolationsForm &form, QWidget 
     m_advice = new QPlainTextEdit;
     m_advice->setObjectName(QStringLiteral("txtAdvice"));
     m_advice->setTabChangesFocus(true);
-    auto *objectProperty = DialogSupport::button(QStringLiteral("cmdObjectProperty"), QStringLiteral("Insert Object Property"));
+    auto *objectProperty = DialogSupport::button(QStringLiteral("cmdObjectProperty"),
+                                                 QStringLiteral("Insert Object Property"));
 
     for (const DefaultViolationsForm::Entry &entry : m_form.SeverityEntries())
         m_severity->addItem(entry.text, entry.itemData);
@@ -164,18 +166,23 @@ frmDefaultViolations::frmDefaultViolations(DefaultViolationsForm &form, QWidget 
         if (!m_populating)
             m_form.setAdvice(m_advice->toPlainText());
     });
-    connect(m_impact, &QLineEdit::textEdited, this, [this](const QString &text) { m_form.setImpact(text); });
+    connect(m_impact, &QLineEdit::textEdited, this, [this](const QString &text) {
+        m_form.setImpact(text);
+    });
     connect(m_impact, &QLineEdit::editingFinished, this, [this] {
         m_form.leaveImpact();
         m_impact->setText(m_form.Impact());
     });
-    connect(m_category, &QComboBox::activated, this, [this](int index) { m_form.setCategoryIndex(index); });
+    connect(m_category, &QComboBox::activated, this, [this](int index) {
+        m_form.setCategoryIndex(index);
+    });
     connect(m_severity, &QComboBox::activated, this, [this](int index) {
         m_form.setSeverityIndex(index);
         m_icon->setPixmap(DialogImages::severityIcon(m_form.SeverityImage()).pixmap(16, 16));
         m_impact->setText(m_form.Impact());
     });
-    connect(objectProperty, &QPushButton::clicked, this, &frmDefaultViolations::InsertObjectProperty);
+    connect(
+        objectProperty, &QPushButton::clicked, this, &frmDefaultViolations::InsertObjectProperty);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     DialogSupport::connectHelp(this, help, DefaultViolationsForm::HelpTopic());

@@ -102,9 +102,11 @@ frmRulebaseProperties::frmRulebaseProperties(RulebasePropertiesForm &form, QWidg
                                      RulebasePropertiesForm::PercentageRange());
     m_cyclomaticComplexity = numberBox(QStringLiteral("txtCyclomaticComplexity"),
                                        RulebasePropertiesForm::LimitRange());
-    grid->addWidget(labelFor(QStringLiteral("Minimum Percentage (%) Comments"), m_percentageComments), 9, 0);
+    grid->addWidget(
+        labelFor(QStringLiteral("Minimum Percentage (%) Comments"), m_percentageComments), 9, 0);
     grid->addWidget(m_percentageComments, 9, 1);
-    grid->addWidget(labelFor(QStringLiteral("Maximum Cyclomatic Complexity"), m_cyclomaticComplexity), 10, 0);
+    grid->addWidget(
+        labelFor(QStringLiteral("Maximum Cyclomatic Complexity"), m_cyclomaticComplexity), 10, 0);
     grid->addWidget(m_cyclomaticComplexity, 10, 1);
     grid->setRowStretch(11, 1);
 
@@ -141,31 +143,52 @@ frmRulebaseProperties::frmRulebaseProperties(RulebasePropertiesForm &form, QWidg
         m_form.setTitle(text);
         EnableControls();
     });
-    connect(m_description, &QPlainTextEdit::textChanged, this,
-            [this] { m_form.setDescription(m_description->toPlainText()); });
-    const auto versionBox = [this](QLineEdit *box, void (RulebasePropertiesForm::*change)(const QString &),
-                                   void (RulebasePropertiesForm::*leave)(), QString (RulebasePropertiesForm::*value)() const) {
-        connect(box, &QLineEdit::textEdited, this, [this, change](const QString &text) { (m_form.*change)(text); });
+    connect(m_description, &QPlainTextEdit::textChanged, this, [this] {
+        m_form.setDescription(m_description->toPlainText());
+    });
+    const auto versionBox = [this](QLineEdit *box,
+                                   void (RulebasePropertiesForm::*change)(const QString &),
+                                   void (RulebasePropertiesForm::*leave)(),
+                                   QString (RulebasePropertiesForm::*value)() const) {
+        connect(box, &QLineEdit::textEdited, this, [this, change](const QString &text) {
+            (m_form.*change)(text);
+        });
         connect(box, &QLineEdit::editingFinished, this, [this, box, leave, value] {
             (m_form.*leave)();
             box->setText((m_form.*value)());
         });
     };
-    versionBox(m_major, &RulebasePropertiesForm::setMajor, &RulebasePropertiesForm::leaveMajor, &RulebasePropertiesForm::Major);
-    versionBox(m_minor, &RulebasePropertiesForm::setMinor, &RulebasePropertiesForm::leaveMinor, &RulebasePropertiesForm::Minor);
-    versionBox(m_revision, &RulebasePropertiesForm::setRevision, &RulebasePropertiesForm::leaveRevision,
+    versionBox(m_major,
+               &RulebasePropertiesForm::setMajor,
+               &RulebasePropertiesForm::leaveMajor,
+               &RulebasePropertiesForm::Major);
+    versionBox(m_minor,
+               &RulebasePropertiesForm::setMinor,
+               &RulebasePropertiesForm::leaveMinor,
+               &RulebasePropertiesForm::Minor);
+    versionBox(m_revision,
+               &RulebasePropertiesForm::setRevision,
+               &RulebasePropertiesForm::leaveRevision,
                &RulebasePropertiesForm::Revision);
-    connect(m_autoIncrement, &QCheckBox::toggled, this, [this](bool on) { m_form.setAutoIncrement(on); });
+    connect(m_autoIncrement, &QCheckBox::toggled, this, [this](bool on) {
+        m_form.setAutoIncrement(on);
+    });
     for (int i = 0; i < RulebasePropertiesForm::ToleranceRows; ++i) {
-        connect(m_counts[std::size_t(i)], &QLineEdit::textChanged, this,
+        connect(m_counts[std::size_t(i)],
+                &QLineEdit::textChanged,
+                this,
                 [this, i](const QString &text) { m_form.setToleranceCount(i, text); });
-        connect(m_impacts[std::size_t(i)], &QLineEdit::textChanged, this,
+        connect(m_impacts[std::size_t(i)],
+                &QLineEdit::textChanged,
+                this,
                 [this, i](const QString &text) { m_form.setToleranceImpact(i, text); });
     }
-    connect(m_percentageComments, &QLineEdit::textChanged, this,
-            [this](const QString &text) { m_form.setPercentageComments(text); });
-    connect(m_cyclomaticComplexity, &QLineEdit::textChanged, this,
-            [this](const QString &text) { m_form.setCyclomaticComplexity(text); });
+    connect(m_percentageComments, &QLineEdit::textChanged, this, [this](const QString &text) {
+        m_form.setPercentageComments(text);
+    });
+    connect(m_cyclomaticComplexity, &QLineEdit::textChanged, this, [this](const QString &text) {
+        m_form.setCyclomaticComplexity(text);
+    });
     connect(m_ok, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     DialogSupport::connectHelp(this, help, RulebasePropertiesForm::HelpTopic());

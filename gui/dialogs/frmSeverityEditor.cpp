@@ -39,15 +39,17 @@ frmSeverityEditor::frmSeverityEditor(SeverityEditorForm &form, QWidget *parent)
     auto *colours = new QMenu(this);
     colours->setObjectName(QStringLiteral("mnuColour"));
     for (int image = 1; image <= m_form.ImageCount(); ++image) {
-        QAction *choice = colours->addAction(DialogImages::severityIcon(image), QString::number(image));
+        QAction *choice
+            = colours->addAction(DialogImages::severityIcon(image), QString::number(image));
         choice->setObjectName(QStringLiteral("tlColour") + QString::number(image));
         connect(choice, &QAction::triggered, this, [this, image] {
             m_form.chooseColour(image);
             showColour();
         });
     }
-    connect(colour, &QPushButton::clicked, this,
-            [colour, colours] { colours->popup(colour->mapToGlobal(QPoint(0, colour->height()))); });
+    connect(colour, &QPushButton::clicked, this, [colour, colours] {
+        colours->popup(colour->mapToGlobal(QPoint(0, colour->height())));
+    });
 
     auto *titleLabel = new QLabel(QStringLiteral("&Title"));
     titleLabel->setBuddy(title);

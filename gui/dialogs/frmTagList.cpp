@@ -35,7 +35,9 @@ public:
     {
     }
 
-    void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override
+    void setModelData(QWidget *editor,
+                      QAbstractItemModel *model,
+                      const QModelIndex &index) const override
     {
         const QByteArray property = editor->metaObject()->userProperty().name();
         if (model->setData(index, editor->property(property.constData())))
@@ -59,7 +61,8 @@ protected:
         QStyledItemDelegate::initStyleOption(option, index);
         if (index.column() == m_nameColumn && index.data(TagGridModel::LockedRole).toBool()) {
             option->font.setItalic(true);
-            option->palette.setColor(QPalette::Text, option->palette.color(QPalette::Disabled, QPalette::Text));
+            option->palette.setColor(QPalette::Text,
+                                     option->palette.color(QPalette::Disabled, QPalette::Text));
         }
     }
 
@@ -96,7 +99,8 @@ frmTagList::frmTagList(TagListForm &form, QWidget *parent)
     m_grid->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_grid->setSelectionMode(QAbstractItemView::SingleSelection);
     m_grid->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed
-                            | QAbstractItemView::AnyKeyPressed | QAbstractItemView::SelectedClicked);
+                            | QAbstractItemView::AnyKeyPressed
+                            | QAbstractItemView::SelectedClicked);
     m_grid->verticalHeader()->hide();
     m_grid->horizontalHeader()->setStretchLastSection(true);
     m_grid->setColumnHidden(int(m_form.Fields().size()) - 1, true); // the Locked flag
@@ -150,7 +154,10 @@ frmTagList::frmTagList(TagListForm &form, QWidget *parent)
     SetSortKey();
     m_grid->resizeColumnsToContents();
 
-    connect(m_grid->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &frmTagList::SelectionChange);
+    connect(m_grid->selectionModel(),
+            &QItemSelectionModel::currentRowChanged,
+            this,
+            &frmTagList::SelectionChange);
     connect(m_sorted, &QAbstractItemModel::modelReset, this, &frmTagList::SelectionChange);
     connect(m_grid, &QWidget::customContextMenuRequested, this, [this, menu](const QPoint &at) {
         const QModelIndex index = m_grid->indexAt(at);
@@ -169,7 +176,9 @@ frmTagList::frmTagList(TagListForm &form, QWidget *parent)
         m_form.setOption(checked);
         SetSortKey();
     });
-    connect(arrayTag, &QLineEdit::textChanged, this, [this](const QString &text) { m_form.setArrayTag(text); });
+    connect(arrayTag, &QLineEdit::textChanged, this, [this](const QString &text) {
+        m_form.setArrayTag(text);
+    });
     connect(m_ok, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     DialogSupport::connectHelp(this, help, TagListForm::HelpTopic());
@@ -203,7 +212,8 @@ void frmTagList::Insert()
     if (row == 0)
         return;
     SetSortKey();
-    const QModelIndex name = m_sorted->mapFromSource(m_form.grid()->index(row - 1, m_form.NameColumn()));
+    const QModelIndex name
+        = m_sorted->mapFromSource(m_form.grid()->index(row - 1, m_form.NameColumn()));
     m_grid->setCurrentIndex(name);
     m_grid->scrollTo(name);
     m_grid->edit(name);

@@ -9,7 +9,10 @@ class QWidget;
 class GuiFormFactory final : public IFormFactory
 {
 public:
-    explicit GuiFormFactory(QWidget *parent = nullptr) : m_parent(parent) {}
+    explicit GuiFormFactory(QWidget *parent = nullptr)
+        : m_parent(parent)
+    {
+    }
     void setParentWidget(QWidget *parent) { m_parent = parent; }
     QWidget *parentWidget() const { return m_parent; }
 

@@ -1,6 +1,7 @@
 #include "gui/preview/frmPreview.h"
 
 #include "collections/ObjectKeyedArrayList.h"
+#include "editors/IRuleEditorLauncher.h"
 #include "gui/preview/PreviewResultsModel.h"
 #include "platform/ErrorFrame.h"
 #include "preview/PreviewRun.h"
@@ -8,7 +9,6 @@
 #include "rulebase/IRule.h"
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
-#include "editors/IRuleEditorLauncher.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -106,8 +106,9 @@ HelpWindow::HelpWindow(QWidget *parent)
     connect(m_browser, &QTextBrowser::forwardAvailable, m_forward, &QAction::setEnabled);
     connect(m_browser, &QTextBrowser::sourceChanged, this, [this] {
         const QString title = m_browser->documentTitle();
-        setWindowTitle(title.isEmpty() ? tr("Quorin Administrator Help")
-                                       : title + QStringLiteral(" - ") + tr("Quorin Administrator Help"));
+        setWindowTitle(title.isEmpty()
+                           ? tr("Quorin Administrator Help")
+                           : title + QStringLiteral(" - ") + tr("Quorin Administrator Help"));
     });
 }
 
@@ -184,7 +185,8 @@ QString HelpWindow::currentPage() const
 QStringList HelpWindow::search(const QString &words)
 {
     Images::initialise();
-    const QStringList wanted = words.split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
+    const QStringList wanted
+        = words.split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
     QStringList found;
     if (wanted.isEmpty())
         return found;

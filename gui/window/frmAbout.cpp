@@ -22,7 +22,8 @@ frmAbout::frmAbout(QWidget *parent)
 
     auto *logo = new QLabel;
     logo->setObjectName(QStringLiteral("imgLogo"));
-    logo->setPixmap(Images::icon(QStringLiteral("ilsEventTree"), QStringLiteral("Project")).pixmap(64, 64));
+    logo->setPixmap(
+        Images::icon(QStringLiteral("ilsEventTree"), QStringLiteral("Project")).pixmap(64, 64));
     logo->setAlignment(Qt::AlignTop);
 
     auto *title = new QLabel(programTitle());
@@ -46,9 +47,9 @@ frmAbout::frmAbout(QWidget *parent)
     description->setMinimumWidth(360);
 
     const QString home = gobjQuorinData ? gobjQuorinData->HomePageURL() : QString();
-    m_homePage = new QLabel(home.isEmpty()
-                                ? QString()
-                                : QStringLiteral("<a href=\"%1\">%1</a>").arg(home.toHtmlEscaped()));
+    m_homePage = new QLabel(
+        home.isEmpty() ? QString()
+                       : QStringLiteral("<a href=\"%1\">%1</a>").arg(home.toHtmlEscaped()));
     m_homePage->setObjectName(QStringLiteral("lblHomePage"));
     m_homePage->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     connect(m_homePage, &QLabel::linkActivated, this, [](const QString &link) {
