@@ -20,6 +20,7 @@
 #include "views/ViewFactory.h"
 
 #include "support/MemoryMainForm.h"
+#include "support/RecordingView.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
@@ -31,30 +32,6 @@
 #include <functional>
 
 namespace {
-
-// A view that only counts what is done to it.
-class CountingView final : public IViewController
-{
-public:
-    explicit CountingView(int *populates) : m_populates(populates) {}
-    void setRulebase(std::shared_ptr<Rulebase>) override {}
-    void setMainForm(IMainForm *) override {}
-    void Customise() override {}
-    void Populate() override { ++*m_populates; }
-    void DeleteItems() override {}
-    void OpenItem() override {}
-    void SetEnabledState() override {}
-    void ResizeView() override {}
-    void AddItem(const std::shared_ptr<IRule> &) override {}
-    void CloneItems() override {}
-    int ItemsActiveState() override { return 4; }
-    void ActivateItems(bool) override {}
-    void CategoryListChanged() override {}
-    void SeverityListChanged() override {}
-
-private:
-    int *m_populates;
-};
 
 class ApplicationTest : public ::testing::Test
 {
@@ -85,15 +62,22 @@ protected:
         return path;
     }
 
-    Application::ViewFactory countingViews()
+    Application::ViewFactory countingViews() { return RecordingView::factory(&viewCalls); }
+    qsizetype populates() const { return viewCalls.count(QStringLiteral("Populate")); }
+    // The sample with one bad value, which loads in part; gives its bytes.
+    QByteArray writePartFile(const QString &path)
     {
-        return [this](const QString &) { return std::make_unique<CountingView>(&populates); };
+        QByteArray bytes = TestEnvironment::readFile(TestEnvironment::sampleRulebase());
+        EXPECT_TRUE(bytes.contains("<CategoryList LastID=\"14\">"));
+        bytes.replace("<CategoryList LastID=\"14\">", "<CategoryList LastID=\"fourteen\">");
+        TestEnvironment::writeFile(path, bytes);
+        return bytes;
     }
 
     QString dir;
     ScriptedUserInterface ui;
     MemoryMainForm form;
-    int populates = 0;
+    QStringList viewCalls;
 };
 
 } // namespace
@@ -173,31 +157,25 @@ TEST_F(ApplicationTest, CommandLineNamesAreTakenWholeAndNeverTouchTheRecentList)
     EXPECT_EQ(ui.messageTexts(),
               QStringList{QStringLiteral("Can't find the rulebase '") + dir + QStringLiteral("gone.qrb'.")});
     EXPECT_EQ(ui.messages[0].buttons, MessageButtons::OK);
-}
 
-TEST_F(ApplicationTest, MissingRecentFileOffersToRemoveIt)
-{
-    const QString gone = dir + QStringLiteral("gone.qrb");
-    Application app(&form, countingViews());
+    // From the recent list it offers to remove the name.
+    ui.messages.clear();
     ui.answers = {MessageResult::Yes};
-    EXPECT_FALSE(app.OpenRulebase(Application::OpenMode::RecentList, gone));
+    EXPECT_FALSE(app.OpenRulebase(Application::OpenMode::RecentList, dir + QStringLiteral("gone.qrb")));
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_EQ(ui.messages[0].text,
-              QStringLiteral("Can't find the rulebase '") + gone
-                  + QStringLiteral("', do you want to remove it from the most recently used list?"));
+              QStringLiteral("Can't find the rulebase '") + dir
+                  + QStringLiteral("gone.qrb', do you want to remove it from the most recently used list?"));
     EXPECT_EQ(ui.messages[0].buttons, MessageButtons::YesNo);
-    EXPECT_EQ(form.calls, QStringList{QStringLiteral("RemoveFromMRUList ") + gone});
+    EXPECT_EQ(form.calls.filter(QStringLiteral("MRU")),
+              QStringList{QStringLiteral("RemoveFromMRUList ") + dir + QStringLiteral("gone.qrb")});
 }
 
 TEST_F(ApplicationTest, AFailedOpenKeepsTheRulebaseBeforeItWholeAndSavable)
 {
     const QString good = writeRulebase(QStringLiteral("good.qrb"));
     const QString bad = dir + QStringLiteral("bad.qrb");
-    {
-        QFile file(bad);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("<Quorin_Rulebase SchemaVersion=\"6.2\"><RulebaseProperties");
-    }
+    TestEnvironment::writeFile(bad, "<Quorin_Rulebase SchemaVersion=\"6.2\"><RulebaseProperties");
     Application app(&form, countingViews());
     ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, good));
     const std::shared_ptr<Rulebase> before = app.rulebase();
@@ -214,9 +192,7 @@ TEST_F(ApplicationTest, AFailedOpenKeepsTheRulebaseBeforeItWholeAndSavable)
                       "Unable to load the rulebase because of an unexpected error during parsing."),
                   QStringLiteral("Failed to open '") + bad
                       + QStringLiteral("', it may not be a valid Quorin rulebase.")}));
-    QFile log(dir + QStringLiteral("Error.log"));
-    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(log.readAll().contains("XML Parser Error"));
+    EXPECT_TRUE(TestEnvironment::readFile(dir + QStringLiteral("Error.log")).contains("XML Parser Error"));
 
     // Closing still asks, and Save writes the edit.
     ui.answers = {MessageResult::Cancel};
@@ -228,16 +204,7 @@ TEST_F(ApplicationTest, AFailedOpenKeepsTheRulebaseBeforeItWholeAndSavable)
 TEST_F(ApplicationTest, AFileThatLoadedInPartSaysSoAndAsksBeforeItIsWrittenOver)
 {
     const QString path = dir + QStringLiteral("part.qrb");
-    QFile sample(TestEnvironment::sampleRulebase());
-    ASSERT_TRUE(sample.open(QIODevice::ReadOnly));
-    QByteArray bytes = sample.readAll();
-    ASSERT_TRUE(bytes.contains("<CategoryList LastID=\"14\">"));
-    bytes.replace("<CategoryList LastID=\"14\">", "<CategoryList LastID=\"fourteen\">");
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
+    const QByteArray bytes = writePartFile(path);
 
     Application app(&form, countingViews());
     ASSERT_TRUE(
@@ -253,10 +220,7 @@ TEST_F(ApplicationTest, AFileThatLoadedInPartSaysSoAndAsksBeforeItIsWrittenOver)
     EXPECT_FALSE(app.SaveRulebase());
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_TRUE(ui.messages[0].text.contains(QStringLiteral("loaded only in part")));
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), bytes);
-    file.close();
+    EXPECT_EQ(TestEnvironment::readFile(path), bytes);
 
     // Save As to another file asks nothing; Yes over the file itself writes it.
     const QString copy = dir + QStringLiteral("copy.qrb");
@@ -300,20 +264,14 @@ TEST_F(ApplicationTest, UnsavedChangesAreAskedAboutAndCancelStopsEverything)
     ui.answers = {MessageResult::Yes};
     app.NewRulebase();
     EXPECT_EQ(RulebaseManager().LoadRulebase(second)->Title(), QStringLiteral("Saved on the way"));
-}
 
-// A question about unsaved changes that cannot be asked keeps them: nothing replaces the rulebase.
-TEST_F(ApplicationTest, AFailedQuestionKeepsTheChangedRulebase)
-{
-    const QString file = writeRulebase(QStringLiteral("file.qrb"));
-    Application app(&form, countingViews());
-    ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, file));
+    // A question that cannot be asked keeps the changes: nothing replaces the rulebase.
+    ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, second));
     app.rulebase()->setTitle(QStringLiteral("Changed"));
     ui.failQuestions = true;
     EXPECT_FALSE(app.CheckForSave());
     app.NewRulebase();
-    EXPECT_EQ(app.rulebase()->Filename(), file);
-    EXPECT_EQ(app.rulebase()->Title(), QStringLiteral("Changed"));
+    EXPECT_EQ(app.rulebase()->Filename(), second);
     EXPECT_TRUE(app.rulebase()->Dirty());
 }
 
@@ -324,20 +282,20 @@ TEST_F(ApplicationTest, NewStaysInTheCurrentViewWhileOpenGoesToTheCategoryView)
     app.NewRulebase();
     EXPECT_EQ(app.CurrentViewName(), QStringLiteral("tlCodingConventions"));
     app.SwitchView(QStringLiteral("tlSeverityView"));
-    const int before = populates;
+    const qsizetype before = populates();
     app.NewRulebase();
     EXPECT_EQ(app.CurrentViewName(), QStringLiteral("tlSeverityView"));
-    EXPECT_EQ(populates, before + 1);
+    EXPECT_EQ(populates(), before + 1);
     EXPECT_FALSE(app.rulebase()->Dirty());
 
     ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, file));
     EXPECT_EQ(app.CurrentViewName(), QStringLiteral("tlCategoryView"));
 
     // Switching to the current view, in any case, does nothing at all.
-    const int populated = populates;
+    const qsizetype populated = populates();
     const qsizetype calls = form.calls.size();
     app.SwitchView(QStringLiteral("TLCATEGORYVIEW"));
-    EXPECT_EQ(populates, populated);
+    EXPECT_EQ(populates(), populated);
     EXPECT_EQ(form.calls.size(), calls);
     // An unknown name leaves the view as it is.
     app.SwitchView(QStringLiteral("tlNoSuchView"));
@@ -392,13 +350,7 @@ TEST_F(ApplicationTest, EveryQuestionThatDeletesOrDiscardsDefaultsToTheSafeAnswe
     };
     const QString gone = dir + QStringLiteral("gone.qrb");
     const QString part = dir + QStringLiteral("part.qrb");
-    {
-        QFile sample(TestEnvironment::sampleRulebase());
-        QFile file(part);
-        ASSERT_TRUE(sample.open(QIODevice::ReadOnly) && file.open(QIODevice::WriteOnly));
-        file.write(sample.readAll().replace("<CategoryList LastID=\"14\">",
-                                            "<CategoryList LastID=\"x\">"));
-    }
+    writePartFile(part);
     const std::vector<Case> cases = {
         {"delete coding conventions", deleteInView("tlCodingConventions"), MessageResult::No},
         {"delete naming conventions", deleteInView("tlNamingConventions"), MessageResult::No},

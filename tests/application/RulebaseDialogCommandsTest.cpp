@@ -12,10 +12,10 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/SeverityItem.h"
 #include "rulebase/ViolationDefinition.h"
-#include "views/IViewController.h"
 
 #include "../editors/RulebaseFormScripts.h"
 #include "support/MemoryMainForm.h"
+#include "support/RecordingView.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
@@ -23,44 +23,22 @@
 
 namespace {
 
-// A view that only records the list changes it is told of.
-class ListChangeView final : public IViewController
-{
-public:
-    explicit ListChangeView(QStringList *calls) : m_calls(calls) {}
-    void setRulebase(std::shared_ptr<Rulebase>) override {}
-    void setMainForm(IMainForm *) override {}
-    void Customise() override {}
-    void Populate() override {}
-    void DeleteItems() override {}
-    void OpenItem() override {}
-    void SetEnabledState() override {}
-    void ResizeView() override {}
-    void AddItem(const std::shared_ptr<IRule> &) override {}
-    void CloneItems() override {}
-    int ItemsActiveState() override { return 4; }
-    void ActivateItems(bool) override {}
-    void CategoryListChanged() override { *m_calls << QStringLiteral("CategoryListChanged"); }
-    void SeverityListChanged() override { *m_calls << QStringLiteral("SeverityListChanged"); }
-
-private:
-    QStringList *m_calls;
-};
-
 struct Commands
 {
     Commands()
-        : app(&window, [this](const QString &) { return std::make_unique<ListChangeView>(&viewCalls); })
+        : app(&window, RecordingView::factory(&calls))
     {
         EXPECT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, TestEnvironment::sampleRulebase()));
         rulebase = app.rulebase();
-        viewCalls.clear();
+        calls.clear();
     }
+    // What the views were told of the category and severity lists.
+    QStringList viewCalls() const { return calls.filter(QStringLiteral("ListChanged")); }
 
     ScriptedUserInterface ui;
     RulebaseFormScripts scripts;
     MemoryMainForm window;
-    QStringList viewCalls;
+    QStringList calls;
     Application app;
     std::shared_ptr<Rulebase> rulebase;
 };
@@ -88,7 +66,7 @@ TEST(RulebaseDialogCommands, TheCategoryListSortsAndTellsTheViewOnlyWhenSomethin
     };
     c.app.ShowCategoryList();
     EXPECT_EQ(c.scripts.runs, 1);
-    EXPECT_TRUE(c.viewCalls.isEmpty());
+    EXPECT_TRUE(c.viewCalls().isEmpty());
     EXPECT_EQ(categoryTitles(*categories), before);
     EXPECT_FALSE(c.rulebase->Dirty());
 
@@ -102,7 +80,7 @@ TEST(RulebaseDialogCommands, TheCategoryListSortsAndTellsTheViewOnlyWhenSomethin
         return form.RequestClose();
     };
     c.app.ShowCategoryList();
-    EXPECT_EQ(c.viewCalls, QStringList{QStringLiteral("CategoryListChanged")});
+    EXPECT_EQ(c.viewCalls(), QStringList{QStringLiteral("CategoryListChanged")});
     EXPECT_EQ(categories->Item(1)->Title(), QStringLiteral("aaa first"));
     QStringList sorted = categoryTitles(*categories);
     std::sort(sorted.begin(), sorted.end(), [](const QString &a, const QString &b) {
@@ -124,7 +102,7 @@ TEST(RulebaseDialogCommands, TheCategoryListDeletesWithTheRulebaseSet)
     c.app.ShowCategoryList();
     EXPECT_FALSE(c.rulebase->CategoryList()->ContainsID(id));
     EXPECT_EQ(c.rulebase->RuleLists()->ConventionsListByCatID(id)->Count(), 0);
-    EXPECT_EQ(c.viewCalls, QStringList{QStringLiteral("CategoryListChanged")});
+    EXPECT_EQ(c.viewCalls(), QStringList{QStringLiteral("CategoryListChanged")});
 }
 
 TEST(RulebaseDialogCommands, TheSeverityListTellsTheViewAndKeepsTheEditFromBeingLost)
@@ -135,7 +113,7 @@ TEST(RulebaseDialogCommands, TheSeverityListTellsTheViewAndKeepsTheEditFromBeing
         return true;
     };
     c.app.ShowSeverityList();
-    EXPECT_TRUE(c.viewCalls.isEmpty());
+    EXPECT_TRUE(c.viewCalls().isEmpty());
     EXPECT_FALSE(c.rulebase->Dirty());
 
     c.scripts.severityEditor = [](SeverityEditorForm &editor) {
@@ -149,7 +127,7 @@ TEST(RulebaseDialogCommands, TheSeverityListTellsTheViewAndKeepsTheEditFromBeing
     };
     const QString firstCategory = c.rulebase->CategoryList()->Item(1)->Title();
     c.app.ShowSeverityList();
-    EXPECT_EQ(c.viewCalls, QStringList{QStringLiteral("SeverityListChanged")});
+    EXPECT_EQ(c.viewCalls(), QStringList{QStringLiteral("SeverityListChanged")});
     EXPECT_EQ(c.rulebase->SeverityList()->Item(1)->Title(), QStringLiteral("Grave"));
     EXPECT_EQ(c.rulebase->CategoryList()->Item(1)->Title(), firstCategory);
     EXPECT_TRUE(c.rulebase->Dirty());

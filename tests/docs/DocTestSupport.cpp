@@ -15,7 +15,7 @@
 #include "rulebase/UnauthorisedKeyword.h"
 #include "rulebase/ViolationDefinition.h"
 
-#include <QFile>
+#include "support/TestEnvironment.h"
 
 namespace DocTestSupport {
 
@@ -212,17 +212,9 @@ QString organisation()
     return QStringLiteral("Tarnwick Freight");
 }
 
-QByteArray readBytes(const QString &filename)
-{
-    QFile file(filename);
-    if (!file.open(QIODevice::ReadOnly))
-        return QByteArray();
-    return file.readAll();
-}
-
 QString readDocument(const QString &filename)
 {
-    return Windows1252::decode(readBytes(filename));
+    return Windows1252::decode(TestEnvironment::readFile(filename));
 }
 
 } // namespace DocTestSupport

@@ -22,6 +22,7 @@
 #include <gtest/gtest.h>
 
 using namespace DocTestSupport;
+using TestEnvironment::readFile;
 
 namespace {
 
@@ -44,25 +45,28 @@ QString expectedDocument(const QString &name)
 }
 
 // With the log in place, so that a failure reaches the error box as in the program.
-class RulebaseDocCreatorWithLog : public ::testing::Test
+class RulebaseDocCreatorTest : public ::testing::Test
 {
 protected:
-    void SetUp() override { ASSERT_EQ(CreateGlobalObjects(), 0); }
+    void SetUp() override
+    {
+        TestEnvironment::clearSettings();
+        ASSERT_EQ(CreateGlobalObjects(), 0);
+    }
     void TearDown() override { DestroyGlobalObjects(); }
     ScriptedUserInterface ui;
+    const QString folder = TestEnvironment::makeTempDir();
+    const std::shared_ptr<Rulebase> rulebase = smallRulebase(folder);
 };
 
 } // namespace
 
-TEST(RulebaseDocCreator, WritesTheSmallRulebaseLineForLine)
+TEST_F(RulebaseDocCreatorTest, WritesTheSmallRulebaseLineForLine)
 {
-    ScriptedUserInterface ui;
-    const QString folder = TestEnvironment::makeTempDir();
-    const auto rulebase = smallRulebase(folder);
     const QString filename = writeDocument(*rulebase);
     ASSERT_EQ(filename, folder + QStringLiteral("/Depot.html"));
 
-    const QByteArray bytes = readBytes(filename);
+    const QByteArray bytes = readFile(filename);
     // Every line ends in CR LF, and no bare LF hides anywhere.
     EXPECT_TRUE(bytes.endsWith("</html>\r\n"));
     EXPECT_EQ(bytes.count("\n"), bytes.count("\r\n"));
@@ -77,7 +81,7 @@ TEST(RulebaseDocCreator, WritesTheSmallRulebaseLineForLine)
     EXPECT_TRUE(ui.messages.empty());
 }
 
-TEST(RulebaseDocCreator, NamesTheDocumentAfterTheRulebase)
+TEST(RulebaseDocCreatorName, NamesTheDocumentAfterTheRulebase)
 {
     EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team.qrb")),
               QStringLiteral("/data/Team.html"));
@@ -90,20 +94,15 @@ TEST(RulebaseDocCreator, NamesTheDocumentAfterTheRulebase)
     EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QString()), QString());
 }
 
-TEST_F(RulebaseDocCreatorWithLog, NeverWritesOverTheRulebaseItselfNorWithoutAFile)
+TEST_F(RulebaseDocCreatorTest, NeverWritesOverTheRulebaseItselfNorWithoutAFile)
 {
-    const QString folder = TestEnvironment::makeTempDir();
-    const auto rulebase = smallRulebase(folder);
 
     // A rulebase file without a point would be its own document.
     const QString bare = folder + QStringLiteral("/Standards");
-    QFile file(bare);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("<Quorin_Rulebase/>");
-    file.close();
+    TestEnvironment::writeFile(bare, "<Quorin_Rulebase/>");
     rulebase->setFilename(bare);
     EXPECT_TRUE(writeDocument(*rulebase).isEmpty());
-    EXPECT_EQ(readBytes(bare), QByteArray("<Quorin_Rulebase/>"));
+    EXPECT_EQ(readFile(bare), QByteArray("<Quorin_Rulebase/>"));
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_TRUE(
         ui.messages.back().text.contains(QStringLiteral("would replace the rulebase itself")));
@@ -115,11 +114,8 @@ TEST_F(RulebaseDocCreatorWithLog, NeverWritesOverTheRulebaseItselfNorWithoutAFil
     EXPECT_TRUE(ui.messages.back().text.contains(QStringLiteral("Save it first")));
 }
 
-TEST(RulebaseDocCreator, AnEmptyPlanGivesTitleContentsAndFooter)
+TEST_F(RulebaseDocCreatorTest, AnEmptyPlanGivesTitleContentsAndFooter)
 {
-    ScriptedUserInterface ui;
-    const QString folder = TestEnvironment::makeTempDir();
-    const auto rulebase = smallRulebase(folder);
     rulebase->Report()->Sections()->Clear();
     const QString text = readDocument(writeDocument(*rulebase));
     EXPECT_TRUE(text.contains(QStringLiteral("<h2>Tarnwick Freight</h2>")));
@@ -133,11 +129,8 @@ TEST(RulebaseDocCreator, AnEmptyPlanGivesTitleContentsAndFooter)
         QStringLiteral("<!-- End Of Footer Table -->\r\n\r\n\r\n</body>\r\n</html>\r\n")));
 }
 
-TEST(RulebaseDocCreator, CopiesTextsAsTheyStandAndEncodesWhatTheCodePageLacks)
+TEST_F(RulebaseDocCreatorTest, CopiesTextsAsTheyStandAndEncodesWhatTheCodePageLacks)
 {
-    ScriptedUserInterface ui;
-    const QString folder = TestEnvironment::makeTempDir();
-    const auto rulebase = smallRulebase(folder);
     const auto page
         = std::dynamic_pointer_cast<CategoryItem>(rulebase->Report()->Sections()->Item(1));
     page->setTitle(QStringLiteral("Z\u00FCrich & <Co>"));
@@ -148,7 +141,7 @@ TEST(RulebaseDocCreator, CopiesTextsAsTheyStandAndEncodesWhatTheCodePageLacks)
     first->setRuleID(7);
 
     const QString filename = writeDocument(*rulebase);
-    const QByteArray bytes = readBytes(filename);
+    const QByteArray bytes = readFile(filename);
     // Markup goes through untouched, blanks alone become underscores in the anchor.
     EXPECT_TRUE(bytes.contains("id=\"category_Z\xFCrich_&_<Co>\""));
     EXPECT_TRUE(bytes.contains("<a href=\"#category_Z\xFCrich_&_<Co>\">Z\xFCrich & <Co></a>"));
@@ -162,11 +155,8 @@ TEST(RulebaseDocCreator, CopiesTextsAsTheyStandAndEncodesWhatTheCodePageLacks)
     EXPECT_TRUE(bytes.contains("<span class=\"rule_id\">[12345]</span>"));
 }
 
-TEST(RulebaseDocCreator, SortsTheTagSetsInPlaceButNotTheAuthorisedItems)
+TEST_F(RulebaseDocCreatorTest, SortsTheTagSetsInPlaceButNotTheAuthorisedItems)
 {
-    ScriptedUserInterface ui;
-    const QString folder = TestEnvironment::makeTempDir();
-    const auto rulebase = smallRulebase(folder);
     ASSERT_FALSE(writeDocument(*rulebase).isEmpty());
     EXPECT_EQ(rulebase->ControlTags()->Key(1), QStringLiteral("VB.CommandButton"));
     EXPECT_EQ(rulebase->DataTypeTags()->Key(1), QStringLiteral("Long"));
@@ -175,11 +165,8 @@ TEST(RulebaseDocCreator, SortsTheTagSetsInPlaceButNotTheAuthorisedItems)
               QStringLiteral("mscomctl.ocx"));
 }
 
-TEST(RulebaseDocCreator, RepeatedSectionsAndAnchorsAreWrittenAsTheyCome)
+TEST_F(RulebaseDocCreatorTest, RepeatedSectionsAndAnchorsAreWrittenAsTheyCome)
 {
-    ScriptedUserInterface ui;
-    const QString folder = TestEnvironment::makeTempDir();
-    const auto rulebase = smallRulebase(folder);
     auto &sections = *rulebase->Report()->Sections();
     // The scope table twice, and a category whose title differs from another only by blanks.
     sections.Add(sections.Item(6));
@@ -192,13 +179,11 @@ TEST(RulebaseDocCreator, RepeatedSectionsAndAnchorsAreWrittenAsTheyCome)
     EXPECT_EQ(text.count(QStringLiteral("id=\"category_Error_Handling\"")), 2);
 }
 
-TEST_F(RulebaseDocCreatorWithLog, AFolderThatCannotBeWrittenLeavesTheOldDocument)
+TEST_F(RulebaseDocCreatorTest, AFolderThatCannotBeWrittenLeavesTheOldDocument)
 {
-    const QString folder = TestEnvironment::makeTempDir();
-    const auto rulebase = smallRulebase(folder);
     const QString filename = writeDocument(*rulebase);
     ASSERT_FALSE(filename.isEmpty());
-    const QByteArray before = readBytes(filename);
+    const QByteArray before = readFile(filename);
 
     if (!TestEnvironment::makeReadOnly(folder))
         GTEST_SKIP() << "no way to make a folder read-only here";
@@ -211,7 +196,7 @@ TEST_F(RulebaseDocCreatorWithLog, AFolderThatCannotBeWrittenLeavesTheOldDocument
 
     EXPECT_FALSE(written);
     EXPECT_EQ(second, filename);
-    EXPECT_EQ(readBytes(filename), before);
+    EXPECT_EQ(readFile(filename), before);
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Unexpected Error"));
     EXPECT_TRUE(
@@ -219,13 +204,8 @@ TEST_F(RulebaseDocCreatorWithLog, AFolderThatCannotBeWrittenLeavesTheOldDocument
     EXPECT_TRUE(ui.messages[0].text.contains(QStringLiteral("module clsStandardsDocCreator")));
 }
 
-TEST(RulebaseDocCreator, TakesTheRememberedOrganisationOrAsksOnce)
+TEST_F(RulebaseDocCreatorTest, TakesTheRememberedOrganisationOrAsksOnce)
 {
-    TestEnvironment::clearSettings();
-    ScriptedUserInterface ui;
-    ASSERT_EQ(CreateGlobalObjects(), 0);
-    const QString folder = TestEnvironment::makeTempDir();
-    const auto rulebase = smallRulebase(folder);
     QString filename;
 
     // Declined: nothing is written and nothing remembered.
@@ -246,5 +226,4 @@ TEST(RulebaseDocCreator, TakesTheRememberedOrganisationOrAsksOnce)
         QStringLiteral("\u00A9 %1 Harbour Lines. All rights reserved.")
             .arg(QDate::currentDate().year())));
     EXPECT_TRUE(ui.messages.empty());
-    DestroyGlobalObjects();
 }

@@ -26,12 +26,7 @@ void ProjectTest::TearDown()
 
 QString ProjectTest::writeFile(const QString &name, const QByteArray &bytes) const
 {
-    const QString filename = path(name);
-    QDir().mkpath(QFileInfo(filename).absolutePath());
-    QFile file(filename);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(bytes);
-    return filename;
+    return TestEnvironment::writeFile(path(name), bytes);
 }
 
 QStringList ProjectTest::logRecords() const

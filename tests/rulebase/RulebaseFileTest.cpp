@@ -42,18 +42,8 @@
 
 namespace {
 
-QByteArray readBytes(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeBytes(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(bytes);
-}
+using TestEnvironment::readFile;
+using TestEnvironment::writeFile;
 
 // A small file of the current schema; the rule sections are the caller's.
 QByteArray smallFile(const QByteArray &keywords,
@@ -143,12 +133,12 @@ protected:
     std::shared_ptr<Rulebase> loadBytes(const QByteArray &bytes,
                                         const QString &name = QStringLiteral("file.qrb"))
     {
-        writeBytes(dir + name, bytes);
+        writeFile(dir + name, bytes);
         return load(dir + name);
     }
     QString logText() const
     {
-        return QString::fromUtf8(readBytes(dir + QStringLiteral("Error.log")));
+        return QString::fromUtf8(readFile(dir + QStringLiteral("Error.log")));
     }
 
     QString dir;
@@ -179,11 +169,11 @@ TEST_F(RulebaseFileTest, SampleLoadsWithoutAFaultAndRoundTripsExactly)
     ASSERT_TRUE(again);
     EXPECT_EQ(dumpRulebase(*again).toStdString(), dumpRulebase(*sample).toStdString());
     ASSERT_TRUE(RulebaseManager().Save(*again, dir + QStringLiteral("b.qrb")));
-    EXPECT_EQ(readBytes(dir + QStringLiteral("a.qrb")), readBytes(dir + QStringLiteral("b.qrb")));
+    EXPECT_EQ(readFile(dir + QStringLiteral("a.qrb")), readFile(dir + QStringLiteral("b.qrb")));
     EXPECT_TRUE(ui.messages.empty());
 
     // The written form: no declaration, no white space between elements, every section present.
-    const QByteArray bytes = readBytes(dir + QStringLiteral("a.qrb"));
+    const QByteArray bytes = readFile(dir + QStringLiteral("a.qrb"));
     EXPECT_TRUE(bytes.startsWith("<Quorin_Rulebase SchemaVersion=\"6.2\"><RulebaseProperties "));
     EXPECT_FALSE(bytes.contains(">\n<"));
     EXPECT_FALSE(bytes.contains("> <"));
@@ -274,9 +264,9 @@ TEST_F(RulebaseFileTest, EveryFieldSurvivesIncludingTextThatNeedsEscaping)
     EXPECT_EQ(dumpRulebase(*loaded).toStdString(), dumpRulebase(rulebase).toStdString());
 
     ASSERT_TRUE(RulebaseManager().Save(*loaded, dir + QStringLiteral("b.qrb")));
-    EXPECT_EQ(readBytes(dir + QStringLiteral("a.qrb")), readBytes(dir + QStringLiteral("b.qrb")));
+    EXPECT_EQ(readFile(dir + QStringLiteral("a.qrb")), readFile(dir + QStringLiteral("b.qrb")));
     EXPECT_TRUE(
-        readBytes(dir + QStringLiteral("a.qrb")).contains("a%LT%b%GT%c &amp; &quot;q&quot;"));
+        readFile(dir + QStringLiteral("a.qrb")).contains("a%LT%b%GT%c &amp; &quot;q&quot;"));
 }
 
 namespace {
@@ -346,7 +336,7 @@ TEST_F(RulebaseFileTest, SavedBytesAreThoseOfTheTreeWriter)
     for (const auto &[rulebase, sha256] : cases) {
         const QString file = dir + QStringLiteral("saved.qrb");
         ASSERT_TRUE(RulebaseManager().Save(*rulebase, file));
-        EXPECT_EQ(QCryptographicHash::hash(readBytes(file), QCryptographicHash::Sha256)
+        EXPECT_EQ(QCryptographicHash::hash(readFile(file), QCryptographicHash::Sha256)
                       .toHex()
                       .toStdString(),
                   sha256);
@@ -548,10 +538,10 @@ TEST_F(RulebaseFileTest, OlderSchemasComeUpToDateInMemoryOnly)
     const auto naming = old->RuleLists()->NamingConventions()->Item(1);
     EXPECT_TRUE(naming->CaseSensitive());
     EXPECT_TRUE(naming->ExclusionList().isEmpty());
-    EXPECT_EQ(readBytes(dir + QStringLiteral("old.qrb")), v60); // the file stays as it was
+    EXPECT_EQ(readFile(dir + QStringLiteral("old.qrb")), v60); // the file stays as it was
 
     ASSERT_TRUE(RulebaseManager().Save(*old, QString()));
-    EXPECT_TRUE(readBytes(dir + QStringLiteral("old.qrb"))
+    EXPECT_TRUE(readFile(dir + QStringLiteral("old.qrb"))
                     .startsWith("<Quorin_Rulebase SchemaVersion=\"6.2\">"));
     const auto saved = load(dir + QStringLiteral("old.qrb"));
     ASSERT_TRUE(saved);
@@ -636,7 +626,7 @@ TEST_F(RulebaseFileTest, AFailedSaveLeavesTheOldFileAndTheDirtyFlag)
     auto rulebase = load(TestEnvironment::sampleRulebase());
     ASSERT_TRUE(rulebase);
     ASSERT_TRUE(RulebaseManager().Save(*rulebase, path));
-    const QByteArray before = readBytes(path);
+    const QByteArray before = readFile(path);
     const QString version = rulebase->Version();
 
     rulebase->setTitle(QStringLiteral("Changed"));
@@ -647,7 +637,7 @@ TEST_F(RulebaseFileTest, AFailedSaveLeavesTheOldFileAndTheDirtyFlag)
 
     EXPECT_FALSE(saved);
     EXPECT_EQ(ui.messageTexts(), QStringList{QStringLiteral("Error during save: Access denied.")});
-    EXPECT_EQ(readBytes(path), before);
+    EXPECT_EQ(readFile(path), before);
     EXPECT_TRUE(rulebase->Dirty());
     EXPECT_NE(rulebase->Version(), version); // the increment stands: a retry counts twice
 }

@@ -103,7 +103,7 @@ TEST(CheckCommand, BrokenCopiesOfTheSampleAreReportedAtTheirRulesLines)
     const int badEvent = replaceOnLine(
         bytes, "RuleID=\"5039\"", "ParserEventID=\"16\"", "ParserEventID=\"16|99\"");
     const QString file
-        = writeBytes(TestEnvironment::makeTempDir() + QStringLiteral("/Broken.qrb"), bytes);
+        = writeFile(TestEnvironment::makeTempDir() + QStringLiteral("/Broken.qrb"), bytes);
 
     const ToolRun run = checkJson(file);
     EXPECT_EQ(run.exitCode, 1);
@@ -165,7 +165,7 @@ TEST(CheckCommand, ConditionsVocabularyObjectsAndDefaultViolationsAreChecked)
     replaceOnLine(bytes, "<DefaultViolations>", "Impact=\"500\"", "Impact=\"-5\"", 2);
     replaceOnLine(bytes, "<DefaultViolations>", "CategoryID=\"1\"", "CategoryID=\"55\"", 5);
     const QString file
-        = writeBytes(TestEnvironment::makeTempDir() + QStringLiteral("/Vocabulary.qrb"), bytes);
+        = writeFile(TestEnvironment::makeTempDir() + QStringLiteral("/Vocabulary.qrb"), bytes);
 
     const ToolRun run = checkJson(file);
     EXPECT_EQ(run.exitCode, 1);
@@ -188,7 +188,7 @@ TEST(CheckCommand, UnreadableFilesGiveTheParsersPlaceAndNeverCrash)
     const QString dir = TestEnvironment::makeTempDir();
     const QByteArray sample = sampleBytes();
     const QByteArray half = sample.left(sample.size() / 2);
-    const QString truncated = writeBytes(dir + QStringLiteral("/Truncated.qrb"), half);
+    const QString truncated = writeFile(dir + QStringLiteral("/Truncated.qrb"), half);
 
     const ToolRun run = checkJson(truncated);
     EXPECT_EQ(run.exitCode, 1);
@@ -210,7 +210,7 @@ TEST(CheckCommand, UnreadableFilesGiveTheParsersPlaceAndNeverCrash)
 
     // Cut anywhere, the sample is refused as a whole, with the parser's reason.
     for (int tenth = 1; tenth <= 9; ++tenth) {
-        const QString cut = writeBytes(dir + QStringLiteral("/Cut%1.qrb").arg(tenth),
+        const QString cut = writeFile(dir + QStringLiteral("/Cut%1.qrb").arg(tenth),
                                        sample.left(sample.size() * tenth / 10));
         const ToolRun result = checkJson(cut);
         EXPECT_EQ(result.exitCode, 1) << tenth;
@@ -226,7 +226,7 @@ TEST(CheckCommand, UnreadableFilesGiveTheParsersPlaceAndNeverCrash)
                                QByteArray("<Quorin_Rulebase SchemaVersion=\"5.0\"/>")};
     int n = 0;
     for (const QByteArray &bytes : junk) {
-        const QString file = writeBytes(dir + QStringLiteral("/junk%1.qrb").arg(n++), bytes);
+        const QString file = writeFile(dir + QStringLiteral("/junk%1.qrb").arg(n++), bytes);
         const ToolRun result = checkJson(file);
         EXPECT_EQ(result.exitCode, 1) << file.toStdString();
         EXPECT_FALSE(findingsOf(parseJsonObject(result.out)).isEmpty()) << file.toStdString();
@@ -244,7 +244,7 @@ TEST(CheckCommand, UnreadableFilesGiveTheParsersPlaceAndNeverCrash)
     QByteArray withEntity = sample;
     withEntity.insert(sample.indexOf("?>") + 2,
                       "<!DOCTYPE Quorin_Rulebase [<!ENTITY x SYSTEM \"Truncated.qrb\">]>");
-    const QString external = writeBytes(dir + QStringLiteral("/External.qrb"), withEntity);
+    const QString external = writeFile(dir + QStringLiteral("/External.qrb"), withEntity);
     const ToolRun refused = runQrbTool({QStringLiteral("check"), external});
     EXPECT_TRUE(refused.out.contains(
         QLatin1String("the file was refused: The file refers to the external entity "
@@ -273,12 +273,12 @@ TEST(CheckCommand, OlderSchemasLoadWithAWarningAndUsageErrorsExitTwo)
 {
     const QString dir = TestEnvironment::makeTempDir();
     const QString old
-        = writeBytes(dir + QStringLiteral("/Old.qrb"), sampleInOldSchema(QStringLiteral("6.0")));
+        = writeFile(dir + QStringLiteral("/Old.qrb"), sampleInOldSchema(QStringLiteral("6.0")));
     const ToolRun run = checkJson(old);
     EXPECT_EQ(run.exitCode, 0) << run.out.toStdString();
     const QJsonArray findings = findingsOf(parseJsonObject(run.out));
     EXPECT_EQ(where(findings, QStringLiteral("old-schema")),
-              QStringList{place(lineOf(readBytes(old), "<Quorin_Rulebase"), 0)});
+              QStringList{place(lineOf(readFile(old), "<Quorin_Rulebase"), 0)});
     EXPECT_EQ(runQrbTool({QStringLiteral("check"), QStringLiteral("--strict"), old}).exitCode, 1);
 
     EXPECT_EQ(runQrbTool({QStringLiteral("check")}).exitCode, 2);

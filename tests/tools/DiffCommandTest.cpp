@@ -44,7 +44,7 @@ TEST(DiffCommand, ARulebaseEqualsItselfAndAnUnreadableSideIsAnError)
     // A saved 6.0 copy differs only where the upgrade had to fill in what 6.0 lacked.
     const QString dir = TestEnvironment::makeTempDir();
     const QString old
-        = writeBytes(dir + QStringLiteral("/Old.qrb"), sampleInOldSchema(QStringLiteral("6.0")));
+        = writeFile(dir + QStringLiteral("/Old.qrb"), sampleInOldSchema(QStringLiteral("6.0")));
     const ToolRun upgraded = runQrbTool({QStringLiteral("diff"), sample, old});
     EXPECT_EQ(upgraded.exitCode, 1);
     EXPECT_TRUE(upgraded.out.contains(QLatin1String("    ArrayTag: \"a\" -> \"\"\n")))
@@ -53,7 +53,7 @@ TEST(DiffCommand, ARulebaseEqualsItselfAndAnUnreadableSideIsAnError)
         QLatin1String("    ToleranceCount: \"0|10|40|-1|-1|150\" -> \"-1|-1|-1|-1|-1|-1\"\n")));
 
     const QString truncated
-        = writeBytes(dir + QStringLiteral("/Truncated.qrb"), sampleBytes().left(900));
+        = writeFile(dir + QStringLiteral("/Truncated.qrb"), sampleBytes().left(900));
     for (const QStringList &pair :
          {QStringList{sample, truncated}, QStringList{dir + QStringLiteral("/None.qrb"), sample}}) {
         const ToolRun bad = runQrbTool(QStringList{QStringLiteral("diff")} + pair);
@@ -91,8 +91,8 @@ TEST(DiffCommand, ChangesComeBySectionAndKeyFieldByFieldWithConditionsAsUnifiedD
     edited.replace("</CodingConventions>", copy + "</CodingConventions>");
 
     const QString dir = TestEnvironment::makeTempDir();
-    const QString before = writeBytes(dir + QStringLiteral("/Before.qrb"), original);
-    const QString after = writeBytes(dir + QStringLiteral("/After.qrb"), edited);
+    const QString before = writeFile(dir + QStringLiteral("/Before.qrb"), original);
+    const QString after = writeFile(dir + QStringLiteral("/After.qrb"), edited);
 
     const ToolRun text = runQrbTool({QStringLiteral("diff"), before, after});
     EXPECT_EQ(text.exitCode, 1) << text.err.toStdString();

@@ -42,7 +42,7 @@ void rememberOrganisation(const QString &name)
 
 QString copyOfSample(const QString &dir)
 {
-    return writeBytes(dir + QStringLiteral("/Team.qrb"), sampleBytes());
+    return writeFile(dir + QStringLiteral("/Team.qrb"), sampleBytes());
 }
 
 QString sampleTitle()
@@ -79,7 +79,7 @@ TEST(DocCommand, WritesTheDocumentToOutAloneAndLeavesTheSettingsAlone)
     ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
     EXPECT_TRUE(run.err.isEmpty()) << run.err.toStdString();
     EXPECT_EQ(run.out, rulebase + QStringLiteral(": document written to ") + out + '\n');
-    const QByteArray html = readBytes(out);
+    const QByteArray html = readFile(out);
     EXPECT_TRUE(html.startsWith("<!DOCTYPE HTML PUBLIC"));
     EXPECT_TRUE(html.endsWith("</html>\r\n"));
     EXPECT_TRUE(html.contains(("<h1>" + title + "</h1>").toLatin1()));
@@ -98,7 +98,7 @@ TEST(DocCommand, WritesTheDocumentToOutAloneAndLeavesTheSettingsAlone)
                                       QStringLiteral("--organisation"),
                                       QStringLiteral("Other Ltd")});
     EXPECT_EQ(again.exitCode, 0);
-    EXPECT_TRUE(readBytes(out).contains("<h2>Other Ltd</h2>"));
+    EXPECT_TRUE(readFile(out).contains("<h2>Other Ltd</h2>"));
 }
 
 TEST(DocCommand, WithoutAnOrganisationTakesTheRememberedOneOrWarnsAndNeverAsks)
@@ -112,7 +112,7 @@ TEST(DocCommand, WithoutAnOrganisationTakesTheRememberedOneOrWarnsAndNeverAsks)
     ASSERT_EQ(none.exitCode, 0) << none.err.toStdString();
     EXPECT_TRUE(none.err.contains(QLatin1String("warning: no organisation")))
         << none.err.toStdString();
-    const QByteArray html = readBytes(out);
+    const QByteArray html = readFile(out);
     EXPECT_TRUE(html.contains("<h3>for</h3>\r\n            <h2>Your Organisation</h2>"));
     EXPECT_TRUE(html.contains(" Your Organisation. All rights reserved."));
     EXPECT_TRUE(allSettings().isEmpty());
@@ -123,7 +123,7 @@ TEST(DocCommand, WithoutAnOrganisationTakesTheRememberedOneOrWarnsAndNeverAsks)
         = runQrbTool({QStringLiteral("doc"), rulebase, QStringLiteral("-o"), out});
     ASSERT_EQ(remembered.exitCode, 0) << remembered.err.toStdString();
     EXPECT_TRUE(remembered.err.isEmpty()) << remembered.err.toStdString();
-    EXPECT_TRUE(readBytes(out).contains("<h2>Remembered & Co</h2>"));
+    EXPECT_TRUE(readFile(out).contains("<h2>Remembered & Co</h2>"));
     EXPECT_EQ(allSettings(), before);
     TestEnvironment::clearSettings();
 }
@@ -139,7 +139,7 @@ TEST(DocCommand, TheDocumentHoldsTheSectionsTheDesignerShows)
     unplanned.replace(start, end - start, "<Report/>");
     for (const QByteArray &bytes : {sampleBytes(), unplanned}) {
         const QString dir = TestEnvironment::makeTempDir();
-        const QString rulebase = writeBytes(dir + QStringLiteral("/Team.qrb"), bytes);
+        const QString rulebase = writeFile(dir + QStringLiteral("/Team.qrb"), bytes);
         const QString out = dir + QStringLiteral("/doc.html");
         const ToolRun run = runQrbTool({QStringLiteral("doc"),
                                         rulebase,
@@ -148,7 +148,7 @@ TEST(DocCommand, TheDocumentHoldsTheSectionsTheDesignerShows)
                                         QStringLiteral("--organisation"),
                                         QStringLiteral("K")});
         ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
-        const QByteArray html = readBytes(out);
+        const QByteArray html = readFile(out);
 
         ScriptedUserInterface ui;
         RulebaseManager::setAdministratorOverride(true);
@@ -190,7 +190,7 @@ TEST(DocCommand, AFolderThatTakesNoFileFailsNamingTheFileAndLeavesNothing)
                                        QDir(dir).filePath(QStringLiteral("./Team.qrb"))});
     EXPECT_EQ(itself.exitCode, 2);
     EXPECT_TRUE(itself.err.contains(QLatin1String("is the rulebase itself")));
-    EXPECT_EQ(readBytes(rulebase), sampleBytes());
+    EXPECT_EQ(readFile(rulebase), sampleBytes());
 
     // A folder that refuses new files.
     const QString locked = dir + QStringLiteral("/locked");

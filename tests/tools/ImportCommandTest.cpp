@@ -58,7 +58,7 @@ TEST(ImportCommand, ADryRunListsWhatARealRunSavesAndASecondRunAddsNothing)
     if (vb6.isEmpty() || typelib.isEmpty())
         GTEST_SKIP() << "no shared VB6 projects or type libraries";
     const QString dir = TestEnvironment::makeTempDir();
-    const QString rulebase = writeBytes(dir + QStringLiteral("/Team.qrb"), sampleBytes());
+    const QString rulebase = writeFile(dir + QStringLiteral("/Team.qrb"), sampleBytes());
     const QStringList sources{vb6 + QStringLiteral("/Suite/Suite.vbg"),
                               vb6 + QStringLiteral("/Tools/Report Builder/Report Builder.vbp"),
                               typelib + QStringLiteral("/GridCtl.ocx"),
@@ -69,7 +69,7 @@ TEST(ImportCommand, ADryRunListsWhatARealRunSavesAndASecondRunAddsNothing)
     const ToolRun dry = runQrbTool(dryArguments);
     ASSERT_EQ(dry.exitCode, 0) << dry.err.toStdString();
     EXPECT_TRUE(dry.err.isEmpty()) << dry.err.toStdString();
-    EXPECT_EQ(readBytes(rulebase), sampleBytes());
+    EXPECT_EQ(readFile(rulebase), sampleBytes());
     EXPECT_TRUE(dry.out.endsWith(rulebase
                                  + QStringLiteral(": 2 components, 5 references and 0 versions "
                                                   "added; not written (--dry-run)\n")))
@@ -110,20 +110,20 @@ TEST(ImportCommand, ADryRunListsWhatARealRunSavesAndASecondRunAddsNothing)
     EXPECT_EQ(saved->AuthorisedReferences()->Count(),
               original->AuthorisedReferences()->Count() + 5);
 
-    const QByteArray afterFirst = readBytes(rulebase);
+    const QByteArray afterFirst = readFile(rulebase);
     const ToolRun second = runQrbTool(importArguments(rulebase, sources));
     EXPECT_EQ(second.exitCode, 0);
     EXPECT_EQ(second.out, rulebase + QStringLiteral(": nothing new; not written\n"));
-    EXPECT_EQ(readBytes(rulebase), afterFirst);
+    EXPECT_EQ(readFile(rulebase), afterFirst);
 }
 
 TEST(ImportCommand, UnreadSourcesAreNamedAndForeignOnesStopTheRun)
 {
     const QString dir = TestEnvironment::makeTempDir();
-    const QString rulebase = writeBytes(dir + QStringLiteral("/Team.qrb"), sampleBytes());
+    const QString rulebase = writeFile(dir + QStringLiteral("/Team.qrb"), sampleBytes());
 
     // Not a project nor an ActiveX file: nothing is read or written.
-    const QString text = writeBytes(dir + QStringLiteral("/notes.txt"), "text");
+    const QString text = writeFile(dir + QStringLiteral("/notes.txt"), "text");
     const ToolRun foreign = runQrbTool(importArguments(rulebase, {text}));
     EXPECT_EQ(foreign.exitCode, 2);
     EXPECT_TRUE(foreign.err.startsWith(QStringLiteral("qrbtool import: ") + text
@@ -133,11 +133,11 @@ TEST(ImportCommand, UnreadSourcesAreNamedAndForeignOnesStopTheRun)
 
     // A library file without a library, and a group naming a project that isn't there: the
     // rest is imported, the run gives 1 and names them.
-    const QString noLibrary = writeBytes(dir + QStringLiteral("/Empty.tlb"), "no library");
-    const QString project = writeBytes(
+    const QString noLibrary = writeFile(dir + QStringLiteral("/Empty.tlb"), "no library");
+    const QString project = writeFile(
         dir + QStringLiteral("/p.vbp"),
         "Type=Exe\r\nObject={ABCDEF00-0000-0000-0000-000000000002}#1.0#0; one.ocx\r\n");
-    const QString group = writeBytes(dir + QStringLiteral("/g.vbg"),
+    const QString group = writeFile(dir + QStringLiteral("/g.vbg"),
                                      "VBGROUP 5.0\r\nStartupProject=p.vbp\r\nProject=gone.vbp\r\n");
     const ToolRun partial = runQrbTool(importArguments(rulebase, {noLibrary, group}));
     EXPECT_EQ(partial.exitCode, 1);
@@ -154,7 +154,7 @@ TEST(ImportCommand, UnreadSourcesAreNamedAndForeignOnesStopTheRun)
         QStringLiteral("{ABCDEF00-0000-0000-0000-000000000002}")));
 
     // A known library at a new version: the version joins its list.
-    const QString newer = writeBytes(
+    const QString newer = writeFile(
         dir + QStringLiteral("/q.vbp"),
         "Type=Exe\r\nObject={ABCDEF00-0000-0000-0000-000000000002}#2.1#0; one.ocx\r\n");
     const ToolRun version = runQrbTool(importArguments(rulebase, {newer}));
@@ -171,9 +171,9 @@ TEST(ImportCommand, UnreadSourcesAreNamedAndForeignOnesStopTheRun)
 TEST(ImportCommand, AReferenceDescriptionWithACharacterXmlForbidsIsSavedWithoutIt)
 {
     const QString dir = TestEnvironment::makeTempDir();
-    const QString rulebase = writeBytes(dir + QStringLiteral("/Team.qrb"), sampleBytes());
+    const QString rulebase = writeFile(dir + QStringLiteral("/Team.qrb"), sampleBytes());
     const QString guid = QStringLiteral("{ABCDEF00-0000-0000-0000-000000000003}");
-    const QString project = writeBytes(dir + QStringLiteral("/p.vbp"),
+    const QString project = writeFile(dir + QStringLiteral("/p.vbp"),
                                        "Type=Exe\r\nReference=*\\G" + guid.toLatin1()
                                            + "#1.0#0#odd.tlb#Odd\x01 Library\x1F\r\n");
     const ToolRun run = runQrbTool(importArguments(rulebase, {project}));

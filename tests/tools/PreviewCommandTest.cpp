@@ -35,7 +35,7 @@ TEST(PreviewCommand, ReportsFindingsAsTextJsonAndSarifWithTheBuildsExitCodes)
     const QString dir = TestEnvironment::makeTempDir();
     const QString rulebase = writeRulebase(dir);
     const QString folder = dir + QStringLiteral("/My Projects");
-    const QString module = writeBytes(folder + QStringLiteral("/modA.bas"),
+    const QString module = writeFile(folder + QStringLiteral("/modA.bas"),
                                       "Attribute VB_Name = \"modA\"\r\n"
                                       "Option Explicit\r\n"
                                       "Private count As Long\r\n"
@@ -44,7 +44,7 @@ TEST(PreviewCommand, ReportsFindingsAsTextJsonAndSarifWithTheBuildsExitCodes)
                                       "    GoTo Done ' a comment's GoTo is no code\n"
                                       "Done:\n"
                                       "End Sub\n");
-    const QString project = writeBytes(folder + QStringLiteral("/A.vbp"),
+    const QString project = writeFile(folder + QStringLiteral("/A.vbp"),
                                        "Type=Exe\r\nModule=modA; modA.bas\r\n"
                                        "Module=modGone; modGone.bas\r\nName=\"A\"\r\n");
 
@@ -122,7 +122,7 @@ TEST(PreviewCommand, ReportsFindingsAsTextJsonAndSarifWithTheBuildsExitCodes)
 
     // What needs a condition alone fails nothing; a project that is all there reads cleanly.
     const QString clean
-        = writeBytes(folder + QStringLiteral("/B.vbp"), "Type=Exe\r\nModule=modA; modA.bas\r\n");
+        = writeFile(folder + QStringLiteral("/B.vbp"), "Type=Exe\r\nModule=modA; modA.bas\r\n");
     EXPECT_EQ(
         runQrbTool({QStringLiteral("preview"), QStringLiteral("--rule=5002"), rulebase, clean})
             .exitCode,

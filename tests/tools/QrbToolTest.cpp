@@ -58,7 +58,7 @@ TEST(QrbTool, CommandsOfFeaturesCheckTheirArgumentsFirst)
 {
     const QString sample = TestEnvironment::sampleRulebase();
     const QString dir = TestEnvironment::makeTempDir();
-    const QString project = writeBytes(dir + QStringLiteral("/P.vbp"), "Type=Exe\r\n");
+    const QString project = writeFile(dir + QStringLiteral("/P.vbp"), "Type=Exe\r\n");
 
     // What a build without a feature says of its command.
     QString said;
@@ -161,7 +161,7 @@ TEST(QrbTool, TheBuiltProgramGivesItsExitCodes)
         0);
     EXPECT_TRUE(parseJsonObject(out).value(QStringLiteral("files")).isArray());
     const QString broken
-        = writeBytes(dir + QStringLiteral("/Broken.qrb"), sampleBytes().left(3000));
+        = writeFile(dir + QStringLiteral("/Broken.qrb"), sampleBytes().left(3000));
     EXPECT_EQ(exitOf({QStringLiteral("check"), broken}, &out), 1);
     EXPECT_TRUE(out.startsWith(broken + QLatin1Char(':'))) << out.toStdString();
     EXPECT_EQ(exitOf({QStringLiteral("diff"), sample, broken}), 2);

@@ -25,7 +25,7 @@ QByteArray programsScriptFile(const QString &rulebaseFile)
     qputenv("TMPDIR", TestEnvironment::makeTempDir().toLocal8Bit());
     const QString filename = rulebase->RuleLists()->CreateScriptFile();
     qputenv("TMPDIR", saved);
-    return readBytes(filename);
+    return readFile(filename);
 }
 
 } // namespace
@@ -33,7 +33,7 @@ QByteArray programsScriptFile(const QString &rulebaseFile)
 TEST(ScriptsCommand, WritesTheProgramsConditionScriptFileToOut)
 {
     const QString dir = TestEnvironment::makeTempDir();
-    const QString rulebase = writeBytes(dir + QStringLiteral("/Team.qrb"), sampleBytes());
+    const QString rulebase = writeFile(dir + QStringLiteral("/Team.qrb"), sampleBytes());
     const QString out = dir + QStringLiteral("/build/conditions.qrs");
     QDir().mkpath(dir + QStringLiteral("/build"));
 
@@ -41,7 +41,7 @@ TEST(ScriptsCommand, WritesTheProgramsConditionScriptFileToOut)
         = runQrbTool({QStringLiteral("scripts"), rulebase, QStringLiteral("-o"), out});
     ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
     EXPECT_TRUE(run.err.isEmpty()) << run.err.toStdString();
-    const QByteArray text = readBytes(out);
+    const QByteArray text = readFile(out);
     EXPECT_TRUE(text.startsWith("Attribute VB_Name = \"QuorinScripts\"\r\n\r\n"
                                 "Public Sub RunScript(ByVal v_lRuleID As Long)\r\n"));
     // Byte for byte what the program hands the reviewer, and one case for each condition.
@@ -51,13 +51,13 @@ TEST(ScriptsCommand, WritesTheProgramsConditionScriptFileToOut)
     EXPECT_EQ(run.out,
               rulebase + QStringLiteral(": %1 conditions written to ").arg(cases) + out + '\n');
     EXPECT_EQ(QDir(dir).entryList(QDir::Files), QStringList{QStringLiteral("Team.qrb")});
-    EXPECT_EQ(readBytes(rulebase), sampleBytes());
+    EXPECT_EQ(readFile(rulebase), sampleBytes());
 }
 
 TEST(ScriptsCommand, AFileThatCantBeWrittenIsNamedAndNothingIsLeft)
 {
     const QString dir = TestEnvironment::makeTempDir();
-    const QString rulebase = writeBytes(dir + QStringLiteral("/Team.qrb"), sampleBytes());
+    const QString rulebase = writeFile(dir + QStringLiteral("/Team.qrb"), sampleBytes());
     const QString out = dir + QStringLiteral("/none/conditions.qrs");
 
     const ToolRun run
@@ -72,7 +72,7 @@ TEST(ScriptsCommand, AFileThatCantBeWrittenIsNamedAndNothingIsLeft)
 
     // A rulebase read only in part gives no file at all.
     const QString broken
-        = writeBytes(dir + QStringLiteral("/Broken.qrb"), sampleBytes().left(3000));
+        = writeFile(dir + QStringLiteral("/Broken.qrb"), sampleBytes().left(3000));
     const QString fromBroken = dir + QStringLiteral("/broken.qrs");
     const ToolRun partial
         = runQrbTool({QStringLiteral("scripts"), broken, QStringLiteral("-o"), fromBroken});
@@ -84,5 +84,5 @@ TEST(ScriptsCommand, AFileThatCantBeWrittenIsNamedAndNothingIsLeft)
     const ToolRun itself
         = runQrbTool({QStringLiteral("scripts"), rulebase, QStringLiteral("-o"), rulebase});
     EXPECT_EQ(itself.exitCode, 2);
-    EXPECT_EQ(readBytes(rulebase), sampleBytes());
+    EXPECT_EQ(readFile(rulebase), sampleBytes());
 }

@@ -23,9 +23,9 @@ TEST(StatsCommand, AProjectWrittenHereIsCountedAsTheReviewerCountsIt)
 {
     const QString dir = TestEnvironment::makeTempDir();
     const QString project
-        = writeBytes(dir + QStringLiteral("/Tiny.vbp"),
+        = writeFile(dir + QStringLiteral("/Tiny.vbp"),
                      "Type=Exe\r\nModule=modTiny; modTiny.bas\r\nName=\"Tiny\"\r\n");
-    writeBytes(dir + QStringLiteral("/modTiny.bas"),
+    writeFile(dir + QStringLiteral("/modTiny.bas"),
                "Attribute VB_Name = \"modTiny\"\r\n"
                "Option Explicit\r\n"
                "\r\n"
@@ -67,7 +67,7 @@ TEST(StatsCommand, AProjectWrittenHereIsCountedAsTheReviewerCountsIt)
     EXPECT_EQ(lines.at(3).simplified(), QStringLiteral("1 5 1 1 7 Total"));
 
     // Not a project, or no file at all: exit 2 with the reason; nothing on the output.
-    const QString notProject = writeBytes(dir + QStringLiteral("/notes.txt"), "x");
+    const QString notProject = writeFile(dir + QStringLiteral("/notes.txt"), "x");
     for (const QString &bad : {notProject, dir + QStringLiteral("/Missing.vbp")}) {
         const ToolRun run
             = runQrbTool({QStringLiteral("stats"), QStringLiteral("--format=json"), bad});
@@ -152,13 +152,13 @@ TEST(StatsCommand, TheSharedProjectsAddUpAndAMissingSourceFileIsAFinding)
 TEST(StatsCommand, AMissingOrUnreadableMemberIsAFindingNamedByItsFile)
 {
     const QString dir = TestEnvironment::makeTempDir();
-    writeBytes(dir + QStringLiteral("/Tiny.vbp"),
+    writeFile(dir + QStringLiteral("/Tiny.vbp"),
                "Type=Exe\r\nModule=modTiny; modTiny.bas\r\nModule=modDir; modDir.bas\r\n");
-    writeBytes(dir + QStringLiteral("/modTiny.bas"),
+    writeFile(dir + QStringLiteral("/modTiny.bas"),
                "Attribute VB_Name = \"modTiny\"\r\nSub A()\r\nEnd Sub\r\n");
     QDir(dir).mkdir(QStringLiteral("modDir.bas"));
     QDir(dir).mkdir(QStringLiteral("Folder.vbp"));
-    const QString group = writeBytes(
+    const QString group = writeFile(
         dir + QStringLiteral("/All.vbg"),
         "VBGROUP 5.0\r\nStartupProject=Tiny.vbp\r\nProject=Gone.vbp\r\nProject=Folder.vbp\r\n");
 

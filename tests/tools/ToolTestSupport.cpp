@@ -37,26 +37,9 @@ QJsonObject parseJsonObject(const QString &text)
     return document.object();
 }
 
-QByteArray readBytes(const QString &filename)
-{
-    QFile file(filename);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return file.readAll();
-}
-
-QString writeBytes(const QString &filename, const QByteArray &bytes)
-{
-    QDir().mkpath(QFileInfo(filename).absolutePath());
-    QFile file(filename);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate)) << filename.toStdString();
-    file.write(bytes);
-    return filename;
-}
-
 QByteArray sampleBytes()
 {
-    return readBytes(TestEnvironment::sampleRulebase());
+    return readFile(TestEnvironment::sampleRulebase());
 }
 
 int lineOf(const QByteArray &text, const QByteArray &marker)

@@ -30,15 +30,15 @@ TEST(UpgradeCommand, OldSchemasComeUpTo62WithTheirContentAndVersionKept)
     const QString dir = TestEnvironment::makeTempDir();
     for (const QString &version : {QStringLiteral("6.0"), QStringLiteral("6.1")}) {
         const QByteArray oldBytes = sampleInOldSchema(version);
-        const QString in = writeBytes(dir + QStringLiteral("/Old%1.qrb").arg(version), oldBytes);
+        const QString in = writeFile(dir + QStringLiteral("/Old%1.qrb").arg(version), oldBytes);
         const QString out = dir + QStringLiteral("/New%1.qrb").arg(version);
 
         const ToolRun run = runQrbTool({QStringLiteral("upgrade"), in, QStringLiteral("-o"), out});
         ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
         EXPECT_TRUE(
             run.out.contains(QStringLiteral("schema %1 written as schema 6.2").arg(version)));
-        EXPECT_EQ(readBytes(in), oldBytes); // the input is never touched
-        EXPECT_TRUE(readBytes(out).startsWith("<Quorin_Rulebase SchemaVersion=\"6.2\">"));
+        EXPECT_EQ(readFile(in), oldBytes); // the input is never touched
+        EXPECT_TRUE(readFile(out).startsWith("<Quorin_Rulebase SchemaVersion=\"6.2\">"));
 
         // The written file holds what the program reads from the old one, version number and
         // auto-increment flag included: an upgrade is no edit.
@@ -74,15 +74,15 @@ TEST(UpgradeCommand, NeverOverwritesUnlessInPlaceAndNeverWritesAPartialFile)
 {
     const QString dir = TestEnvironment::makeTempDir();
     const QByteArray oldBytes = sampleInOldSchema(QStringLiteral("6.1"));
-    const QString in = writeBytes(dir + QStringLiteral("/Old.qrb"), oldBytes);
-    const QString taken = writeBytes(dir + QStringLiteral("/Taken.qrb"), "keep me");
+    const QString in = writeFile(dir + QStringLiteral("/Old.qrb"), oldBytes);
+    const QString taken = writeFile(dir + QStringLiteral("/Taken.qrb"), "keep me");
 
     const ToolRun refused
         = runQrbTool({QStringLiteral("upgrade"), in, QStringLiteral("-o"), taken});
     EXPECT_EQ(refused.exitCode, 2);
     EXPECT_TRUE(refused.err.contains(taken + QStringLiteral(": already exists")))
         << refused.err.toStdString();
-    EXPECT_EQ(readBytes(taken), QByteArray("keep me"));
+    EXPECT_EQ(readFile(taken), QByteArray("keep me"));
 
     // Neither or both of -o and --in-place is a usage error.
     EXPECT_EQ(runQrbTool({QStringLiteral("upgrade"), in}).exitCode, 2);
@@ -98,13 +98,13 @@ TEST(UpgradeCommand, NeverOverwritesUnlessInPlaceAndNeverWritesAPartialFile)
     // Input that can't be upgraded leaves no output behind, whatever the reason.
     const QByteArray sample = sampleBytes();
     const QString truncated
-        = writeBytes(dir + QStringLiteral("/Truncated.qrb"), oldBytes.left(oldBytes.size() / 3));
+        = writeFile(dir + QStringLiteral("/Truncated.qrb"), oldBytes.left(oldBytes.size() / 3));
     const QString future
-        = writeBytes(dir + QStringLiteral("/Future.qrb"),
+        = writeFile(dir + QStringLiteral("/Future.qrb"),
                      QByteArray(sample).replace("SchemaVersion=\"6.2\"", "SchemaVersion=\"7.0\""));
     QByteArray duplicate = oldBytes;
     duplicate.replace("RuleID=\"5030\"", "RuleID=\"5029\"");
-    const QString partial = writeBytes(dir + QStringLiteral("/Duplicate.qrb"), duplicate);
+    const QString partial = writeFile(dir + QStringLiteral("/Duplicate.qrb"), duplicate);
     for (const QString &bad : {truncated, future, partial, dir + QStringLiteral("/Missing.qrb")}) {
         const QString out = dir + QStringLiteral("/Out.qrb");
         const ToolRun run = runQrbTool({QStringLiteral("upgrade"), bad, QStringLiteral("-o"), out});
@@ -115,7 +115,7 @@ TEST(UpgradeCommand, NeverOverwritesUnlessInPlaceAndNeverWritesAPartialFile)
     const ToolRun futureRun
         = runQrbTool({QStringLiteral("upgrade"), future, QStringLiteral("--in-place")});
     EXPECT_TRUE(futureRun.err.contains(QLatin1String("schema version \"7.0\" can't be upgraded")));
-    EXPECT_EQ(readBytes(future),
+    EXPECT_EQ(readFile(future),
               QByteArray(sample).replace("SchemaVersion=\"6.2\"", "SchemaVersion=\"7.0\""));
 
     // A folder that takes no files: the write fails with the reason, and no file appears.
@@ -137,10 +137,10 @@ TEST(UpgradeCommand, NeverOverwritesUnlessInPlaceAndNeverWritesAPartialFile)
     const ToolRun inPlace
         = runQrbTool({QStringLiteral("upgrade"), in, QStringLiteral("--in-place")});
     EXPECT_EQ(inPlace.exitCode, 0) << inPlace.err.toStdString();
-    const QByteArray upgraded = readBytes(in);
+    const QByteArray upgraded = readFile(in);
     EXPECT_TRUE(upgraded.startsWith("<Quorin_Rulebase SchemaVersion=\"6.2\">"));
     const ToolRun again = runQrbTool({QStringLiteral("upgrade"), in, QStringLiteral("--in-place")});
     EXPECT_EQ(again.exitCode, 0);
     EXPECT_TRUE(again.out.contains(QLatin1String("already at schema 6.2; nothing written")));
-    EXPECT_EQ(readBytes(in), upgraded);
+    EXPECT_EQ(readFile(in), upgraded);
 }

@@ -6,8 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
-#include <QStandardPaths>
 
 #include <gtest/gtest.h>
 
@@ -188,48 +186,4 @@ TEST(TypeLibPeFiles, HostileDirectoriesGiveNoLibrary)
     // Headers pointing past the end.
     EXPECT_FALSE(TypeLibReader::readData(patched(0x3C, 0xFFFFFFF0)).has_value());
     EXPECT_FALSE(TypeLibReader::readData(good.left(PeRoot + 20)).has_value());
-}
-
-// Libraries made by the IDL compiler and linked into a DLL, when the cross tools are installed.
-TEST(TypeLibPeFiles, ToolMadeLibraries)
-{
-    const QString widl = QStandardPaths::findExecutable(QStringLiteral("i686-w64-mingw32-widl"));
-    const QString windres
-        = QStandardPaths::findExecutable(QStringLiteral("x86_64-w64-mingw32-windres"));
-    const QString ld = QStandardPaths::findExecutable(QStringLiteral("x86_64-w64-mingw32-ld"));
-    if (widl.isEmpty() || windres.isEmpty() || ld.isEmpty())
-        GTEST_SKIP() << "mingw-w64 tools not installed";
-    const QDir dir(TestEnvironment::makeTempDir());
-    auto write = [&](const char *name, const QByteArray &text) {
-        QFile file(dir.filePath(QLatin1String(name)));
-        return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
-    };
-    auto run = [&](const QString &program, const QStringList &args) {
-        QProcess process;
-        process.setWorkingDirectory(dir.path());
-        process.start(program, args);
-        return process.waitForFinished(60000) && process.exitCode() == 0;
-    };
-    ASSERT_TRUE(write("a.idl",
-                      "[uuid(0A1B2C3D-4E5F-4061-8283-A4B5C6D7E8F9), version(65535.1)]\n"
-                      "library NoHelp { };\n"));
-    ASSERT_TRUE(write("b.idl",
-                      "[uuid(1A1B2C3D-4E5F-4061-8283-A4B5C6D7E8F9), version(0.9),"
-                      " helpstring(\"Caf\xE9\")]\nlibrary Latin { };\n"));
-    ASSERT_TRUE(write("r.rc", "3 TYPELIB \"a.tlb\"\n7 TYPELIB \"b.tlb\"\n"));
-    ASSERT_TRUE(run(widl, {"-t", "-o", "a.tlb", "a.idl"}));
-    ASSERT_TRUE(run(widl, {"-t", "-o", "b.tlb", "b.idl"}));
-    // windres preprocesses with a C compiler, which may be missing.
-    if (!run(windres, {"--preprocessor=cpp", "-i", "r.rc", "-o", "r.o"})
-        || !run(ld, {"--dll", "-e", "0", "-o", "r.dll", "r.o"}))
-        GTEST_SKIP() << "cannot build a DLL here";
-
-    const QList<TypeLibInfo> all = TypeLibReader::listFile(dir.filePath(QStringLiteral("r.dll")));
-    ASSERT_EQ(resourceIds(all), QList<int>({3, 7}));
-    EXPECT_EQ(all[0].guid, QStringLiteral("{0A1B2C3D-4E5F-4061-8283-A4B5C6D7E8F9}"));
-    EXPECT_EQ(all[0].version(), QStringLiteral("65535.1"));
-    EXPECT_EQ(all[0].helpString, QString());
-    EXPECT_EQ(all[0].name, QStringLiteral("NoHelp"));
-    EXPECT_EQ(all[1].version(), QStringLiteral("0.9"));
-    EXPECT_EQ(all[1].helpString, QStringLiteral(u"Caf\u00E9"));
 }

@@ -133,13 +133,7 @@ QString typelibFile(const char *name)
     return TestEnvironment::sharedDataDir() + QStringLiteral("/typelib/") + QLatin1String(name);
 }
 
-QString writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-    return path;
-}
+using TestEnvironment::writeFile;
 
 } // namespace
 

@@ -22,16 +22,7 @@ void XmlTest::TearDown()
 
 QString XmlTest::writeFile(const QString &name, const QByteArray &bytes) const
 {
-    QFile file(path(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-    return file.fileName();
-}
-
-QByteArray XmlTest::readFile(const QString &filename)
-{
-    QFile file(filename);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return TestEnvironment::writeFile(path(name), bytes);
 }
 
 QStringList XmlTest::logRecords() const
