@@ -41,40 +41,6 @@ TEST(RuleEditorModel, CaptionNamesTheRuleByIdAndTitle)
     EXPECT_EQ(m.Caption(), QStringLiteral("Condition Editor - No GoTo"));
 }
 
-TEST(RuleEditorModel, ToolsStandInTheirMenusInOrder)
-{
-    QStringList rows;
-    for (const RuleEditorTool &tool : RuleEditorModel::tools())
-        rows << tool.id.toString() + QLatin1Char('|') + tool.menu.toString();
-    EXPECT_EQ(rows,
-              (QStringList{"tlCheckSyntax|mnuFile",
-                           "tlSaveAndClose|mnuFile",
-                           "tlClose|mnuFile",
-                           "tlUndo|mnuEdit",
-                           "tlRedo|mnuEdit",
-                           "tlCut|mnuEdit",
-                           "tlCopy|mnuEdit",
-                           "tlPaste|mnuEdit",
-                           "tlSelectAll|mnuEdit",
-                           "tlFind|mnuEdit",
-                           "tlFindNext|mnuEdit",
-                           "tlReplace|mnuEdit",
-                           "tlGoToLine|mnuEdit",
-                           "tlToggleComment|mnuEdit",
-                           "tlObjectProperty|mnuInsert",
-                           "tlObjectWorkfield|mnuInsert",
-                           "tlParserEvent|mnuInsert",
-                           "tlCancelPV|mnuInsert",
-                           "tlRaiseViolation|mnuInsert",
-                           "tlApplyConvention|mnuInsert",
-                           "tlQuorinHelp|mnuHelp",
-                           "tlLanguageHelp|mnuHelp"}));
-    QStringList menus;
-    for (const RuleEditorMenu &menu : RuleEditorModel::menus())
-        menus << menu.caption.toString();
-    EXPECT_EQ(menus, (QStringList{"&Condition", "&Edit", "&Insert", "&Help"}));
-}
-
 TEST(RuleEditorModel, InsertToolsPutTheirCallsAtTheCaret)
 {
     EXPECT_EQ(RuleEditorModel::ToolText(QStringLiteral("tlRaiseViolation")),
