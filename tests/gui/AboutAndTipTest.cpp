@@ -22,17 +22,6 @@
 
 namespace {
 
-// Runs the event loop until `done` or `ms` milliseconds have gone.
-template<typename Done>
-bool waitFor(Done done, int ms = 3000)
-{
-    QElapsedTimer clock;
-    clock.start();
-    while (!done() && clock.elapsed() < ms)
-        QApplication::processEvents(QEventLoop::AllEvents, 20);
-    return done();
-}
-
 struct Globals
 {
     Globals()
@@ -44,22 +33,6 @@ struct Globals
 };
 
 } // namespace
-
-TEST(About, ShowsTitleVersionAndClosesOnOK)
-{
-    Globals globals;
-    frmAbout about;
-    about.show();
-    EXPECT_EQ(about.findChild<QLabel *>(QStringLiteral("lblTitle"))->text(), QStringLiteral("Quorin Administrator"));
-    EXPECT_EQ(about.findChild<QLabel *>(QStringLiteral("lblVersion"))->text(), QStringLiteral("Version ") + programComponentVersion());
-    EXPECT_FALSE(about.findChild<QLabel *>(QStringLiteral("lblDescription"))->text().isEmpty());
-    QPushButton *ok = about.findChild<QPushButton *>(QStringLiteral("cmdOK"));
-    ASSERT_NE(ok, nullptr);
-    EXPECT_TRUE(ok->isVisible());
-    ok->click();
-    EXPECT_FALSE(about.isVisible());
-    EXPECT_EQ(about.result(), QDialog::Accepted);
-}
 
 TEST(TipOfTheDay, TheCheckBoxIsTheStartUpSettingAndTheWindowRemembersTheLastTip)
 {

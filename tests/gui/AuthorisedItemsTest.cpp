@@ -32,10 +32,6 @@
 #include <functional>
 #include <memory>
 
-namespace {
-
-} // namespace
-
 TEST(AuthorisedItemsWindow, TheViewShowsAndAReferenceIsAddedThroughItsDialog)
 {
     ScriptedUserInterface ui;
@@ -93,11 +89,9 @@ TEST(AuthorisedItemsWindow, TheViewShowsAndAReferenceIsAddedThroughItsDialog)
 
         // A project file from the desktop, dropped on the list, goes through the import dialog.
         const QString project = TestEnvironment::makeTempDir() + QStringLiteral("/Dropped.vbp");
-        QFile file(project);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("Type=Exe\r\nObject={FEDCBA98-0000-0000-0000-000000000001}#1.0#0; "
-                   "dropped.ocx\r\nName=\"D\"\r\n");
-        file.close();
+        TestEnvironment::writeFile(project,
+                                   "Type=Exe\r\nObject={FEDCBA98-0000-0000-0000-000000000001}#1.0#0; "
+                                   "dropped.ocx\r\nName=\"D\"\r\n");
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(project)});
         QWidget *viewport = window.lvwMain()->viewport();
@@ -117,14 +111,10 @@ TEST(AuthorisedItemsWindow, TheViewShowsAndAReferenceIsAddedThroughItsDialog)
         QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(viewport, &drop);
         EXPECT_TRUE(drop.isAccepted());
-        QElapsedTimer clock;
-        clock.start();
-        while (!rulebase->AuthorisedComponents()->Contains(
-                   QStringLiteral("{FEDCBA98-0000-0000-0000-000000000001}"))
-               && clock.elapsed() < 5000)
-            QApplication::processEvents(QEventLoop::AllEvents, 50);
-        EXPECT_TRUE(rulebase->AuthorisedComponents()->Contains(
-            QStringLiteral("{FEDCBA98-0000-0000-0000-000000000001}")));
+        EXPECT_TRUE(waitFor([&] {
+            return rulebase->AuthorisedComponents()->Contains(
+                QStringLiteral("{FEDCBA98-0000-0000-0000-000000000001}"));
+        }));
         ASSERT_FALSE(ui.messages.empty());
         EXPECT_EQ(
             ui.messages.back().text,

@@ -19,6 +19,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QTimer>
 
@@ -55,6 +56,27 @@ void click(QWidget &parent, const char *button)
 {
     if (auto *push = child<QPushButton>(parent, button))
         push->click();
+}
+
+void typeKeys(QWidget *widget, const QString &text)
+{
+    for (const QChar c : text) {
+        const int key = c == u'\n' ? int(Qt::Key_Return) : int(c.toUpper().unicode());
+        const QString keyText = c == u'\n' ? QStringLiteral("\r") : QString(c);
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, keyText);
+        QApplication::sendEvent(widget, &press);
+        QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, keyText);
+        QApplication::sendEvent(widget, &release);
+    }
+}
+
+bool waitFor(const std::function<bool()> &done)
+{
+    QElapsedTimer clock;
+    clock.start();
+    while (!done() && clock.elapsed() < 5000)
+        QApplication::processEvents(QEventLoop::AllEvents, 20);
+    return done();
 }
 
 GuiSample::GuiSample() = default;

@@ -152,46 +152,6 @@ TEST(MainWindow, EveryViewCanBeShownAndF1OpensItsPage)
     EXPECT_FALSE(w.window->tool(QStringLiteral("tlSaveRulebase"))->icon().isNull());
 }
 
-TEST(MainWindow, PaneSizesColumnsAndPlaceSurviveACloseAndAReopen)
-{
-    TestEnvironment::clearSettings();
-    QList<int> treeAndList;
-    QList<int> treeAndDocs;
-    double titleShare = 0;
-    {
-        SampleWindow w;
-        ASSERT_TRUE(w.opened);
-        w.window->setGeometry(40, 50, 1000, 700);
-        QApplication::processEvents();
-        w.splitter("picContainer")->setSizes({300, 600});
-        QSplitter *left = qobject_cast<QSplitter *>(w.window->tvwMain()->parentWidget()->parentWidget());
-        ASSERT_NE(left, nullptr);
-        left->setSizes({400, 150});
-        QApplication::processEvents();
-        treeAndList = w.splitter("picContainer")->sizes();
-        treeAndDocs = left->sizes();
-        ListControl *list = w.window->list();
-        list->setColumnWidth(2, list->width() / 2);
-        titleShare = double(list->columnWidth(2)) / list->width();
-        EXPECT_TRUE(w.window->close());
-        EXPECT_EQ(gobjAdminData->TreeWidth(), treeAndList.at(0) * 15);
-        EXPECT_EQ(gobjAdminData->DocHeight(), treeAndDocs.at(1) * 15);
-        EXPECT_EQ(gobjAdminData->MainWidth(), 1000 * 15);
-        EXPECT_NEAR(gobjAdminData->ListColWidthCC(2), titleShare, 0.01);
-    }
-    {
-        SampleWindow w;
-        ASSERT_TRUE(w.opened);
-        QApplication::processEvents();
-        EXPECT_EQ(w.window->geometry(), QRect(40, 50, 1000, 700));
-        EXPECT_EQ(w.splitter("picContainer")->sizes().at(0), treeAndList.at(0));
-        QSplitter *left = qobject_cast<QSplitter *>(w.window->tvwMain()->parentWidget()->parentWidget());
-        EXPECT_EQ(left->sizes().at(1), treeAndDocs.at(1));
-        ListControl *list = w.window->list();
-        EXPECT_NEAR(double(list->columnWidth(2)) / list->width(), titleShare, 0.02);
-    }
-}
-
 TEST(MainWindow, ARowDraggedOntoACategoryNodeMovesTheRule)
 {
     TestEnvironment::clearSettings();

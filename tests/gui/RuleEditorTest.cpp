@@ -34,49 +34,6 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-void type(QWidget *widget, const QString &text)
-{
-    for (const QChar c : text) {
-        const int key = c == u'\n' ? int(Qt::Key_Return) : int(c.toUpper().unicode());
-        const QString keyText = c == u'\n' ? QStringLiteral("\r") : QString(c);
-        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, keyText);
-        QApplication::sendEvent(widget, &press);
-        QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, keyText);
-        QApplication::sendEvent(widget, &release);
-    }
-}
-
-void press(QWidget *widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-{
-    QKeyEvent event(QEvent::KeyPress, key, modifiers);
-    QApplication::sendEvent(widget, &event);
-}
-
-// Selects from one 1-based line and column to another.
-void select(BasicEditor *editor, int line, int column, int toLine, int toColumn)
-{
-    editor->goTo(line, column);
-    QTextCursor cursor = editor->textCursor();
-    editor->goTo(toLine, toColumn);
-    cursor.setPosition(editor->caretPosition(), QTextCursor::KeepAnchor);
-    editor->setTextCursor(cursor);
-}
-
-// Lets timers run until `done` holds or a generous time has passed.
-template<typename Condition>
-bool waitFor(Condition done)
-{
-    QElapsedTimer timer;
-    timer.start();
-    while (!done() && timer.elapsed() < 5000)
-        QApplication::processEvents(QEventLoop::AllEvents, 20);
-    return done();
-}
-
-} // namespace
-
 TEST(RuleEditor, MarksAnErrorWhileTypingAndSavesOnceItIsFixed)
 {
     ScriptedUserInterface ui;
@@ -106,7 +63,7 @@ TEST(RuleEditor, MarksAnErrorWhileTypingAndSavesOnceItIsFixed)
 
     // A block If without its end, typed behind "  x = 1": the new line keeps the indent.
     editor->goTo(2, 8);
-    type(editor, QStringLiteral("\nIf y Then"));
+    typeKeys(editor, QStringLiteral("\nIf y Then"));
     EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Main\n  x = 1\n  If y Then\nEnd Sub\n"));
     ASSERT_TRUE(waitFor([&] { return editor->markOfLine(3) == BasicEditor::Mark::Error; }));
     EXPECT_EQ(editor->messagesOfLine(3), QStringList{QStringLiteral("Block If without End If")});
@@ -126,9 +83,9 @@ TEST(RuleEditor, MarksAnErrorWhileTypingAndSavesOnceItIsFixed)
     // Fixed, with a violation raised inside the If: Enter goes one level (the text's two
     // spaces) deeper, and "End If" finds the If's indentation as it is typed.
     editor->goTo(3, 12);
-    type(editor, QStringLiteral("\n"));
+    typeKeys(editor, QStringLiteral("\n"));
     dialog.tool(QStringLiteral("tlRaiseViolation"))->trigger();
-    type(editor, QStringLiteral("End If"));
+    typeKeys(editor, QStringLiteral("End If"));
     ASSERT_TRUE(waitFor([&] { return editor->markOfLine(3) == BasicEditor::Mark::None; }));
     EXPECT_TRUE(editor->errors().empty());
 
@@ -167,7 +124,7 @@ TEST(RuleEditor, ClosingAsksAboutChangesAndRunsModally)
         dialog.setRuleCode(QStringLiteral("Sub Main\r\nEnd Sub"));
         dialog.show();
         dialog.editor()->setCaretPosition(0);
-        type(dialog.editor(), QStringLiteral("' note\n"));
+        typeKeys(dialog.editor(), QStringLiteral("' note\n"));
 
         // The frame's close asks; Cancel stays, No leaves without the change. Escape asks
         // with Cancel as the default, so Enter next keeps the text as it is.
@@ -225,11 +182,11 @@ TEST(RuleEditor, PickersAndCompletionInsertTheVocabulary)
     editor->clear(); // no skeleton: the inserts alone
     dialog.tool(QStringLiteral("tlObjectProperty"))->trigger();
     EXPECT_EQ(asked.selectionMode, 2);
-    type(editor, QStringLiteral("\n"));
+    typeKeys(editor, QStringLiteral("\n"));
     dialog.tool(QStringLiteral("tlObjectWorkfield"))->trigger();
     EXPECT_EQ(asked.selectionMode, 3);
     EXPECT_NE(asked.workfields, nullptr);
-    type(editor, QStringLiteral("\n"));
+    typeKeys(editor, QStringLiteral("\n"));
     dialog.tool(QStringLiteral("tlParserEvent"))->trigger();
     EXPECT_EQ(eventRuleType, RuleTypes::NamingConvention);
     EXPECT_EQ(editor->toPlainText(),
@@ -240,7 +197,7 @@ TEST(RuleEditor, PickersAndCompletionInsertTheVocabulary)
     RuleEditorPickers::setEventPicker({});
 
     // "Quorin." offers the members; choosing one puts it in.
-    type(editor, QStringLiteral("\nCall Quorin.Rai"));
+    typeKeys(editor, QStringLiteral("\nCall Quorin.Rai"));
     QCompleter *completer = editor->completer();
     ASSERT_TRUE(completer->popup()->isVisible());
     EXPECT_EQ(completer->currentCompletion(), QStringLiteral("RaiseViolation"));
@@ -248,7 +205,7 @@ TEST(RuleEditor, PickersAndCompletionInsertTheVocabulary)
     EXPECT_TRUE(editor->toPlainText().endsWith(QStringLiteral("\nCall Quorin.RaiseViolation")));
 
     // Inside a property call's first string: the objects, closed by a quote.
-    type(editor, QStringLiteral("\nx = Quorin.GetObjectProperty(\"Proc"));
+    typeKeys(editor, QStringLiteral("\nx = Quorin.GetObjectProperty(\"Proc"));
     ASSERT_TRUE(completer->popup()->isVisible());
     emit completer->activated(QStringLiteral("Procedure"));
     EXPECT_TRUE(editor->toPlainText().endsWith(QStringLiteral("GetObjectProperty(\"Procedure\"")));
@@ -266,87 +223,6 @@ TEST(RuleEditor, PickersAndCompletionInsertTheVocabulary)
     EXPECT_TRUE(editor->toPlainText().startsWith(
         QStringLiteral("Call Quorin.RaiseViolation()\nQuorin.GetObjectProperty")));
     EXPECT_EQ(editor->caretPosition(), 29);
-    EXPECT_TRUE(ui.messages.empty());
-}
-
-TEST(RuleEditor, EditingCommandsStandInBothMenusAndWorkOnWholeLines)
-{
-    ScriptedUserInterface ui;
-    frmRuleEditor dialog;
-    dialog.setRuleCode(QStringLiteral("Sub Main\r\n\tx = 1\r\n\ty = 2\r\nEnd Sub"));
-    dialog.show();
-    BasicEditor *editor = dialog.editor();
-    auto *mnuEdit = child<QMenu>(dialog, "mnuEdit");
-    auto *mnuContext = child<QMenu>(dialog, "mnuContext");
-    ASSERT_TRUE(mnuEdit && mnuContext);
-    const QString ids = QStringLiteral(
-        "tlUndo tlCut tlCopy tlPaste tlSelectAll tlFind tlReplace tlGoToLine tlToggleComment");
-    for (const QString &id : ids.split(QLatin1Char(' '))) {
-        QAction *action = dialog.tool(id);
-        EXPECT_TRUE(mnuEdit->actions().contains(action)) << id.toStdString();
-        EXPECT_TRUE(mnuContext->actions().contains(action)) << id.toStdString();
-        EXPECT_FALSE(action->shortcut().isEmpty()) << id.toStdString();
-    }
-    EXPECT_TRUE(mnuContext->actions().contains(
-        dialog.findChild<QMenu *>(QStringLiteral("mnuInsert"))->menuAction()));
-
-    // Tab and Shift+Tab move the lines a selection touches, each one undo step; the selection
-    // stays on them. Without a selection Tab puts in the text's own unit.
-    const QString opening = editor->toPlainText();
-    select(editor, 2, 3, 3, 2);
-    press(editor, Qt::Key_Tab);
-    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Main\n\t\tx = 1\n\t\ty = 2\nEnd Sub"));
-    EXPECT_EQ(editor->textCursor().selectedText(), QStringLiteral("\t\tx = 1\u2029\t\ty = 2"));
-    press(editor, Qt::Key_Backtab, Qt::ShiftModifier);
-    press(editor, Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Main\nx = 1\ny = 2\nEnd Sub"));
-    for (int step = 0; step < 3; ++step)
-        dialog.tool(QStringLiteral("tlUndo"))->trigger();
-    EXPECT_EQ(editor->toPlainText(), opening);
-    editor->goTo(2, 1);
-    press(editor, Qt::Key_Tab);
-    EXPECT_EQ(editor->textCursor().block().text(), QStringLiteral("\t\tx = 1"));
-
-    // Comment and back; cut and paste through the clipboard.
-    select(editor, 2, 1, 3, 2);
-    dialog.tool(QStringLiteral("tlToggleComment"))->trigger();
-    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Main\n\t' \tx = 1\n\t' y = 2\nEnd Sub"));
-    dialog.tool(QStringLiteral("tlToggleComment"))->trigger();
-    select(editor, 3, 2, 3, 7);
-    dialog.tool(QStringLiteral("tlCut"))->trigger();
-    editor->goTo(1, 9);
-    dialog.tool(QStringLiteral("tlPaste"))->trigger();
-    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Mainy = 2\n\t\tx = 1\n\t\nEnd Sub"));
-    dialog.tool(QStringLiteral("tlSelectAll"))->trigger();
-    EXPECT_EQ(editor->textCursor().selectedText().size(), editor->toPlainText().size());
-
-    // Replace all through the bar; Escape closes the bar, not the editor.
-    dialog.tool(QStringLiteral("tlReplace"))->trigger();
-    auto *find = child<QLineEdit>(dialog, "txtFind");
-    ASSERT_TRUE(find && find->isVisible() && child<QLineEdit>(dialog, "txtReplace")->isVisible());
-    find->setText(QStringLiteral("X"));
-    child<QLineEdit>(dialog, "txtReplace")->setText(QStringLiteral("total"));
-    child<QToolButton>(dialog, "cmdReplaceAll")->click();
-    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Mainy = 2\n\t\ttotal = 1\n\t\nEnd Sub"));
-    EXPECT_EQ(child<QLabel>(dialog, "lblFindResult")->text(), QStringLiteral("1 replaced"));
-    find->setFocus();
-    press(find, Qt::Key_Escape);
-    EXPECT_FALSE(find->isVisible());
-    EXPECT_TRUE(dialog.isVisible());
-
-    // Find wraps round; go to line asks for the number.
-    editor->goTo(4, 1);
-    dialog.tool(QStringLiteral("tlFind"))->trigger();
-    find->setText(QStringLiteral("total"));
-    dialog.tool(QStringLiteral("tlFindNext"))->trigger();
-    EXPECT_EQ(editor->textCursor().selectedText(), QStringLiteral("total"));
-    whenModal(QStringLiteral("frmGoToLine"), [](QDialog &asked) {
-        static_cast<QInputDialog &>(asked).setIntValue(3);
-        asked.accept();
-    });
-    dialog.tool(QStringLiteral("tlGoToLine"))->trigger();
-    EXPECT_EQ(editor->textCursor().blockNumber(), 2);
-    EXPECT_EQ(child<QLabel>(dialog, "lblPosition")->text(), QStringLiteral("Ln 3, Col 1"));
     EXPECT_TRUE(ui.messages.empty());
 }
 
@@ -392,68 +268,4 @@ TEST(RuleEditor, TheErrorListAndTheUnderlinesLeadToTheFault)
     // Once fixed, the list is empty.
     editor->setScript(QStringLiteral("Sub Main\r\nEnd Sub"));
     EXPECT_EQ(list->topLevelItemCount(), 0);
-}
-
-TEST(RuleEditor, ANewConditionStartsAsSubMainAndTheWindowKeepsItsPlace)
-{
-    ScriptedUserInterface ui;
-    TestEnvironment::clearSettings();
-    gobjAdminData = std::make_shared<QuorinAdminData>();
-    {
-        // The skeleton untouched is no condition: closing asks nothing.
-        frmRuleEditor dialog;
-        EXPECT_EQ(dialog.editor()->toPlainText(), ScriptEditing::newScript());
-        EXPECT_EQ(dialog.editor()->textCursor().blockNumber() + 1, ScriptEditing::newScriptLine);
-        EXPECT_TRUE(dialog.RuleCode().isEmpty());
-        dialog.show();
-        dialog.move(120, 90);
-        dialog.resize(500, 360);
-        dialog.tool(QStringLiteral("tlClose"))->trigger();
-        EXPECT_FALSE(dialog.isVisible());
-        EXPECT_TRUE(ui.messages.empty());
-    }
-    EXPECT_EQ(gobjAdminData->EditorWidth(), 500 * 15);
-    gobjAdminData->SaveSettings();
-    gobjAdminData = std::make_shared<QuorinAdminData>();
-    {
-        frmRuleEditor dialog;
-        dialog.show();
-        EXPECT_EQ(dialog.size(), QSize(500, 360));
-        EXPECT_EQ(dialog.pos(), QPoint(120, 90));
-    }
-    // A place on no screen is not taken.
-    gobjAdminData->setEditorLeft(-90000);
-    {
-        frmRuleEditor dialog;
-        dialog.show();
-        EXPECT_GE(dialog.x(), 0);
-    }
-    gobjAdminData.reset();
-    TestEnvironment::clearSettings();
-}
-
-TEST(RuleEditor, HelpOpensBesideTheModalEditorAndOutlivesIt)
-{
-    GuiUserInterface gui(true);
-    UserInterface::install(&gui);
-    HelpWindow::instance()->resize(300, 200);
-    frmRuleEditor dialog;
-    dialog.setGeometry(0, 0, 300, 300);
-    QTimer::singleShot(0, &dialog, [&] {
-        dialog.tool(QStringLiteral("tlLanguageHelp"))->trigger();
-        HelpWindow *help = HelpWindow::existing();
-        ASSERT_TRUE(help && help->isVisible());
-        EXPECT_EQ(help->currentPage(), QStringLiteral("ConditionLanguage.htm"));
-        // A window of the modal editor: not blocked by it.
-        EXPECT_EQ(help->parentWidget(), &dialog);
-        EXPECT_EQ(help->x(), dialog.frameGeometry().right() + 1);
-        dialog.tool(QStringLiteral("tlClose"))->trigger();
-    });
-    dialog.exec();
-    HelpWindow *help = HelpWindow::existing();
-    ASSERT_TRUE(help);
-    EXPECT_NE(help->parentWidget(), &dialog);
-    EXPECT_TRUE(help->isVisible());
-    help->close();
-    UserInterface::install(nullptr);
 }

@@ -101,41 +101,6 @@ TEST_F(RulebaseDialogs, TheCategoryListOpensItsEditorAndCloses)
     EXPECT_FALSE(rulebase->Dirty());
 }
 
-TEST_F(RulebaseDialogs, TheSeverityListShowsTheFiveWithoutAddOrDelete)
-{
-    bool seen = false;
-    whenModal(QStringLiteral("frmCategorySeverity"), [&](QDialog &dialog) {
-        seen = true;
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Severity List"));
-        auto *list = child<QTreeWidget>(dialog, "lvwCategorySeverity");
-        EXPECT_EQ(list->topLevelItemCount(), 5);
-        EXPECT_EQ(list->columnCount(), 3);
-        EXPECT_FALSE(child<QPushButton>(dialog, "cmdAdd")->isVisibleTo(&dialog));
-        EXPECT_FALSE(child<QPushButton>(dialog, "cmdDelete")->isVisibleTo(&dialog));
-        click(dialog, "cmdClose");
-    });
-    trigger("tlSeverityList");
-    EXPECT_TRUE(seen);
-}
-
-TEST_F(RulebaseDialogs, DefaultViolationsOfferTheirFiveItemsAndCancel)
-{
-    bool seen = false;
-    whenModal(QStringLiteral("frmDefaultViolations"), [&](QDialog &dialog) {
-        seen = true;
-        auto *bar = child<QToolBar>(dialog, "abViolations");
-        ASSERT_EQ(bar->actions().size(), 5);
-        EXPECT_EQ(bar->actions().at(0)->objectName(), QStringLiteral("tlUnauthComp"));
-        EXPECT_EQ(child<QLabel>(dialog, "lblTitle")->text(), QStringLiteral("Unauthorised Component "));
-        bar->actions().at(4)->trigger();
-        EXPECT_EQ(child<QLabel>(dialog, "lblTitle")->text(), QStringLiteral("Unknown Control "));
-        click(dialog, "cmdCancel");
-    });
-    trigger("tlDefaultViolations");
-    EXPECT_TRUE(seen);
-    EXPECT_FALSE(rulebase->Dirty());
-}
-
 TEST_F(RulebaseDialogs, TagListsShowTheirFacesAndCancelLeavesTheSet)
 {
     const qint32 controls = rulebase->ControlTags()->Count();
