@@ -276,26 +276,6 @@ TEST_F(NewRuleTest, OpeningARuleGoesThroughItsDialogAndKeepsTheEventIndexes)
     EXPECT_EQ(form.listControl.subItemText(row, 1), QStringLiteral("Renamed"));
 }
 
-TEST(FormLauncher, TheApplicationInstallsItOnlyWhereNoneStands)
-{
-    MemoryMainForm form;
-    EXPECT_EQ(IRuleEditorLauncher::installed(), nullptr);
-    {
-        Application app(&form);
-        IRuleEditorLauncher *launcher = IRuleEditorLauncher::installed();
-        ASSERT_NE(launcher, nullptr);
-        // Without a dialog for the rule, nothing is confirmed.
-        EXPECT_FALSE(launcher->EditRule(std::make_shared<NamingConvention>()));
-        EXPECT_FALSE(launcher->EditRule(nullptr));
-        {
-            Application second(&form);
-            EXPECT_EQ(IRuleEditorLauncher::installed(), launcher);
-        }
-        EXPECT_EQ(IRuleEditorLauncher::installed(), launcher);
-    }
-    EXPECT_EQ(IRuleEditorLauncher::installed(), nullptr);
-}
-
 // The launcher the Application installs also carries the views' category and severity edits.
 TEST(FormLauncher, CategoryAndSeverityEditsRunTheirEditorsAndWriteOnlyOnOK)
 {

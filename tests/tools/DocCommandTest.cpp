@@ -212,28 +212,3 @@ TEST(DocCommand, AFolderThatTakesNoFileFailsNamingTheFileAndLeavesNothing)
     EXPECT_TRUE(run.err.contains(QStringLiteral("'") + out + QStringLiteral("'")));
     EXPECT_TRUE(left.isEmpty()) << left.join(QLatin1Char(' ')).toStdString();
 }
-
-TEST(DocCommand, TheWriterTakesATargetAndKeepsToTheRulebasesNameWithoutOne)
-{
-    ScriptedUserInterface ui;
-    const QString dir = TestEnvironment::makeTempDir();
-    RulebaseManager::setAdministratorOverride(true);
-    const auto rulebase = RulebaseManager().LoadRulebase(copyOfSample(dir));
-    ASSERT_NE(rulebase, nullptr);
-
-    RulebaseDocCreator writer;
-    writer.setOrganisation(QStringLiteral("K"));
-    EXPECT_TRUE(writer.TargetFilename().isEmpty());
-    const QString target = dir + QStringLiteral("/elsewhere.htm");
-    writer.setTargetFilename(target);
-    QString written;
-    ASSERT_TRUE(writer.CreateDocumentation(*rulebase, written));
-    EXPECT_EQ(written, target);
-    EXPECT_FALSE(QFileInfo::exists(dir + QStringLiteral("/Team.html")));
-
-    writer.setTargetFilename(QString());
-    ASSERT_TRUE(writer.CreateDocumentation(*rulebase, written));
-    EXPECT_EQ(written, dir + QStringLiteral("/Team.html"));
-    EXPECT_TRUE(QFileInfo::exists(written));
-    EXPECT_TRUE(ui.messages.empty());
-}

@@ -104,18 +104,12 @@ TEST(CodingConventionsView, ShowsEveryConventionAtTheRootWithTitlesCountsAndTool
 {
     Shown<CodingConventionsView> s;
     const auto all = s.lists().CodingConventions();
-    EXPECT_EQ(s.form.treeTitle, QStringLiteral(" Coding Conventions"));
-    EXPECT_EQ(s.form.listTitle, QStringLiteral(" Parser Event [All Items]"));
-    EXPECT_EQ(s.form.treeControl.imageList(), QStringLiteral("ilsEventTree"));
-    EXPECT_EQ(s.form.listControl.imageList(), QStringLiteral("ilsSeverity"));
     ASSERT_EQ(s.form.treeControl.count(), 38);
     EXPECT_EQ(s.form.treeControl.text(1), "Project (" + QString::number(all->Count()) + ")");
     EXPECT_EQ(s.form.listControl.count(), all->Count());
-    EXPECT_EQ(s.form.listControl.columnHeader(4), QStringLiteral("Impact"));
     EXPECT_EQ(s.form.listControl.columnAlignment(4), ColumnAlignment::Right);
     EXPECT_EQ(s.form.listControl.columnIcon(1), QStringLiteral("SortAscending"));
     EXPECT_EQ(s.form.statusText, s.status(all->Count(), inactiveIn(s.lists())));
-    EXPECT_EQ(s.form.documentation, QStringLiteral("Add one or more coding conventions."));
     EXPECT_EQ(s.form.listControl.selectedItem(), 1);
     EXPECT_FALSE(s.form.noItemsVisible);
     for (const char *tool :
@@ -292,12 +286,9 @@ TEST(NamingConventionsView, ShowsConventionsByObjectAndMovesThemWhenTheirObjectC
     Shown<NamingConventionsView> s;
     const auto all = s.lists().NamingConventions();
     ASSERT_GT(all->Count(), 0);
-    EXPECT_EQ(s.form.treeTitle, QStringLiteral(" Naming Conventions"));
-    EXPECT_EQ(s.form.listTitle, QStringLiteral(" Object [All Items]"));
     ASSERT_EQ(s.form.treeControl.count(), 42);
     EXPECT_EQ(s.form.treeControl.text(1), "Objects (" + QString::number(all->Count()) + ")");
     EXPECT_EQ(s.form.listControl.count(), all->Count());
-    EXPECT_EQ(s.form.documentation, QStringLiteral("Add one or more naming conventions."));
 
     const auto first = all->Item(1);
     const qint32 object = first->ObjectType();
@@ -319,16 +310,6 @@ TEST(NamingConventionsView, ShowsConventionsByObjectAndMovesThemWhenTheirObjectC
     EXPECT_EQ(s.lists().GetNCObjectRuleCount(object), count - 1);
 }
 
-TEST(NamingConventionsView, ObjectDescriptionsAndTheirUnknownCase)
-{
-    EXPECT_EQ(NamingConventionsView::ObjectDescription(6),
-              QStringLiteral("Add naming conventions applicable to controls."));
-    EXPECT_EQ(NamingConventionsView::ObjectDescription(49),
-              QStringLiteral("Add naming conventions applicable to non-MDI form source files."));
-    EXPECT_EQ(NamingConventionsView::ObjectDescription(2),
-              QStringLiteral("Add naming conventions applicable to ."));
-}
-
 TEST(CategoryView, ArrangesEveryRuleByCategoryWithAnUnallocatedNode)
 {
     Shown<CategoryView> s;
@@ -336,9 +317,7 @@ TEST(CategoryView, ArrangesEveryRuleByCategoryWithAnUnallocatedNode)
     const auto all = s.lists().AllConventions();
     ASSERT_EQ(s.form.treeControl.count(), categories.Count() + 2);
     EXPECT_EQ(s.form.treeControl.key(s.form.treeControl.count()), QStringLiteral("-1K"));
-    EXPECT_EQ(s.form.treeTitle, QStringLiteral(" Conventions by Category"));
     EXPECT_EQ(s.form.listControl.count(), all->Count());
-    EXPECT_EQ(s.form.documentation, QStringLiteral("Arrange conventions by category."));
 
     const auto category = categories.Item(1);
     int inCategory = 0;
@@ -401,9 +380,7 @@ TEST(SeverityView, ArrangesEveryRuleBySeverityAndFollowsSeverityEdits)
     const auto severities = s.rulebase->SeverityList();
     const auto all = s.lists().AllConventions();
     ASSERT_EQ(s.form.treeControl.count(), severities->Count() + 1);
-    EXPECT_EQ(s.form.treeTitle, QStringLiteral(" Conventions by Severity"));
     EXPECT_EQ(s.form.listControl.count(), all->Count());
-    EXPECT_EQ(s.form.documentation, QStringLiteral("Arrange conventions by severity."));
 
     const auto severity = severities->Item(1);
     int atLevel = 0;
