@@ -17,6 +17,8 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Runs the wizard as a person would, through the form's own buttons.
@@ -46,17 +48,17 @@ protected:
     {
         TestEnvironment::clearSettings();
         ASSERT_EQ(CreateGlobalObjects(), 0);
-        gobjAdminData->setLastCompanyName(QStringLiteral("Harbour Lines"));
+        gobjAdminData->setLastCompanyName(u"Harbour Lines"_s);
         folder = TestEnvironment::makeTempDir();
-        const QString rulebaseFile = folder + QStringLiteral("/Sample.qrb");
+        const QString rulebaseFile = folder + u"/Sample.qrb"_s;
         ASSERT_TRUE(QFile::copy(TestEnvironment::sampleRulebase(), rulebaseFile));
         QFile::setPermissions(rulebaseFile, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
         ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, rulebaseFile));
-        document = folder + QStringLiteral("/Sample.html");
+        document = folder + u"/Sample.html"_s;
     }
     void TearDown() override { DestroyGlobalObjects(); }
 
-    const QString question = QStringLiteral("Do you wish to generate the Rulebase documentation?");
+    const QString question = u"Do you wish to generate the Rulebase documentation?"_s;
     ScriptedUserInterface ui;
     ScriptedDocFactory factory;
     MemoryMainForm window;
@@ -142,8 +144,8 @@ TEST_F(GenerateDocumentationTest, AnUnwritableFolderIsReportedAndNothingOpens)
     app.GenerateDocumentation();
     TestEnvironment::makeWritable(folder);
     ASSERT_EQ(ui.messages.size(), 2u);
-    EXPECT_EQ(ui.messages[1].title, QStringLiteral("Quorin Unexpected Error"));
-    EXPECT_TRUE(ui.messages[1].text.contains(QStringLiteral("Can't write the document")));
+    EXPECT_EQ(ui.messages[1].title, u"Quorin Unexpected Error"_s);
+    EXPECT_TRUE(ui.messages[1].text.contains(u"Can't write the document"_s));
     EXPECT_TRUE(ui.opened.isEmpty());
     EXPECT_EQ(window.busyCalls, (std::vector<bool>{true, false}));
 }

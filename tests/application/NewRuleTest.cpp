@@ -11,8 +11,8 @@
 #include "rulebase/CodingConvention.h"
 #include "rulebase/NamingConvention.h"
 #include "rulebase/RuleLists.h"
-#include "rulebase/SeverityItem.h"
 #include "rulebase/Rulebase.h"
+#include "rulebase/SeverityItem.h"
 #include "rulebase/UnauthorisedKeyword.h"
 #include "rulebase/ViolationDefinition.h"
 #include "views/IRuleEditorLauncher.h"
@@ -27,6 +27,8 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -148,7 +150,7 @@ TEST_F(NewRuleTest, PreselectsFromTheSelectedNodeOfEachView)
     clickNode("30Key");
     EXPECT_EQ(app->NewCodingConvention(cancelled), nullptr);
     EXPECT_TRUE(cancelled);
-    EXPECT_EQ(forms.eventsAtShow, QStringLiteral("30"));
+    EXPECT_EQ(forms.eventsAtShow, u"30"_s);
     EXPECT_EQ(forms.categoryAtShow, -1);
     EXPECT_EQ(forms.lastApplication, app.get());
     app->NewNamingConvention(cancelled);
@@ -273,7 +275,7 @@ TEST_F(NewRuleTest, OpeningARuleGoesThroughItsDialogAndKeepsTheEventIndexes)
     EXPECT_EQ(forms.created, QList<qint32>{4});
     const int row = form.listControl.find(rule->RuleKey());
     ASSERT_NE(row, 0);
-    EXPECT_EQ(form.listControl.subItemText(row, 1), QStringLiteral("Renamed"));
+    EXPECT_EQ(form.listControl.subItemText(row, 1), u"Renamed"_s);
 }
 
 // The launcher the Application installs also carries the views' category and severity edits.
@@ -286,13 +288,13 @@ TEST(FormLauncher, CategoryAndSeverityEditsRunTheirEditorsAndWriteOnlyOnOK)
         ~Editors() override { install(nullptr); }
         bool runCategoryEditor(CategoryEditorForm &form) override
         {
-            form.setTitle(QStringLiteral("Layout"));
-            form.setDescription(QStringLiteral("Indentation and spacing"));
+            form.setTitle(u"Layout"_s);
+            form.setDescription(u"Indentation and spacing"_s);
             return confirm ? form.OK() : (form.Cancel(), false);
         }
         bool runSeverityEditor(SeverityEditorForm &form) override
         {
-            form.setTitle(QStringLiteral("Blocking"));
+            form.setTitle(u"Blocking"_s);
             return confirm ? form.OK() : (form.Cancel(), false);
         }
         bool confirm = false;
@@ -302,21 +304,21 @@ TEST(FormLauncher, CategoryAndSeverityEditsRunTheirEditorsAndWriteOnlyOnOK)
     Application app(&form);
     IRuleEditorLauncher &launcher = IRuleEditorLauncher::current();
     auto category = std::make_shared<CategoryItem>();
-    category->setTitle(QStringLiteral("Old"));
-    category->setDescription(QStringLiteral("Old text"));
+    category->setTitle(u"Old"_s);
+    category->setDescription(u"Old text"_s);
     auto severity = std::make_shared<SeverityItem>();
-    severity->setTitle(QStringLiteral("High"));
-    severity->setDescription(QStringLiteral("Fix before release"));
+    severity->setTitle(u"High"_s);
+    severity->setDescription(u"Fix before release"_s);
 
     EXPECT_FALSE(launcher.EditCategory(category));
     EXPECT_FALSE(launcher.EditSeverity(severity));
-    EXPECT_EQ(category->Title(), QStringLiteral("Old"));
-    EXPECT_EQ(severity->Title(), QStringLiteral("High"));
+    EXPECT_EQ(category->Title(), u"Old"_s);
+    EXPECT_EQ(severity->Title(), u"High"_s);
 
     editors.confirm = true;
     EXPECT_TRUE(launcher.EditCategory(category));
     EXPECT_TRUE(launcher.EditSeverity(severity));
-    EXPECT_EQ(category->Title(), QStringLiteral("Layout"));
-    EXPECT_EQ(category->Description(), QStringLiteral("Indentation and spacing"));
-    EXPECT_EQ(severity->Title(), QStringLiteral("Blocking"));
+    EXPECT_EQ(category->Title(), u"Layout"_s);
+    EXPECT_EQ(category->Description(), u"Indentation and spacing"_s);
+    EXPECT_EQ(severity->Title(), u"Blocking"_s);
 }

@@ -21,6 +21,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Commands
@@ -28,12 +30,13 @@ struct Commands
     Commands()
         : app(&window, RecordingView::factory(&calls))
     {
-        EXPECT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, TestEnvironment::sampleRulebase()));
+        EXPECT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine,
+                                     TestEnvironment::sampleRulebase()));
         rulebase = app.rulebase();
         calls.clear();
     }
     // What the views were told of the category and severity lists.
-    QStringList viewCalls() const { return calls.filter(QStringLiteral("ListChanged")); }
+    QStringList viewCalls() const { return calls.filter(u"ListChanged"_s); }
 
     ScriptedUserInterface ui;
     RulebaseFormScripts scripts;
@@ -71,8 +74,8 @@ TEST(RulebaseDialogCommands, TheCategoryListSortsAndTellsTheViewOnlyWhenSomethin
     EXPECT_FALSE(c.rulebase->Dirty());
 
     c.scripts.categoryEditor = [](CategoryEditorForm &editor) {
-        editor.setTitle(QStringLiteral("aaa first"));
-        editor.setDescription(QStringLiteral("d"));
+        editor.setTitle(u"aaa first"_s);
+        editor.setDescription(u"d"_s);
         return editor.OK();
     };
     c.scripts.categorySeverity = [](CategorySeverityForm &form) {
@@ -80,8 +83,8 @@ TEST(RulebaseDialogCommands, TheCategoryListSortsAndTellsTheViewOnlyWhenSomethin
         return form.RequestClose();
     };
     c.app.ShowCategoryList();
-    EXPECT_EQ(c.viewCalls(), QStringList{QStringLiteral("CategoryListChanged")});
-    EXPECT_EQ(categories->Item(1)->Title(), QStringLiteral("aaa first"));
+    EXPECT_EQ(c.viewCalls(), QStringList{u"CategoryListChanged"_s});
+    EXPECT_EQ(categories->Item(1)->Title(), u"aaa first"_s);
     QStringList sorted = categoryTitles(*categories);
     std::sort(sorted.begin(), sorted.end(), [](const QString &a, const QString &b) {
         return a.compare(b, Qt::CaseInsensitive) < 0;
@@ -102,7 +105,7 @@ TEST(RulebaseDialogCommands, TheCategoryListDeletesWithTheRulebaseSet)
     c.app.ShowCategoryList();
     EXPECT_FALSE(c.rulebase->CategoryList()->ContainsID(id));
     EXPECT_EQ(c.rulebase->RuleLists()->ConventionsListByCatID(id)->Count(), 0);
-    EXPECT_EQ(c.viewCalls(), QStringList{QStringLiteral("CategoryListChanged")});
+    EXPECT_EQ(c.viewCalls(), QStringList{u"CategoryListChanged"_s});
 }
 
 TEST(RulebaseDialogCommands, TheSeverityListTellsTheViewAndKeepsTheEditFromBeingLost)
@@ -118,7 +121,7 @@ TEST(RulebaseDialogCommands, TheSeverityListTellsTheViewAndKeepsTheEditFromBeing
 
     c.scripts.severityEditor = [](SeverityEditorForm &editor) {
         editor.Load();
-        editor.setTitle(QStringLiteral("Grave"));
+        editor.setTitle(u"Grave"_s);
         return editor.OK();
     };
     c.scripts.categorySeverity = [](CategorySeverityForm &form) {
@@ -127,8 +130,8 @@ TEST(RulebaseDialogCommands, TheSeverityListTellsTheViewAndKeepsTheEditFromBeing
     };
     const QString firstCategory = c.rulebase->CategoryList()->Item(1)->Title();
     c.app.ShowSeverityList();
-    EXPECT_EQ(c.viewCalls(), QStringList{QStringLiteral("SeverityListChanged")});
-    EXPECT_EQ(c.rulebase->SeverityList()->Item(1)->Title(), QStringLiteral("Grave"));
+    EXPECT_EQ(c.viewCalls(), QStringList{u"SeverityListChanged"_s});
+    EXPECT_EQ(c.rulebase->SeverityList()->Item(1)->Title(), u"Grave"_s);
     EXPECT_EQ(c.rulebase->CategoryList()->Item(1)->Title(), firstCategory);
     EXPECT_TRUE(c.rulebase->Dirty());
 }
@@ -138,7 +141,7 @@ TEST(RulebaseDialogCommands, DefaultViolationsChangedAloneMarkTheRulebaseSoNewAs
     Commands c;
     // Cancelled, nothing is marked.
     c.scripts.defaultViolations = [](DefaultViolationsForm &form) {
-        form.setAdvice(QStringLiteral("Dropped."));
+        form.setAdvice(u"Dropped."_s);
         form.Cancel();
         return false;
     };
@@ -147,12 +150,12 @@ TEST(RulebaseDialogCommands, DefaultViolationsChangedAloneMarkTheRulebaseSoNewAs
 
     c.scripts.defaultViolations = [](DefaultViolationsForm &form) {
         EXPECT_EQ(form.CurrentType(), 1);
-        form.setAdvice(QStringLiteral("Remove it."));
+        form.setAdvice(u"Remove it."_s);
         form.OK();
         return true;
     };
     c.app.ShowDefaultViolations();
-    EXPECT_EQ(c.rulebase->DefaultViolations()->ItemByType(1)->Advice(), QStringLiteral("Remove it."));
+    EXPECT_EQ(c.rulebase->DefaultViolations()->ItemByType(1)->Advice(), u"Remove it."_s);
     EXPECT_TRUE(c.rulebase->Dirty());
     c.ui.answers = {MessageResult::Cancel};
     c.app.NewRulebase();
@@ -168,7 +171,7 @@ TEST(RulebaseDialogCommands, RulebasePropertiesWriteOnOKOnly)
     const QString title = c.rulebase->Title();
     c.scripts.rulebaseProperties = [&](RulebasePropertiesForm &form) {
         EXPECT_EQ(form.Title(), title);
-        form.setTitle(QStringLiteral("Elsewhere"));
+        form.setTitle(u"Elsewhere"_s);
         form.Cancel();
         return false;
     };
@@ -177,45 +180,45 @@ TEST(RulebaseDialogCommands, RulebasePropertiesWriteOnOKOnly)
     EXPECT_FALSE(c.rulebase->Dirty());
 
     c.scripts.rulebaseProperties = [](RulebasePropertiesForm &form) {
-        form.setTitle(QStringLiteral("Elsewhere"));
+        form.setTitle(u"Elsewhere"_s);
         return form.OK();
     };
     c.app.ShowRulebasePropertiesDialog();
-    EXPECT_EQ(c.rulebase->Title(), QStringLiteral("Elsewhere"));
+    EXPECT_EQ(c.rulebase->Title(), u"Elsewhere"_s);
     EXPECT_TRUE(c.rulebase->Dirty());
 }
 
 TEST(RulebaseDialogCommands, TagListsCopyBackOnlyWhatChanged)
 {
     Commands c;
-    c.rulebase->setArrayTag(QStringLiteral("a"));
+    c.rulebase->setArrayTag(u"a"_s);
     c.rulebase->setUnknownControlViolation(false);
     c.rulebase->setDirty(false);
 
     // A change of case alone is not taken over, and the rulebase stays clean.
     c.scripts.tagList = [](TagListForm &form) {
         EXPECT_EQ(form.TagType(), 2);
-        EXPECT_EQ(form.ArrayTag(), QStringLiteral("a"));
-        form.setArrayTag(QStringLiteral("A"));
+        EXPECT_EQ(form.ArrayTag(), u"a"_s);
+        form.setArrayTag(u"A"_s);
         return form.OK();
     };
     c.app.ShowTagList(2);
-    EXPECT_EQ(c.rulebase->ArrayTag(), QStringLiteral("a"));
+    EXPECT_EQ(c.rulebase->ArrayTag(), u"a"_s);
     EXPECT_FALSE(c.rulebase->Dirty());
 
     c.scripts.tagList = [](TagListForm &form) {
-        form.setArrayTag(QStringLiteral("arr"));
+        form.setArrayTag(u"arr"_s);
         form.setOption(true);
         return form.OK();
     };
     c.app.ShowTagList(2);
-    EXPECT_EQ(c.rulebase->ArrayTag(), QStringLiteral("arr"));
+    EXPECT_EQ(c.rulebase->ArrayTag(), u"arr"_s);
     EXPECT_TRUE(c.rulebase->UseCTagsAsDTTags());
     c.rulebase->setDirty(false);
 
     // A cancelled control set keeps the option and its row.
     c.scripts.tagList = [](TagListForm &form) {
-        EXPECT_EQ(form.Caption(), QStringLiteral("Control Tags"));
+        EXPECT_EQ(form.Caption(), u"Control Tags"_s);
         form.setOption(true);
         form.Cancel();
         return false;

@@ -5,15 +5,16 @@
 #include <QDir>
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString firstError(const QStringList &lines)
 {
     BasicSyntaxChecker checker;
     if (checker.check(script(lines)))
-        return QStringLiteral("OK");
-    return QStringLiteral("%1:%2 %3")
-        .arg(checker.errorLine())
+        return u"OK"_s;
+    return u"%1:%2 %3"_s.arg(checker.errorLine())
         .arg(checker.errorColumn())
         .arg(checker.errorText());
 }
@@ -246,20 +247,18 @@ TEST(BasicParser, AcceptsEveryConstructOfTheDialect)
 TEST(BasicParser, OperatorsBindByPrecedence)
 {
     const auto tree = BasicSyntaxChecker::expressionTree;
-    EXPECT_EQ(tree(QStringLiteral("a Or b And Not c = d ^ -e")),
-              QStringLiteral("(a Or (b And (Not (c = (d ^ (-e))))))"));
-    EXPECT_EQ(tree(QStringLiteral("-a ^ b * c")), QStringLiteral("((-(a ^ b)) * c)"));
-    EXPECT_EQ(tree(QStringLiteral("a * b / c \\ d Mod e + f - g & h")),
-              QStringLiteral("(((((((a * b) / c) \\ d) Mod e) + f) - g) & h)"));
-    EXPECT_EQ(tree(QStringLiteral("a & b = c Like d")), QStringLiteral("(((a & b) = c) Like d)"));
-    EXPECT_EQ(tree(QStringLiteral("a Imp b Eqv c Xor d Or e")),
-              QStringLiteral("(a Imp (b Eqv (c Xor (d Or e))))"));
-    EXPECT_EQ(tree(QStringLiteral("(a Or b) And c")), QStringLiteral("((a Or b) And c)"));
-    EXPECT_EQ(tree(QStringLiteral("a - -b * c")), QStringLiteral("(a - ((-b) * c))"));
-    EXPECT_EQ(tree(QStringLiteral("x.y(1, , z:=2).w")), QStringLiteral("x.y(1, , z:=2).w"));
-    EXPECT_EQ(tree(QStringLiteral("x Is Nothing")), QStringLiteral("(x Is Nothing)"));
-    EXPECT_EQ(tree(QStringLiteral("a +")), QString());
-    EXPECT_EQ(tree(QStringLiteral("a b")), QString());
+    EXPECT_EQ(tree(u"a Or b And Not c = d ^ -e"_s), u"(a Or (b And (Not (c = (d ^ (-e))))))"_s);
+    EXPECT_EQ(tree(u"-a ^ b * c"_s), u"((-(a ^ b)) * c)"_s);
+    EXPECT_EQ(tree(u"a * b / c \\ d Mod e + f - g & h"_s),
+              u"(((((((a * b) / c) \\ d) Mod e) + f) - g) & h)"_s);
+    EXPECT_EQ(tree(u"a & b = c Like d"_s), u"(((a & b) = c) Like d)"_s);
+    EXPECT_EQ(tree(u"a Imp b Eqv c Xor d Or e"_s), u"(a Imp (b Eqv (c Xor (d Or e))))"_s);
+    EXPECT_EQ(tree(u"(a Or b) And c"_s), u"((a Or b) And c)"_s);
+    EXPECT_EQ(tree(u"a - -b * c"_s), u"(a - ((-b) * c))"_s);
+    EXPECT_EQ(tree(u"x.y(1, , z:=2).w"_s), u"x.y(1, , z:=2).w"_s);
+    EXPECT_EQ(tree(u"x Is Nothing"_s), u"(x Is Nothing)"_s);
+    EXPECT_EQ(tree(u"a +"_s), QString());
+    EXPECT_EQ(tree(u"a b"_s), QString());
 }
 
 TEST(BasicParser, PlacesEachErrorWhereABasicIdeWould)
@@ -419,7 +418,7 @@ TEST(BasicParser, ConditionalCompilationFollowsTheConstants)
                                  "End Sub"});
     EXPECT_EQ(errorsOf(text),
               (QStringList{"5:8 Expected: expression", "12:8 Expected: expression"}));
-    const QString leftOut = QStringLiteral(" (in code that #If leaves out)");
+    const QString leftOut = u" (in code that #If leaves out)"_s;
     EXPECT_EQ(warningsOf(text),
               (QStringList{"7:8 Expected: expression" + leftOut,
                            "10:8 Expected: expression" + leftOut,
@@ -452,7 +451,7 @@ TEST(BasicParser, ChecksLargeScriptsInOnePass)
         lines << QStringLiteral("  If total Mod %1 = 0 Then total = total + Len(\"x\") Else "
                                 "total = total - 1")
                      .arg(i + 1);
-    lines << QStringLiteral("End Sub");
+    lines << u"End Sub"_s;
     BasicSyntaxChecker checker;
     EXPECT_TRUE(checker.check(script(lines)));
     EXPECT_GT(checker.tokens().size(), 40000u);
@@ -461,8 +460,8 @@ TEST(BasicParser, ChecksLargeScriptsInOnePass)
 // Whole modules in the styles administrators paste from: each must pass without an error.
 TEST(BasicParser, AcceptsEveryModuleOfTheCorpus)
 {
-    const QDir dir(TestEnvironment::sourceDir() + QStringLiteral("/tests/basic/procedures"));
-    const QStringList names = dir.entryList({QStringLiteral("*.bas")}, QDir::Files, QDir::Name);
+    const QDir dir(TestEnvironment::sourceDir() + u"/tests/basic/procedures"_s);
+    const QStringList names = dir.entryList({u"*.bas"_s}, QDir::Files, QDir::Name);
     EXPECT_GE(names.size(), 10);
     for (const QString &name : names) {
         QFile file(dir.filePath(name));

@@ -3,6 +3,8 @@
 #include "basic/ConditionRules.h"
 #include "rulebase/IRule.h"
 
+using namespace Qt::StringLiterals;
+
 using namespace ConditionRules;
 
 namespace {
@@ -20,23 +22,23 @@ TEST(ConditionRules, OnlyTheBareSubMainLineMayStartAProcedure)
     EXPECT_TRUE(ContainsMethods(script({"Sub Main()", "End Sub"})));
     EXPECT_TRUE(ContainsMethods(script({"Sub Main ", "End Sub"})));
     EXPECT_TRUE(ContainsMethods(script({"Sub Main", "End Sub", "Function Foo", "End Function"})));
-    EXPECT_TRUE(ContainsMethods(QStringLiteral("Private Sub Foo")));
-    EXPECT_TRUE(ContainsMethods(QStringLiteral("Public Property Get X")));
-    EXPECT_TRUE(ContainsMethods(QStringLiteral("Friend Function F")));
-    EXPECT_TRUE(ContainsMethods(QStringLiteral("Property Let X(v)")));
+    EXPECT_TRUE(ContainsMethods(u"Private Sub Foo"_s));
+    EXPECT_TRUE(ContainsMethods(u"Public Property Get X"_s));
+    EXPECT_TRUE(ContainsMethods(u"Friend Function F"_s));
+    EXPECT_TRUE(ContainsMethods(u"Property Let X(v)"_s));
     // The pattern is case-sensitive and anchored at the line start.
-    EXPECT_FALSE(ContainsMethods(QStringLiteral("sub helper")));
-    EXPECT_FALSE(ContainsMethods(QStringLiteral("  Sub Helper")));
-    EXPECT_FALSE(ContainsMethods(QStringLiteral("Subtotal = 1")));
+    EXPECT_FALSE(ContainsMethods(u"sub helper"_s));
+    EXPECT_FALSE(ContainsMethods(u"  Sub Helper"_s));
+    EXPECT_FALSE(ContainsMethods(u"Subtotal = 1"_s));
     // Any line end splits lines, not only CR LF.
-    EXPECT_FALSE(ContainsMethods(QStringLiteral("Sub Main\nEnd Sub")));
-    EXPECT_TRUE(ContainsMethods(QStringLiteral("Sub Main\nSub Foo")));
+    EXPECT_FALSE(ContainsMethods(u"Sub Main\nEnd Sub"_s));
+    EXPECT_TRUE(ContainsMethods(u"Sub Main\nSub Foo"_s));
 }
 
 TEST(ConditionRules, ANamingConditionMustApplyItsConvention)
 {
     EXPECT_TRUE(ValidNamingConvention(QString()));
-    EXPECT_TRUE(ValidNamingConvention(QStringLiteral("' quorin.applyconvention")));
+    EXPECT_TRUE(ValidNamingConvention(u"' quorin.applyconvention"_s));
     EXPECT_FALSE(ValidNamingConvention(script({"Sub Main", "End Sub"})));
 }
 

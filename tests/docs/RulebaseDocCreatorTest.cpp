@@ -21,6 +21,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 using namespace DocTestSupport;
 using TestEnvironment::readFile;
 
@@ -38,9 +40,8 @@ QString writeDocument(const Rulebase &rulebase)
 
 QString expectedDocument(const QString &name)
 {
-    QString text = readDocument(TestEnvironment::sourceDir()
-                                + QStringLiteral("/tests/docs/expected/") + name);
-    return text.replace(QStringLiteral("{DATE}"),
+    QString text = readDocument(TestEnvironment::sourceDir() + u"/tests/docs/expected/"_s + name);
+    return text.replace(u"{DATE}"_s,
                         QLocale::system().toString(publishedDate(), QLocale::LongFormat));
 }
 
@@ -64,16 +65,15 @@ protected:
 TEST_F(RulebaseDocCreatorTest, WritesTheSmallRulebaseLineForLine)
 {
     const QString filename = writeDocument(*rulebase);
-    ASSERT_EQ(filename, folder + QStringLiteral("/Depot.html"));
+    ASSERT_EQ(filename, folder + u"/Depot.html"_s);
 
     const QByteArray bytes = readFile(filename);
     // Every line ends in CR LF, and no bare LF hides anywhere.
     EXPECT_TRUE(bytes.endsWith("</html>\r\n"));
     EXPECT_EQ(bytes.count("\n"), bytes.count("\r\n"));
 
-    const QStringList actual = readDocument(filename).split(QStringLiteral("\r\n"));
-    const QStringList expected
-        = expectedDocument(QStringLiteral("SmallDocument.html")).split(QStringLiteral("\r\n"));
+    const QStringList actual = readDocument(filename).split(u"\r\n"_s);
+    const QStringList expected = expectedDocument(u"SmallDocument.html"_s).split(u"\r\n"_s);
     ASSERT_FALSE(expected.isEmpty());
     for (qsizetype i = 0; i < std::min(actual.size(), expected.size()); ++i)
         ASSERT_EQ(actual.at(i), expected.at(i)) << "line " << i + 1;
@@ -83,14 +83,11 @@ TEST_F(RulebaseDocCreatorTest, WritesTheSmallRulebaseLineForLine)
 
 TEST(RulebaseDocCreatorName, NamesTheDocumentAfterTheRulebase)
 {
-    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team.qrb")),
-              QStringLiteral("/data/Team.html"));
-    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team.v2.qrb")),
-              QStringLiteral("/data/Team.v2.html"));
-    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team.")),
-              QStringLiteral("/data/Team.html"));
-    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team")),
-              QStringLiteral("/data/Team"));
+    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(u"/data/Team.qrb"_s), u"/data/Team.html"_s);
+    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(u"/data/Team.v2.qrb"_s),
+              u"/data/Team.v2.html"_s);
+    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(u"/data/Team."_s), u"/data/Team.html"_s);
+    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(u"/data/Team"_s), u"/data/Team"_s);
     EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QString()), QString());
 }
 
@@ -98,43 +95,39 @@ TEST_F(RulebaseDocCreatorTest, NeverWritesOverTheRulebaseItselfNorWithoutAFile)
 {
 
     // A rulebase file without a point would be its own document.
-    const QString bare = folder + QStringLiteral("/Standards");
+    const QString bare = folder + u"/Standards"_s;
     TestEnvironment::writeFile(bare, "<Quorin_Rulebase/>");
     rulebase->setFilename(bare);
     EXPECT_TRUE(writeDocument(*rulebase).isEmpty());
     EXPECT_EQ(readFile(bare), QByteArray("<Quorin_Rulebase/>"));
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_TRUE(
-        ui.messages.back().text.contains(QStringLiteral("would replace the rulebase itself")));
+    EXPECT_TRUE(ui.messages.back().text.contains(u"would replace the rulebase itself"_s));
 
     // An unsaved rulebase has no place for its document.
     rulebase->setFilename(QString());
     EXPECT_TRUE(writeDocument(*rulebase).isEmpty());
     ASSERT_EQ(ui.messages.size(), 2u);
-    EXPECT_TRUE(ui.messages.back().text.contains(QStringLiteral("Save it first")));
+    EXPECT_TRUE(ui.messages.back().text.contains(u"Save it first"_s));
 }
 
 TEST_F(RulebaseDocCreatorTest, AnEmptyPlanGivesTitleContentsAndFooter)
 {
     rulebase->Report()->Sections()->Clear();
     const QString text = readDocument(writeDocument(*rulebase));
-    EXPECT_TRUE(text.contains(QStringLiteral("<h2>Tarnwick Freight</h2>")));
-    EXPECT_TRUE(
-        text.contains(QStringLiteral("            <ul type=\"square\">\r\n            </ul>\r\n")));
-    EXPECT_TRUE(
-        text.contains(QStringLiteral("\u00A9 2024 Tarnwick Freight. All rights reserved.")));
-    EXPECT_FALSE(text.contains(QStringLiteral("Page Body Table")));
-    EXPECT_FALSE(text.contains(QStringLiteral("<!-- Category:")));
-    EXPECT_TRUE(text.endsWith(
-        QStringLiteral("<!-- End Of Footer Table -->\r\n\r\n\r\n</body>\r\n</html>\r\n")));
+    EXPECT_TRUE(text.contains(u"<h2>Tarnwick Freight</h2>"_s));
+    EXPECT_TRUE(text.contains(u"            <ul type=\"square\">\r\n            </ul>\r\n"_s));
+    EXPECT_TRUE(text.contains(u"\u00A9 2024 Tarnwick Freight. All rights reserved."_s));
+    EXPECT_FALSE(text.contains(u"Page Body Table"_s));
+    EXPECT_FALSE(text.contains(u"<!-- Category:"_s));
+    EXPECT_TRUE(text.endsWith(u"<!-- End Of Footer Table -->\r\n\r\n\r\n</body>\r\n</html>\r\n"_s));
 }
 
 TEST_F(RulebaseDocCreatorTest, CopiesTextsAsTheyStandAndEncodesWhatTheCodePageLacks)
 {
     const auto page
         = std::dynamic_pointer_cast<CategoryItem>(rulebase->Report()->Sections()->Item(1));
-    page->setTitle(QStringLiteral("Z\u00FCrich & <Co>"));
-    rulebase->setDescription(QStringLiteral("Costs \u20AC; \u6F22 and \U0001F600."));
+    page->setTitle(u"Z\u00FCrich & <Co>"_s);
+    rulebase->setDescription(u"Costs \u20AC; \u6F22 and \U0001F600."_s);
     const auto rule = page->CategoryRules()->Item(2);
     rule->setRuleID(12345);
     const auto first = page->CategoryRules()->Item(1);
@@ -158,11 +151,10 @@ TEST_F(RulebaseDocCreatorTest, CopiesTextsAsTheyStandAndEncodesWhatTheCodePageLa
 TEST_F(RulebaseDocCreatorTest, SortsTheTagSetsInPlaceButNotTheAuthorisedItems)
 {
     ASSERT_FALSE(writeDocument(*rulebase).isEmpty());
-    EXPECT_EQ(rulebase->ControlTags()->Key(1), QStringLiteral("VB.CommandButton"));
-    EXPECT_EQ(rulebase->DataTypeTags()->Key(1), QStringLiteral("Long"));
-    EXPECT_EQ(rulebase->ScopeTags()->Key(1), QStringLiteral("Module"));
-    EXPECT_EQ(rulebase->AuthorisedComponents()->Item(1)->Filename(),
-              QStringLiteral("mscomctl.ocx"));
+    EXPECT_EQ(rulebase->ControlTags()->Key(1), u"VB.CommandButton"_s);
+    EXPECT_EQ(rulebase->DataTypeTags()->Key(1), u"Long"_s);
+    EXPECT_EQ(rulebase->ScopeTags()->Key(1), u"Module"_s);
+    EXPECT_EQ(rulebase->AuthorisedComponents()->Item(1)->Filename(), u"mscomctl.ocx"_s);
 }
 
 TEST_F(RulebaseDocCreatorTest, RepeatedSectionsAndAnchorsAreWrittenAsTheyCome)
@@ -171,12 +163,12 @@ TEST_F(RulebaseDocCreatorTest, RepeatedSectionsAndAnchorsAreWrittenAsTheyCome)
     // The scope table twice, and a category whose title differs from another only by blanks.
     sections.Add(sections.Item(6));
     const auto twin = std::make_shared<CategoryItem>();
-    twin->setTitle(QStringLiteral("Error_Handling"));
+    twin->setTitle(u"Error_Handling"_s);
     twin->setID(40);
     sections.Add(twin);
     const QString text = readDocument(writeDocument(*rulebase));
-    EXPECT_EQ(text.count(QStringLiteral("id=\"scope_tags_page\"")), 2);
-    EXPECT_EQ(text.count(QStringLiteral("id=\"category_Error_Handling\"")), 2);
+    EXPECT_EQ(text.count(u"id=\"scope_tags_page\""_s), 2);
+    EXPECT_EQ(text.count(u"id=\"category_Error_Handling\""_s), 2);
 }
 
 TEST_F(RulebaseDocCreatorTest, AFolderThatCannotBeWrittenLeavesTheOldDocument)
@@ -187,7 +179,7 @@ TEST_F(RulebaseDocCreatorTest, AFolderThatCannotBeWrittenLeavesTheOldDocument)
 
     if (!TestEnvironment::makeReadOnly(folder))
         GTEST_SKIP() << "no way to make a folder read-only here";
-    rulebase->setTitle(QStringLiteral("Changed Title"));
+    rulebase->setTitle(u"Changed Title"_s);
     RulebaseDocCreator writer;
     writer.setOrganisation(organisation());
     QString second;
@@ -198,10 +190,9 @@ TEST_F(RulebaseDocCreatorTest, AFolderThatCannotBeWrittenLeavesTheOldDocument)
     EXPECT_EQ(second, filename);
     EXPECT_EQ(readFile(filename), before);
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Unexpected Error"));
-    EXPECT_TRUE(
-        ui.messages[0].text.contains(QStringLiteral("Can't write the document '") + filename));
-    EXPECT_TRUE(ui.messages[0].text.contains(QStringLiteral("module clsStandardsDocCreator")));
+    EXPECT_EQ(ui.messages[0].title, u"Quorin Unexpected Error"_s);
+    EXPECT_TRUE(ui.messages[0].text.contains(u"Can't write the document '"_s + filename));
+    EXPECT_TRUE(ui.messages[0].text.contains(u"module clsStandardsDocCreator"_s));
 }
 
 TEST_F(RulebaseDocCreatorTest, TakesTheRememberedOrganisationOrAsksOnce)
@@ -211,19 +202,18 @@ TEST_F(RulebaseDocCreatorTest, TakesTheRememberedOrganisationOrAsksOnce)
     // Declined: nothing is written and nothing remembered.
     gobjAdminData->setLastCompanyName(QString());
     EXPECT_FALSE(RulebaseDocCreator().CreateDocumentation(*rulebase, filename));
-    EXPECT_FALSE(QFile::exists(folder + QStringLiteral("/Depot.html")));
+    EXPECT_FALSE(QFile::exists(folder + u"/Depot.html"_s));
     EXPECT_EQ(ui.textPrompts.size(), 1);
 
-    ui.textAnswers.push_back(QStringLiteral("  Harbour Lines  "));
+    ui.textAnswers.push_back(u"  Harbour Lines  "_s);
     EXPECT_TRUE(RulebaseDocCreator().CreateDocumentation(*rulebase, filename));
-    EXPECT_EQ(gobjAdminData->LastCompanyName(), QStringLiteral("Harbour Lines"));
-    EXPECT_TRUE(readDocument(filename).contains(QStringLiteral("<h2>Harbour Lines</h2>")));
+    EXPECT_EQ(gobjAdminData->LastCompanyName(), u"Harbour Lines"_s);
+    EXPECT_TRUE(readDocument(filename).contains(u"<h2>Harbour Lines</h2>"_s));
 
     // Remembered from now on: no more questions.
     EXPECT_TRUE(RulebaseDocCreator().CreateDocumentation(*rulebase, filename));
     EXPECT_EQ(ui.textPrompts.size(), 2);
     EXPECT_TRUE(readDocument(filename).contains(
-        QStringLiteral("\u00A9 %1 Harbour Lines. All rights reserved.")
-            .arg(QDate::currentDate().year())));
+        u"\u00A9 %1 Harbour Lines. All rights reserved."_s.arg(QDate::currentDate().year())));
     EXPECT_TRUE(ui.messages.empty());
 }

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using TagList = TagListForm::TagList;
@@ -36,7 +38,7 @@ TEST(TagListForm, DataTypesKeepTheirStereotypesOnTheSecondTab)
     Rulebase rulebase;
     TagListForm form;
     form.setUseCTagsAsDTTags(true);
-    form.setArrayTag(QStringLiteral("a"));
+    form.setArrayTag(u"a"_s);
     form.Initialise(rulebase.DataTypeTags(), TagListForm::DataTypeTags);
 
     EXPECT_EQ(form.NameColumn(), 0);
@@ -55,12 +57,12 @@ TEST(TagListForm, DataTypesKeepTheirStereotypesOnTheSecondTab)
     EXPECT_EQ(form.Insert(), 0);
     EXPECT_EQ(form.secondList()->Count(), 10);
     ASSERT_TRUE(form.SelectTab(0));
-    EXPECT_EQ(form.grid()->data(form.grid()->index(0, 0)).toString(), QStringLiteral("Any"));
+    EXPECT_EQ(form.grid()->data(form.grid()->index(0, 0)).toString(), u"Any"_s);
 
     // OK puts the first list back first, then the stereotypes, all clean still.
     ASSERT_TRUE(form.OK());
-    EXPECT_EQ(names(*rulebase.DataTypeTags()).first(), QStringLiteral("Any"));
-    EXPECT_EQ(names(*rulebase.DataTypeTags()).last(), QStringLiteral("(User Documents)"));
+    EXPECT_EQ(names(*rulebase.DataTypeTags()).first(), u"Any"_s);
+    EXPECT_EQ(names(*rulebase.DataTypeTags()).last(), u"(User Documents)"_s);
     EXPECT_EQ(rulebase.DataTypeTags()->Count(), 25);
     EXPECT_FALSE(rulebase.Dirty());
 }
@@ -76,58 +78,56 @@ TEST(TagListForm, EditsGoThroughTheSettersAndEmptyNamesAreRefused)
     TagGridModel &grid = *form.grid();
 
     // A locked row: read-only name, no delete, but its value can be edited.
-    const qint32 label = rowNamed(*form.currentList(), QStringLiteral("VB.Label"));
+    const qint32 label = rowNamed(*form.currentList(), u"VB.Label"_s);
     ASSERT_GT(label, 0);
     EXPECT_FALSE(form.CanDelete(label));
     EXPECT_FALSE(form.NameEditable(label));
     EXPECT_FALSE(grid.flags(grid.index(label - 1, 1)) & Qt::ItemIsEditable);
-    EXPECT_FALSE(grid.setData(grid.index(label - 1, 1), QStringLiteral("VB.Other")));
+    EXPECT_FALSE(grid.setData(grid.index(label - 1, 1), u"VB.Other"_s));
     EXPECT_TRUE(grid.data(grid.index(label - 1, 0), TagGridModel::LockedRole).toBool());
-    ASSERT_TRUE(grid.setData(grid.index(label - 1, 2), QStringLiteral("lab")));
-    EXPECT_EQ(form.currentList()->Item(label)->TagValue(), QStringLiteral("lab"));
+    ASSERT_TRUE(grid.setData(grid.index(label - 1, 2), u"lab"_s));
+    EXPECT_EQ(form.currentList()->Item(label)->TagValue(), u"lab"_s);
     EXPECT_TRUE(form.currentList()->Item(label)->Dirty());
     // The original set is untouched until OK.
-    EXPECT_EQ(rulebase.ControlTags()->Item(QStringLiteral("VB.Label"))->TagValue(),
-              QStringLiteral("lbl"));
+    EXPECT_EQ(rulebase.ControlTags()->Item(u"VB.Label"_s)->TagValue(), u"lbl"_s);
     EXPECT_FALSE(rulebase.Dirty());
 
     const qint32 added = form.Insert();
     ASSERT_EQ(added, 24);
     EXPECT_EQ(grid.rowCount(), 24);
-    EXPECT_EQ(form.currentList()->Item(added)->TagName(), QStringLiteral("New Item1"));
+    EXPECT_EQ(form.currentList()->Item(added)->TagName(), u"New Item1"_s);
     EXPECT_TRUE(form.CanDelete(added));
     EXPECT_FALSE(grid.setData(grid.index(added - 1, 1), QString()));
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_EQ(ui.messages[0].text, QStringLiteral("A ProgID must be entered."));
-    EXPECT_EQ(form.currentList()->Item(added)->TagName(), QStringLiteral("New Item1"));
-    ASSERT_TRUE(grid.setData(grid.index(added - 1, 1), QStringLiteral("My.Control")));
-    ASSERT_TRUE(grid.setData(grid.index(added - 1, 2), QStringLiteral("my")));
+    EXPECT_EQ(ui.messages[0].text, u"A ProgID must be entered."_s);
+    EXPECT_EQ(form.currentList()->Item(added)->TagName(), u"New Item1"_s);
+    ASSERT_TRUE(grid.setData(grid.index(added - 1, 1), u"My.Control"_s));
+    ASSERT_TRUE(grid.setData(grid.index(added - 1, 2), u"my"_s));
 
     ASSERT_TRUE(form.OK());
-    EXPECT_TRUE(rulebase.ControlTags()->Contains(QStringLiteral("My.Control")));
-    EXPECT_FALSE(rulebase.ControlTags()->Contains(QStringLiteral("New Item1")));
-    EXPECT_EQ(rulebase.ControlTags()->Item(QStringLiteral("VB.Label"))->TagValue(),
-              QStringLiteral("lab"));
+    EXPECT_TRUE(rulebase.ControlTags()->Contains(u"My.Control"_s));
+    EXPECT_FALSE(rulebase.ControlTags()->Contains(u"New Item1"_s));
+    EXPECT_EQ(rulebase.ControlTags()->Item(u"VB.Label"_s)->TagValue(), u"lab"_s);
     EXPECT_TRUE(rulebase.Dirty());
 
     TagListForm data;
     data.Initialise(rulebase.DataTypeTags(), TagListForm::DataTypeTags);
     EXPECT_FALSE(data.GridIsValid(QString()));
-    EXPECT_EQ(ui.messages.back().text, QStringLiteral("A data type must be entered."));
+    EXPECT_EQ(ui.messages.back().text, u"A data type must be entered."_s);
 }
 
 TEST(TagListForm, NewItemNumbersGoOnPastNamesTaken)
 {
     Rulebase rulebase;
     auto taken = std::make_shared<TagItem>();
-    taken->setTagName(QStringLiteral("New Item1"));
+    taken->setTagName(u"New Item1"_s);
     TagListForm form;
     form.Initialise(rulebase.ControlTags(), TagListForm::ControlTags);
-    form.currentList()->Add(QStringLiteral("New Item1"), taken, false, true);
-    EXPECT_TRUE(form.ContainsTag(QStringLiteral("NEW ITEM1")));
+    form.currentList()->Add(u"New Item1"_s, taken, false, true);
+    EXPECT_TRUE(form.ContainsTag(u"NEW ITEM1"_s));
     const qint32 row = form.Insert();
-    EXPECT_EQ(form.currentList()->Item(row)->TagName(), QStringLiteral("New Item2"));
-    EXPECT_EQ(form.currentList()->Item(form.Insert())->TagName(), QStringLiteral("New Item3"));
+    EXPECT_EQ(form.currentList()->Item(row)->TagName(), u"New Item2"_s);
+    EXPECT_EQ(form.currentList()->Item(form.Insert())->TagName(), u"New Item3"_s);
 
     TagListForm scopes;
     scopes.Initialise(rulebase.ScopeTags(), TagListForm::ScopeTags);
@@ -140,9 +140,7 @@ TEST(TagListForm, NewItemNumbersGoOnPastNamesTaken)
 TEST(TagListForm, TheUnknownControlOptionRemovesTheRowAndBringsBackTheBuiltInOne)
 {
     Rulebase rulebase;
-    rulebase.ControlTags()
-        ->Item(QStringLiteral("(Unknown ProgID)"))
-        ->setTagValue(QStringLiteral("unk"));
+    rulebase.ControlTags()->Item(u"(Unknown ProgID)"_s)->setTagValue(u"unk"_s);
     rulebase.setDirty(false);
     TagListForm form;
     form.Initialise(rulebase.ControlTags(), TagListForm::ControlTags);
@@ -158,7 +156,7 @@ TEST(TagListForm, TheUnknownControlOptionRemovesTheRowAndBringsBackTheBuiltInOne
     const qint32 row = rowNamed(*form.currentList(), unknown);
     ASSERT_GT(row, 0);
     const auto item = form.currentList()->Item(row);
-    EXPECT_EQ(item->TagValue(), QStringLiteral("ctl"));
+    EXPECT_EQ(item->TagValue(), u"ctl"_s);
     EXPECT_TRUE(item->Locked());
     EXPECT_FALSE(item->Dirty());
     EXPECT_EQ(form.grid()->rowCount(), 23);
@@ -187,7 +185,7 @@ TEST(TagListForm, CancelAndARepeatedNameLeaveTheSetAsItWas)
     TagListForm scopeForm;
     scopeForm.Initialise(rulebase.ScopeTags(), TagListForm::ScopeTags);
     scopeForm.currentList()->Item(2)->setLocked(false);
-    ASSERT_TRUE(scopeForm.grid()->setData(scopeForm.grid()->index(1, 0), QStringLiteral("LOCAL")));
+    ASSERT_TRUE(scopeForm.grid()->setData(scopeForm.grid()->index(1, 0), u"LOCAL"_s));
     EXPECT_FALSE(scopeForm.OK());
     EXPECT_TRUE(scopeForm.Cancelled());
     EXPECT_EQ(names(*rulebase.ScopeTags()), scopes);

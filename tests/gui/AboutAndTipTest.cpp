@@ -20,6 +20,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Globals
@@ -40,9 +42,9 @@ TEST(TipOfTheDay, TheCheckBoxIsTheStartUpSettingAndTheWindowRemembersTheLastTip)
     gobjAdminData->setDisplayTips(true);
     {
         frmTip form;
-        QCheckBox *box = form.findChild<QCheckBox *>(QStringLiteral("chkLoadTipsAtStartup"));
+        QCheckBox *box = form.findChild<QCheckBox *>(u"chkLoadTipsAtStartup"_s);
         ASSERT_NE(box, nullptr);
-        EXPECT_EQ(box->text(), QStringLiteral("&Show tips at startup"));
+        EXPECT_EQ(box->text(), u"&Show tips at startup"_s);
         EXPECT_TRUE(box->isChecked());
         box->click();
         EXPECT_FALSE(gobjAdminData->DisplayTips());
@@ -53,9 +55,9 @@ TEST(TipOfTheDay, TheCheckBoxIsTheStartUpSettingAndTheWindowRemembersTheLastTip)
     QTimer::singleShot(0, [] {
         QWidget *modal = QApplication::activeModalWidget();
         ASSERT_NE(modal, nullptr);
-        EXPECT_EQ(modal->objectName(), QStringLiteral("frmTip"));
-        modal->findChild<QPushButton *>(QStringLiteral("cmdNextTip"))->click();
-        modal->findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
+        EXPECT_EQ(modal->objectName(), u"frmTip"_s);
+        modal->findChild<QPushButton *>(u"cmdNextTip"_s)->click();
+        modal->findChild<QPushButton *>(u"cmdOK"_s)->click();
     });
     EXPECT_EQ(window.RunTipOfDay(2), 4);
 

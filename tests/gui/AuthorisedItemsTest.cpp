@@ -32,6 +32,8 @@
 #include <functional>
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 TEST(AuthorisedItemsWindow, TheViewShowsAndAReferenceIsAddedThroughItsDialog)
 {
     ScriptedUserInterface ui;
@@ -43,55 +45,52 @@ TEST(AuthorisedItemsWindow, TheViewShowsAndAReferenceIsAddedThroughItsDialog)
         const std::shared_ptr<Rulebase> rulebase = app.rulebase();
 
         // Off until the authority items view stands.
-        EXPECT_TRUE(window.tool(QStringLiteral("tlAuthorisedItems"))->isEnabled());
-        EXPECT_FALSE(window.tool(QStringLiteral("tlAuthorisedReference"))->isEnabled());
-        window.tool(QStringLiteral("tlAuthorisedItems"))->trigger();
+        EXPECT_TRUE(window.tool(u"tlAuthorisedItems"_s)->isEnabled());
+        EXPECT_FALSE(window.tool(u"tlAuthorisedReference"_s)->isEnabled());
+        window.tool(u"tlAuthorisedItems"_s)->trigger();
         ASSERT_NE(dynamic_cast<AuthorisedItemsView *>(app.CurrentView()), nullptr);
-        EXPECT_TRUE(window.tool(QStringLiteral("tlAuthorisedItems"))->isChecked());
-        EXPECT_TRUE(window.tool(QStringLiteral("tlAuthorisedReference"))->isEnabled());
-        EXPECT_TRUE(window.tool(QStringLiteral("tlAddFromProject"))->isEnabled());
+        EXPECT_TRUE(window.tool(u"tlAuthorisedItems"_s)->isChecked());
+        EXPECT_TRUE(window.tool(u"tlAuthorisedReference"_s)->isEnabled());
+        EXPECT_TRUE(window.tool(u"tlAddFromProject"_s)->isEnabled());
         EXPECT_EQ(window.tvwMain()->model()->rowCount(), 3);
         EXPECT_EQ(window.lvwMain()->model()->rowCount(), 4);
 
         // The references' list, then a new reference through the dialog.
         window.tvwMain()->setCurrentIndex(window.tvwMain()->model()->index(1, 0));
         EXPECT_EQ(window.lvwMain()->model()->headerData(2, Qt::Horizontal).toString(),
-                  QStringLiteral("Filename"));
-        whenModal(QStringLiteral("frmAuthorisedReference"), [](QDialog &dialog) {
-            EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Authorised Reference"));
+                  u"Filename"_s);
+        whenModal(u"frmAuthorisedReference"_s, [](QDialog &dialog) {
+            EXPECT_EQ(dialog.windowTitle(), u"Authorised Reference"_s);
             QPushButton *ok = child<QPushButton>(dialog, "cmdOK");
             EXPECT_FALSE(ok->isEnabled());
             EXPECT_FALSE(child<QPlainTextEdit>(dialog, "txtAdvice")->isEnabled());
-            EXPECT_EQ(child<QPushButton>(dialog, "cmdBrowse")->text(),
-                      QStringLiteral("Browse For Reference"));
-            child<QLineEdit>(dialog, "txtDescription")
-                ->setText(QStringLiteral("Window Test Library"));
+            EXPECT_EQ(child<QPushButton>(dialog, "cmdBrowse")->text(), u"Browse For Reference"_s);
+            child<QLineEdit>(dialog, "txtDescription")->setText(u"Window Test Library"_s);
             child<QLineEdit>(dialog, "txtGUID")
-                ->setText(QStringLiteral("{12345678-AAAA-BBBB-CCCC-1234567890AB}"));
+                ->setText(u"{12345678-AAAA-BBBB-CCCC-1234567890AB}"_s);
             EXPECT_TRUE(ok->isEnabled());
-            child<QLineEdit>(dialog, "txtVersions")->setText(QStringLiteral("1.0"));
+            child<QLineEdit>(dialog, "txtVersions")->setText(u"1.0"_s);
             EXPECT_TRUE(child<QPlainTextEdit>(dialog, "txtAdvice")->isEnabled());
-            child<QPlainTextEdit>(dialog, "txtAdvice")
-                ->setPlainText(QStringLiteral("Use 1.0 only."));
+            child<QPlainTextEdit>(dialog, "txtAdvice")->setPlainText(u"Use 1.0 only."_s);
             ok->click();
         });
-        window.tool(QStringLiteral("tlAuthorisedReference"))->trigger();
+        window.tool(u"tlAuthorisedReference"_s)->trigger();
         ASSERT_TRUE(rulebase->AuthorisedReferences()->Contains(
-            QStringLiteral("{12345678-AAAA-BBBB-CCCC-1234567890AB}")));
-        const auto added = rulebase->AuthorisedReferences()->Item(
-            QStringLiteral("{12345678-AAAA-BBBB-CCCC-1234567890AB}"));
-        EXPECT_EQ(added->Description(), QStringLiteral("Window Test Library"));
-        EXPECT_EQ(added->VersionList(), QStringLiteral("1.0"));
-        EXPECT_EQ(added->Advice(), QStringLiteral("Use 1.0 only."));
+            u"{12345678-AAAA-BBBB-CCCC-1234567890AB}"_s));
+        const auto added
+            = rulebase->AuthorisedReferences()->Item(u"{12345678-AAAA-BBBB-CCCC-1234567890AB}"_s);
+        EXPECT_EQ(added->Description(), u"Window Test Library"_s);
+        EXPECT_EQ(added->VersionList(), u"1.0"_s);
+        EXPECT_EQ(added->Advice(), u"Use 1.0 only."_s);
         EXPECT_EQ(window.lvwMain()->model()->rowCount(), 5);
-        EXPECT_EQ(window.findChild<QLabel *>(QStringLiteral("lblStatus"))->text(),
-                  QStringLiteral("5 Items"));
+        EXPECT_EQ(window.findChild<QLabel *>(u"lblStatus"_s)->text(), u"5 Items"_s);
 
         // A project file from the desktop, dropped on the list, goes through the import dialog.
-        const QString project = TestEnvironment::makeTempDir() + QStringLiteral("/Dropped.vbp");
-        TestEnvironment::writeFile(project,
-                                   "Type=Exe\r\nObject={FEDCBA98-0000-0000-0000-000000000001}#1.0#0; "
-                                   "dropped.ocx\r\nName=\"D\"\r\n");
+        const QString project = TestEnvironment::makeTempDir() + u"/Dropped.vbp"_s;
+        TestEnvironment::writeFile(
+            project,
+            "Type=Exe\r\nObject={FEDCBA98-0000-0000-0000-000000000001}#1.0#0; "
+            "dropped.ocx\r\nName=\"D\"\r\n");
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(project)});
         QWidget *viewport = window.lvwMain()->viewport();
@@ -101,11 +100,11 @@ TEST(AuthorisedItemsWindow, TheViewShowsAndAReferenceIsAddedThroughItsDialog)
         EXPECT_TRUE(enter.isAccepted());
         EXPECT_EQ(enter.dropAction(), Qt::CopyAction);
 
-        whenModal(QStringLiteral("frmAddFromProject"), [](QDialog &dialog) {
+        whenModal(u"frmAddFromProject"_s, [](QDialog &dialog) {
             auto *items = child<QTreeWidget>(dialog, "lvwItems");
             EXPECT_EQ(items->topLevelItemCount(), 1);
-            EXPECT_EQ(items->topLevelItem(0)->text(0), QStringLiteral("dropped.ocx"));
-            EXPECT_EQ(items->headerItem()->text(0), QStringLiteral("Component"));
+            EXPECT_EQ(items->topLevelItem(0)->text(0), u"dropped.ocx"_s);
+            EXPECT_EQ(items->headerItem()->text(0), u"Component"_s);
             child<QPushButton>(dialog, "cmdOK")->click();
         });
         QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
@@ -113,7 +112,7 @@ TEST(AuthorisedItemsWindow, TheViewShowsAndAReferenceIsAddedThroughItsDialog)
         EXPECT_TRUE(drop.isAccepted());
         EXPECT_TRUE(waitFor([&] {
             return rulebase->AuthorisedComponents()->Contains(
-                QStringLiteral("{FEDCBA98-0000-0000-0000-000000000001}"));
+                u"{FEDCBA98-0000-0000-0000-000000000001}"_s);
         }));
         ASSERT_FALSE(ui.messages.empty());
         EXPECT_EQ(
@@ -122,8 +121,8 @@ TEST(AuthorisedItemsWindow, TheViewShowsAndAReferenceIsAddedThroughItsDialog)
                 "1 new component and 3 new references were found for the selected projects."));
 
         // Another view takes no files.
-        window.tool(QStringLiteral("tlCategoryView"))->trigger();
-        EXPECT_FALSE(window.tool(QStringLiteral("tlAuthorisedReference"))->isEnabled());
+        window.tool(u"tlCategoryView"_s)->trigger();
+        EXPECT_FALSE(window.tool(u"tlAuthorisedReference"_s)->isEnabled());
         QDragEnterEvent refused(
             QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(viewport, &refused);

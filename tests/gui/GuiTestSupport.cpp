@@ -9,9 +9,9 @@
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
 #include "rulebase/Rulebase.h"
+#include "support/TestEnvironment.h"
 #include "views/IViewController.h"
 #include "views/ViewFactory.h"
-#include "support/TestEnvironment.h"
 
 #include <QAction>
 #include <QFile>
@@ -24,6 +24,8 @@
 #include <QTimer>
 
 #include <memory>
+
+using namespace Qt::StringLiterals;
 
 void whenModal(const QString &name, std::function<void(QDialog &)> act)
 {
@@ -62,7 +64,7 @@ void typeKeys(QWidget *widget, const QString &text)
 {
     for (const QChar c : text) {
         const int key = c == u'\n' ? int(Qt::Key_Return) : int(c.toUpper().unicode());
-        const QString keyText = c == u'\n' ? QStringLiteral("\r") : QString(c);
+        const QString keyText = c == u'\n' ? u"\r"_s : QString(c);
         QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, keyText);
         QApplication::sendEvent(widget, &press);
         QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, keyText);
@@ -89,7 +91,7 @@ void GuiSample::SetUp()
     gobjAdminData->setFirstUse(false);
     gobjAdminData->setDisplayTips(false);
     Images::initialise();
-    file = TestEnvironment::makeTempDir() + QStringLiteral("/Sample.qrb");
+    file = TestEnvironment::makeTempDir() + u"/Sample.qrb"_s;
     ASSERT_TRUE(QFile::copy(TestEnvironment::sampleRulebase(), file));
     QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner);
     window = std::make_unique<frmMain>(false);

@@ -34,6 +34,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 TEST(MainWindow, OpensTheSampleWithItsMenusAndClosesWithoutAsking)
 {
     TestEnvironment::clearSettings();
@@ -49,29 +51,29 @@ TEST(MainWindow, OpensTheSampleWithItsMenusAndClosesWithoutAsking)
         // Before a rulebase: no document tools, and the status says so.
         window.ShowWindow();
         window.Update();
-        EXPECT_FALSE(window.tool(QStringLiteral("tlSaveRulebase"))->isEnabled());
-        EXPECT_EQ(window.findChild<QLabel *>(QStringLiteral("lblStatus"))->text(), QStringLiteral("No rulebase selected."));
+        EXPECT_FALSE(window.tool(u"tlSaveRulebase"_s)->isEnabled());
+        EXPECT_EQ(window.findChild<QLabel *>(u"lblStatus"_s)->text(), u"No rulebase selected."_s);
 
         ASSERT_TRUE(RunStartup(app, TestEnvironment::sampleRulebase()));
-        EXPECT_EQ(window.windowTitle(), QStringLiteral("Sample.qrb - Quorin Administrator"));
-        EXPECT_TRUE(window.tool(QStringLiteral("tlSaveRulebase"))->isEnabled());
-        EXPECT_TRUE(window.tool(QStringLiteral("tlCategoryView"))->isChecked());
-        EXPECT_FALSE(window.tool(QStringLiteral("tlSeverityView"))->isChecked());
+        EXPECT_EQ(window.windowTitle(), u"Sample.qrb - Quorin Administrator"_s);
+        EXPECT_TRUE(window.tool(u"tlSaveRulebase"_s)->isEnabled());
+        EXPECT_TRUE(window.tool(u"tlCategoryView"_s)->isChecked());
+        EXPECT_FALSE(window.tool(u"tlSeverityView"_s)->isChecked());
 
         QStringList menus;
         for (QAction *menu : window.menuBar()->actions())
             menus << menu->text();
-        EXPECT_EQ(menus, (QStringList{QStringLiteral("&File"), QStringLiteral("&View"), QStringLiteral("&Rule"),
-                                      QStringLiteral("&Tools"), QStringLiteral("&Help")}));
+        EXPECT_EQ(menus,
+                  (QStringList{u"&File"_s, u"&View"_s, u"&Rule"_s, u"&Tools"_s, u"&Help"_s}));
         for (const char *bar : {"tlbFile", "tlbView", "tlbRule", "tlbTools", "lbarMain"})
             EXPECT_NE(window.findChild<QToolBar *>(QLatin1String(bar)), nullptr) << bar;
 
         // The navigation bar switches views; the toolbar toggles are the window's own.
-        window.tool(QStringLiteral("tlSeverityView"))->trigger();
-        EXPECT_EQ(app.CurrentViewName(), QStringLiteral("tlSeverityView"));
-        window.tool(QStringLiteral("tlRuleToolbar"))->trigger();
-        EXPECT_FALSE(window.findChild<QToolBar *>(QStringLiteral("tlbRule"))->isVisible());
-        EXPECT_FALSE(window.tool(QStringLiteral("tlRuleToolbar"))->isChecked());
+        window.tool(u"tlSeverityView"_s)->trigger();
+        EXPECT_EQ(app.CurrentViewName(), u"tlSeverityView"_s);
+        window.tool(u"tlRuleToolbar"_s)->trigger();
+        EXPECT_FALSE(window.findChild<QToolBar *>(u"tlbRule"_s)->isVisible());
+        EXPECT_FALSE(window.tool(u"tlRuleToolbar"_s)->isChecked());
 
         EXPECT_TRUE(window.close());
         EXPECT_TRUE(ui.messages.empty());
@@ -101,7 +103,10 @@ struct SampleWindow
         window.reset();
         DestroyGlobalObjects();
     }
-    QSplitter *splitter(const char *name) const { return window->findChild<QSplitter *>(QLatin1String(name)); }
+    QSplitter *splitter(const char *name) const
+    {
+        return window->findChild<QSplitter *>(QLatin1String(name));
+    }
 
     ScriptedUserInterface ui;
     std::unique_ptr<frmMain> window;
@@ -125,14 +130,14 @@ TEST(MainWindow, EveryViewCanBeShownAndF1OpensItsPage)
         // A view that is not built yet is disabled and says so; the others switch.
         EXPECT_EQ(tool->isEnabled(), built) << id.toStdString();
         if (!built) {
-            EXPECT_TRUE(tool->toolTip().contains(QStringLiteral("later"))) << id.toStdString();
+            EXPECT_TRUE(tool->toolTip().contains(u"later"_s)) << id.toStdString();
             continue;
         }
         tool->trigger();
         EXPECT_EQ(w.app->CurrentViewName(), id);
         EXPECT_TRUE(tool->isChecked());
         EXPECT_GT(w.window->tree()->count(), 0) << id.toStdString();
-        EXPECT_FALSE(w.window->findChild<QLabel *>(QStringLiteral("lblTreeViewTitle"))->text().isEmpty());
+        EXPECT_FALSE(w.window->findChild<QLabel *>(u"lblTreeViewTitle"_s)->text().isEmpty());
 
         w.window->showContextHelp();
         ASSERT_FALSE(w.ui.helpRequests.empty());
@@ -140,16 +145,16 @@ TEST(MainWindow, EveryViewCanBeShownAndF1OpensItsPage)
         EXPECT_EQ(help.command, HelpCommand::Context);
         EXPECT_FALSE(HelpTopics::pageForContext(help.context).isEmpty()) << help.context;
     }
-    w.window->tool(QStringLiteral("tlCategoryView"))->trigger();
+    w.window->tool(u"tlCategoryView"_s)->trigger();
     w.window->showContextHelp();
     EXPECT_EQ(w.ui.helpRequests.back().context, 68);
-    EXPECT_EQ(HelpTopics::pageForContext(68), QStringLiteral("CategoryView.htm"));
+    EXPECT_EQ(HelpTopics::pageForContext(68), u"CategoryView.htm"_s);
 
     // Rows carry their severity's picture, and the list header the selected node's.
     const QModelIndex first = w.window->lvwMain()->model()->index(0, 0);
     EXPECT_FALSE(first.data(Qt::DecorationRole).value<QIcon>().isNull());
-    EXPECT_FALSE(w.window->findChild<QLabel *>(QStringLiteral("imgListHeader"))->pixmap().isNull());
-    EXPECT_FALSE(w.window->tool(QStringLiteral("tlSaveRulebase"))->icon().isNull());
+    EXPECT_FALSE(w.window->findChild<QLabel *>(u"imgListHeader"_s)->pixmap().isNull());
+    EXPECT_FALSE(w.window->tool(u"tlSaveRulebase"_s)->icon().isNull());
 }
 
 TEST(MainWindow, ARowDraggedOntoACategoryNodeMovesTheRule)
@@ -159,7 +164,7 @@ TEST(MainWindow, ARowDraggedOntoACategoryNodeMovesTheRule)
     ASSERT_TRUE(w.opened);
     w.window->resize(1000, 700);
     QApplication::processEvents();
-    ASSERT_EQ(w.app->CurrentViewName(), QStringLiteral("tlCategoryView"));
+    ASSERT_EQ(w.app->CurrentViewName(), u"tlCategoryView"_s);
     const CategoryList &categories = *w.app->rulebase()->CategoryList();
     auto *tree = static_cast<QtTreeControl *>(w.window->tree());
     auto *list = static_cast<QtListControl *>(w.window->list());
@@ -168,7 +173,7 @@ TEST(MainWindow, ARowDraggedOntoACategoryNodeMovesTheRule)
     const int source = tree->find(categories.Item(1)->Key());
     const int target = tree->find(categories.Item(2)->Key());
     w.window->tvwMain()->selectionModel()->setCurrentIndex(tree->indexOf(source),
-                                                            QItemSelectionModel::ClearAndSelect);
+                                                           QItemSelectionModel::ClearAndSelect);
     ASSERT_GT(list->count(), 0);
     list->setSelectedItem(1);
     const QString key = list->key(1);
@@ -197,7 +202,7 @@ TEST(MainWindow, ARowDraggedOntoACategoryNodeMovesTheRule)
 
     // Dropped text of another kind is refused.
     QMimeData text;
-    text.setText(QStringLiteral("5001Key||"));
+    text.setText(u"5001Key||"_s);
     QDragEnterEvent other(at, Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(viewport, &other);
     EXPECT_FALSE(other.isAccepted());
@@ -207,8 +212,8 @@ TEST(MainWindow, AFailedOpenLeavesTheWindowLiveAndAPartLoadSaysSoUntilSaved)
 {
     TestEnvironment::clearSettings();
     const QString dir = TestEnvironment::makeTempDir() + QLatin1Char('/');
-    const QString bad = dir + QStringLiteral("bad.qrb");
-    const QString part = dir + QStringLiteral("part.qrb");
+    const QString bad = dir + u"bad.qrb"_s;
+    const QString part = dir + u"part.qrb"_s;
     {
         QFile sample(TestEnvironment::sampleRulebase());
         QFile truncated(bad);
@@ -225,23 +230,22 @@ TEST(MainWindow, AFailedOpenLeavesTheWindowLiveAndAPartLoadSaysSoUntilSaved)
     const QString title = w.window->windowTitle();
 
     // Not saved first, and the open fails: the edit is still there to save, and closing asks.
-    w.app->rulebase()->setTitle(QStringLiteral("Edited"));
+    w.app->rulebase()->setTitle(u"Edited"_s);
     w.ui.answers = {MessageResult::No};
     EXPECT_FALSE(w.app->OpenRulebase(Application::OpenMode::CommandLine, bad));
     EXPECT_EQ(w.window->windowTitle(), title);
-    EXPECT_TRUE(w.window->tool(QStringLiteral("tlSaveRulebase"))->isEnabled());
-    EXPECT_EQ(w.app->rulebase()->Title(), QStringLiteral("Edited"));
+    EXPECT_TRUE(w.window->tool(u"tlSaveRulebase"_s)->isEnabled());
+    EXPECT_EQ(w.app->rulebase()->Title(), u"Edited"_s);
     w.ui.answers = {MessageResult::Cancel};
     EXPECT_FALSE(w.window->close());
     EXPECT_EQ(w.ui.messages.back().text,
-              QStringLiteral("The current rulebase has changed, do you wish to save the changes?"));
+              u"The current rulebase has changed, do you wish to save the changes?"_s);
 
     w.ui.answers = {MessageResult::No};
     ASSERT_TRUE(w.app->OpenRulebase(Application::OpenMode::CommandLine, part));
-    EXPECT_EQ(w.window->windowTitle(),
-              QStringLiteral("part.qrb (loaded in part) - Quorin Administrator"));
+    EXPECT_EQ(w.window->windowTitle(), u"part.qrb (loaded in part) - Quorin Administrator"_s);
     w.ui.answers = {MessageResult::Yes};
-    w.window->tool(QStringLiteral("tlSaveRulebase"))->trigger();
-    EXPECT_EQ(w.window->windowTitle(), QStringLiteral("part.qrb - Quorin Administrator"));
+    w.window->tool(u"tlSaveRulebase"_s)->trigger();
+    EXPECT_EQ(w.window->windowTitle(), u"part.qrb - Quorin Administrator"_s);
     EXPECT_EQ(w.ui.unscriptedQuestions, 0);
 }

@@ -34,69 +34,69 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 TEST(RuleEditor, MarksAnErrorWhileTypingAndSavesOnceItIsFixed)
 {
     ScriptedUserInterface ui;
     frmRuleEditor dialog;
     dialog.setRuleType(RuleTypes::CodingConvention);
     dialog.setRuleID(12);
-    dialog.setRuleTitle(QStringLiteral("No GoTo"));
-    dialog.setRuleCode(QStringLiteral("Sub Main\r\n  x = 1\r\nEnd Sub\r\n"));
-    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Condition Editor - [0012] No GoTo"));
+    dialog.setRuleTitle(u"No GoTo"_s);
+    dialog.setRuleCode(u"Sub Main\r\n  x = 1\r\nEnd Sub\r\n"_s);
+    EXPECT_EQ(dialog.windowTitle(), u"Condition Editor - [0012] No GoTo"_s);
     EXPECT_TRUE(dialog.Cancelled());
 
     QStringList menus;
-    for (QAction *menu : dialog.findChild<QMenuBar *>(QStringLiteral("abMain"))->actions())
+    for (QAction *menu : dialog.findChild<QMenuBar *>(u"abMain"_s)->actions())
         menus << menu->text();
     EXPECT_EQ(menus, (QStringList{"&Condition", "&Edit", "&Insert", "&Help"}));
-    EXPECT_EQ(dialog.findChild<QMenu *>(QStringLiteral("mnuInsert"))->actions().size(), 6);
-    EXPECT_EQ(dialog.tool(QStringLiteral("tlSaveAndClose"))->toolTip(),
-              QStringLiteral("Save the condition and close"));
-    EXPECT_EQ(dialog.tool(QStringLiteral("tlCheckSyntax"))->text(),
-              QStringLiteral("Check S&yntax"));
-    EXPECT_NE(dialog.findChild<QToolBar *>(QStringLiteral("tlbTools")), nullptr);
+    EXPECT_EQ(dialog.findChild<QMenu *>(u"mnuInsert"_s)->actions().size(), 6);
+    EXPECT_EQ(dialog.tool(u"tlSaveAndClose"_s)->toolTip(), u"Save the condition and close"_s);
+    EXPECT_EQ(dialog.tool(u"tlCheckSyntax"_s)->text(), u"Check S&yntax"_s);
+    EXPECT_NE(dialog.findChild<QToolBar *>(u"tlbTools"_s), nullptr);
 
-    BasicEditor *editor = dialog.findChild<BasicEditor *>(QStringLiteral("sbMain"));
+    BasicEditor *editor = dialog.findChild<BasicEditor *>(u"sbMain"_s);
     ASSERT_NE(editor, nullptr);
     editor->setRecheckDelay(10);
     dialog.show();
 
     // A block If without its end, typed behind "  x = 1": the new line keeps the indent.
     editor->goTo(2, 8);
-    typeKeys(editor, QStringLiteral("\nIf y Then"));
-    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Main\n  x = 1\n  If y Then\nEnd Sub\n"));
+    typeKeys(editor, u"\nIf y Then"_s);
+    EXPECT_EQ(editor->toPlainText(), u"Sub Main\n  x = 1\n  If y Then\nEnd Sub\n"_s);
     ASSERT_TRUE(waitFor([&] { return editor->markOfLine(3) == BasicEditor::Mark::Error; }));
-    EXPECT_EQ(editor->messagesOfLine(3), QStringList{QStringLiteral("Block If without End If")});
+    EXPECT_EQ(editor->messagesOfLine(3), QStringList{u"Block If without End If"_s});
     EXPECT_EQ(editor->markOfLine(2), BasicEditor::Mark::None);
 
     // Refused with the checker's words; the caret goes to the fault.
     editor->setCaretPosition(0);
-    dialog.tool(QStringLiteral("tlSaveAndClose"))->trigger();
+    dialog.tool(u"tlSaveAndClose"_s)->trigger();
     EXPECT_TRUE(dialog.isVisible());
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_EQ(ui.messages[0].text,
               QStringLiteral("line 3, column 3: Block If without End If Please fix before trying "
                              "to save the condition."));
-    EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Administrator - Syntax Error"));
+    EXPECT_EQ(ui.messages[0].title, u"Quorin Administrator - Syntax Error"_s);
     EXPECT_EQ(editor->textCursor().blockNumber(), 2);
 
     // Fixed, with a violation raised inside the If: Enter goes one level (the text's two
     // spaces) deeper, and "End If" finds the If's indentation as it is typed.
     editor->goTo(3, 12);
-    typeKeys(editor, QStringLiteral("\n"));
-    dialog.tool(QStringLiteral("tlRaiseViolation"))->trigger();
-    typeKeys(editor, QStringLiteral("End If"));
+    typeKeys(editor, u"\n"_s);
+    dialog.tool(u"tlRaiseViolation"_s)->trigger();
+    typeKeys(editor, u"End If"_s);
     ASSERT_TRUE(waitFor([&] { return editor->markOfLine(3) == BasicEditor::Mark::None; }));
     EXPECT_TRUE(editor->errors().empty());
 
     // Undo and redo go through the editor's own history.
     const QString fixed = editor->toPlainText();
-    dialog.tool(QStringLiteral("tlUndo"))->trigger();
+    dialog.tool(u"tlUndo"_s)->trigger();
     EXPECT_NE(editor->toPlainText(), fixed);
-    dialog.tool(QStringLiteral("tlRedo"))->trigger();
+    dialog.tool(u"tlRedo"_s)->trigger();
     EXPECT_EQ(editor->toPlainText(), fixed);
 
-    dialog.tool(QStringLiteral("tlSaveAndClose"))->trigger();
+    dialog.tool(u"tlSaveAndClose"_s)->trigger();
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_FALSE(dialog.Cancelled());
@@ -113,18 +113,18 @@ TEST(RuleEditor, ClosingAsksAboutChangesAndRunsModally)
     {
         // Unchanged: the close tool ends the modal run at once, cancelled.
         frmRuleEditor dialog;
-        dialog.setRuleCode(QStringLiteral("Sub Main\nEnd Sub"));
-        QTimer::singleShot(0, &dialog, [&] { dialog.tool(QStringLiteral("tlClose"))->trigger(); });
+        dialog.setRuleCode(u"Sub Main\nEnd Sub"_s);
+        QTimer::singleShot(0, &dialog, [&] { dialog.tool(u"tlClose"_s)->trigger(); });
         EXPECT_EQ(dialog.exec(), QDialog::Rejected);
         EXPECT_TRUE(dialog.Cancelled());
         EXPECT_TRUE(ui.messages.empty());
     }
     {
         frmRuleEditor dialog;
-        dialog.setRuleCode(QStringLiteral("Sub Main\r\nEnd Sub"));
+        dialog.setRuleCode(u"Sub Main\r\nEnd Sub"_s);
         dialog.show();
         dialog.editor()->setCaretPosition(0);
-        typeKeys(dialog.editor(), QStringLiteral("' note\n"));
+        typeKeys(dialog.editor(), u"' note\n"_s);
 
         // The frame's close asks; Cancel stays, No leaves without the change. Escape asks
         // with Cancel as the default, so Enter next keeps the text as it is.
@@ -146,16 +146,15 @@ TEST(RuleEditor, ClosingAsksAboutChangesAndRunsModally)
         // Yes on the way out saves a passing condition.
         frmRuleEditor dialog;
         dialog.setRuleType(RuleTypes::NamingConvention);
-        dialog.setRuleCode(QStringLiteral("Sub Main\nEnd Sub"));
+        dialog.setRuleCode(u"Sub Main\nEnd Sub"_s);
         dialog.show();
         dialog.editor()->goTo(2, 1);
-        dialog.tool(QStringLiteral("tlApplyConvention"))->trigger();
+        dialog.tool(u"tlApplyConvention"_s)->trigger();
         ui.answers = {MessageResult::Yes};
         dialog.close();
         EXPECT_FALSE(dialog.isVisible());
         EXPECT_FALSE(dialog.Cancelled());
-        EXPECT_EQ(dialog.RuleCode(),
-                  QStringLiteral("Sub Main\r\nQuorin.ApplyConvention\r\nEnd Sub"));
+        EXPECT_EQ(dialog.RuleCode(), u"Sub Main\r\nQuorin.ApplyConvention\r\nEnd Sub"_s);
     }
 }
 
@@ -166,13 +165,12 @@ TEST(RuleEditor, PickersAndCompletionInsertTheVocabulary)
     RuleEditorPickers::setObjectPicker(
         [&](QWidget *, const RuleEditorPickers::ObjectRequest &request) {
             asked = request;
-            return request.selectionMode == 3 ? QStringLiteral("%File.WF.Lines%")
-                                              : QStringLiteral("%Procedure.Name%");
+            return request.selectionMode == 3 ? u"%File.WF.Lines%"_s : u"%Procedure.Name%"_s;
         });
     qint32 eventRuleType = 0;
     RuleEditorPickers::setEventPicker([&](QWidget *, qint32 ruleType) {
         eventRuleType = ruleType;
-        return QStringLiteral("begin File");
+        return u"begin File"_s;
     });
 
     frmRuleEditor dialog;
@@ -180,14 +178,14 @@ TEST(RuleEditor, PickersAndCompletionInsertTheVocabulary)
     dialog.show();
     BasicEditor *editor = dialog.editor();
     editor->clear(); // no skeleton: the inserts alone
-    dialog.tool(QStringLiteral("tlObjectProperty"))->trigger();
+    dialog.tool(u"tlObjectProperty"_s)->trigger();
     EXPECT_EQ(asked.selectionMode, 2);
-    typeKeys(editor, QStringLiteral("\n"));
-    dialog.tool(QStringLiteral("tlObjectWorkfield"))->trigger();
+    typeKeys(editor, u"\n"_s);
+    dialog.tool(u"tlObjectWorkfield"_s)->trigger();
     EXPECT_EQ(asked.selectionMode, 3);
     EXPECT_NE(asked.workfields, nullptr);
-    typeKeys(editor, QStringLiteral("\n"));
-    dialog.tool(QStringLiteral("tlParserEvent"))->trigger();
+    typeKeys(editor, u"\n"_s);
+    dialog.tool(u"tlParserEvent"_s)->trigger();
     EXPECT_EQ(eventRuleType, RuleTypes::NamingConvention);
     EXPECT_EQ(editor->toPlainText(),
               QStringLiteral("Quorin.GetObjectProperty(\"Procedure\", \"Name\")\n"
@@ -197,31 +195,30 @@ TEST(RuleEditor, PickersAndCompletionInsertTheVocabulary)
     RuleEditorPickers::setEventPicker({});
 
     // "Quorin." offers the members; choosing one puts it in.
-    typeKeys(editor, QStringLiteral("\nCall Quorin.Rai"));
+    typeKeys(editor, u"\nCall Quorin.Rai"_s);
     QCompleter *completer = editor->completer();
     ASSERT_TRUE(completer->popup()->isVisible());
-    EXPECT_EQ(completer->currentCompletion(), QStringLiteral("RaiseViolation"));
+    EXPECT_EQ(completer->currentCompletion(), u"RaiseViolation"_s);
     emit completer->activated(completer->currentCompletion());
-    EXPECT_TRUE(editor->toPlainText().endsWith(QStringLiteral("\nCall Quorin.RaiseViolation")));
+    EXPECT_TRUE(editor->toPlainText().endsWith(u"\nCall Quorin.RaiseViolation"_s));
 
     // Inside a property call's first string: the objects, closed by a quote.
-    typeKeys(editor, QStringLiteral("\nx = Quorin.GetObjectProperty(\"Proc"));
+    typeKeys(editor, u"\nx = Quorin.GetObjectProperty(\"Proc"_s);
     ASSERT_TRUE(completer->popup()->isVisible());
-    emit completer->activated(QStringLiteral("Procedure"));
-    EXPECT_TRUE(editor->toPlainText().endsWith(QStringLiteral("GetObjectProperty(\"Procedure\"")));
+    emit completer->activated(u"Procedure"_s);
+    EXPECT_TRUE(editor->toPlainText().endsWith(u"GetObjectProperty(\"Procedure\""_s));
 
     // Text comes back as it went in, no-break spaces and all, with CR LF line ends.
-    const QString odd = QStringLiteral("Sub Main\n  x = \"a\u00a0b\u00e9\"\r\rEnd Sub\r\n");
+    const QString odd = u"Sub Main\n  x = \"a\u00a0b\u00e9\"\r\rEnd Sub\r\n"_s;
     editor->setScript(odd);
-    EXPECT_EQ(editor->script(),
-              QStringLiteral("Sub Main\r\n  x = \"a\u00a0b\u00e9\"\r\n\r\nEnd Sub\r\n"));
-    editor->setScript(QStringLiteral("Quorin.GetObjectProperty"));
+    EXPECT_EQ(editor->script(), u"Sub Main\r\n  x = \"a\u00a0b\u00e9\"\r\n\r\nEnd Sub\r\n"_s);
+    editor->setScript(u"Quorin.GetObjectProperty"_s);
 
     // With the caret at the start the line goes in front of everything, the caret behind it.
     editor->setCaretPosition(0);
-    dialog.tool(QStringLiteral("tlRaiseViolation"))->trigger();
+    dialog.tool(u"tlRaiseViolation"_s)->trigger();
     EXPECT_TRUE(editor->toPlainText().startsWith(
-        QStringLiteral("Call Quorin.RaiseViolation()\nQuorin.GetObjectProperty")));
+        u"Call Quorin.RaiseViolation()\nQuorin.GetObjectProperty"_s));
     EXPECT_EQ(editor->caretPosition(), 29);
     EXPECT_TRUE(ui.messages.empty());
 }
@@ -230,7 +227,7 @@ TEST(RuleEditor, TheErrorListAndTheUnderlinesLeadToTheFault)
 {
     ScriptedUserInterface ui;
     frmRuleEditor dialog;
-    dialog.setRuleCode(QStringLiteral("Sub Main\r\n\tx = 1\r\n\tIf F(x) Then\r\nEnd Sub"));
+    dialog.setRuleCode(u"Sub Main\r\n\tx = 1\r\n\tIf F(x) Then\r\nEnd Sub"_s);
     dialog.show();
     BasicEditor *editor = dialog.editor();
     ASSERT_FALSE(editor->errors().empty());
@@ -266,6 +263,6 @@ TEST(RuleEditor, TheErrorListAndTheUnderlinesLeadToTheFault)
     }));
 
     // Once fixed, the list is empty.
-    editor->setScript(QStringLiteral("Sub Main\r\nEnd Sub"));
+    editor->setScript(u"Sub Main\r\nEnd Sub"_s);
     EXPECT_EQ(list->topLevelItemCount(), 0);
 }

@@ -44,6 +44,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using RulebaseDialogs = GuiSample;
@@ -53,25 +55,25 @@ using RulebaseDialogs = GuiSample;
 TEST_F(RulebaseDialogs, RulebasePropertiesOpenFromTheFileMenuAndWriteOnOK)
 {
     bool seen = false;
-    whenModal(QStringLiteral("frmRulebaseProperties"), [&](QDialog &dialog) {
+    whenModal(u"frmRulebaseProperties"_s, [&](QDialog &dialog) {
         seen = true;
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Rulebase Properties"));
+        EXPECT_EQ(dialog.windowTitle(), u"Rulebase Properties"_s);
         auto *title = child<QLineEdit>(dialog, "txtTitle");
         EXPECT_EQ(title->text(), rulebase->Title());
-        const auto labels = dialog.findChildren<QLabel *>(QStringLiteral("lblSeverityTolerance"));
+        const auto labels = dialog.findChildren<QLabel *>(u"lblSeverityTolerance"_s);
         ASSERT_EQ(labels.size(), 6);
-        EXPECT_EQ(labels.last()->text(), QStringLiteral("Total"));
-        EXPECT_EQ(dialog.findChildren<QLineEdit *>(QStringLiteral("txtToleranceCount")).size(), 6);
+        EXPECT_EQ(labels.last()->text(), u"Total"_s);
+        EXPECT_EQ(dialog.findChildren<QLineEdit *>(u"txtToleranceCount"_s).size(), 6);
         auto *ok = child<QPushButton>(dialog, "cmdOK");
         title->setText(QString());
         EXPECT_FALSE(ok->isEnabled());
-        title->setText(QStringLiteral("From the dialog"));
+        title->setText(u"From the dialog"_s);
         EXPECT_TRUE(ok->isEnabled());
         ok->click();
     });
     trigger("tlRulebaseProperties");
     EXPECT_TRUE(seen);
-    EXPECT_EQ(rulebase->Title(), QStringLiteral("From the dialog"));
+    EXPECT_EQ(rulebase->Title(), u"From the dialog"_s);
 }
 
 TEST_F(RulebaseDialogs, TheCategoryListOpensItsEditorAndCloses)
@@ -79,17 +81,17 @@ TEST_F(RulebaseDialogs, TheCategoryListOpensItsEditorAndCloses)
     const qint32 categories = rulebase->CategoryList()->Count();
     const QString first = rulebase->CategoryList()->Item(1)->Title();
     bool editorSeen = false;
-    whenModal(QStringLiteral("frmCategorySeverity"), [&](QDialog &dialog) {
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Category List"));
+    whenModal(u"frmCategorySeverity"_s, [&](QDialog &dialog) {
+        EXPECT_EQ(dialog.windowTitle(), u"Category List"_s);
         auto *list = child<QTreeWidget>(dialog, "lvwCategorySeverity");
         EXPECT_EQ(list->topLevelItemCount(), categories);
-        EXPECT_EQ(list->headerItem()->text(0), QStringLiteral("Available Categories"));
+        EXPECT_EQ(list->headerItem()->text(0), u"Available Categories"_s);
         EXPECT_TRUE(child<QPushButton>(dialog, "cmdAdd")->isVisibleTo(&dialog));
         EXPECT_TRUE(child<QPushButton>(dialog, "cmdDelete")->isEnabled());
-        whenModal(QStringLiteral("frmCategoryEditor"), [&](QDialog &editor) {
+        whenModal(u"frmCategoryEditor"_s, [&](QDialog &editor) {
             editorSeen = true;
             EXPECT_EQ(child<QLineEdit>(editor, "txtTitle")->text(), first);
-            child<QLineEdit>(editor, "txtTitle")->setText(QStringLiteral("Not kept"));
+            child<QLineEdit>(editor, "txtTitle")->setText(u"Not kept"_s);
             click(editor, "cmdCancel");
         });
         click(dialog, "cmdEdit");
@@ -104,8 +106,8 @@ TEST_F(RulebaseDialogs, TheCategoryListOpensItsEditorAndCloses)
 TEST_F(RulebaseDialogs, TagListsShowTheirFacesAndCancelLeavesTheSet)
 {
     const qint32 controls = rulebase->ControlTags()->Count();
-    whenModal(QStringLiteral("frmTagList"), [&](QDialog &dialog) {
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Control Tags"));
+    whenModal(u"frmTagList"_s, [&](QDialog &dialog) {
+        EXPECT_EQ(dialog.windowTitle(), u"Control Tags"_s);
         auto *grid = child<QTableView>(dialog, "grdTags");
         EXPECT_EQ(grid->model()->rowCount(), controls);
         EXPECT_FALSE(child<QTabBar>(dialog, "tbsTagList")->isVisibleTo(&dialog));
@@ -116,8 +118,8 @@ TEST_F(RulebaseDialogs, TagListsShowTheirFacesAndCancelLeavesTheSet)
     trigger("tlControlTags");
     EXPECT_EQ(rulebase->ControlTags()->Count(), controls);
 
-    whenModal(QStringLiteral("frmTagList"), [&](QDialog &dialog) {
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Data Type Tags"));
+    whenModal(u"frmTagList"_s, [&](QDialog &dialog) {
+        EXPECT_EQ(dialog.windowTitle(), u"Data Type Tags"_s);
         auto *tabs = child<QTabBar>(dialog, "tbsTagList");
         EXPECT_EQ(tabs->count(), 2);
         tabs->setCurrentIndex(1);
@@ -127,8 +129,8 @@ TEST_F(RulebaseDialogs, TagListsShowTheirFacesAndCancelLeavesTheSet)
     });
     trigger("tlDataTags");
 
-    whenModal(QStringLiteral("frmTagList"), [&](QDialog &dialog) {
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Scope Tags"));
+    whenModal(u"frmTagList"_s, [&](QDialog &dialog) {
+        EXPECT_EQ(dialog.windowTitle(), u"Scope Tags"_s);
         EXPECT_FALSE(child<QPushButton>(dialog, "cmdInsert")->isVisibleTo(&dialog));
         EXPECT_FALSE(child<QCheckBox>(dialog, "chkOption")->isVisibleTo(&dialog));
         click(dialog, "cmdOK");
@@ -144,7 +146,8 @@ TEST(TagGridModel, PassesTheModelTesterThroughInsertsDeletesTabsAndTheOption)
     Rulebase rulebase;
     TagListForm form;
     form.Initialise(rulebase.DataTypeTags(), TagListForm::DataTypeTags);
-    QAbstractItemModelTester tester(form.grid(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    QAbstractItemModelTester tester(form.grid(),
+                                    QAbstractItemModelTester::FailureReportingMode::Fatal);
     const qint32 row = form.Insert();
     EXPECT_EQ(form.grid()->rowCount(), row);
     form.Delete(row);
@@ -154,7 +157,8 @@ TEST(TagGridModel, PassesTheModelTesterThroughInsertsDeletesTabsAndTheOption)
 
     TagListForm controls;
     controls.Initialise(rulebase.ControlTags(), TagListForm::ControlTags);
-    QAbstractItemModelTester controlTester(controls.grid(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    QAbstractItemModelTester controlTester(controls.grid(),
+                                           QAbstractItemModelTester::FailureReportingMode::Fatal);
     controls.setOption(true);
     controls.setOption(false);
     EXPECT_EQ(controls.grid()->rowCount(), 23);

@@ -16,6 +16,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 namespace CO = CatalogueObject;
@@ -62,7 +64,7 @@ quint64 bits(std::initializer_list<qint32> ids)
 TEST(DeclarationScanner, FindsEveryKindOfObjectAndEveryLineItsParserEvents)
 {
     auto project = std::make_shared<VirtualProject>();
-    ASSERT_EQ(project->LoadProject(kindsDir() + QStringLiteral("/Kinds.vbp")), 0);
+    ASSERT_EQ(project->LoadProject(kindsDir() + u"/Kinds.vbp"_s), 0);
     Recorder recorder;
     DeclarationScanner scanner(recorder);
     const auto sources = project->SourceFiles();
@@ -71,9 +73,9 @@ TEST(DeclarationScanner, FindsEveryKindOfObjectAndEveryLineItsParserEvents)
         recorder.file = QFileInfo(source->Filename()).fileName();
         QString problem;
         const bool read = scanner.scan(*source, problem);
-        if (recorder.file == QLatin1String("modMissing.bas")) {
+        if (recorder.file == "modMissing.bas"_L1) {
             EXPECT_FALSE(read);
-            EXPECT_EQ(problem, QStringLiteral("No such file"));
+            EXPECT_EQ(problem, u"No such file"_s);
             continue;
         }
         ASSERT_TRUE(read) << recorder.file.toStdString() << ": " << problem.toStdString();
@@ -160,8 +162,8 @@ TEST(DeclarationScanner, FindsEveryKindOfObjectAndEveryLineItsParserEvents)
         const DeclaredObject &object = found->second;
         EXPECT_EQ(object.line, row.line) << row.name;
         EXPECT_EQ(object.scope, row.scope) << row.name;
-        EXPECT_EQ((object.isAsNew ? QStringLiteral("New ") : QString()) + object.dataType
-                      + (object.isArray ? QStringLiteral("()") : QString()) + object.progID,
+        EXPECT_EQ((object.isAsNew ? u"New "_s : QString()) + object.dataType
+                      + (object.isArray ? u"()"_s : QString()) + object.progID,
                   QString::fromUtf8(row.declared))
             << row.name;
     }
@@ -201,10 +203,8 @@ TEST(DeclarationScanner, FindsEveryKindOfObjectAndEveryLineItsParserEvents)
         EXPECT_EQ(found & line.hasNot, 0u) << line.where;
     }
     // Keywords see code: literals emptied, comments cut; a comment line is no code at all.
-    EXPECT_EQ(recorder.texts.value(QStringLiteral("modKinds.bas:28")),
-              QStringLiteral("Debug.Print \"\""));
-    EXPECT_EQ(recorder.texts.value(QStringLiteral("modKinds.bas:6")),
-              QStringLiteral("Const PRIVATE_NAME = \"\""));
-    EXPECT_FALSE(recorder.texts.contains(QStringLiteral("modKinds.bas:3")));
-    EXPECT_FALSE(recorder.events.contains(QStringLiteral("cKinds.cls:13"))); // a member attribute
+    EXPECT_EQ(recorder.texts.value(u"modKinds.bas:28"_s), u"Debug.Print \"\""_s);
+    EXPECT_EQ(recorder.texts.value(u"modKinds.bas:6"_s), u"Const PRIVATE_NAME = \"\""_s);
+    EXPECT_FALSE(recorder.texts.contains(u"modKinds.bas:3"_s));
+    EXPECT_FALSE(recorder.events.contains(u"cKinds.cls:13"_s)); // a member attribute
 }

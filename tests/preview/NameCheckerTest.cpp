@@ -14,6 +14,8 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 namespace CO = CatalogueObject;
@@ -55,10 +57,8 @@ TEST(NameChecker, AppliesEveryPartOfAConventionAndNeverGuessesWhatOnlyItsConditi
         = {{"String", "str"}, {"Long", "lng"}, {"(Classes)", "o"}, {"(Controls)", "ctl"}};
     for (const auto &[name, value] : dataTypeTags)
         rulebase.DataTypeTags()->Item(QLatin1String(name))->setTagValue(QLatin1String(value));
-    rulebase.ScopeTags()
-        ->Item(QStringLiteral("Private (Module level)"))
-        ->setTagValue(QStringLiteral("m"));
-    rulebase.setArrayTag(QStringLiteral("a"));
+    rulebase.ScopeTags()->Item(u"Private (Module level)"_s)->setTagValue(u"m"_s);
+    rulebase.setArrayTag(u"a"_s);
 
     const auto variable
         = [](const char *name, const char *type, S scope = S::Local, bool array = false) {
@@ -176,7 +176,7 @@ TEST(NameChecker, AppliesEveryPartOfAConventionAndNeverGuessesWhatOnlyItsConditi
          O::NotPreviewed,
          "not previewed (needs its condition)",
          false,
-         [](NamingConvention &c) { c.setCondition(QStringLiteral("Sub Main\nEnd Sub")); }},
+         [](NamingConvention &c) { c.setCondition(u"Sub Main\nEnd Sub"_s); }},
         {"suffix: ends with, preceded by",
          CO::Variable,
          {},
@@ -234,35 +234,33 @@ TEST(NameChecker, AppliesEveryPartOfAConventionAndNeverGuessesWhatOnlyItsConditi
          O::Excluded,
          "",
          false,
-         [](NamingConvention &c) { c.setExclusionList(QStringLiteral("hWnd; i")); }},
+         [](NamingConvention &c) { c.setExclusionList(u"hWnd; i"_s); }},
         {"a file's Filename property",
          CO::File,
          {{Literal, "frm"}},
          {},
          DeclaredObject{.objectType = CO::NonMDIFormFile,
-                        .name = QStringLiteral("frmMain"),
-                        .properties
-                        = properties({{QStringLiteral("filename"), QStringLiteral("Main.frm")}})},
+                        .name = u"frmMain"_s,
+                        .properties = properties({{u"filename"_s, u"Main.frm"_s}})},
          O::Violation,
          "expected prefix 'frm'",
          false,
          [](NamingConvention &c) {
              c.setPropertyType(16);
-             c.setPropertyName(QStringLiteral("Filename"));
+             c.setPropertyName(u"Filename"_s);
          }},
         {"a project property it doesn't have",
          CO::Project,
          {{Literal, "KV"}},
          {},
-         DeclaredObject{.objectType = CO::Project,
-                        .name = QStringLiteral("Kinds"),
-                        .properties = properties({})},
+         DeclaredObject{
+             .objectType = CO::Project, .name = u"Kinds"_s, .properties = properties({})},
          O::NoValue,
          "",
          false,
          [](NamingConvention &c) {
              c.setPropertyType(13);
-             c.setPropertyName(QStringLiteral("Description"));
+             c.setPropertyName(u"Description"_s);
          }},
         {"a property the preview doesn't read",
          CO::Variable,
@@ -274,15 +272,13 @@ TEST(NameChecker, AppliesEveryPartOfAConventionAndNeverGuessesWhatOnlyItsConditi
          false,
          [](NamingConvention &c) {
              c.setPropertyType(9);
-             c.setPropertyName(QStringLiteral("DataType"));
+             c.setPropertyName(u"DataType"_s);
          }},
         {"a constant typed by an expression",
          CO::Const,
          {{DataTypeTag, ""}},
          {},
-         DeclaredObject{.objectType = CO::PrivateConst,
-                        .name = QStringLiteral("lngX"),
-                        .dataTypeUnknown = true},
+         DeclaredObject{.objectType = CO::PrivateConst, .name = u"lngX"_s, .dataTypeUnknown = true},
          O::NotPreviewed,
          "not previewed (the constant's data type depends on its expression)"},
         {"a pattern that does not compile",
@@ -296,7 +292,7 @@ TEST(NameChecker, AppliesEveryPartOfAConventionAndNeverGuessesWhatOnlyItsConditi
 
     PatternCache patterns;
     TagLookup tags(rulebase);
-    tags.learn(DeclaredObject{.objectType = CO::ClassFile, .name = QStringLiteral("cInvoice")});
+    tags.learn(DeclaredObject{.objectType = CO::ClassFile, .name = u"cInvoice"_s});
     for (const Row &row : rows) {
         auto convention = namingConvention(row.conventionType, row.prefix, row.suffix);
         if (row.adjust)
@@ -320,5 +316,5 @@ TEST(NameChecker, AppliesEveryPartOfAConventionAndNeverGuessesWhatOnlyItsConditi
     const NameChecker checker(namingConvention(CO::Variable, {{DataTypeTag, ""}}), patterns);
     EXPECT_EQ(checker.check(variable("txtName", "TextBox"), controlTags).outcome, O::Pass);
     EXPECT_EQ(checker.check(variable("ctlName", "TextBox"), controlTags).message,
-              QStringLiteral("expected prefix 'txt' for a TextBox"));
+              u"expected prefix 'txt' for a TextBox"_s);
 }

@@ -9,7 +9,10 @@
 class RecordingView final : public IViewController
 {
 public:
-    explicit RecordingView(QStringList *calls) : m_calls(calls) {}
+    explicit RecordingView(QStringList *calls)
+        : m_calls(calls)
+    {
+    }
     // Views for an Application, all recording into `calls`.
     static Application::ViewFactory factory(QStringList *calls)
     {

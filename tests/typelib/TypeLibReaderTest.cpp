@@ -9,20 +9,22 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 using namespace TypeLibSamples;
 
 namespace {
 
-const QString SampleGuid = QStringLiteral("{01234567-89AB-CDEF-0123-456789ABCDEF}");
+const QString SampleGuid = u"{01234567-89AB-CDEF-0123-456789ABCDEF}"_s;
 
 QString dataDir()
 {
-    return TestEnvironment::sharedDataDir() + QStringLiteral("/typelib");
+    return TestEnvironment::sharedDataDir() + u"/typelib"_s;
 }
 
 bool haveSharedData()
 {
-    return QFileInfo::exists(dataDir() + QStringLiteral("/expected.tsv"));
+    return QFileInfo::exists(dataDir() + u"/expected.tsv"_s);
 }
 
 QByteArray fileContent(const QString &name)
@@ -45,7 +47,7 @@ TEST(TypeLibSharedFiles, MatchExpectedTable)
 {
     if (!haveSharedData())
         GTEST_SKIP() << "no shared type library data";
-    const QStringList rows = QString::fromUtf8(fileContent(QStringLiteral("expected.tsv")))
+    const QStringList rows = QString::fromUtf8(fileContent(u"expected.tsv"_s))
                                  .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     ASSERT_GT(rows.size(), 1);
     QStringList listed;
@@ -56,7 +58,7 @@ TEST(TypeLibSharedFiles, MatchExpectedTable)
         QString error;
         const auto info
             = TypeLibReader::readFile(dataDir() + QLatin1Char('/') + f.first(), 0, &error);
-        if (f.value(1) == QStringLiteral("none")) {
+        if (f.value(1) == u"none"_s) {
             EXPECT_FALSE(info.has_value());
             EXPECT_FALSE(error.isEmpty());
             continue;
@@ -72,7 +74,7 @@ TEST(TypeLibSharedFiles, MatchExpectedTable)
     // Every test file is in the table.
     const QStringList files = QDir(dataDir()).entryList(QDir::Files);
     for (const QString &file : files) {
-        if (file != QStringLiteral("README.md") && file != QStringLiteral("expected.tsv")) {
+        if (file != u"README.md"_s && file != u"expected.tsv"_s) {
             EXPECT_TRUE(listed.contains(file)) << file.toStdString();
         }
     }
@@ -82,27 +84,26 @@ TEST(TypeLibSharedFiles, ResourcesAreChosenAndListedById)
 {
     if (!haveSharedData())
         GTEST_SKIP() << "no shared type library data";
-    const QString dll = dataDir() + QStringLiteral("/Reports.dll");
+    const QString dll = dataDir() + u"/Reports.dll"_s;
     const QList<TypeLibInfo> all = TypeLibReader::listFile(dll);
     ASSERT_EQ(resourceIds(all), QList<int>({1, 2}));
-    const auto mailKit = TypeLibReader::readFile(dataDir() + QStringLiteral("/MailKit.tlb"));
+    const auto mailKit = TypeLibReader::readFile(dataDir() + u"/MailKit.tlb"_s);
     ASSERT_TRUE(mailKit.has_value());
     EXPECT_EQ(all[1].guid, mailKit->guid);
     EXPECT_EQ(all[1].name, mailKit->name);
-    EXPECT_EQ(TypeLibReader::readFile(dll, 2)->helpString, QStringLiteral("Mail kit"));
+    EXPECT_EQ(TypeLibReader::readFile(dll, 2)->helpString, u"Mail kit"_s);
     EXPECT_FALSE(TypeLibReader::readFile(dll, 3).has_value());
 
-    const auto grid = TypeLibReader::readFile(dataDir() + QStringLiteral("/GridCtl.tlb"));
+    const auto grid = TypeLibReader::readFile(dataDir() + u"/GridCtl.tlb"_s);
     ASSERT_TRUE(grid.has_value());
-    EXPECT_EQ(grid->name, QStringLiteral("GridCtl"));
+    EXPECT_EQ(grid->name, u"GridCtl"_s);
     EXPECT_EQ(grid->lcid, 0x409u);
     EXPECT_EQ(grid->resourceId, 0);
-    EXPECT_EQ(TypeLibReader::listFile(dataDir() + QStringLiteral("/GridCtl.tlb")).size(), 1);
+    EXPECT_EQ(TypeLibReader::listFile(dataDir() + u"/GridCtl.tlb"_s).size(), 1);
     // A stand-alone library has no second resource.
-    EXPECT_FALSE(
-        TypeLibReader::readFile(dataDir() + QStringLiteral("/GridCtl.tlb"), 2).has_value());
-    EXPECT_TRUE(TypeLibReader::listFile(dataDir() + QStringLiteral("/NoTypeLib.dll")).isEmpty());
-    EXPECT_FALSE(TypeLibReader::readFile(dataDir() + QStringLiteral("/Missing.tlb")).has_value());
+    EXPECT_FALSE(TypeLibReader::readFile(dataDir() + u"/GridCtl.tlb"_s, 2).has_value());
+    EXPECT_TRUE(TypeLibReader::listFile(dataDir() + u"/NoTypeLib.dll"_s).isEmpty());
+    EXPECT_FALSE(TypeLibReader::readFile(dataDir() + u"/Missing.tlb"_s).has_value());
 }
 
 TEST(TypeLibFormats, MsftFieldsAndStrings)
@@ -112,9 +113,9 @@ TEST(TypeLibFormats, MsftFieldsAndStrings)
     EXPECT_EQ(info->guid, SampleGuid);
     EXPECT_EQ(info->majorVersion, 65535);
     EXPECT_EQ(info->minorVersion, 7);
-    EXPECT_EQ(info->version(), QStringLiteral("65535.7"));
+    EXPECT_EQ(info->version(), u"65535.7"_s);
     EXPECT_EQ(info->helpString, QStringLiteral(u"1 \u20AC Caf\u00E9")); // Windows-1252
-    EXPECT_EQ(info->name, QStringLiteral("Lib"));
+    EXPECT_EQ(info->name, u"Lib"_s);
     EXPECT_EQ(info->libFlags, 0x08);
     EXPECT_EQ(info->format, TypeLibInfo::Format::Msft);
     EXPECT_EQ(TypeLibReader::readData(msft(1, 0, "Caf\xC3\xA9", "L"))->helpString,
@@ -131,7 +132,7 @@ TEST(TypeLibFormats, MsftFieldsAndStrings)
     putU32(helpOutside, 0x24, 0x7FFFFFFE);
     QString error;
     EXPECT_FALSE(TypeLibReader::readData(helpOutside, 0, &error).has_value());
-    EXPECT_EQ(error, QStringLiteral("The file is truncated or malformed."));
+    EXPECT_EQ(error, u"The file is truncated or malformed."_s);
 }
 
 TEST(TypeLibFormats, SltgLibraryBlock)
@@ -139,8 +140,8 @@ TEST(TypeLibFormats, SltgLibraryBlock)
     const auto info = TypeLibReader::readData(sltg(4, 2, "Old style"));
     ASSERT_TRUE(info.has_value());
     EXPECT_EQ(info->guid, SampleGuid);
-    EXPECT_EQ(info->version(), QStringLiteral("4.2"));
-    EXPECT_EQ(info->helpString, QStringLiteral("Old style"));
+    EXPECT_EQ(info->version(), u"4.2"_s);
+    EXPECT_EQ(info->helpString, u"Old style"_s);
     EXPECT_EQ(info->lcid, 0x409u);
     EXPECT_EQ(info->format, TypeLibInfo::Format::Sltg);
 
@@ -156,8 +157,8 @@ TEST(TypeLibPeFiles, Pe32AndPe64ResourcesById)
         SCOPED_TRACE(pe64);
         const QByteArray file = pe(pe64, {{2, msft(2, 0, "two", "A")}, {5, sltg(5, 1, "five")}});
         EXPECT_EQ(resourceIds(TypeLibReader::listData(file)), QList<int>({2, 5}));
-        EXPECT_EQ(TypeLibReader::readData(file)->helpString, QStringLiteral("two"));
-        EXPECT_EQ(TypeLibReader::readData(file, 5)->version(), QStringLiteral("5.1"));
+        EXPECT_EQ(TypeLibReader::readData(file)->helpString, u"two"_s);
+        EXPECT_EQ(TypeLibReader::readData(file, 5)->version(), u"5.1"_s);
         EXPECT_FALSE(TypeLibReader::readData(file, 1).has_value());
     }
 }

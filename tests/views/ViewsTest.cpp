@@ -27,9 +27,11 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString crlf2 = QStringLiteral("\r\n\r\n");
+const QString crlf2 = u"\r\n\r\n"_s;
 
 // A view of the sample, shown as SwitchView shows it.
 template<typename View>
@@ -108,7 +110,7 @@ TEST(CodingConventionsView, ShowsEveryConventionAtTheRootWithTitlesCountsAndTool
     EXPECT_EQ(s.form.treeControl.text(1), "Project (" + QString::number(all->Count()) + ")");
     EXPECT_EQ(s.form.listControl.count(), all->Count());
     EXPECT_EQ(s.form.listControl.columnAlignment(4), ColumnAlignment::Right);
-    EXPECT_EQ(s.form.listControl.columnIcon(1), QStringLiteral("SortAscending"));
+    EXPECT_EQ(s.form.listControl.columnIcon(1), u"SortAscending"_s);
     EXPECT_EQ(s.form.statusText, s.status(all->Count(), inactiveIn(s.lists())));
     EXPECT_EQ(s.form.listControl.selectedItem(), 1);
     EXPECT_FALSE(s.form.noItemsVisible);
@@ -148,7 +150,7 @@ TEST(CodingConventionsView, AnEventNodeShowsItsOwnConventionsAndHelp)
     modViewCommon::HighlightConvention(1, false, s.form.listControl);
     s.form.listControl.moveOver(1);
     EXPECT_EQ(s.form.listControl.toolTipText(),
-              QStringLiteral("This convention is not active and therefore will not be enforced."));
+              u"This convention is not active and therefore will not be enforced."_s);
 }
 
 TEST(CodingConventionsView, DeleteAsksAndOnYesRemovesFromListAndRuleLists)
@@ -185,8 +187,8 @@ TEST(CodingConventionsView, DeleteAsksAndOnYesRemovesFromListAndRuleLists)
     s.view->DeleteItems();
     EXPECT_EQ(s.form.listControl.count(), 0);
     EXPECT_TRUE(s.form.noItemsVisible);
-    EXPECT_EQ(s.form.statusText, QStringLiteral("0 Items"));
-    EXPECT_FALSE(s.form.toolEnabled(QStringLiteral("tlCloneRule")));
+    EXPECT_EQ(s.form.statusText, u"0 Items"_s);
+    EXPECT_FALSE(s.form.toolEnabled(u"tlCloneRule"_s));
     EXPECT_EQ(s.ui.unscriptedQuestions, 0);
 }
 
@@ -228,8 +230,7 @@ TEST(CodingConventionsView, EditingInTheDialogUpdatesTheRowOrMovesItOut)
     s.launcher.confirm = true;
     s.launcher.edit = [](IRule &rule) { static_cast<CodingConvention &>(rule).setTitle("Edited"); };
     s.view->OpenItem();
-    EXPECT_EQ(s.form.listControl.subItemText(s.form.listControl.find(key), 1),
-              QStringLiteral("Edited"));
+    EXPECT_EQ(s.form.listControl.subItemText(s.form.listControl.find(key), 1), u"Edited"_s);
 
     // Moved to another event in the dialog: the row leaves, both counts follow.
     const qint32 other = event == 26 ? 25 : 26;
@@ -277,8 +278,8 @@ TEST(CodingConventionsView, AddItemShowsANewConventionOnItsEventAndTheSortSurviv
     EXPECT_GT(s.form.listControl.text(1), s.form.listControl.text(2));
 
     s.view.reset();
-    EXPECT_FALSE(s.form.toolEnabled(QStringLiteral("tlCloneRule")));
-    EXPECT_FALSE(s.form.toolEnabled(QStringLiteral("tlCodingConvention")));
+    EXPECT_FALSE(s.form.toolEnabled(u"tlCloneRule"_s));
+    EXPECT_FALSE(s.form.toolEnabled(u"tlCodingConvention"_s));
 }
 
 TEST(NamingConventionsView, ShowsConventionsByObjectAndMovesThemWhenTheirObjectChanges)
@@ -316,7 +317,7 @@ TEST(CategoryView, ArrangesEveryRuleByCategoryWithAnUnallocatedNode)
     const CategoryList &categories = *s.rulebase->CategoryList();
     const auto all = s.lists().AllConventions();
     ASSERT_EQ(s.form.treeControl.count(), categories.Count() + 2);
-    EXPECT_EQ(s.form.treeControl.key(s.form.treeControl.count()), QStringLiteral("-1K"));
+    EXPECT_EQ(s.form.treeControl.key(s.form.treeControl.count()), u"-1K"_s);
     EXPECT_EQ(s.form.listControl.count(), all->Count());
 
     const auto category = categories.Item(1);
@@ -335,8 +336,7 @@ TEST(CategoryView, ArrangesEveryRuleByCategoryWithAnUnallocatedNode)
     category->setHidden(true);
     s.view->CategoryListChanged();
     EXPECT_EQ(s.form.treeControl.selectedItem(), s.form.treeControl.find(category->Key()));
-    EXPECT_EQ(s.form.treeControl.image(s.form.treeControl.selectedItem()),
-              QStringLiteral("HiddenFolder"));
+    EXPECT_EQ(s.form.treeControl.image(s.form.treeControl.selectedItem()), u"HiddenFolder"_s);
     EXPECT_TRUE(s.form.documentation.startsWith("Category (Hidden): "));
 
     // Its deletion falls back to the root.
@@ -362,9 +362,9 @@ TEST(CategoryView, DoubleClickEditsCategoriesOnlyAndOpenItemDropsRowsThatLeave)
     s.form.treeControl.doubleClick();
     EXPECT_EQ(s.launcher.opened, 1);
     EXPECT_TRUE(s.rulebase->Dirty()) << "an edited category must be offered for saving";
-    EXPECT_EQ(s.form.listTitle, QStringLiteral(" Category [Renamed]"));
+    EXPECT_EQ(s.form.listTitle, u" Category [Renamed]"_s);
     for (int row = 1; row <= s.form.listControl.count(); ++row)
-        EXPECT_EQ(s.form.listControl.subItemText(row, 2), QStringLiteral("Renamed"));
+        EXPECT_EQ(s.form.listControl.subItemText(row, 2), u"Renamed"_s);
 
     ASSERT_GT(s.form.listControl.count(), 0);
     const int rows = s.form.listControl.count();
@@ -398,7 +398,7 @@ TEST(SeverityView, ArrangesEveryRuleBySeverityAndFollowsSeverityEdits)
     ASSERT_FALSE(s.rulebase->Dirty());
     s.form.treeControl.doubleClick();
     EXPECT_TRUE(s.rulebase->Dirty()) << "an edited severity must be offered for saving";
-    EXPECT_EQ(s.form.treeControl.image(node), QStringLiteral("3"));
+    EXPECT_EQ(s.form.treeControl.image(node), u"3"_s);
     for (int row = 1; row <= s.form.listControl.count(); ++row)
         EXPECT_EQ(s.form.listControl.smallIcon(row), 3);
 
@@ -427,7 +427,7 @@ TEST(ViewFactory, MakesTheFourViewsAndTheApplicationShowsThem)
         Application app(&form, createView);
         ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine,
                                      TestEnvironment::sampleRulebase()));
-        EXPECT_EQ(form.treeTitle, QStringLiteral(" Conventions by Category"));
+        EXPECT_EQ(form.treeTitle, u" Conventions by Category"_s);
         const int all = app.rulebase()->RuleLists()->AllConventions()->Count();
         EXPECT_EQ(form.listControl.count(), all);
         app.SwitchView("tlNamingConventions");
@@ -458,6 +458,6 @@ TEST(ViewFactory, ViewsBearAWindowWithoutTreeAndList)
         view.SeverityListChanged();
         EXPECT_EQ(view.ItemsActiveState(), 1) << tool;
     }
-    EXPECT_EQ(form.treeTitle, QStringLiteral(" Conventions by Severity"));
+    EXPECT_EQ(form.treeTitle, u" Conventions by Severity"_s);
     EXPECT_TRUE(ui.messages.empty());
 }

@@ -6,11 +6,13 @@
 
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 void XmlTest::SetUp()
 {
     m_dir = TestEnvironment::makeTempDir();
     auto log = std::make_shared<LogFile>();
-    log->setLogFileName(path(QStringLiteral("Error.log")));
+    log->setLogFileName(path(u"Error.log"_s));
     log->setQuiet(true);
     gobjLogFile = log;
 }
@@ -27,6 +29,6 @@ QString XmlTest::writeFile(const QString &name, const QByteArray &bytes) const
 
 QStringList XmlTest::logRecords() const
 {
-    return QString::fromUtf8(readFile(path(QStringLiteral("Error.log"))))
+    return QString::fromUtf8(readFile(path(u"Error.log"_s)))
         .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
