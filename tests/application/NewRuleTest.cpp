@@ -230,54 +230,6 @@ TEST_F(NewRuleTest, ConfirmedRulesJoinTheListsAndTheView)
     EXPECT_TRUE(ui.messages.empty());
 }
 
-TEST_F(NewRuleTest, OpeningARuleGoesThroughItsDialogAndKeepsTheEventIndexes)
-{
-    app->SwitchView("tlCodingConventions");
-    clickNode("ProjectKey");
-    std::shared_ptr<CodingConvention> rule;
-    for (qint32 i = 1; i <= lists().CodingConventions()->Count() && !rule; ++i) {
-        auto candidate = lists().CodingConventions()->Item(i);
-        if (!candidate->PendingViolation() && !candidate->IsAssignedToEvent(21))
-            rule = candidate;
-    }
-    ASSERT_TRUE(rule);
-    const qint32 oldEvent = rule->ParserEventID(0);
-    clickNode(QString::number(oldEvent) + "Key");
-    clickRow(*rule);
-
-    // Cancelled: nothing moves.
-    forms.confirm = false;
-    app->CurrentView()->OpenItem();
-    EXPECT_EQ(forms.lastRule, rule);
-    EXPECT_NE(form.listControl.find(rule->RuleKey()), 0);
-
-    // Moved to event 21 alone: it leaves this event's list and its row goes.
-    forms.confirm = true;
-    forms.edit = [](IRule &r) {
-        auto &cc = dynamic_cast<CodingConvention &>(r);
-        cc.RemoveParserEventID(-1);
-        cc.AddParserEventID(21);
-        cc.setTitle("Moved");
-    };
-    ASSERT_TRUE(ExecuteTool(*app, "tlOpenRule"));
-    EXPECT_EQ(form.listControl.find(rule->RuleKey()), 0);
-    EXPECT_TRUE(lists().ParserEventCCList(21, false)->ContainsValue(rule));
-    const auto old = lists().ParserEventCCList(oldEvent, false);
-    EXPECT_TRUE(!old || !old->ContainsValue(rule));
-
-    // From the category view the same dialog opens, and the row shows the new title.
-    app->SwitchView("tlCategoryView");
-    clickNode("Category");
-    clickRow(*rule);
-    forms.edit = [](IRule &r) { dynamic_cast<CodingConvention &>(r).setTitle("Renamed"); };
-    forms.created.clear();
-    app->CurrentView()->OpenItem();
-    EXPECT_EQ(forms.created, QList<qint32>{4});
-    const int row = form.listControl.find(rule->RuleKey());
-    ASSERT_NE(row, 0);
-    EXPECT_EQ(form.listControl.subItemText(row, 1), u"Renamed"_s);
-}
-
 // The launcher the Application installs also carries the views' category and severity edits.
 TEST(FormLauncher, CategoryAndSeverityEditsRunTheirEditorsAndWriteOnlyOnOK)
 {

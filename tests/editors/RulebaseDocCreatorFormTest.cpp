@@ -140,45 +140,6 @@ TEST_F(DocCreatorForm, ANewPlanHoldsVisibleCategoriesWithActiveRulesThenTheSixTa
     EXPECT_EQ(sectionKeys(*empty->Report()->Sections()), sixTables);
 }
 
-TEST(RulebaseDocCreatorForm, ReconcilingKeepsTheStoredOrderAndPutsNewRulesLast)
-{
-    ObjectArrayList<IRule> section;
-    ObjectArrayList<IRule> category;
-    std::vector<std::shared_ptr<CodingConvention>> rules;
-    for (qint32 id : {10, 11, 12, 13, 14}) {
-        auto rule = std::make_shared<CodingConvention>();
-        rule->setRuleID(id);
-        rules.push_back(rule);
-    }
-    // Stored: 12, 10, 11. Now: 11 inactive, 13 and 14 new, 12 gone to another category.
-    section.Add(rules[2]);
-    section.Add(rules[0]);
-    section.Add(rules[1]);
-    section.setDirty(false);
-    rules[1]->setRuleActive(false);
-    for (qint32 i : {4, 0, 1, 3})
-        category.Add(rules[std::size_t(i)]);
-    RulebaseDocCreatorForm::ReconcileRules(section, category);
-    std::vector<qint32> ids;
-    for (qint32 i = 1; i <= section.Count(); ++i)
-        ids.push_back(section.Item(i)->RuleID());
-    EXPECT_EQ(ids, (std::vector<qint32>{10, 14, 13}));
-    EXPECT_TRUE(section.Dirty());
-
-    // In step: nothing moves and nothing is marked.
-    ObjectArrayList<IRule> same;
-    same.Add(rules[3]);
-    same.Add(rules[0]);
-    same.setDirty(false);
-    ObjectArrayList<IRule> current;
-    current.Add(rules[0]);
-    current.Add(rules[3]);
-    RulebaseDocCreatorForm::ReconcileRules(same, current);
-    EXPECT_EQ(same.Count(), 2);
-    EXPECT_EQ(same.Item(1), rules[3]);
-    EXPECT_FALSE(same.Dirty());
-}
-
 TEST_F(DocCreatorForm, AStoredPlanFollowsTheRulebaseAcrossRuns)
 {
     {
@@ -230,45 +191,6 @@ TEST_F(DocCreatorForm, AStoredPlanFollowsTheRulebaseAcrossRuns)
     for (const DocCreatorRow &row : third.tableRows())
         checks.push_back(row.checked);
     EXPECT_EQ(checks, (std::vector<bool>{true, true, false, true, true, true}));
-}
-
-TEST_F(DocCreatorForm, LoadSelectsTheFirstSectionAndTableAndShowsTheirTexts)
-{
-    RulebaseDocCreatorForm form;
-    form.setRulebase(rulebase);
-    form.Load();
-
-    ASSERT_EQ(form.sectionRows().size(), 8u);
-    const DocCreatorRow &category = form.sectionRows()[0];
-    EXPECT_EQ(QStringList({category.key, category.text, category.image, category.tag}).join(u'|'),
-              u"1K|Errors|Category|C"_s);
-    const DocCreatorRow &table = form.sectionRows()[2];
-    EXPECT_EQ(QStringList({table.key, table.image, table.tag}).join(u'|'), u"1T|Table|T"_s);
-    EXPECT_EQ(form.selectedSection(), 0);
-    EXPECT_EQ(form.sectionDescription(), u"Errors rules."_s);
-
-    EXPECT_EQ(rowKeys(form.ruleRows()), u"5000R 5002R 5007R"_s);
-    const DocCreatorRow &rule = form.ruleRows()[1];
-    EXPECT_EQ(QStringList({rule.text, rule.subItem, rule.image}).join(u'|'),
-              u"5002|Alpha keyword|UnauthorisedKeyword"_s);
-    EXPECT_EQ(form.selectedRule(), 0);
-    EXPECT_EQ(form.ruleDescription(), u"About Zeta handler"_s);
-    EXPECT_FALSE(form.moveRuleUpEnabled());
-    EXPECT_TRUE(form.moveRuleDownEnabled());
-    EXPECT_FALSE(form.moveSectionUpEnabled());
-    EXPECT_TRUE(form.moveSectionDownEnabled());
-    EXPECT_EQ(form.selectedTable(), 0);
-    EXPECT_EQ(form.tableTitle(), u"Control Tags"_s);
-
-    // A table row clears the rules; the last row can't go down.
-    form.clickSection(7);
-    EXPECT_TRUE(form.ruleRows().empty());
-    EXPECT_TRUE(form.ruleDescription().isEmpty());
-    EXPECT_FALSE(form.moveRuleDownEnabled());
-    EXPECT_TRUE(form.moveSectionUpEnabled());
-    EXPECT_FALSE(form.moveSectionDownEnabled());
-    form.clickSection(3);
-    EXPECT_TRUE(form.sectionDescription().startsWith(u"Data type tags are"_s));
 }
 
 TEST_F(DocCreatorForm, MovesChangeThePlanAndTheRowsTogether)

@@ -157,57 +157,6 @@ TEST(MainWindow, EveryViewCanBeShownAndF1OpensItsPage)
     EXPECT_FALSE(w.window->tool(u"tlSaveRulebase"_s)->icon().isNull());
 }
 
-TEST(MainWindow, ARowDraggedOntoACategoryNodeMovesTheRule)
-{
-    TestEnvironment::clearSettings();
-    SampleWindow w;
-    ASSERT_TRUE(w.opened);
-    w.window->resize(1000, 700);
-    QApplication::processEvents();
-    ASSERT_EQ(w.app->CurrentViewName(), u"tlCategoryView"_s);
-    const CategoryList &categories = *w.app->rulebase()->CategoryList();
-    auto *tree = static_cast<QtTreeControl *>(w.window->tree());
-    auto *list = static_cast<QtListControl *>(w.window->list());
-
-    // Show the first category and pick its first rule.
-    const int source = tree->find(categories.Item(1)->Key());
-    const int target = tree->find(categories.Item(2)->Key());
-    w.window->tvwMain()->selectionModel()->setCurrentIndex(tree->indexOf(source),
-                                                           QItemSelectionModel::ClearAndSelect);
-    ASSERT_GT(list->count(), 0);
-    list->setSelectedItem(1);
-    const QString key = list->key(1);
-    std::unique_ptr<QMimeData> data(list->dragData());
-    ASSERT_NE(data, nullptr);
-    EXPECT_TRUE(data->hasFormat(QLatin1String(DragDrop::MimeType)));
-
-    QWidget *viewport = w.window->tvwMain()->viewport();
-    const QPoint at = w.window->tvwMain()->visualRect(tree->indexOf(target)).center();
-    QDragEnterEvent enter(at, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(viewport, &enter);
-    EXPECT_TRUE(enter.isAccepted());
-    QDragMoveEvent move(at, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(viewport, &move);
-    EXPECT_TRUE(move.isAccepted());
-    EXPECT_EQ(move.dropAction(), Qt::MoveAction);
-    EXPECT_EQ(tree->dropHighlight(), target);
-    EXPECT_TRUE(tree->indexOf(target).data(Qt::BackgroundRole).isValid());
-
-    QDropEvent drop(QPointF(at), Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(viewport, &drop);
-    EXPECT_TRUE(drop.isAccepted());
-    const auto rule = w.app->rulebase()->RuleLists()->AllConventions()->Item(key);
-    EXPECT_EQ(rule->ViolationDefinition()->CategoryID(), categories.Item(2)->ID());
-    EXPECT_EQ(list->find(key), 0);
-
-    // Dropped text of another kind is refused.
-    QMimeData text;
-    text.setText(u"5001Key||"_s);
-    QDragEnterEvent other(at, Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(viewport, &other);
-    EXPECT_FALSE(other.isAccepted());
-}
-
 TEST(MainWindow, AFailedOpenLeavesTheWindowLiveAndAPartLoadSaysSoUntilSaved)
 {
     TestEnvironment::clearSettings();

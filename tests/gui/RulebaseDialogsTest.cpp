@@ -76,69 +76,6 @@ TEST_F(RulebaseDialogs, RulebasePropertiesOpenFromTheFileMenuAndWriteOnOK)
     EXPECT_EQ(rulebase->Title(), u"From the dialog"_s);
 }
 
-TEST_F(RulebaseDialogs, TheCategoryListOpensItsEditorAndCloses)
-{
-    const qint32 categories = rulebase->CategoryList()->Count();
-    const QString first = rulebase->CategoryList()->Item(1)->Title();
-    bool editorSeen = false;
-    whenModal(u"frmCategorySeverity"_s, [&](QDialog &dialog) {
-        EXPECT_EQ(dialog.windowTitle(), u"Category List"_s);
-        auto *list = child<QTreeWidget>(dialog, "lvwCategorySeverity");
-        EXPECT_EQ(list->topLevelItemCount(), categories);
-        EXPECT_EQ(list->headerItem()->text(0), u"Available Categories"_s);
-        EXPECT_TRUE(child<QPushButton>(dialog, "cmdAdd")->isVisibleTo(&dialog));
-        EXPECT_TRUE(child<QPushButton>(dialog, "cmdDelete")->isEnabled());
-        whenModal(u"frmCategoryEditor"_s, [&](QDialog &editor) {
-            editorSeen = true;
-            EXPECT_EQ(child<QLineEdit>(editor, "txtTitle")->text(), first);
-            child<QLineEdit>(editor, "txtTitle")->setText(u"Not kept"_s);
-            click(editor, "cmdCancel");
-        });
-        click(dialog, "cmdEdit");
-        click(dialog, "cmdClose");
-    });
-    trigger("tlCategoryList");
-    EXPECT_TRUE(editorSeen);
-    EXPECT_EQ(rulebase->CategoryList()->Item(1)->Title(), first);
-    EXPECT_FALSE(rulebase->Dirty());
-}
-
-TEST_F(RulebaseDialogs, TagListsShowTheirFacesAndCancelLeavesTheSet)
-{
-    const qint32 controls = rulebase->ControlTags()->Count();
-    whenModal(u"frmTagList"_s, [&](QDialog &dialog) {
-        EXPECT_EQ(dialog.windowTitle(), u"Control Tags"_s);
-        auto *grid = child<QTableView>(dialog, "grdTags");
-        EXPECT_EQ(grid->model()->rowCount(), controls);
-        EXPECT_FALSE(child<QTabBar>(dialog, "tbsTagList")->isVisibleTo(&dialog));
-        click(dialog, "cmdInsert");
-        EXPECT_EQ(grid->model()->rowCount(), controls + 1);
-        click(dialog, "cmdCancel");
-    });
-    trigger("tlControlTags");
-    EXPECT_EQ(rulebase->ControlTags()->Count(), controls);
-
-    whenModal(u"frmTagList"_s, [&](QDialog &dialog) {
-        EXPECT_EQ(dialog.windowTitle(), u"Data Type Tags"_s);
-        auto *tabs = child<QTabBar>(dialog, "tbsTagList");
-        EXPECT_EQ(tabs->count(), 2);
-        tabs->setCurrentIndex(1);
-        EXPECT_FALSE(child<QPushButton>(dialog, "cmdInsert")->isEnabled());
-        EXPECT_TRUE(child<QLineEdit>(dialog, "txtArrayTagValue")->isVisibleTo(&dialog));
-        click(dialog, "cmdCancel");
-    });
-    trigger("tlDataTags");
-
-    whenModal(u"frmTagList"_s, [&](QDialog &dialog) {
-        EXPECT_EQ(dialog.windowTitle(), u"Scope Tags"_s);
-        EXPECT_FALSE(child<QPushButton>(dialog, "cmdInsert")->isVisibleTo(&dialog));
-        EXPECT_FALSE(child<QCheckBox>(dialog, "chkOption")->isVisibleTo(&dialog));
-        click(dialog, "cmdOK");
-    });
-    trigger("tlScopeTags");
-    EXPECT_FALSE(rulebase->Dirty());
-}
-
 #if QUORIN_HAVE_MODEL_TESTER
 TEST(TagGridModel, PassesTheModelTesterThroughInsertsDeletesTabsAndTheOption)
 {

@@ -119,25 +119,6 @@ TEST_F(ProjectReader, LedgerListsReferencesComponentsAndFilesAsTheFileHoldsThem)
     EXPECT_EQ(property(*project, "Extension"), u".vbp"_s);
 }
 
-TEST_F(ProjectReader, OtherSharedProjectsGiveTheirControlsAndTypedFiles)
-{
-    QUORIN_REQUIRE_VB6_DATA(dir);
-    auto gauge = std::make_shared<VirtualProject>();
-    ASSERT_EQ(gauge->LoadProject(dir + u"/Suite/Controls/Gauge.vbp"_s), 0);
-    EXPECT_EQ(gauge->SourceFiles()->Item(u"Gauge"_s)->FileType(), SourceFileType::UserControl);
-    EXPECT_EQ(gauge->SourceFiles()->Item(u"ppgGauge"_s)->FileType(), SourceFileType::PropertyPage);
-
-    auto report = std::make_shared<VirtualProject>();
-    ASSERT_EQ(report->LoadProject(dir + u"/Tools/Report Builder/Report Builder.vbp"_s), 0);
-    const auto dialogs = report->Components()->Item(u"{F9043C88-F6F2-101A-A3C9-08002B2F49FB}"_s);
-    EXPECT_EQ(dialogs->Version(), u"1.2"_s);
-    EXPECT_EQ(dialogs->Filename(), u"comdlg32.ocx"_s);
-    // The missing module is named by its line, so the reader never opens it.
-    const auto gone = report->SourceFiles()->Item(u"modGone"_s);
-    EXPECT_EQ(gone->FileType(), SourceFileType::Module);
-    EXPECT_EQ(gone->Filename(), dir + u"/Tools/Report Builder/modGone.bas"_s);
-}
-
 // ---- Project lines ----
 
 TEST_F(ProjectReader, ReadingEndsAtTheFirstEmptyLineOrSection)

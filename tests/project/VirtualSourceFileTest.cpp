@@ -343,20 +343,4 @@ TEST_F(SourceFileReader, LineStatisticsOfEverySharedSourceFileMatchAnIndependent
     EXPECT_EQ(checked, 11);
 }
 
-TEST_F(SourceFileReader, LineStatisticsOfKnownFiles)
-{
-    QUORIN_REQUIRE_VB6_DATA(dir);
-    const std::pair<const char *, Counts> files[] = {
-        {"/Suite/App/modMain.bas", {9, 3, 2, 44, 56}},
-        {"/Suite/Core/cInvoice.cls", {5, 0, 0, 23, 28}}, // a member attribute inside the code
-        {"/Suite/Core/IPrintable.cls", {0, 0, 0, 3, 3}}, // no final line end
-        {"/Suite/App/frmAbout.frm", {1, 0, 0, 4, 5}},    // form header, LF line ends
-    };
-    for (const auto &[name, counts] : files) {
-        VirtualSourceFile file;
-        file.setFilename(dir + QLatin1String(name));
-        EXPECT_EQ(countedByReader(file), counts) << name;
-    }
-}
-
 } // namespace

@@ -116,38 +116,6 @@ TEST(DocCommand, WithoutAnOrganisationTakesTheRememberedOneOrWarnsAndNeverAsks)
     TestEnvironment::clearSettings();
 }
 
-// The document holds the plan the designer shows: reconciled with the categories and rules as
-// they stand, whether a plan was stored or not.
-TEST(DocCommand, TheDocumentHoldsTheSectionsTheDesignerShows)
-{
-    QByteArray unplanned = sampleBytes();
-    const qsizetype start = unplanned.indexOf("<Report>");
-    const qsizetype end = unplanned.indexOf("</Report>") + qsizetype(sizeof "</Report>") - 1;
-    ASSERT_TRUE(start > 0 && end > start);
-    unplanned.replace(start, end - start, "<Report/>");
-    for (const QByteArray &bytes : {sampleBytes(), unplanned}) {
-        const QString dir = TestEnvironment::makeTempDir();
-        const QString rulebase = writeFile(dir + u"/Team.qrb"_s, bytes);
-        const QString out = dir + u"/doc.html"_s;
-        const ToolRun run
-            = runQrbTool({u"doc"_s, rulebase, u"-o"_s, out, u"--organisation"_s, u"K"_s});
-        ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
-        const QByteArray html = readFile(out);
-
-        ScriptedUserInterface ui;
-        RulebaseManager::setAdministratorOverride(true);
-        RulebaseDocCreatorForm designer;
-        designer.setRulebase(RulebaseManager().LoadRulebase(rulebase));
-        const auto sections = designer.Sections();
-        ASSERT_GT(sections->Count(), 6);
-        EXPECT_EQ(html.count("<li class=\"level1_li\">"), sections->Count());
-        for (qint32 i = 1; i <= sections->Count(); ++i) {
-            const QByteArray entry = "\">" + sections->Item(i)->Title().toLatin1() + "</a></li>";
-            EXPECT_TRUE(html.contains(entry)) << entry.toStdString();
-        }
-    }
-}
-
 TEST(DocCommand, AFolderThatTakesNoFileFailsNamingTheFileAndLeavesNothing)
 {
     const QString dir = TestEnvironment::makeTempDir();

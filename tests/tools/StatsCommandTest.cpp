@@ -77,62 +77,6 @@ TEST(StatsCommand, AProjectWrittenHereIsCountedAsTheReviewerCountsIt)
     EXPECT_EQ(runQrbTool({u"stats"_s}).exitCode, 2);
 }
 
-TEST(StatsCommand, TheSharedProjectsAddUpAndAMissingSourceFileIsAFinding)
-{
-    const QString dir = vb6DataDir();
-    if (dir.isEmpty())
-        GTEST_SKIP() << "no shared VB6 test data";
-    const QString group = dir + u"/Suite/Suite.vbg"_s;
-    const QString ledger = dir + u"/Suite/App/Ledger.vbp"_s;
-    const QString builder = dir + u"/Tools/Report Builder/Report Builder.vbp"_s;
-    const QString empty = dir + u"/Tools/Empty.vbp"_s;
-
-    // The group's own project named again counts once.
-    const ToolRun run
-        = runQrbTool({u"stats"_s, u"--format"_s, u"json"_s, group, ledger, builder, empty});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_TRUE(run.err.contains("modGone.bas: No such file (in project ReportBuilder)"_L1))
-        << run.err.toStdString();
-    const QJsonObject root = parseJsonObject(run.out);
-    const QJsonArray projects = root.value(u"projects"_s).toArray();
-    QStringList names;
-    QJsonObject sum;
-    qint64 files = 0;
-    for (const QJsonValue &value : projects) {
-        const QJsonObject project = value.toObject();
-        names << project.value(u"name"_s).toString();
-        files += number(project, "files");
-        const QJsonArray sources = project.value(u"sourceFiles"_s).toArray();
-        EXPECT_EQ(number(project, "files"), sources.size());
-        for (const char *counter : counters) {
-            qint64 fileSum = 0;
-            for (const QJsonValue &source : sources)
-                fileSum += number(source.toObject(), counter);
-            EXPECT_EQ(number(project, counter), fileSum) << counter;
-            sum.insert(QLatin1String(counter), number(sum, counter) + number(project, counter));
-        }
-        EXPECT_EQ(number(project, "totalLines"),
-                  number(project, "codeLines") + number(project, "commentLines")
-                      + number(project, "blankLines"));
-    }
-    EXPECT_EQ(names.size(), 5) << names.join(QLatin1Char(',')).toStdString();
-    EXPECT_EQ(names.count(u"Ledger"_s), 1) << names.join(QLatin1Char(',')).toStdString();
-    const QJsonObject total = root.value(u"total"_s).toObject();
-    EXPECT_EQ(number(total, "projects"), 5);
-    EXPECT_EQ(number(total, "files"), files);
-    for (const char *counter : counters)
-        EXPECT_EQ(number(total, counter), number(sum, counter)) << counter;
-    // Among them the generated module of 20,000 physical lines, continuations joined.
-    EXPECT_GT(number(total, "totalLines"), 15000);
-
-    const QJsonObject reportBuilder = projects.at(3).toObject();
-    EXPECT_EQ(reportBuilder.value(u"name"_s).toString(), u"ReportBuilder"_s);
-    const QJsonArray unread = reportBuilder.value(u"unreadFiles"_s).toArray();
-    ASSERT_EQ(unread.size(), 1);
-    EXPECT_TRUE(unread.at(0).toObject().value(u"file"_s).toString().endsWith("modGone.bas"_L1));
-    EXPECT_EQ(number(projects.at(4).toObject(), "files"), 0);
-}
-
 // A group whose member project is missing or unreadable is still read and the rest counted: such
 // a member is a finding named by its file, as a missing source file is, never an error frame's
 // text.

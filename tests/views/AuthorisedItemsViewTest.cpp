@@ -515,30 +515,6 @@ TEST(AuthorisedItemsView, ActiveXFilesBecomeComponentsAndReferencesAndTheRestAre
     EXPECT_EQ(s.form.statusText, u"6 Items"_s);
 }
 
-// Sort settings that are out of range, or missing altogether, sort by the first column.
-TEST(AuthorisedItemsView, WideOrMissingSortSettingsSortByTheFirstColumn)
-{
-    {
-        ShownView s;
-        gobjAdminData->setListARSortCol(9);
-        s.click("AR");
-        EXPECT_EQ(s.form.listControl.sortKey(), 0);
-        EXPECT_EQ(s.form.listControl.columnIcon(1), u"SortAscending"_s);
-    }
-    ASSERT_EQ(gobjAdminData, nullptr);
-    ScriptedUserInterface ui;
-    MemoryMainForm form;
-    AuthorisedItemsView view;
-    view.setRulebase(ViewTest::loadSample());
-    view.setMainForm(&form);
-    view.Customise();
-    view.Populate();
-    EXPECT_EQ(form.listControl.count(), 4);
-    EXPECT_EQ(form.listControl.sortKey(), 0);
-    EXPECT_EQ(form.listControl.columnIcon(1), u"SortAscending"_s);
-    EXPECT_TRUE(ui.messages.empty());
-}
-
 TEST(AuthorisedItemsView, ReleaseSavesTheColumnsItOwnsAndDisablesItsTools)
 {
     ShownView s;

@@ -155,50 +155,6 @@ TEST(CategoryDragDrop, RowsDraggedOntoACategoryTakeItAndLeaveTheList)
     EXPECT_TRUE(f.ui.messages.empty());
 }
 
-TEST(CategoryDragDrop, AHoveredNodeOpensAfterTwoSecondsAndTheEdgesScroll)
-{
-    DragFixture<CategoryView> f;
-    const int root = 1;
-    f.showNode(f.rulebase->CategoryList()->Item(1)->Key(), 1);
-    ASSERT_FALSE(f.list().startDrag().isEmpty());
-
-    f.tree().setExpanded(root, false);
-    f.tree().dragOver(root);
-    f.now += 1;
-    f.tree().dragOver(root);
-    EXPECT_FALSE(f.tree().expanded(root)) << "one second is not enough";
-    f.now += 1;
-    f.tree().dragOver(root);
-    EXPECT_TRUE(f.tree().expanded(root));
-
-    // At the bottom edge the hover scrolls to the next node; a move to another node starts
-    // the count again.
-    const int last = f.tree().count();
-    const std::size_t shown = f.tree().madeVisible().size();
-    f.tree().setHeight(last);
-    f.tree().dragOver(last - 1);
-    f.now += 5;
-    f.tree().dragOver(last);
-    EXPECT_EQ(f.tree().madeVisible().size(), shown) << "a new node starts its hover at 0";
-    f.now += 2;
-    f.tree().dragOver(last);
-    ASSERT_EQ(f.tree().madeVisible().size(), shown + 1);
-    // The last child has no next node: its first sibling comes into view.
-    EXPECT_EQ(f.tree().madeVisible().back(), f.tree().firstSibling(last));
-
-    // Across midnight the hover time goes negative and nothing happens.
-    f.tree().setExpanded(root, false);
-    f.tree().setHeight(0);
-    f.tree().dragOver(root + 1);
-    f.tree().dragOver(root);
-    f.now = 0;
-    f.tree().dragOver(root);
-    EXPECT_FALSE(f.tree().expanded(root));
-    // A leave does nothing at all.
-    EXPECT_EQ(f.tree().dragOver(root + 1, DragDrop::StateLeave), DragDrop::EffectNone);
-    EXPECT_EQ(f.tree().dropHighlight(), root);
-}
-
 TEST(SeverityDragDrop, RowsDraggedOntoASeverityTakeItsLevel)
 {
     DragFixture<SeverityView> f;

@@ -84,24 +84,6 @@ TEST(MemoryControls, ListFindsByKeySortsByColumnTextAndKeepsTheCurrentRowThrough
     EXPECT_THROW(list.text(3), QuorinError);
 }
 
-TEST(MemoryControls, HeaderClickReversesTheSameColumnAndStartsAnotherAscending)
-{
-    MemoryListControl list;
-    for (const char *header : {"Rule", "Title", "Category", "Impact"})
-        list.addColumn(QLatin1String(header), ColumnAlignment::Left, 10);
-    list.setColumnAlignment(4, ColumnAlignment::Right);
-    SortListByColumn(list, 1);
-    EXPECT_EQ(list.sortOrder(), 1);
-    EXPECT_EQ(list.columnIcon(1), u"SortDescending"_s);
-    SortListByColumn(list, 4);
-    EXPECT_EQ(list.sortKey(), 3);
-    EXPECT_EQ(list.sortOrder(), 0);
-    EXPECT_EQ(list.columnIcon(1), QString());
-    EXPECT_EQ(list.columnIcon(4), u"SortAscending"_s);
-    EXPECT_EQ(list.columnAlignment(4), ColumnAlignment::Right);
-    EXPECT_TRUE(list.sorted());
-}
-
 TEST(MemoryControls, RuleTreesFillATreeControlDirectly)
 {
     MemoryTreeControl tree;

@@ -192,28 +192,6 @@ TEST(CodingConventionsView, DeleteAsksAndOnYesRemovesFromListAndRuleLists)
     EXPECT_EQ(s.ui.unscriptedQuestions, 0);
 }
 
-TEST(CodingConventionsView, CloneActivateAndTheActiveState)
-{
-    Shown<CodingConventionsView> s;
-    const int rows = s.form.listControl.count();
-    const qint32 lastID = s.lists().LastID();
-    s.form.listControl.click(1);
-    s.view->CloneItems();
-    EXPECT_EQ(s.form.listControl.count(), rows + 1);
-    const QString cloneKey = QString::number(lastID + 1) + "Key";
-    EXPECT_NE(s.form.listControl.find(cloneKey), 0);
-    EXPECT_TRUE(s.lists().CodingConventions()->Contains(cloneKey));
-
-    s.form.listControl.click(s.form.listControl.find(cloneKey));
-    s.view->ActivateItems(false);
-    EXPECT_FALSE(s.lists().AllConventions()->Item(cloneKey)->RuleActive());
-    EXPECT_EQ(s.view->ItemsActiveState(), 2);
-    EXPECT_EQ(s.form.statusText, s.status(rows + 1, inactiveIn(s.lists())));
-    s.view->ActivateItems(true);
-    EXPECT_EQ(s.view->ItemsActiveState(), 1);
-    EXPECT_EQ(s.inactiveRows(), inactiveIn(s.lists()));
-}
-
 TEST(CodingConventionsView, EditingInTheDialogUpdatesTheRowOrMovesItOut)
 {
     Shown<CodingConventionsView> s;
@@ -436,28 +414,5 @@ TEST(ViewFactory, MakesTheFourViewsAndTheApplicationShowsThem)
         EXPECT_FALSE(form.toolEnabled("tlUnauthorisedKeyword")); // released with the category view
         app.TerminateApplication();
     }
-    EXPECT_TRUE(ui.messages.empty());
-}
-
-TEST(ViewFactory, ViewsBearAWindowWithoutTreeAndList)
-{
-    ViewTest::AdminDataScope settings;
-    ScriptedUserInterface ui;
-    MemoryMainForm form;
-    form.controls = false; // as the GUI has until its adapters exist
-    Application app(&form, createView);
-    ASSERT_TRUE(
-        app.OpenRulebase(Application::OpenMode::CommandLine, TestEnvironment::sampleRulebase()));
-    for (const char *tool : {"tlCodingConventions", "tlNamingConventions", "tlSeverityView"}) {
-        app.SwitchView(QLatin1String(tool));
-        IViewController &view = *app.CurrentView();
-        view.CloneItems();
-        view.ActivateItems(false);
-        view.OpenItem();
-        view.CategoryListChanged();
-        view.SeverityListChanged();
-        EXPECT_EQ(view.ItemsActiveState(), 1) << tool;
-    }
-    EXPECT_EQ(form.treeTitle, u" Conventions by Severity"_s);
     EXPECT_TRUE(ui.messages.empty());
 }
