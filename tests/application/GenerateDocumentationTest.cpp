@@ -131,21 +131,3 @@ TEST_F(GenerateDocumentationTest, CancelledAlreadyGeneratedOrWithoutADialogAsksN
     EXPECT_EQ(app.rulebase()->Report()->Sections()->Count(), count);
     EXPECT_FALSE(app.rulebase()->Dirty());
 }
-
-TEST_F(GenerateDocumentationTest, AnUnwritableFolderIsReportedAndNothingOpens)
-{
-    factory.script = [](RulebaseDocCreatorForm &form) {
-        form.OK();
-        return true;
-    };
-    if (!TestEnvironment::makeReadOnly(folder))
-        GTEST_SKIP() << "no way to make a folder read-only here";
-    ui.answers.push_back(MessageResult::Yes);
-    app.GenerateDocumentation();
-    TestEnvironment::makeWritable(folder);
-    ASSERT_EQ(ui.messages.size(), 2u);
-    EXPECT_EQ(ui.messages[1].title, u"Quorin Unexpected Error"_s);
-    EXPECT_TRUE(ui.messages[1].text.contains(u"Can't write the document"_s));
-    EXPECT_TRUE(ui.opened.isEmpty());
-    EXPECT_EQ(window.busyCalls, (std::vector<bool>{true, false}));
-}

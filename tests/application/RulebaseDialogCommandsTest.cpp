@@ -108,34 +108,6 @@ TEST(RulebaseDialogCommands, TheCategoryListDeletesWithTheRulebaseSet)
     EXPECT_EQ(c.viewCalls(), QStringList{u"CategoryListChanged"_s});
 }
 
-TEST(RulebaseDialogCommands, TheSeverityListTellsTheViewAndKeepsTheEditFromBeingLost)
-{
-    Commands c;
-    c.scripts.categorySeverity = [](CategorySeverityForm &form) {
-        EXPECT_EQ(form.DialogType(), 2);
-        return true;
-    };
-    c.app.ShowSeverityList();
-    EXPECT_TRUE(c.viewCalls().isEmpty());
-    EXPECT_FALSE(c.rulebase->Dirty());
-
-    c.scripts.severityEditor = [](SeverityEditorForm &editor) {
-        editor.Load();
-        editor.setTitle(u"Grave"_s);
-        return editor.OK();
-    };
-    c.scripts.categorySeverity = [](CategorySeverityForm &form) {
-        form.Edit();
-        return form.RequestClose();
-    };
-    const QString firstCategory = c.rulebase->CategoryList()->Item(1)->Title();
-    c.app.ShowSeverityList();
-    EXPECT_EQ(c.viewCalls(), QStringList{u"SeverityListChanged"_s});
-    EXPECT_EQ(c.rulebase->SeverityList()->Item(1)->Title(), u"Grave"_s);
-    EXPECT_EQ(c.rulebase->CategoryList()->Item(1)->Title(), firstCategory);
-    EXPECT_TRUE(c.rulebase->Dirty());
-}
-
 TEST(RulebaseDialogCommands, DefaultViolationsChangedAloneMarkTheRulebaseSoNewAsks)
 {
     Commands c;

@@ -1,8 +1,6 @@
 #include "application/Application.h"
 #include "application/HelpTopics.h"
 #include "application/Startup.h"
-#include "gui/QtListControl.h"
-#include "gui/QtTreeControl.h"
 #include "gui/frmMain.h"
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
@@ -13,21 +11,17 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/ViolationDefinition.h"
 #include "views/CommandTable.h"
-#include "views/DragDrop.h"
 #include "views/IViewController.h"
 #include "views/ViewFactory.h"
 
+#include "StartedMainWindow.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QDragEnterEvent>
-#include <QFile>
 #include <QLabel>
 #include <QMenuBar>
-#include <QMimeData>
-#include <QSplitter>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QTreeView>
@@ -81,51 +75,16 @@ TEST(MainWindow, OpensTheSampleWithItsMenusAndClosesWithoutAsking)
     DestroyGlobalObjects();
 }
 
-namespace {
-
-// The sample in a fresh window, as the program starts it; the globals live as long as this.
-struct SampleWindow
-{
-    SampleWindow()
-    {
-        EXPECT_EQ(CreateGlobalObjects(), 0);
-        gobjAdminData->setFirstUse(false);
-        gobjAdminData->setDisplayTips(false);
-        window = std::make_unique<frmMain>(false);
-        app = std::make_unique<Application>(window.get(), createView);
-        window->setApplication(app.get());
-        opened = RunStartup(*app, TestEnvironment::sampleRulebase());
-    }
-    ~SampleWindow()
-    {
-        window->close();
-        app.reset();
-        window.reset();
-        DestroyGlobalObjects();
-    }
-    QSplitter *splitter(const char *name) const
-    {
-        return window->findChild<QSplitter *>(QLatin1String(name));
-    }
-
-    ScriptedUserInterface ui;
-    std::unique_ptr<frmMain> window;
-    std::unique_ptr<Application> app;
-    bool opened = false;
-};
-
-} // namespace
-
 TEST(MainWindow, EveryViewCanBeShownAndF1OpensItsPage)
 {
-    TestEnvironment::clearSettings();
-    SampleWindow w;
-    ASSERT_TRUE(w.opened);
-    w.window->resize(900, 600);
+    ScriptedUserInterface ui;
+    StartedMainWindow w(TestEnvironment::sampleRulebase());
+    ASSERT_TRUE(w.started);
+    w.window.resize(900, 600);
     QApplication::processEvents();
 
     for (const QString &id : CommandTable::viewTools()) {
-        QAction *tool = w.window->tool(id);
+        QAction *tool = w.window.tool(id);
         const bool built = createView(id) != nullptr;
         // A view that is not built yet is disabled and says so; the others switch.
         EXPECT_EQ(tool->isEnabled(), built) << id.toStdString();
@@ -134,67 +93,60 @@ TEST(MainWindow, EveryViewCanBeShownAndF1OpensItsPage)
             continue;
         }
         tool->trigger();
-        EXPECT_EQ(w.app->CurrentViewName(), id);
+        EXPECT_EQ(w.app.CurrentViewName(), id);
         EXPECT_TRUE(tool->isChecked());
-        EXPECT_GT(w.window->tree()->count(), 0) << id.toStdString();
-        EXPECT_FALSE(w.window->findChild<QLabel *>(u"lblTreeViewTitle"_s)->text().isEmpty());
+        EXPECT_GT(w.window.tree()->count(), 0) << id.toStdString();
+        EXPECT_FALSE(w.window.findChild<QLabel *>(u"lblTreeViewTitle"_s)->text().isEmpty());
 
-        w.window->showContextHelp();
-        ASSERT_FALSE(w.ui.helpRequests.empty());
-        const HelpRequest &help = w.ui.helpRequests.back();
+        w.window.showContextHelp();
+        ASSERT_FALSE(ui.helpRequests.empty());
+        const HelpRequest &help = ui.helpRequests.back();
         EXPECT_EQ(help.command, HelpCommand::Context);
         EXPECT_FALSE(HelpTopics::pageForContext(help.context).isEmpty()) << help.context;
     }
-    w.window->tool(u"tlCategoryView"_s)->trigger();
-    w.window->showContextHelp();
-    EXPECT_EQ(w.ui.helpRequests.back().context, 68);
+    w.window.tool(u"tlCategoryView"_s)->trigger();
+    w.window.showContextHelp();
+    EXPECT_EQ(ui.helpRequests.back().context, 68);
     EXPECT_EQ(HelpTopics::pageForContext(68), u"CategoryView.htm"_s);
 
     // Rows carry their severity's picture, and the list header the selected node's.
-    const QModelIndex first = w.window->lvwMain()->model()->index(0, 0);
+    const QModelIndex first = w.window.lvwMain()->model()->index(0, 0);
     EXPECT_FALSE(first.data(Qt::DecorationRole).value<QIcon>().isNull());
-    EXPECT_FALSE(w.window->findChild<QLabel *>(u"imgListHeader"_s)->pixmap().isNull());
-    EXPECT_FALSE(w.window->tool(u"tlSaveRulebase"_s)->icon().isNull());
+    EXPECT_FALSE(w.window.findChild<QLabel *>(u"imgListHeader"_s)->pixmap().isNull());
+    EXPECT_FALSE(w.window.tool(u"tlSaveRulebase"_s)->icon().isNull());
 }
 
 TEST(MainWindow, AFailedOpenLeavesTheWindowLiveAndAPartLoadSaysSoUntilSaved)
 {
-    TestEnvironment::clearSettings();
     const QString dir = TestEnvironment::makeTempDir() + QLatin1Char('/');
     const QString bad = dir + u"bad.qrb"_s;
     const QString part = dir + u"part.qrb"_s;
-    {
-        QFile sample(TestEnvironment::sampleRulebase());
-        QFile truncated(bad);
-        QFile partial(part);
-        ASSERT_TRUE(sample.open(QIODevice::ReadOnly) && truncated.open(QIODevice::WriteOnly)
-                    && partial.open(QIODevice::WriteOnly));
-        const QByteArray bytes = sample.readAll();
-        truncated.write(bytes.left(400));
-        partial.write(QByteArray(bytes).replace("<CategoryList LastID=\"14\">",
-                                                "<CategoryList LastID=\"x\">"));
-    }
-    SampleWindow w;
-    ASSERT_TRUE(w.opened);
-    const QString title = w.window->windowTitle();
+    const QByteArray bytes = TestEnvironment::readFile(TestEnvironment::sampleRulebase());
+    TestEnvironment::writeFile(bad, bytes.left(400));
+    TestEnvironment::writeFile(
+        part, QByteArray(bytes).replace("<CategoryList LastID=\"14\">", "<CategoryList LastID=\"x\">"));
+    ScriptedUserInterface ui;
+    StartedMainWindow w(TestEnvironment::sampleRulebase());
+    ASSERT_TRUE(w.started);
+    const QString title = w.window.windowTitle();
 
     // Not saved first, and the open fails: the edit is still there to save, and closing asks.
-    w.app->rulebase()->setTitle(u"Edited"_s);
-    w.ui.answers = {MessageResult::No};
-    EXPECT_FALSE(w.app->OpenRulebase(Application::OpenMode::CommandLine, bad));
-    EXPECT_EQ(w.window->windowTitle(), title);
-    EXPECT_TRUE(w.window->tool(u"tlSaveRulebase"_s)->isEnabled());
-    EXPECT_EQ(w.app->rulebase()->Title(), u"Edited"_s);
-    w.ui.answers = {MessageResult::Cancel};
-    EXPECT_FALSE(w.window->close());
-    EXPECT_EQ(w.ui.messages.back().text,
+    w.app.rulebase()->setTitle(u"Edited"_s);
+    ui.answers = {MessageResult::No};
+    EXPECT_FALSE(w.app.OpenRulebase(Application::OpenMode::CommandLine, bad));
+    EXPECT_EQ(w.window.windowTitle(), title);
+    EXPECT_TRUE(w.window.tool(u"tlSaveRulebase"_s)->isEnabled());
+    EXPECT_EQ(w.app.rulebase()->Title(), u"Edited"_s);
+    ui.answers = {MessageResult::Cancel};
+    EXPECT_FALSE(w.window.close());
+    EXPECT_EQ(ui.messages.back().text,
               u"The current rulebase has changed, do you wish to save the changes?"_s);
 
-    w.ui.answers = {MessageResult::No};
-    ASSERT_TRUE(w.app->OpenRulebase(Application::OpenMode::CommandLine, part));
-    EXPECT_EQ(w.window->windowTitle(), u"part.qrb (loaded in part) - Quorin Administrator"_s);
-    w.ui.answers = {MessageResult::Yes};
-    w.window->tool(u"tlSaveRulebase"_s)->trigger();
-    EXPECT_EQ(w.window->windowTitle(), u"part.qrb - Quorin Administrator"_s);
-    EXPECT_EQ(w.ui.unscriptedQuestions, 0);
+    ui.answers = {MessageResult::No};
+    ASSERT_TRUE(w.app.OpenRulebase(Application::OpenMode::CommandLine, part));
+    EXPECT_EQ(w.window.windowTitle(), u"part.qrb (loaded in part) - Quorin Administrator"_s);
+    ui.answers = {MessageResult::Yes};
+    w.window.tool(u"tlSaveRulebase"_s)->trigger();
+    EXPECT_EQ(w.window.windowTitle(), u"part.qrb - Quorin Administrator"_s);
+    EXPECT_EQ(ui.unscriptedQuestions, 0);
 }

@@ -92,37 +92,6 @@ TEST(CategoryList, SortsByTitleLaterEqualsFirstWithKeysAlongAndMarksTheListDirty
     EXPECT_TRUE(list.Dirty());
 }
 
-TEST(CategoryList, KeyedListFaceAssignsIdsAndHidesKeys)
-{
-    auto list = std::make_shared<CategoryList>();
-    const auto face = asKeyedList(list);
-    const auto item = category(u"Design"_s);
-    face->Add(item, true);
-    EXPECT_EQ(item->ID(), 1);
-    EXPECT_EQ(face->Key(1), QString()); // deliberately empty
-    EXPECT_EQ(face->Item(u"1K"_s)->Title(), u"Design"_s);
-    EXPECT_TRUE(face->Contains(u"1K"_s));
-    EXPECT_THROW(face->Add(std::make_shared<TableItem>(), false), QuorinError);
-    face->Remove(1);
-    EXPECT_EQ(list->Count(), 0);
-}
-
-TEST(SeverityList, KeyedListFaceGivesLevelsAsIds)
-{
-    auto list = std::make_shared<ObjectKeyedArrayList<SeverityItem>>();
-    auto level = std::make_shared<SeverityItem>();
-    level->setSeverityLevel(3);
-    level->setTitle(u"Medium"_s);
-    list->Add(u"3Key"_s, level, true, false);
-    const auto face = asKeyedList(list);
-    EXPECT_EQ(face->Item(u"3key"_s)->ID(), 3);
-    EXPECT_TRUE(face->Selected(1));
-    auto added = std::make_shared<SeverityItem>();
-    face->Add(added, true);
-    EXPECT_EQ(added->Key(), u"Item1"_s);
-    EXPECT_EQ(list->Count(), 2);
-}
-
 TEST(AuthorisedItems, AddOfAKnownLibIdGivesADetachedBlankItem)
 {
     AuthorisedComponents components;

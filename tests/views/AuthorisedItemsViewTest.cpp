@@ -514,35 +514,3 @@ TEST(AuthorisedItemsView, ActiveXFilesBecomeComponentsAndReferencesAndTheRestAre
     EXPECT_EQ(list.subItemText(s.row(guid), 1), u"1.0; 2.0"_s);
     EXPECT_EQ(s.form.statusText, u"6 Items"_s);
 }
-
-TEST(AuthorisedItemsView, ReleaseSavesTheColumnsItOwnsAndDisablesItsTools)
-{
-    ShownView s;
-    MemoryListControl &list = s.form.listControl;
-    list.setColumnWidth(1, 3000); // half of the list's width
-    s.click("AR");
-    EXPECT_FLOAT_EQ(gobjAdminData->ListColWidthAC(1), 0.5f);
-    list.setColumnWidth(4, 1500);
-    s.click("UK");
-    EXPECT_FLOAT_EQ(gobjAdminData->ListColWidthAR(4), 0.25f);
-    const float keywordWidth = gobjAdminData->ListColWidthUK(2);
-    list.setColumnWidth(2, 600);
-    list.clickColumn(3);
-    EXPECT_EQ(gobjAdminData->ListUKSortCol(), 2);
-    s.view.reset();
-    // The keyword list's fractions are read, never written.
-    EXPECT_FLOAT_EQ(gobjAdminData->ListColWidthUK(2), keywordWidth);
-    EXPECT_TRUE(s.form.treeTitle.isEmpty());
-    EXPECT_TRUE(s.form.listTitle.isEmpty());
-    for (const char *tool : {"tlAddFromProject",
-                             "tlAuthorisedComponent",
-                             "tlAuthorisedReference",
-                             "tlUnauthorisedKeyword"})
-        EXPECT_FALSE(s.tool(tool)) << tool;
-
-    // Shown again, each list takes its fractions back.
-    s.show();
-    EXPECT_EQ(list.columnWidth(1), 3000);
-    s.click("AR");
-    EXPECT_EQ(list.columnWidth(4), 1500);
-}

@@ -430,19 +430,3 @@ TEST_F(HandleTest, RemovedNodesStayWholeWhileAHandleHoldsThemOrANodeBelow)
     EXPECT_EQ(moved.AttributeValueByName(u"Key"_s), u"b0"_s);
     EXPECT_EQ(outlived.XMLString(), u"<After Key=\"x\"/>"_s);
 }
-
-TEST_F(HandleTest, NullHandleFailsInTheCaller)
-{
-    const TarnXMLElement null;
-    EXPECT_FALSE(null);
-    EXPECT_EQ(null.XMLNode(), nullptr);
-    try {
-        null.ElementCount();
-        FAIL() << "no error";
-    } catch (const QuorinError &error) {
-        EXPECT_EQ(error.number(), ErrorNumber::ObjectNotSet);
-        EXPECT_EQ(error.source(), u"TarnXMLElement::ElementCount"_s);
-    }
-    EXPECT_THROW(null.ElementByName(u"A"_s), QuorinError);
-    EXPECT_TRUE(logRecords().isEmpty()); // nothing was caught and logged on the way
-}
