@@ -189,8 +189,7 @@ TEST_F(ApplicationTest, AFailedOpenKeepsTheRulebaseBeforeItWholeAndSavable)
     EXPECT_TRUE(before->Dirty());
     EXPECT_EQ(ui.messageTexts().mid(1),
               (QStringList{
-                  QStringLiteral(
-                      "Unable to load the rulebase because of an unexpected error during parsing."),
+                  u"Unable to load the rulebase because of an unexpected error during parsing."_s,
                   u"Failed to open '"_s + bad + u"', it may not be a valid Quorin rulebase."_s}));
     EXPECT_TRUE(TestEnvironment::readFile(dir + u"Error.log"_s).contains("XML Parser Error"));
 

@@ -107,8 +107,7 @@ TEST_F(GenerateDocumentationTest, CancelledAlreadyGeneratedOrWithoutADialogAsksN
     app.GenerateDocumentation();
     EXPECT_EQ(factory.runs, 1);
     EXPECT_EQ(ui.messageTexts(),
-              QStringList{QStringLiteral(
-                  "Document content has changed. Continue without saving changes?")});
+              QStringList{u"Document content has changed. Continue without saving changes?"_s});
     EXPECT_FALSE(QFile::exists(document));
 
     factory.script = [](RulebaseDocCreatorForm &form) {

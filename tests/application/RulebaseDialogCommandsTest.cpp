@@ -133,8 +133,7 @@ TEST(RulebaseDialogCommands, DefaultViolationsChangedAloneMarkTheRulebaseSoNewAs
     c.app.NewRulebase();
     EXPECT_EQ(c.app.rulebase(), c.rulebase);
     EXPECT_EQ(c.ui.messageTexts(),
-              QStringList{QStringLiteral(
-                  "The current rulebase has changed, do you wish to save the changes?")});
+              QStringList{u"The current rulebase has changed, do you wish to save the changes?"_s});
 }
 
 TEST(RulebaseDialogCommands, RulebasePropertiesWriteOnOKOnly)

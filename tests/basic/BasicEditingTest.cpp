@@ -63,10 +63,9 @@ TEST(BasicColouring, ColoursTokensQuorinMembersAndVocabularyNames)
               u"Call=Keyword|Quorin=Member|RaiseViolation=Member"_s);
     // Names the vocabulary knows, whatever their case, inside strings only.
     EXPECT_EQ(
-        colours(QStringLiteral(
-            "If Quorin.GetObjectProperty(\"procedure\", \"Name\") = \"Procedure\" Then")),
-        QStringLiteral("If=Keyword|Quorin=Member|GetObjectProperty=Member|\"procedure\"=Vocabulary|"
-                       "\"Name\"=Vocabulary|\"Procedure\"=Vocabulary|Then=Keyword"));
+        colours(u"If Quorin.GetObjectProperty(\"procedure\", \"Name\") = \"Procedure\" Then"_s),
+        u"If=Keyword|Quorin=Member|GetObjectProperty=Member|\"procedure\"=Vocabulary|"
+        u"\"Name\"=Vocabulary|\"Procedure\"=Vocabulary|Then=Keyword"_s);
     EXPECT_EQ(colours(u"x = \"begin Project\" & \"\""_s),
               u"\"begin Project\"=Vocabulary|\"\"=String"_s);
     // A string the line ends in, a lone quote, a date, an invalid character and Rem.
@@ -113,12 +112,12 @@ TEST(BasicCompletion, FindsWhatTheCaretMayBeCompletedWith)
     EXPECT_EQ(contextAt(u"If Quorin.ParserEvent <> \"|"_s).kind, K::ParserEvent);
 
     // A Case of the innermost Select on the parser event, not of another Select.
-    const QString select = QStringLiteral("Select Case Quorin.ParserEvent()\r\n"
-                                          "  Case \"x\"\r\n"
-                                          "    Select Case y\r\n"
-                                          "      Case 1\r\n"
-                                          "    End Select\r\n"
-                                          "  Case \"a\", \"|\r\n");
+    const QString select = u"Select Case Quorin.ParserEvent()\r\n"
+                           u"  Case \"x\"\r\n"
+                           u"    Select Case y\r\n"
+                           u"      Case 1\r\n"
+                           u"    End Select\r\n"
+                           u"  Case \"a\", \"|\r\n"_s;
     EXPECT_EQ(contextAt(select).kind, K::ParserEvent);
     EXPECT_EQ(contextAt(u"Select Case y\nCase \"|"_s).kind, K::None);
 

@@ -35,43 +35,40 @@ QString describe(const QString &text)
 TEST(BasicLexer, SortsWordsNumbersStringsAndSymbols)
 {
     EXPECT_EQ(describe(u"dIM s$, n% : s = UCase$(\"a\"\"b\") & 1.5E-3"_s),
-              QStringLiteral("Kw:dIM|Id:s$|Punct:,|Id:n%|Punct::|Id:s|Op:=|Id:UCase$|Punct:(|Str:"
-                             "\"a\"\"b\"|Punct:)|Op:&|Num:1.5E-3"));
+              u"Kw:dIM|Id:s$|Punct:,|Id:n%|Punct::|Id:s|Op:=|Id:UCase$|Punct:(|Str:"
+              u"\"a\"\"b\"|Punct:)|Op:&|Num:1.5E-3"_s);
     EXPECT_EQ(
         describe(u"x = &HFF& + &O17 + 12% + 3# + .5 + 2@"_s),
-        QStringLiteral(
-            "Id:x|Op:=|Num:&HFF&|Op:+|Num:&O17|Op:+|Num:12%|Op:+|Num:3#|Op:+|Num:.5|Op:+|Num:2@"));
+        u"Id:x|Op:=|Num:&HFF&|Op:+|Num:&O17|Op:+|Num:12%|Op:+|Num:3#|Op:+|Num:.5|Op:+|Num:2@"_s);
     EXPECT_EQ(describe(u"d = #1/2/2000# : Print #1, a <= b <> c >= d, n:=1"_s),
-              QStringLiteral("Id:d|Op:=|Date:#1/2/"
-                             "2000#|Punct::|Id:Print|Punct:#|Num:1|Punct:,|Id:a|Op:<=|Id:b|Op:<>|"
-                             "Id:c|Op:>=|Id:d|Punct:,|Id:n|Punct::=|Num:1"));
+              u"Id:d|Op:=|Date:#1/2/"
+              u"2000#|Punct::|Id:Print|Punct:#|Num:1|Punct:,|Id:a|Op:<=|Id:b|Op:<>|"
+              u"Id:c|Op:>=|Id:d|Punct:,|Id:n|Punct::=|Num:1"_s);
 }
 
 TEST(BasicLexer, DateLiteralsOnlyWhereTheTextReadsAsADate)
 {
     EXPECT_EQ(describe(u"d = #Jan 1, 2000# + #2000-01-02 12:30:00 PM# + #1-Feb-2000#"_s),
-              QStringLiteral("Id:d|Op:=|Date:#Jan 1, 2000#|Op:+|Date:#2000-01-02 12:30:00 "
-                             "PM#|Op:+|Date:#1-Feb-2000#"));
+              u"Id:d|Op:=|Date:#Jan 1, 2000#|Op:+|Date:#2000-01-02 12:30:00 "
+              u"PM#|Op:+|Date:#1-Feb-2000#"_s);
     EXPECT_EQ(describe(u"Write #1, a, #1/2/2000#"_s),
               u"Id:Write|Punct:#|Num:1|Punct:,|Id:a|Punct:,|Date:#1/2/2000#"_s);
-    EXPECT_EQ(
-        describe(u"Print #1, x: Print #1, y"_s),
-        QStringLiteral(
-            "Id:Print|Punct:#|Num:1|Punct:,|Id:x|Punct::|Id:Print|Punct:#|Num:1|Punct:,|Id:y"));
+    EXPECT_EQ(describe(u"Print #1, x: Print #1, y"_s),
+              u"Id:Print|Punct:#|Num:1|Punct:,|Id:x|Punct::|Id:Print|Punct:#|Num:1|Punct:,|Id:y"_s);
 }
 
 TEST(BasicLexer, MemberNamesAfterADotAreNeverKeywords)
 {
     EXPECT_EQ(describe(u"rs.Type = x.End + rs!Name + a! + [My Name]"_s),
-              QStringLiteral("Id:rs|Punct:.|Id:Type|Op:=|Id:x|Punct:.|Id:End|Op:+|Id:rs|Punct:!|Id:"
-                             "Name|Op:+|Id:a!|Op:+|Id:[My Name]"));
+              u"Id:rs|Punct:.|Id:Type|Op:=|Id:x|Punct:.|Id:End|Op:+|Id:rs|Punct:!|Id:"
+              u"Name|Op:+|Id:a!|Op:+|Id:[My Name]"_s);
 }
 
 TEST(BasicLexer, CommentsByApostropheAndByRemAtAStatementStartOnly)
 {
     EXPECT_EQ(describe(u"Remark = 1 ' note\nREM all of it\nx = 1: Rem tail"_s),
-              QStringLiteral("Id:Remark|Op:=|Num:1|Rem:' note|EOL|Rem:REM all of "
-                             "it|EOL|Id:x|Op:=|Num:1|Punct::|Rem:Rem tail"));
+              u"Id:Remark|Op:=|Num:1|Rem:' note|EOL|Rem:REM all of "
+              u"it|EOL|Id:x|Op:=|Num:1|Punct::|Rem:Rem tail"_s);
     EXPECT_EQ(describe(u"If a Then Rem why"_s), u"Kw:If|Id:a|Kw:Then|Rem:Rem why"_s);
     EXPECT_EQ(describe(u"10 Rem numbered\nRem = 1 + Rem"_s),
               u"Num:10|Rem:Rem numbered|EOL|Rem:Rem = 1 + Rem"_s);

@@ -225,9 +225,8 @@ TEST(BasicParser, ChecksLargeScriptsInOnePass)
 {
     QStringList lines{"Sub Main", "  Dim total As Long"};
     for (int i = 0; i < 2000; ++i)
-        lines << QStringLiteral("  If total Mod %1 = 0 Then total = total + Len(\"x\") Else "
-                                "total = total - 1")
-                     .arg(i + 1);
+        lines << u"  If total Mod %1 = 0 Then total = total + Len(\"x\") Else "
+                 u"total = total - 1"_s.arg(i + 1);
     lines << u"End Sub"_s;
     BasicSyntaxChecker checker;
     EXPECT_TRUE(checker.check(script(lines)));

@@ -49,24 +49,23 @@ TEST(ConditionRules, CheckConditionAppliesTheRulesInOrder)
     EXPECT_FALSE(verdict.passed);
     EXPECT_FALSE(verdict.syntaxError);
     EXPECT_EQ(verdict.message,
-              QStringLiteral("Quorin rule conditions do not support the use of Subs, Functions or "
-                             "Property procedures other than the required Sub Main."));
+              u"Quorin rule conditions do not support the use of Subs, Functions or "
+              u"Property procedures other than the required Sub Main."_s);
 
     verdict = CheckCondition(script({"Sub Main", "  If x Then", "End Sub"}), Naming);
     EXPECT_FALSE(verdict.passed);
     EXPECT_EQ(verdict.message,
-              QStringLiteral("A naming convention condition, if set, must contain the line "
-                             "Quorin.ApplyConvention to notify the parser that the convention must "
-                             "be applied."));
+              u"A naming convention condition, if set, must contain the line "
+              u"Quorin.ApplyConvention to notify the parser that the convention must "
+              u"be applied."_s);
 
     verdict = CheckCondition(
         script({"Sub Main", "  If x Then", "  Quorin.ApplyConvention", "End Sub"}), Naming);
     EXPECT_FALSE(verdict.passed);
     EXPECT_TRUE(verdict.syntaxError);
-    EXPECT_EQ(
-        verdict.message,
-        QStringLiteral("line 2, column 3: Block If without End If Please fix before trying to "
-                       "save the condition."));
+    EXPECT_EQ(verdict.message,
+              u"line 2, column 3: Block If without End If Please fix before trying to "
+              u"save the condition."_s);
     EXPECT_EQ(verdict.line, 2);
     EXPECT_EQ(verdict.column, 3);
 

@@ -215,8 +215,7 @@ TEST(AddFromProjectForm, TabsListTheCandidatesAndTicksReachThem)
     EXPECT_EQ(form.File(), dir + u"/p.vbp"_s);
     EXPECT_EQ(gobjAdminData->LastPath(), dir + QLatin1Char('/'));
     EXPECT_EQ(ui.messages.back().text,
-              QStringLiteral(
-                  "2 new components and 3 new references were found for the project 'p.vbp'."));
+              u"2 new components and 3 new references were found for the project 'p.vbp'."_s);
     EXPECT_TRUE(form.OKEnabled());
 
     EXPECT_EQ(form.TabPicture(), u"imgComponents"_s);

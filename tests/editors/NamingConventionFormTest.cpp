@@ -285,8 +285,7 @@ TEST(NamingConventionForm, ConditionDeleteAsksFirst)
     EXPECT_FALSE(o.form.cmdDeleteEnabled());
     ASSERT_EQ(ui.messages.size(), 2u);
     EXPECT_EQ(ui.messages[0].text,
-              QStringLiteral(
-                  "Are you sure you wish to delete the condition for this naming convention?"));
+              u"Are you sure you wish to delete the condition for this naming convention?"_s);
     EXPECT_EQ(ui.messages[0].icon, MessageIcon::Question);
     EXPECT_EQ(ui.messages[0].buttons, MessageButtons::YesNo);
 }

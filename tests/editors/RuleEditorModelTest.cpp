@@ -102,20 +102,18 @@ TEST(RuleEditorModel, CheckConditionShowsTheFirstRefusal)
 
     ASSERT_EQ(ui.messages.size(), 3u);
     EXPECT_EQ(ui.messages[0].text,
-              QStringLiteral(
-                  "Quorin rule conditions do not support the use of Subs, Functions or Property "
-                  "procedures other than the required Sub Main."));
+              u"Quorin rule conditions do not support the use of Subs, Functions or Property "
+              u"procedures other than the required Sub Main."_s);
     EXPECT_EQ(ui.messages[0].title, u"Quorin Administrator"_s);
     EXPECT_EQ(ui.messages[0].icon, MessageIcon::Exclamation);
     EXPECT_EQ(ui.messages[1].text,
-              QStringLiteral("line 2, column 3: Block If without End If Please fix before trying "
-                             "to save the condition."));
+              u"line 2, column 3: Block If without End If Please fix before trying "
+              u"to save the condition."_s);
     EXPECT_EQ(ui.messages[1].title, syntaxTitle);
     EXPECT_EQ(
         ui.messages[2].text,
-        QStringLiteral(
-            "A naming convention condition, if set, must contain the line Quorin.ApplyConvention "
-            "to notify the parser that the convention must be applied."));
+        u"A naming convention condition, if set, must contain the line Quorin.ApplyConvention "
+        u"to notify the parser that the convention must be applied."_s);
 }
 
 TEST(RuleEditorModel, CheckSyntaxReportsEitherOutcome)

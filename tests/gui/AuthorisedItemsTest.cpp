@@ -115,10 +115,8 @@ TEST(AuthorisedItemsWindow, TheViewShowsAndAReferenceIsAddedThroughItsDialog)
                 u"{FEDCBA98-0000-0000-0000-000000000001}"_s);
         }));
         ASSERT_FALSE(ui.messages.empty());
-        EXPECT_EQ(
-            ui.messages.back().text,
-            QStringLiteral(
-                "1 new component and 3 new references were found for the selected projects."));
+        EXPECT_EQ(ui.messages.back().text,
+                  u"1 new component and 3 new references were found for the selected projects."_s);
 
         // Another view takes no files.
         window.tool(u"tlCategoryView"_s)->trigger();

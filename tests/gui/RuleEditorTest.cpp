@@ -75,8 +75,8 @@ TEST(RuleEditor, MarksAnErrorWhileTypingAndSavesOnceItIsFixed)
     EXPECT_TRUE(dialog.isVisible());
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_EQ(ui.messages[0].text,
-              QStringLiteral("line 3, column 3: Block If without End If Please fix before trying "
-                             "to save the condition."));
+              u"line 3, column 3: Block If without End If Please fix before trying "
+              u"to save the condition."_s);
     EXPECT_EQ(ui.messages[0].title, u"Quorin Administrator - Syntax Error"_s);
     EXPECT_EQ(editor->textCursor().blockNumber(), 2);
 
@@ -188,9 +188,9 @@ TEST(RuleEditor, PickersAndCompletionInsertTheVocabulary)
     dialog.tool(u"tlParserEvent"_s)->trigger();
     EXPECT_EQ(eventRuleType, RuleTypes::NamingConvention);
     EXPECT_EQ(editor->toPlainText(),
-              QStringLiteral("Quorin.GetObjectProperty(\"Procedure\", \"Name\")\n"
-                             "Quorin.GetObjectWorkField(\"File\", \"Lines\")\n"
-                             "Quorin.ParserEvent() = \"begin File\""));
+              u"Quorin.GetObjectProperty(\"Procedure\", \"Name\")\n"
+              u"Quorin.GetObjectWorkField(\"File\", \"Lines\")\n"
+              u"Quorin.ParserEvent() = \"begin File\""_s);
     RuleEditorPickers::setObjectPicker({});
     RuleEditorPickers::setEventPicker({});
 

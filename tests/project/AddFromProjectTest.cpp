@@ -106,8 +106,7 @@ TEST(AddFromProjectMessages, CountsVerbsAndTheProjectName)
     EXPECT_EQ(AddFromProject::NewItemsMessage(0, 1, QString()),
               u"1 new reference was found for the selected projects."_s);
     EXPECT_EQ(AddFromProject::NewItemsMessage(2, 1, QString()),
-              QStringLiteral(
-                  "2 new components and 1 new reference was found for the selected projects."));
+              u"2 new components and 1 new reference was found for the selected projects."_s);
     EXPECT_EQ(AddFromProject::NewItemsMessage(1, 2, u"b.vbg"_s),
               u"1 new component and 2 new references were found for the project 'b.vbg'."_s);
     // The reference text keeps its verb whatever it is told.
@@ -204,8 +203,7 @@ TEST_F(AddFromProjectTest, UnreadableAndForeignFilesAddNothingButStillGetTheBox)
 {
     importer.ParseSingleFile(path(u"missing.vbp"_s));
     EXPECT_EQ(lastMessage(),
-              QStringLiteral(
-                  "No new components or references were found for the project 'missing.vbp'."));
+              u"No new components or references were found for the project 'missing.vbp'."_s);
     importer.ParseSingleFile(writeFile(u"notes.txt"_s, "Reference=*\\G{1}#1.0#0#x#y\r\n"));
     EXPECT_EQ(lastMessage(),
               u"No new components or references were found for the project 'notes.txt'."_s);

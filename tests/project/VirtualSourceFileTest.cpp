@@ -82,8 +82,8 @@ TEST_F(SourceFileReader, NameAndTypeComeFromTheLineOrTheFile)
         properties << named.Properties()->Key(i) + QLatin1Char('=')
                           + named.Properties()->Item(i).toString();
     EXPECT_EQ(properties.join(QLatin1Char(' ')),
-              QStringLiteral("Name=CFoo Type=Class FullFilename=sub\\foo.cls Path=sub\\ "
-                             "Filename=foo.cls Extension=.cls"));
+              u"Name=CFoo Type=Class FullFilename=sub\\foo.cls Path=sub\\ "
+              u"Filename=foo.cls Extension=.cls"_s);
 }
 
 TEST_F(SourceFileReader, FilesThatNameNothingKeepTheirPathAsName)

@@ -36,8 +36,8 @@ TEST(DefaultViolations, FiveFixedDefinitionsReachedByType)
     EXPECT_EQ(defaults.ItemByType(6), nullptr);
     EXPECT_EQ(defaults.ItemByType(3)->Title(), u"Unauthorised Reference"_s);
     EXPECT_EQ(defaults.ItemByType(1)->Description(),
-              QStringLiteral("The component '%Component.Filename%' has been detected in file "
-                             "%File.Filename% but is not an authorised component."));
+              u"The component '%Component.Filename%' has been detected in file "
+              u"%File.Filename% but is not an authorised component."_s);
 
     const auto unknownControl = defaults.ItemByType(5);
     EXPECT_EQ(unknownControl->Title(), u"Unknown Control"_s);

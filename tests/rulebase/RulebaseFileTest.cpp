@@ -209,8 +209,8 @@ TEST_F(RulebaseFileTest, EveryFieldSurvivesIncludingTextThatNeedsEscaping)
 
     auto coding = std::make_shared<CodingConvention>();
     coding->setTitle(u"Coding"_s);
-    coding->setCondition(QStringLiteral(
-        "Sub Main\r\n\tIf Quorin.ParserEvent() <> \"x\" Then\r\n\tEnd If\r\nEnd Sub"));
+    coding->setCondition(
+        u"Sub Main\r\n\tIf Quorin.ParserEvent() <> \"x\" Then\r\n\tEnd If\r\nEnd Sub"_s);
     coding->AddParserEventID(15);
     coding->AddParserEventID(12);
     coding->setPendingViolation(true);
@@ -385,12 +385,12 @@ TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_EQ(ui.messages[0].title, u"Quorin Unexpected Error"_s);
     EXPECT_EQ(ui.messages[0].text,
-              QStringLiteral("Error 13 - Type mismatch (attribute 'RuleID' of element "
-                             "'CodingConvention') in function "
-                             "LoadCodingConventions module RulebaseManager"));
-    EXPECT_TRUE(logText().contains(
-        QStringLiteral("#Error #13 - Type mismatch (attribute 'RuleID' of element "
-                       "'CodingConvention')#RulebaseManager::LoadCodingConventions")));
+              u"Error 13 - Type mismatch (attribute 'RuleID' of element "
+              u"'CodingConvention') in function "
+              u"LoadCodingConventions module RulebaseManager"_s);
+    EXPECT_TRUE(
+        logText().contains(u"#Error #13 - Type mismatch (attribute 'RuleID' of element "
+                           u"'CodingConvention')#RulebaseManager::LoadCodingConventions"_s));
 
     ui.messages.clear();
     const auto overflow = loadBytes(smallFile(
@@ -423,15 +423,14 @@ TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
     ASSERT_TRUE(loadBytes(big));
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_EQ(ui.messages[0].text,
-              QStringLiteral(
-                  "Error 6 - Overflow (attribute 'Impact' of element 'SeverityItem') in function "
-                  "LoadSeverityList module RulebaseManager"));
+              u"Error 6 - Overflow (attribute 'Impact' of element 'SeverityItem') in function "
+              u"LoadSeverityList module RulebaseManager"_s);
 }
 
 TEST_F(RulebaseFileTest, FilesThatAreNotRulebasesAreRefusedWithTheirWarnings)
 {
-    const QString parsing = QStringLiteral(
-        "Unable to load the rulebase because of an unexpected error during parsing.");
+    const QString parsing
+        = u"Unable to load the rulebase because of an unexpected error during parsing."_s;
     const QString schema
         = u"Unable to load the rulebase because it has an incorrect schema version."_s;
     struct Case

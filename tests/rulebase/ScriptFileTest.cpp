@@ -164,8 +164,8 @@ TEST(ScriptFile, RuleListsWriteCodingThenNamingConditionsToTheTemporaryFolder)
     const QString filename = lists.CreateScriptFile();
     EXPECT_EQ(filename, QDir::toNativeSeparators(temp.path() + u"/QuorinScripts.qrs"_s));
     const QString text = readText(filename);
-    EXPECT_TRUE(text.contains(QStringLiteral("        Case 5002\r\n            Call Method_5002\r\n"
-                                             "        Case 5000\r\n")));
+    EXPECT_TRUE(text.contains(u"        Case 5002\r\n            Call Method_5002\r\n"
+                              u"        Case 5000\r\n"_s));
     EXPECT_FALSE(text.contains(u"5001"_s));
     EXPECT_TRUE(text.endsWith(u"Sub Method_5000\r\nQuorin.ApplyConvention\r\nEnd Sub\r\n\r\n"_s));
 }

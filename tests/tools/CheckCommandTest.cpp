@@ -117,12 +117,10 @@ TEST(CheckCommand, BrokenCopiesOfTheSampleAreReportedAtTheirRulesLines)
     EXPECT_EQ(text.exitCode, 1);
     const QStringList lines = text.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     EXPECT_EQ(lines.size(), findings.size());
-    EXPECT_TRUE(
-        lines.contains(QStringLiteral("%1:%2: error: coding convention 5028 \"Explicit procedure "
-                                      "scope\" is in category 77, which the category list "
-                                      "does not have [unknown-category]")
-                           .arg(file)
-                           .arg(category)))
+    EXPECT_TRUE(lines.contains(u"%1:%2: error: coding convention 5028 \"Explicit procedure "
+                               u"scope\" is in category 77, which the category list "
+                               u"does not have [unknown-category]"_s.arg(file)
+                                   .arg(category)))
         << text.out.toStdString();
     int previous = 0;
     for (const QString &line : lines) {

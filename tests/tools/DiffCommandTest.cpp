@@ -96,21 +96,20 @@ TEST(DiffCommand, ChangesComeBySectionAndKeyFieldByFieldWithConditionsAsUnifiedD
     const ToolRun text = runQrbTool({u"diff"_s, before, after});
     EXPECT_EQ(text.exitCode, 1) << text.err.toStdString();
     const QString expectedStart
-        = QStringLiteral("--- %1\n+++ %2\n"
-                         "changed properties\n"
-                         "    Title: \"Kestrel & Vane VB6 Coding Standards\" -> \"Kestrel & Vane "
-                         "VB6 Coding Standards (draft)\"\n"
-                         "changed category 4 \"Declarations and scope\"\n"
-                         "    Title: \"Declarations\" -> \"Declarations and scope\"\n"
-                         "changed control tag VB.Form\n"
-                         "    TagValue: \"frm\" -> \"form\"\n"
-                         "removed authorised component {5E9E78A0-531B-11CF-91F6-C2863C385E30} "
-                         "\"MSFLXGRD.OCX\"\n"
-                         "changed rule 5024 coding convention \"Option Explicit\"\n"
-                         "    Condition:\n"
-                         "        @@ -1,5 +1,5 @@\n"
-                         "         Sub Main\n")
-              .arg(before, after);
+        = u"--- %1\n+++ %2\n"
+          u"changed properties\n"
+          u"    Title: \"Kestrel & Vane VB6 Coding Standards\" -> \"Kestrel & Vane "
+          u"VB6 Coding Standards (draft)\"\n"
+          u"changed category 4 \"Declarations and scope\"\n"
+          u"    Title: \"Declarations\" -> \"Declarations and scope\"\n"
+          u"changed control tag VB.Form\n"
+          u"    TagValue: \"frm\" -> \"form\"\n"
+          u"removed authorised component {5E9E78A0-531B-11CF-91F6-C2863C385E30} "
+          u"\"MSFLXGRD.OCX\"\n"
+          u"changed rule 5024 coding convention \"Option Explicit\"\n"
+          u"    Condition:\n"
+          u"        @@ -1,5 +1,5 @@\n"
+          u"         Sub Main\n"_s.arg(before, after);
     EXPECT_TRUE(text.out.startsWith(expectedStart)) << text.out.toStdString();
     EXPECT_TRUE(text.out.contains(
         QLatin1String("        -\t\tCall Quorin.CancelPendingViolation()\n"

@@ -73,8 +73,8 @@ TEST(ImportCommand, ADryRunListsWhatARealRunSavesAndASecondRunAddsNothing)
     EXPECT_TRUE(dry.err.isEmpty()) << dry.err.toStdString();
     EXPECT_EQ(readFile(rulebase), sampleBytes());
     EXPECT_TRUE(dry.out.endsWith(rulebase
-                                 + QStringLiteral(": 2 components, 5 references and 0 versions "
-                                                  "added; not written (--dry-run)\n")))
+                                 + u": 2 components, 5 references and 0 versions "
+                                   u"added; not written (--dry-run)\n"_s))
         << dry.out.toStdString();
     const QStringList lines = listing(dry.out);
     ASSERT_EQ(lines.size(), 7) << dry.out.toStdString();

@@ -53,10 +53,9 @@ TEST(PreviewCommand, ReportsFindingsAsTextJsonAndSarifWithTheBuildsExitCodes)
     const ToolRun text = runQrbTool({u"preview"_s, rulebase, project});
     EXPECT_EQ(text.exitCode, 1) << text.err.toStdString();
     const QString shown = QDir::current().relativeFilePath(module);
-    EXPECT_TRUE(
-        text.out.contains(shown
-                          + QStringLiteral(":3: 5000 \"Private variables\": Variable (Private) "
-                                           "'count': expected prefix 'm_'\n")))
+    EXPECT_TRUE(text.out.contains(shown
+                                  + u":3: 5000 \"Private variables\": Variable (Private) "
+                                    u"'count': expected prefix 'm_'\n"_s))
         << text.out.toStdString();
     EXPECT_TRUE(text.out.contains(shown + u":6: 5001 \"GoTo\": Source 'GoTo': "_s));
     EXPECT_TRUE(text.out.contains(u"modGone.bas:0: UnreadFile"_s));

@@ -63,8 +63,8 @@ TEST(ScriptsCommand, AFileThatCantBeWrittenIsNamedAndNothingIsLeft)
     const ToolRun run = runQrbTool({u"scripts"_s, rulebase, u"-o"_s, out});
     EXPECT_EQ(run.exitCode, 2);
     EXPECT_TRUE(run.err.startsWith(u"qrbtool scripts: "_s + out
-                                   + QStringLiteral(": the condition script file could not be "
-                                                    "written")))
+                                   + u": the condition script file could not be "
+                                     u"written"_s))
         << run.err.toStdString();
     EXPECT_TRUE(run.out.isEmpty());
     EXPECT_FALSE(QFileInfo::exists(dir + u"/none"_s));

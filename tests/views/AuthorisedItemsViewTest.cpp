@@ -40,9 +40,9 @@ const QString comctl = u"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}"_s;
 const QString comct2 = u"{86CF1D34-0C5F-11D2-A9FC-0000F8754DA1}"_s;
 const QString gridGuid = u"{6B1A3F20-5C2D-4E8F-9A10-1B2C3D4E5F60}"_s;
 const QString reportGuid = u"{0F9E8D7C-6B5A-4938-2716-05F4E3D2C1B0}"_s;
-const QString dropMessage = QStringLiteral(
-    "Only Visual Basic project files (*.vbp or *.vbg) or ActiveX component files (*.dll, *.exe, "
-    "*.ocx, *.tlb, *.olb) can be accepted.");
+const QString dropMessage
+    = u"Only Visual Basic project files (*.vbp or *.vbg) or ActiveX component files (*.dll, *.exe, "
+      u"*.ocx, *.tlb, *.olb) can be accepted."_s;
 
 // The dialogs of this view, run by script: each cancels unless told what to do.
 class ScriptedForms final : public IFormFactory
@@ -170,8 +170,7 @@ TEST(AuthorisedItemsView, ShowsThreeNodesEachWithAListOfItsOwnShape)
     EXPECT_EQ(s.form.statusText, u"4 Items"_s);
     EXPECT_EQ(s.form.listHeaderImage, u"Component"_s);
     EXPECT_EQ(s.form.documentation,
-              QStringLiteral(
-                  "Add one or more ActiveX components which are authorised for use by projects."));
+              u"Add one or more ActiveX components which are authorised for use by projects."_s);
     for (const char *enabled : {"tlAddFromProject",
                                 "tlAuthorisedComponent",
                                 "tlAuthorisedReference",
@@ -214,8 +213,8 @@ TEST(AuthorisedItemsView, ShowsThreeNodesEachWithAListOfItsOwnShape)
     ASSERT_NE(inactive, 0);
     list.moveOver(inactive);
     EXPECT_EQ(list.toolTipText(),
-              QStringLiteral("The rule for this unauthorised keyword is not active and "
-                             "therefore will not be enforced."));
+              u"The rule for this unauthorised keyword is not active and "
+              u"therefore will not be enforced."_s);
     list.moveOver(inactive == 1 ? 2 : 1);
     EXPECT_TRUE(list.toolTipText().isEmpty());
     list.click(inactive);
@@ -394,8 +393,7 @@ TEST(AuthorisedItemsView, NewItemsComeThroughTheApplicationOnlyWhileThisViewIsCu
     ExecuteTool(app, u"tlAddFromProject"_s);
     EXPECT_EQ(forms.importRuns, 1);
     EXPECT_EQ(ui.messages.back().text,
-              QStringLiteral(
-                  "2 new components and 3 new references were found for the project 'p.vbp'."));
+              u"2 new components and 3 new references were found for the project 'p.vbp'."_s);
     EXPECT_EQ(rulebase->AuthorisedComponents()->Item(comctl)->VersionList(),
               u"2.0; 2.1; 2.2; 2.5"_s);
     EXPECT_EQ(form.listControl.subItemText(form.listControl.find(comctl), 1),
@@ -439,8 +437,7 @@ TEST(AuthorisedItemsView, DroppedFilesAreTakenAsProjectsElseAsActiveXElseRefused
     s.view->FilesDropped({typelibFile("Reports.dll"), project, typelibFile("NoTypeLib.dll")});
     EXPECT_EQ(s.forms.importRuns, 1);
     EXPECT_EQ(s.ui.messages.back().text,
-              QStringLiteral(
-                  "1 new component and 3 new references were found for the selected projects."));
+              u"1 new component and 3 new references were found for the selected projects."_s);
     EXPECT_FALSE(s.rulebase->AuthorisedReferences()->Contains(reportGuid));
     EXPECT_EQ(s.form.listControl.count(), 5);
     EXPECT_EQ(s.form.treeControl.text(2), u"Authorised References (7)"_s);
@@ -483,8 +480,8 @@ TEST(AuthorisedItemsView, ActiveXFilesBecomeComponentsAndReferencesAndTheRestAre
 
     ASSERT_EQ(s.ui.messages.size(), 1u);
     EXPECT_EQ(s.ui.messages[0].text,
-              QStringLiteral("Of the files selected, 2 are not ActiveX components.  Would you like "
-                             "to see the details?"));
+              u"Of the files selected, 2 are not ActiveX components.  Would you like "
+              u"to see the details?"_s);
     EXPECT_EQ(s.ui.messages[0].icon, MessageIcon::Question);
     const QString reportFile = data.folder + u"NonActiveXFiles.txt"_s;
     ASSERT_EQ(s.ui.opened, QStringList{reportFile});
@@ -500,8 +497,8 @@ TEST(AuthorisedItemsView, ActiveXFilesBecomeComponentsAndReferencesAndTheRestAre
     s.ui.answers = {MessageResult::No};
     s.view->AddAXComponentsFromFile({typelibFile("Truncated.tlb")});
     EXPECT_EQ(s.ui.messages.back().text,
-              QStringLiteral("Of the files selected, 1 is not an ActiveX component.  Would you "
-                             "like to see the details?"));
+              u"Of the files selected, 1 is not an ActiveX component.  Would you "
+              u"like to see the details?"_s);
     EXPECT_EQ(s.ui.opened.size(), 1);
 
     // Two versions of one library dropped together: one row, both versions.

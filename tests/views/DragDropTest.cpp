@@ -205,9 +205,8 @@ TEST(CodingConventionDragDrop, PendingConventionsStayAndTheOthersChangeOneEvent)
     ASSERT_EQ(f.ui.messages.size(), 1u);
     EXPECT_EQ(
         f.ui.messages.front().text,
-        QStringLiteral(
-            "Coding conventions defined to trigger pending violations cannot be "
-            "re-assigned to a different event by dragging and must instead be moved manually."));
+        u"Coding conventions defined to trigger pending violations cannot be "
+        u"re-assigned to a different event by dragging and must instead be moved manually."_s);
     EXPECT_EQ(f.ui.messages.front().icon, MessageIcon::Information);
 
     for (const QString &key : keys) {

@@ -165,10 +165,9 @@ TEST(CodingConventionsView, DeleteAsksAndOnYesRemovesFromListAndRuleLists)
     s.ui.answers = {MessageResult::No};
     s.view->DeleteItems();
     ASSERT_EQ(s.ui.messages.size(), 1u);
-    EXPECT_EQ(
-        s.ui.messages[0].text,
-        QStringLiteral("This will permanently delete the selected coding convention(s) from the "
-                       "rulebase, are you sure you wish to continue?"));
+    EXPECT_EQ(s.ui.messages[0].text,
+              u"This will permanently delete the selected coding convention(s) from the "
+              u"rulebase, are you sure you wish to continue?"_s);
     EXPECT_EQ(s.ui.messages[0].buttons, MessageButtons::YesNo);
     EXPECT_EQ(s.form.listControl.count(), rows);
 
