@@ -11,6 +11,8 @@
 #include <memory>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace TestEnvironment {
 
 static std::vector<std::unique_ptr<QTemporaryDir>> &tempDirs()
@@ -74,8 +76,6 @@ QString writeFile(const QString &path, const QByteArray &bytes)
 
 #ifdef Q_OS_UNIX
 #include <unistd.h>
-
-using namespace Qt::StringLiterals;
 #endif
 
 namespace TestEnvironment {

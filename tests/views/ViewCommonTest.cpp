@@ -9,10 +9,8 @@
 #include "rulebase/ViolationDefinition.h"
 #include "views/ComboControl.h"
 #include "views/MemoryListControl.h"
-#include "views/MemoryTreeControl.h"
 #include "views/modUIListUtils.h"
 #include "views/modViewCommon.h"
-#include "vocabulary/ObjectTreeHelper.h"
 
 #include "support/ScriptedUserInterface.h"
 
@@ -82,23 +80,6 @@ TEST(MemoryControls, ListFindsByKeySortsByColumnTextAndKeepsTheCurrentRowThrough
     EXPECT_EQ(list.find(u"2Key"_s), 2);
     EXPECT_THROW(list.remove(u"3Key"_s), QuorinError);
     EXPECT_THROW(list.text(3), QuorinError);
-}
-
-TEST(MemoryControls, RuleTreesFillATreeControlDirectly)
-{
-    MemoryTreeControl tree;
-    ObjectTreeHelper().PopulateCodingConventionsTree(tree, false);
-    ASSERT_EQ(tree.count(), 38);
-    const int beginProject = tree.find(u"1Key"_s);
-    const int endProject = tree.find(u"37Key"_s);
-    EXPECT_EQ(tree.parent(beginProject), 1);
-    EXPECT_EQ(tree.next(beginProject), endProject);
-    EXPECT_EQ(tree.previous(endProject), beginProject);
-    EXPECT_EQ(tree.firstSibling(endProject), beginProject);
-    EXPECT_EQ(tree.next(endProject), 0);
-    const int lineLabel = tree.find(u"32Key"_s);
-    tree.ensureVisible(lineLabel);
-    EXPECT_TRUE(tree.expanded(tree.parent(lineLabel)));
 }
 
 TEST(ViewCommon, RowsShowIdTitleCategoryAndImpactWithTheSeverityColourAndInactiveInRed)
