@@ -1,23 +1,15 @@
 #include "application/Application.h"
-#include "collections/ObjectArrayList.h"
-#include "editors/CategoryEditorForm.h"
 #include "editors/IConventionForm.h"
 #include "editors/IFormFactory.h"
-#include "editors/SeverityEditorForm.h"
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
 #include "platform/TextUtils.h"
-#include "rulebase/CategoryItem.h"
 #include "rulebase/CodingConvention.h"
 #include "rulebase/NamingConvention.h"
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
-#include "rulebase/SeverityItem.h"
-#include "rulebase/UnauthorisedKeyword.h"
 #include "rulebase/ViolationDefinition.h"
-#include "views/IRuleEditorLauncher.h"
 #include "views/IViewController.h"
-#include "views/ToolDispatcher.h"
 #include "views/ViewFactory.h"
 
 #include "support/MemoryMainForm.h"
@@ -41,10 +33,8 @@ public:
 
     std::unique_ptr<IConventionForm> createConventionForm(qint32 ruleType) override;
 
-    bool confirm = true;
-    std::function<void(IRule &)> edit;
+    bool confirm = false;
     QList<qint32> created;
-    std::shared_ptr<IRule> lastRule;
     Application *lastApplication = nullptr;
     // What the rule looked like when the dialog opened, for the preselection.
     QString eventsAtShow;
@@ -69,7 +59,6 @@ public:
     bool Cancelled() const override { return m_cancelled; }
     void Show() override
     {
-        m_forms.lastRule = m_rule;
         const auto def = m_rule->ViolationDefinition();
         m_forms.categoryAtShow = def->CategoryID();
         m_forms.severityAtShow = def->Severity();
@@ -82,8 +71,6 @@ public:
         // The real dialogs always leave a severity chosen.
         if (m_forms.confirm && def->Severity() == 0)
             def->setSeverity(1);
-        if (m_forms.confirm && m_forms.edit)
-            m_forms.edit(*m_rule);
         m_cancelled = !m_forms.confirm;
     }
 
@@ -117,7 +104,6 @@ protected:
         gobjAdminData.reset();
     }
 
-    RuleLists &lists() { return *app->rulebase()->RuleLists(); }
     // The author clicks the tree node with this key.
     void clickNode(const QString &key)
     {
@@ -125,14 +111,6 @@ protected:
         ASSERT_NE(node, 0) << key.toStdString();
         form.treeControl.click(node);
     }
-    // The author selects the list row of a rule.
-    void clickRow(const IRule &rule)
-    {
-        const int row = form.listControl.find(rule.RuleKey());
-        ASSERT_NE(row, 0);
-        form.listControl.click(row);
-    }
-
     ScriptedUserInterface ui;
     ScriptedForms forms;
     MemoryMainForm form;
@@ -143,7 +121,6 @@ protected:
 
 TEST_F(NewRuleTest, PreselectsFromTheSelectedNodeOfEachView)
 {
-    forms.confirm = false;
     bool cancelled = false;
 
     app->SwitchView("tlCodingConventions");
@@ -191,86 +168,13 @@ TEST_F(NewRuleTest, PreselectsFromTheSelectedNodeOfEachView)
     // Cancel adds nothing, and leaves the rulebase as it was read.
     EXPECT_FALSE(app->rulebase()->Dirty());
     EXPECT_TRUE(ui.messages.empty());
-}
 
-TEST_F(NewRuleTest, ConfirmedRulesJoinTheListsAndTheView)
-{
-    app->SwitchView("tlCodingConventions");
-    clickNode("30Key");
-    const int before = lists().CodingConventions()->Count();
-    const auto inEvent = [&](qint32 event) {
-        const auto list = lists().ParserEventCCList(event, false);
-        return list ? list->Count() : 0;
-    };
-    const int eventBefore = inEvent(30);
-    forms.edit = [](IRule &rule) {
-        auto &cc = dynamic_cast<CodingConvention &>(rule);
-        cc.setTitle("Made by the test");
-        cc.ViolationDefinition()->setTitle("V");
-    };
-    const int rows = form.listControl.count();
-    ASSERT_TRUE(ExecuteTool(*app, "tlCodingConvention"));
-    ASSERT_TRUE(forms.lastRule);
-    const std::shared_ptr<IRule> rule = forms.lastRule;
-    EXPECT_GE(rule->RuleID(), 5000);
-    EXPECT_EQ(lists().CodingConventions()->Count(), before + 1);
-    EXPECT_EQ(inEvent(30), eventBefore + 1);
-    EXPECT_EQ(form.listControl.count(), rows + 1);
-    EXPECT_NE(form.listControl.find(rule->RuleKey()), 0);
-    EXPECT_TRUE(app->rulebase()->Dirty());
-
-    bool cancelled = true;
-    forms.edit = {};
+    // A confirmed rule joins the rule lists; the category view shows every kind of rule.
+    forms.confirm = true;
     const auto keyword = app->NewUnauthorisedKeyword(cancelled);
     EXPECT_FALSE(cancelled);
     ASSERT_TRUE(keyword);
-    EXPECT_TRUE(lists().AllConventions()->ContainsValue(keyword));
-    // The coding conventions view shows no keyword.
-    EXPECT_EQ(form.listControl.find(keyword->RuleKey()), 0);
-    EXPECT_TRUE(ui.messages.empty());
-}
-
-// The launcher the Application installs also carries the views' category and severity edits.
-TEST(FormLauncher, CategoryAndSeverityEditsRunTheirEditorsAndWriteOnlyOnOK)
-{
-    class Editors final : public IFormFactory
-    {
-    public:
-        Editors() { install(this); }
-        ~Editors() override { install(nullptr); }
-        bool runCategoryEditor(CategoryEditorForm &form) override
-        {
-            form.setTitle(u"Layout"_s);
-            form.setDescription(u"Indentation and spacing"_s);
-            return confirm ? form.OK() : (form.Cancel(), false);
-        }
-        bool runSeverityEditor(SeverityEditorForm &form) override
-        {
-            form.setTitle(u"Blocking"_s);
-            return confirm ? form.OK() : (form.Cancel(), false);
-        }
-        bool confirm = false;
-    } editors;
-
-    MemoryMainForm form;
-    Application app(&form);
-    IRuleEditorLauncher &launcher = IRuleEditorLauncher::current();
-    auto category = std::make_shared<CategoryItem>();
-    category->setTitle(u"Old"_s);
-    category->setDescription(u"Old text"_s);
-    auto severity = std::make_shared<SeverityItem>();
-    severity->setTitle(u"High"_s);
-    severity->setDescription(u"Fix before release"_s);
-
-    EXPECT_FALSE(launcher.EditCategory(category));
-    EXPECT_FALSE(launcher.EditSeverity(severity));
-    EXPECT_EQ(category->Title(), u"Old"_s);
-    EXPECT_EQ(severity->Title(), u"High"_s);
-
-    editors.confirm = true;
-    EXPECT_TRUE(launcher.EditCategory(category));
-    EXPECT_TRUE(launcher.EditSeverity(severity));
-    EXPECT_EQ(category->Title(), u"Layout"_s);
-    EXPECT_EQ(category->Description(), u"Indentation and spacing"_s);
-    EXPECT_EQ(severity->Title(), u"Blocking"_s);
+    EXPECT_TRUE(app->rulebase()->RuleLists()->AllConventions()->ContainsValue(keyword));
+    EXPECT_NE(form.listControl.find(keyword->RuleKey()), 0);
+    EXPECT_TRUE(app->rulebase()->Dirty());
 }

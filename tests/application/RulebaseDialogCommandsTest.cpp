@@ -136,29 +136,6 @@ TEST(RulebaseDialogCommands, DefaultViolationsChangedAloneMarkTheRulebaseSoNewAs
               QStringList{u"The current rulebase has changed, do you wish to save the changes?"_s});
 }
 
-TEST(RulebaseDialogCommands, RulebasePropertiesWriteOnOKOnly)
-{
-    Commands c;
-    const QString title = c.rulebase->Title();
-    c.scripts.rulebaseProperties = [&](RulebasePropertiesForm &form) {
-        EXPECT_EQ(form.Title(), title);
-        form.setTitle(u"Elsewhere"_s);
-        form.Cancel();
-        return false;
-    };
-    c.app.ShowRulebasePropertiesDialog();
-    EXPECT_EQ(c.rulebase->Title(), title);
-    EXPECT_FALSE(c.rulebase->Dirty());
-
-    c.scripts.rulebaseProperties = [](RulebasePropertiesForm &form) {
-        form.setTitle(u"Elsewhere"_s);
-        return form.OK();
-    };
-    c.app.ShowRulebasePropertiesDialog();
-    EXPECT_EQ(c.rulebase->Title(), u"Elsewhere"_s);
-    EXPECT_TRUE(c.rulebase->Dirty());
-}
-
 TEST(RulebaseDialogCommands, TagListsCopyBackOnlyWhatChanged)
 {
     Commands c;
