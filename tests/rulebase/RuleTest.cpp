@@ -156,58 +156,6 @@ TEST(CodingConvention, CloneCopiesTheRuleButNeitherItsIdNorItsDefinitionObject)
     EXPECT_EQ(source.ViolationDefinition()->Advice(), u"Don't."_s);
 }
 
-TEST(UnauthorisedKeyword, StoresEnforcementFlagsAlwaysAndClonesItsEvents)
-{
-    UnauthorisedKeyword rule;
-    IRule &asRule = rule;
-    asRule.setTriggered(true);
-    EXPECT_TRUE(asRule.Triggered()); // unlike a coding convention
-    EXPECT_FALSE(asRule.PendingViolation());
-    EXPECT_EQ(asRule.RuleType(), RuleTypes::UnauthorisedKeyword);
-
-    rule.setTitle(u"End"_s);
-    rule.AddParserEventID(4);
-    rule.AddParserEventID(2);
-    rule.setCondition(u"\\bEnd\\b"_s);
-    const auto clone = std::dynamic_pointer_cast<UnauthorisedKeyword>(rule.Clone());
-    ASSERT_TRUE(clone);
-    EXPECT_EQ(clone->ParserEventList(), u"4|2"_s);
-    EXPECT_EQ(clone->Condition(), u"\\bEnd\\b"_s);
-    EXPECT_FALSE(clone->Triggered());
-    EXPECT_EQ(clone->Title(), u"Clone of End"_s);
-}
-
-TEST(NamingConvention, FourFixedItemsPerPartAndDeadEnforcementFlags)
-{
-    NamingConvention rule;
-    EXPECT_FALSE(rule.Dirty());
-    EXPECT_TRUE(rule.CaseSensitive());
-    for (const auto &items : {rule.PrefixItems(), rule.SuffixItems()}) {
-        ASSERT_EQ(items->Count(), 4);
-        for (qint32 i = 1; i <= 4; ++i) {
-            EXPECT_EQ(items->Item(i)->PSType(), 0);
-            EXPECT_TRUE(items->Item(i)->Value().isEmpty());
-        }
-    }
-
-    IRule &asRule = rule;
-    asRule.setTriggered(true);
-    asRule.setCancelled(true);
-    EXPECT_FALSE(asRule.Triggered());
-    EXPECT_FALSE(asRule.Cancelled());
-    EXPECT_FALSE(rule.Dirty());
-
-    // An item edit tells nobody; a change of the item list itself does.
-    rule.PrefixItems()->Item(1)->setValue(u"m_"_s);
-    EXPECT_FALSE(rule.Dirty());
-    rule.SuffixItems()->setItem(2, rule.SuffixItems()->Item(2));
-    EXPECT_TRUE(rule.Dirty());
-    rule.setDirty(false);
-    EXPECT_FALSE(rule.SuffixItems()->Dirty());
-    rule.setMinBodyLength(9); // above the maximum: accepted here
-    EXPECT_TRUE(rule.Dirty());
-}
-
 TEST(NamingConvention, CloneLeavesOutExclusionsAndCaseSensitivityAndOwnsItsItems)
 {
     NamingConvention source;

@@ -146,26 +146,3 @@ TEST(ScriptFile, AFailedWriteIsReportedAndLeavesNoPartFile)
     EXPECT_TRUE(ui.messages[0].text.contains(u"could not be written"_s));
     EXPECT_TRUE(ui.messages[0].text.contains(u"module ScriptFile"_s));
 }
-
-TEST(ScriptFile, RuleListsWriteCodingThenNamingConditionsToTheTemporaryFolder)
-{
-    TemporaryFolder temp;
-    RuleLists lists;
-    auto naming = std::make_shared<NamingConvention>();
-    naming->setCondition(u"Sub Main\r\nQuorin.ApplyConvention\r\nEnd Sub"_s);
-    auto keyword = std::make_shared<UnauthorisedKeyword>();
-    keyword->setCondition(u"Sub Main\r\nEnd Sub"_s);
-    auto coding = std::make_shared<CodingConvention>();
-    coding->setCondition(u"Sub Main\r\nEnd Sub"_s);
-    lists.AddConvention(naming, true);  // 5000
-    lists.AddConvention(keyword, true); // 5001
-    lists.AddConvention(coding, true);  // 5002
-
-    const QString filename = lists.CreateScriptFile();
-    EXPECT_EQ(filename, QDir::toNativeSeparators(temp.path() + u"/QuorinScripts.qrs"_s));
-    const QString text = readText(filename);
-    EXPECT_TRUE(text.contains(u"        Case 5002\r\n            Call Method_5002\r\n"
-                              u"        Case 5000\r\n"_s));
-    EXPECT_FALSE(text.contains(u"5001"_s));
-    EXPECT_TRUE(text.endsWith(u"Sub Method_5000\r\nQuorin.ApplyConvention\r\nEnd Sub\r\n\r\n"_s));
-}

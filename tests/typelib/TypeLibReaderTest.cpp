@@ -80,32 +80,6 @@ TEST(TypeLibSharedFiles, MatchExpectedTable)
     }
 }
 
-TEST(TypeLibSharedFiles, ResourcesAreChosenAndListedById)
-{
-    if (!haveSharedData())
-        GTEST_SKIP() << "no shared type library data";
-    const QString dll = dataDir() + u"/Reports.dll"_s;
-    const QList<TypeLibInfo> all = TypeLibReader::listFile(dll);
-    ASSERT_EQ(resourceIds(all), QList<int>({1, 2}));
-    const auto mailKit = TypeLibReader::readFile(dataDir() + u"/MailKit.tlb"_s);
-    ASSERT_TRUE(mailKit.has_value());
-    EXPECT_EQ(all[1].guid, mailKit->guid);
-    EXPECT_EQ(all[1].name, mailKit->name);
-    EXPECT_EQ(TypeLibReader::readFile(dll, 2)->helpString, u"Mail kit"_s);
-    EXPECT_FALSE(TypeLibReader::readFile(dll, 3).has_value());
-
-    const auto grid = TypeLibReader::readFile(dataDir() + u"/GridCtl.tlb"_s);
-    ASSERT_TRUE(grid.has_value());
-    EXPECT_EQ(grid->name, u"GridCtl"_s);
-    EXPECT_EQ(grid->lcid, 0x409u);
-    EXPECT_EQ(grid->resourceId, 0);
-    EXPECT_EQ(TypeLibReader::listFile(dataDir() + u"/GridCtl.tlb"_s).size(), 1);
-    // A stand-alone library has no second resource.
-    EXPECT_FALSE(TypeLibReader::readFile(dataDir() + u"/GridCtl.tlb"_s, 2).has_value());
-    EXPECT_TRUE(TypeLibReader::listFile(dataDir() + u"/NoTypeLib.dll"_s).isEmpty());
-    EXPECT_FALSE(TypeLibReader::readFile(dataDir() + u"/Missing.tlb"_s).has_value());
-}
-
 TEST(TypeLibFormats, MsftFieldsAndStrings)
 {
     const auto info = TypeLibReader::readData(msft(65535, 7, "1 \x80 Caf\xE9", "Lib"));
