@@ -124,6 +124,27 @@ TEST(AuthorisedItems, AddOfAKnownLibIdGivesADetachedBlankItem)
     EXPECT_EQ(face.TypeLibGuid(), u"{GUID-1}"_s);
 }
 
+TEST(AuthorisedItems, BadPositionsAndKeysRaiseUnderTheListsOwnName)
+{
+    AuthorisedReferences references;
+    references.Add(u"{R}"_s, u"Scripting Runtime"_s, u"scrrun.dll"_s, QString(), QString());
+    EXPECT_EQ(references.Item(1)->Title(), u"Scripting Runtime"_s);
+    references.setDirty(false);
+
+    EXPECT_EQ(raisedSource([&] { references.Item(u"{unknown}"_s); }),
+              u"AuthorisedReferences::Item"_s);
+    EXPECT_EQ(raisedSource([&] { references.Remove(2); }), u"AuthorisedReferences::Remove"_s);
+    EXPECT_FALSE(references.Dirty());
+    references.RemoveByLibID(u"{unknown}"_s);
+    EXPECT_FALSE(references.Dirty());
+    references.RemoveByLibID(u"{r}"_s);
+    EXPECT_TRUE(references.Dirty());
+    EXPECT_EQ(references.Count(), 0);
+
+    AuthorisedComponents components;
+    EXPECT_EQ(raisedSource([&] { components.Remove(0); }), u"AuthorisedComponents::Remove"_s);
+}
+
 TEST(Report, DirtyAndClonesFollowTablesAndShareCategories)
 {
     Report report;
