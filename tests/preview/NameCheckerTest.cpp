@@ -19,15 +19,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 namespace CO = CatalogueObject;
-using O = NameChecker::Outcome;
 using S = DeclaredScope;
 using Items = std::initializer_list<std::pair<qint32, const char *>>;
 
 // PSType
 constexpr qint32 Literal = 1, ControlTag = 2, DataTypeTag = 3, ScopeTag = 4, Workfield = 5,
                  ArrayTag = 6;
-
-};
 
 std::shared_ptr<const QHash<QString, QString>> properties(QHash<QString, QString> values)
 {
