@@ -204,7 +204,8 @@ TEST(NameChecker, AppliesEveryPartOfAConventionAndNeverGuessesWhatOnlyItsConditi
     rulebase.setUseCTagsAsDTTags(true);
     const TagLookup controlTags(rulebase);
     const NameChecker checker(namingConvention(CO::Variable, {{DataTypeTag, ""}}), patterns);
-    EXPECT_EQ(checker.check(variable("txtName", "TextBox"), controlTags).outcome, O::Pass);
+    EXPECT_EQ(checker.check(variable("txtName", "TextBox"), controlTags).outcome,
+              NameChecker::Outcome::Pass);
     EXPECT_EQ(checker.check(variable("ctlName", "TextBox"), controlTags).message,
               u"expected prefix 'txt' for a TextBox"_s);
 }
