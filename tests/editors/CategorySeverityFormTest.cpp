@@ -56,49 +56,6 @@ int rulesOfCategory(const Rulebase &rulebase, qint32 id)
 
 } // namespace
 
-TEST(CategorySeverityForm, TheCategoryFaceListsEveryCategoryAndSelectsTheFirst)
-{
-    auto rulebase = sample();
-    CategorySeverityForm form;
-    openCategories(form, rulebase);
-    const auto categories = rulebase->CategoryList();
-
-    EXPECT_TRUE(form.AddDeleteVisible());
-    ASSERT_EQ(int(form.rows().size()), categories->Count());
-    for (qint32 i = 1; i <= categories->Count(); ++i) {
-        const auto &row = form.rows()[std::size_t(i - 1)];
-        EXPECT_EQ(row.key, categories->Item(i)->Key());
-        EXPECT_EQ(row.text, categories->Item(i)->Title());
-        EXPECT_EQ(row.image, categories->Item(i)->Hidden() ? "HiddenFolder" : "Folder");
-    }
-    EXPECT_EQ(form.selectedRow(), 0);
-    EXPECT_EQ(form.SelectedDescription(), categories->Item(1)->Description());
-    form.selectRow(2);
-    EXPECT_EQ(form.SelectedDescription(), categories->Item(3)->Description());
-    EXPECT_TRUE(form.CanEdit());
-    EXPECT_TRUE(form.CanDelete());
-    EXPECT_TRUE(form.RequestClose());
-    EXPECT_FALSE(form.Dirty());
-}
-
-TEST(CategorySeverityForm, AnEmptyCategoryListOffersOnlyAdd)
-{
-    ScriptedUserInterface ui;
-    RulebaseFormScripts scripts;
-    auto rulebase = std::make_shared<Rulebase>();
-    CategorySeverityForm form;
-    openCategories(form, rulebase);
-    EXPECT_TRUE(form.rows().empty());
-    EXPECT_EQ(form.selectedRow(), -1);
-    EXPECT_FALSE(form.CanEdit());
-    EXPECT_FALSE(form.CanDelete());
-    form.Edit();
-    form.Delete();
-    EXPECT_EQ(scripts.runs, 0);
-    EXPECT_TRUE(ui.messages.empty());
-    EXPECT_FALSE(form.Dirty());
-}
-
 TEST(CategorySeverityForm, AddAndEditGoThroughTheCategoryEditorAndCancelChangesNothing)
 {
     RulebaseFormScripts scripts;

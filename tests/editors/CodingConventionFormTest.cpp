@@ -141,31 +141,6 @@ TEST(CodingConventionForm, OkWritesEveryFieldInTreeOrder)
     EXPECT_EQ(def->Advice(), u"Advice"_s);
 }
 
-TEST(CodingConventionForm, CancelLeavesTheRuleAsItWas)
-{
-    Opened o;
-    o.rule->setTitle(u"Kept"_s);
-    o.rule->AddParserEventID(12);
-    o.rule->AddParserEventID(30);
-    o.rule->ViolationDefinition()->setSeverity(2);
-    o.rule->ViolationDefinition()->setImpact(7);
-    o.rule->setDirty(false);
-    o.open();
-    auto &screen = o.form.screen();
-    // The definition's own impact is shown, not the severity's.
-    EXPECT_EQ(screen.txtVImpact, u"7"_s);
-    EXPECT_TRUE(screen.tvwEvent.isChecked(o.nodeOf(12)));
-    EXPECT_TRUE(screen.tvwEvent.isChecked(o.nodeOf(30)));
-    screen.txtTitle = u"Changed"_s;
-    o.form.cmdCollapse_Click(1);
-    EXPECT_FALSE(screen.tvwEvent.isChecked(o.nodeOf(12)));
-    o.form.cmdCancel_Click();
-    EXPECT_TRUE(o.form.Cancelled());
-    EXPECT_EQ(o.rule->Title(), u"Kept"_s);
-    EXPECT_EQ(o.rule->ParserEventList(), u"12|30"_s);
-    EXPECT_FALSE(o.rule->Dirty());
-}
-
 TEST(CodingConventionForm, PendingFaceHasOneStartAndOneEndEvent)
 {
     ScriptedUserInterface ui;
@@ -235,25 +210,6 @@ TEST(CodingConventionForm, SwitchingPendingBackShowsWhatTheRuleHoldsAndResetsThe
     bare.open();
     EXPECT_EQ(bare.form.screen().imgcboPending.currentIndex(), 0);
     EXPECT_EQ(bare.form.screen().imgcboEvent.currentKey(), u"4Key"_s);
-}
-
-TEST(CodingConventionForm, CollapseButtonsAndCategoryOfADeletedCategory)
-{
-    Opened o;
-    o.rule->setCategoryID(99);
-    o.open();
-    auto &screen = o.form.screen();
-    EXPECT_FALSE(screen.cboCategory.hasSelection());
-    o.form.cmdCollapse_Click(0);
-    for (int node = 1; node <= screen.tvwEvent.count(); ++node)
-        EXPECT_TRUE(screen.tvwEvent.isExpanded(node));
-    o.form.cmdCollapse_Click(2);
-    for (int node = 1; node <= screen.tvwEvent.count(); ++node)
-        EXPECT_FALSE(screen.tvwEvent.isExpanded(node));
-    o.tick(2);
-    screen.txtTitle = screen.txtVTitle = u"x"_s;
-    ASSERT_TRUE(o.form.cmdOK_Click());
-    EXPECT_EQ(o.rule->CategoryID(), -1);
 }
 
 TEST(ConventionForms, OKRefusesAConditionTheConditionEditorWouldRefuseInItsWords)

@@ -270,26 +270,6 @@ TEST(NamingConventionForm, OkWritesTheRuleAndCancelWritesNothing)
     EXPECT_EQ(again.screen().txtVImpact, u"12"_s);
 }
 
-TEST(NamingConventionForm, ConditionDeleteAsksFirst)
-{
-    ScriptedUserInterface ui;
-    Opened o;
-    o.open();
-    o.screen().txtCondition = "Quorin.ApplyConvention";
-    ui.answers.push_back(MessageResult::No);
-    o.form.cmdDelete_Click();
-    EXPECT_EQ(o.screen().txtCondition, u"Quorin.ApplyConvention"_s);
-    ui.answers.push_back(MessageResult::Yes);
-    o.form.cmdDelete_Click();
-    EXPECT_TRUE(o.screen().txtCondition.isEmpty());
-    EXPECT_FALSE(o.form.cmdDeleteEnabled());
-    ASSERT_EQ(ui.messages.size(), 2u);
-    EXPECT_EQ(ui.messages[0].text,
-              u"Are you sure you wish to delete the condition for this naming convention?"_s);
-    EXPECT_EQ(ui.messages[0].icon, MessageIcon::Question);
-    EXPECT_EQ(ui.messages[0].buttons, MessageButtons::YesNo);
-}
-
 TEST(NamingConventionForm, SeverityChangeOverwritesImpactAndHelpersBehave)
 {
     Opened o;

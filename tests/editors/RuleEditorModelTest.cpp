@@ -27,22 +27,6 @@ RuleEditorModel model(const QString &opening, qint32 ruleType = RuleTypes::Codin
 
 } // namespace
 
-TEST(RuleEditorModel, CaptionNamesTheRuleByIdAndTitle)
-{
-    RuleEditorModel m;
-    EXPECT_EQ(m.Caption(), u"Condition Editor"_s);
-    m.setRuleID(12);
-    EXPECT_EQ(m.Caption(), u"Condition Editor"_s); // an id alone says nothing
-    m.setRuleTitle(u"No GoTo"_s);
-    EXPECT_EQ(m.Caption(), u"Condition Editor - [0012] No GoTo"_s);
-    m.setRuleID(5000);
-    EXPECT_EQ(m.Caption(), u"Condition Editor - [5000] No GoTo"_s);
-    m.setRuleID(123456);
-    EXPECT_EQ(m.Caption(), u"Condition Editor - [123456] No GoTo"_s);
-    m.setRuleID(0);
-    EXPECT_EQ(m.Caption(), u"Condition Editor - No GoTo"_s);
-}
-
 TEST(RuleEditorModel, InsertToolsPutTheirCallsAtTheCaret)
 {
     EXPECT_EQ(RuleEditorModel::ToolText(u"tlRaiseViolation"_s),

@@ -106,30 +106,3 @@ TEST(RulebasePropertiesForm, OKStoresRealChangesOnlyAndWritesEveryLimit)
     EXPECT_EQ(rulebase->ToleranceCyclomaticComplexity(), -1);
     EXPECT_TRUE(rulebase->Dirty());
 }
-
-TEST(RulebasePropertiesForm, CancelLeavesTheRulebaseCleanWhileOKRewritesTheLimits)
-{
-    {
-        RulebasePropertiesForm form;
-        auto rulebase = loaded(form);
-        form.setTitle(u"Other"_s);
-        form.setToleranceCount(3, u"9"_s);
-        form.Cancel();
-        EXPECT_TRUE(form.Cancelled());
-        EXPECT_EQ(rulebase->Title(), u"Untitled"_s);
-        EXPECT_EQ(rulebase->ToleranceCount(4), -1);
-        EXPECT_FALSE(rulebase->Dirty());
-    }
-    {
-        // With no edit at all the title block stays, but the limits go through their setters.
-        RulebasePropertiesForm form;
-        auto rulebase = loaded(form);
-        rulebase->setVersion(u"1.0.0000"_s);
-        rulebase->setDirty(false);
-        form.Load();
-        ASSERT_TRUE(form.OK());
-        EXPECT_EQ(rulebase->Title(), u"Untitled"_s);
-        EXPECT_EQ(rulebase->ToleranceCount(1), -1);
-        EXPECT_TRUE(rulebase->Dirty());
-    }
-}

@@ -116,52 +116,6 @@ TEST(TagListForm, EditsGoThroughTheSettersAndEmptyNamesAreRefused)
     EXPECT_EQ(ui.messages.back().text, u"A data type must be entered."_s);
 }
 
-TEST(TagListForm, NewItemNumbersGoOnPastNamesTaken)
-{
-    Rulebase rulebase;
-    auto taken = std::make_shared<TagItem>();
-    taken->setTagName(u"New Item1"_s);
-    TagListForm form;
-    form.Initialise(rulebase.ControlTags(), TagListForm::ControlTags);
-    form.currentList()->Add(u"New Item1"_s, taken, false, true);
-    EXPECT_TRUE(form.ContainsTag(u"NEW ITEM1"_s));
-    const qint32 row = form.Insert();
-    EXPECT_EQ(form.currentList()->Item(row)->TagName(), u"New Item2"_s);
-    EXPECT_EQ(form.currentList()->Item(form.Insert())->TagName(), u"New Item3"_s);
-
-    TagListForm scopes;
-    scopes.Initialise(rulebase.ScopeTags(), TagListForm::ScopeTags);
-    EXPECT_FALSE(scopes.InsertDeleteVisible());
-    EXPECT_FALSE(scopes.OptionVisible());
-    EXPECT_EQ(scopes.Insert(), 0);
-    EXPECT_TRUE(scopes.GridIsValid(QString()));
-}
-
-TEST(TagListForm, TheUnknownControlOptionRemovesTheRowAndBringsBackTheBuiltInOne)
-{
-    Rulebase rulebase;
-    rulebase.ControlTags()->Item(u"(Unknown ProgID)"_s)->setTagValue(u"unk"_s);
-    rulebase.setDirty(false);
-    TagListForm form;
-    form.Initialise(rulebase.ControlTags(), TagListForm::ControlTags);
-    const QString unknown = TagListForm::UnknownProgID();
-
-    form.setOption(true);
-    EXPECT_TRUE(form.UnknownControlViolation());
-    EXPECT_EQ(rowNamed(*form.currentList(), unknown), 0);
-    EXPECT_EQ(form.grid()->rowCount(), 22);
-
-    form.setOption(false);
-    EXPECT_FALSE(form.UnknownControlViolation());
-    const qint32 row = rowNamed(*form.currentList(), unknown);
-    ASSERT_GT(row, 0);
-    const auto item = form.currentList()->Item(row);
-    EXPECT_EQ(item->TagValue(), u"ctl"_s);
-    EXPECT_TRUE(item->Locked());
-    EXPECT_FALSE(item->Dirty());
-    EXPECT_EQ(form.grid()->rowCount(), 23);
-}
-
 TEST(TagListForm, CancelAndARepeatedNameLeaveTheSetAsItWas)
 {
     Rulebase rulebase;
