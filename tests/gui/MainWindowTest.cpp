@@ -12,6 +12,7 @@
 #include "rulebase/ViolationDefinition.h"
 #include "views/CommandTable.h"
 #include "views/IViewController.h"
+#include "views/TreeControl.h"
 #include "views/ViewFactory.h"
 
 #include "StartedMainWindow.h"
