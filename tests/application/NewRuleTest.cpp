@@ -10,6 +10,7 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/ViolationDefinition.h"
 #include "views/IViewController.h"
+#include "views/ToolDispatcher.h"
 #include "views/ViewFactory.h"
 
 #include "support/MemoryMainForm.h"
@@ -169,12 +170,14 @@ TEST_F(NewRuleTest, PreselectsFromTheSelectedNodeOfEachView)
     EXPECT_FALSE(app->rulebase()->Dirty());
     EXPECT_TRUE(ui.messages.empty());
 
-    // A confirmed rule joins the rule lists; the category view shows every kind of rule.
+    // A confirmed rule from the tool joins the rule lists and the list of its event's node.
     forms.confirm = true;
-    const auto keyword = app->NewUnauthorisedKeyword(cancelled);
-    EXPECT_FALSE(cancelled);
-    ASSERT_TRUE(keyword);
-    EXPECT_TRUE(app->rulebase()->RuleLists()->AllConventions()->ContainsValue(keyword));
-    EXPECT_NE(form.listControl.find(keyword->RuleKey()), 0);
+    app->SwitchView("tlCodingConventions");
+    clickNode("30Key");
+    const int rows = form.listControl.count();
+    const qint32 rules = app->rulebase()->RuleLists()->CodingConventions()->Count();
+    ASSERT_TRUE(ExecuteTool(*app, u"tlCodingConvention"_s));
+    EXPECT_EQ(app->rulebase()->RuleLists()->CodingConventions()->Count(), rules + 1);
+    EXPECT_EQ(form.listControl.count(), rows + 1);
     EXPECT_TRUE(app->rulebase()->Dirty());
 }
