@@ -67,17 +67,6 @@ TEST(QuorinWarnings, TheCallsTheEditorInsertsAreKnown)
                                  "  Quorin.GetObjectProperty \"Source\", \"Line\""});
     EXPECT_EQ(errorsOf(text), QStringList());
     EXPECT_EQ(warningsOf(text), QStringList());
-
-    QStringList names;
-    for (const QuorinMember &member : BasicSyntaxChecker::quorinMembers())
-        names << member.name.toString() + QString::number(member.argumentCount);
-    EXPECT_EQ(names,
-              (QStringList{"RaiseViolation0",
-                           "CancelPendingViolation0",
-                           "ApplyConvention0",
-                           "GetObjectProperty2",
-                           "GetObjectWorkField2",
-                           "ParserEvent0"}));
 }
 
 // A rule that names what the extension or the vocabulary lacks never fires: an error. A name the

@@ -162,32 +162,3 @@ TEST(PreviewRun, StopsWhenCancelledFromItsProgress)
     for (const PreviewFinding &finding : result.findings)
         EXPECT_FALSE(finding.ruleId.startsWith("Tolerance"_L1)) << finding.message.toStdString();
 }
-
-// On the shared projects (mixed line ends and code pages, a missing file, a project without
-// files) the preview counts lines exactly as the line statistics do.
-TEST(PreviewRun, CountsTheSharedProjectsAsTheLineStatisticsDo)
-{
-    const QString dir = TestEnvironment::sharedDataDir() + u"/vb6"_s;
-    if (!QFileInfo::exists(dir + u"/Suite/Suite.vbg"_s))
-        GTEST_SKIP() << "no shared VB6 test data";
-    const QStringList arguments = {dir + u"/Suite/Suite.vbg"_s,
-                                   dir + u"/Tools/Report Builder/Report Builder.vbp"_s,
-                                   dir + u"/Tools/Empty.vbp"_s};
-    PreviewRun run(kindsRulebase());
-    const PreviewResult result = run.run(arguments);
-    ASSERT_EQ(result.projects.size(), 5u);
-    for (const PreviewProject &project : result.projects) {
-        const ProjectLineCounter::Project counted = ProjectLineCounter::count(project.path);
-        EXPECT_EQ(project.files, counted.filesRead) << project.name.toStdString();
-        EXPECT_EQ(project.codeLines, counted.lines.code) << project.name.toStdString();
-        EXPECT_EQ(project.commentLines, counted.lines.comment) << project.name.toStdString();
-        EXPECT_EQ(project.blankLines, counted.lines.blank) << project.name.toStdString();
-        EXPECT_EQ(project.totalLines, counted.lines.total) << project.name.toStdString();
-    }
-    QStringList unread;
-    for (const PreviewFinding &finding : result.findings) {
-        if (finding.kind == PreviewFinding::Kind::Unread)
-            unread << QFileInfo(finding.file).fileName();
-    }
-    EXPECT_EQ(unread, QStringList({u"modGone.bas"_s}));
-}

@@ -165,20 +165,3 @@ TEST(ImportCommand, UnreadSourcesAreNamedAndForeignOnesStopTheRun)
         << version.out.toStdString();
     EXPECT_TRUE(version.out.contains("0 components, "_L1));
 }
-
-// A project's texts go into the rulebase as they come; what XML can't hold is dropped on the
-// way, so the saved rulebase loads again.
-TEST(ImportCommand, AReferenceDescriptionWithACharacterXmlForbidsIsSavedWithoutIt)
-{
-    const QString dir = TestEnvironment::makeTempDir();
-    const QString rulebase = writeFile(dir + u"/Team.qrb"_s, sampleBytes());
-    const QString guid = u"{ABCDEF00-0000-0000-0000-000000000003}"_s;
-    const QString project = writeFile(dir + u"/p.vbp"_s,
-                                      "Type=Exe\r\nReference=*\\G" + guid.toLatin1()
-                                          + "#1.0#0#odd.tlb#Odd\x01 Library\x1F\r\n");
-    const ToolRun run = runQrbTool(importArguments(rulebase, {project}));
-    ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
-    const auto saved = loadQuietly(rulebase);
-    ASSERT_NE(saved, nullptr);
-    EXPECT_EQ(saved->AuthorisedReferences()->Item(guid)->Description(), u"Odd Library"_s);
-}
