@@ -125,7 +125,8 @@ TEST(MainWindow, AFailedOpenLeavesTheWindowLiveAndAPartLoadSaysSoUntilSaved)
     const QByteArray bytes = TestEnvironment::readFile(TestEnvironment::sampleRulebase());
     TestEnvironment::writeFile(bad, bytes.left(400));
     TestEnvironment::writeFile(
-        part, QByteArray(bytes).replace("<CategoryList LastID=\"14\">", "<CategoryList LastID=\"x\">"));
+        part,
+        QByteArray(bytes).replace("<CategoryList LastID=\"14\">", "<CategoryList LastID=\"x\">"));
     ScriptedUserInterface ui;
     StartedMainWindow w(TestEnvironment::sampleRulebase());
     ASSERT_TRUE(w.started);
