@@ -20,6 +20,7 @@
 #include "views/ViewFactory.h"
 
 #include "support/MemoryMainForm.h"
+#include "support/RecordingView.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
@@ -30,31 +31,9 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
-
-// A view that only counts what is done to it.
-class CountingView final : public IViewController
-{
-public:
-    explicit CountingView(int *populates) : m_populates(populates) {}
-    void setRulebase(std::shared_ptr<Rulebase>) override {}
-    void setMainForm(IMainForm *) override {}
-    void Customise() override {}
-    void Populate() override { ++*m_populates; }
-    void DeleteItems() override {}
-    void OpenItem() override {}
-    void SetEnabledState() override {}
-    void ResizeView() override {}
-    void AddItem(const std::shared_ptr<IRule> &) override {}
-    void CloneItems() override {}
-    int ItemsActiveState() override { return 4; }
-    void ActivateItems(bool) override {}
-    void CategoryListChanged() override {}
-    void SeverityListChanged() override {}
-
-private:
-    int *m_populates;
-};
 
 class ApplicationTest : public ::testing::Test
 {
@@ -64,7 +43,7 @@ protected:
         TestEnvironment::clearSettings();
         dir = TestEnvironment::makeTempDir() + QLatin1Char('/');
         ASSERT_EQ(CreateGlobalObjects(), 0);
-        gobjLogFile->setLogFileName(dir + QStringLiteral("Error.log"));
+        gobjLogFile->setLogFileName(dir + u"Error.log"_s);
         gobjQuorinData->setLocalDataPath(dir);
         gobjAdminData->setDisplayTips(false);
         gobjAdminData->setFirstUse(false);
@@ -79,32 +58,39 @@ protected:
     QString writeRulebase(const QString &name)
     {
         Rulebase rulebase;
-        rulebase.setTitle(QStringLiteral("Written by the test"));
+        rulebase.setTitle(u"Written by the test"_s);
         const QString path = dir + name;
         EXPECT_TRUE(RulebaseManager().Save(rulebase, path));
         return path;
     }
 
-    Application::ViewFactory countingViews()
+    Application::ViewFactory countingViews() { return RecordingView::factory(&viewCalls); }
+    qsizetype populates() const { return viewCalls.count(u"Populate"_s); }
+    // The sample with one bad value, which loads in part; gives its bytes.
+    QByteArray writePartFile(const QString &path)
     {
-        return [this](const QString &) { return std::make_unique<CountingView>(&populates); };
+        QByteArray bytes = TestEnvironment::readFile(TestEnvironment::sampleRulebase());
+        EXPECT_TRUE(bytes.contains("<CategoryList LastID=\"14\">"));
+        bytes.replace("<CategoryList LastID=\"14\">", "<CategoryList LastID=\"fourteen\">");
+        TestEnvironment::writeFile(path, bytes);
+        return bytes;
     }
 
     QString dir;
     ScriptedUserInterface ui;
     MemoryMainForm form;
-    int populates = 0;
+    QStringList viewCalls;
 };
 
 } // namespace
 
 TEST_F(ApplicationTest, StartUpShowsSplashWindowTipThenOpensTheNewestRecentFile)
 {
-    const QString older = writeRulebase(QStringLiteral("older.qrb"));
-    const QString newest = writeRulebase(QStringLiteral("newest.qrb"));
+    const QString older = writeRulebase(u"older.qrb"_s);
+    const QString newest = writeRulebase(u"newest.qrb"_s);
     {
         MRUUtils mru;
-        mru.setAppName(QStringLiteral("Settings\\Rulebase"));
+        mru.setAppName(u"Settings\\Rulebase"_s);
         mru.Add(older);
         mru.Add(newest);
     }
@@ -117,27 +103,26 @@ TEST_F(ApplicationTest, StartUpShowsSplashWindowTipThenOpensTheNewestRecentFile)
 
     ASSERT_TRUE(app.RulebaseOpen());
     EXPECT_EQ(app.rulebase()->Filename(), newest);
-    EXPECT_EQ(app.CurrentViewName(), QStringLiteral("tlCategoryView"));
+    EXPECT_EQ(app.CurrentViewName(), u"tlCategoryView"_s);
     EXPECT_EQ(form.helpContext, 68);
     EXPECT_EQ(form.calls.mid(0, 4),
-              (QStringList{QStringLiteral("Splash"), QStringLiteral("Window"), QStringLiteral("Tip"),
-                           QStringLiteral("View tlCategoryView")}));
+              (QStringList{u"Splash"_s, u"Window"_s, u"Tip"_s, u"View tlCategoryView"_s}));
     EXPECT_EQ(gobjAdminData->LastTip(), 5);
     // First use shows the introduction once.
     ASSERT_EQ(ui.helpRequests.size(), 1u);
-    EXPECT_EQ(ui.helpRequests[0].topic, QStringLiteral("::/Introduction.html"));
+    EXPECT_EQ(ui.helpRequests[0].topic, u"::/Introduction.html"_s);
     EXPECT_FALSE(gobjAdminData->FirstUse());
     EXPECT_TRUE(ui.messages.empty());
 }
 
 TEST_F(ApplicationTest, StartUpFallsBackToTheSampleAndAddsItToTheRecentList)
 {
-    const QString sample = writeRulebase(QStringLiteral("Sample.qrb"));
+    const QString sample = writeRulebase(u"Sample.qrb"_s);
     Application app(&form, countingViews());
     EXPECT_TRUE(RunStartup(app, QString()));
     EXPECT_EQ(app.rulebase()->Filename(), sample);
     MRUUtils mru;
-    mru.setAppName(QStringLiteral("Settings\\Rulebase"));
+    mru.setAppName(u"Settings\\Rulebase"_s);
     EXPECT_EQ(mru.Item(1), sample);
 
     // With nothing to open the window stands with no rulebase and no view.
@@ -153,7 +138,7 @@ TEST_F(ApplicationTest, StartUpFallsBackToTheSampleAndAddsItToTheRecentList)
 
 TEST_F(ApplicationTest, CommandLineNamesAreTakenWholeAndNeverTouchTheRecentList)
 {
-    const QString spaced = writeRulebase(QStringLiteral("My Standards.qrb"));
+    const QString spaced = writeRulebase(u"My Standards.qrb"_s);
     {
         Application app(&form, countingViews());
         EXPECT_TRUE(RunStartup(app, QLatin1Char('"') + spaced + QLatin1Char('"')));
@@ -164,44 +149,38 @@ TEST_F(ApplicationTest, CommandLineNamesAreTakenWholeAndNeverTouchTheRecentList)
         EXPECT_TRUE(RunStartup(app, spaced)); // unquoted, spaces and all
         EXPECT_EQ(app.rulebase()->Filename(), spaced);
     }
-    EXPECT_FALSE(form.calls.join(QLatin1Char('|')).contains(QStringLiteral("MRU")));
+    EXPECT_FALSE(form.calls.join(QLatin1Char('|')).contains(u"MRU"_s));
 
     // A missing file gives the plain warning and no offer to touch the list.
     Application app(&form, countingViews());
-    EXPECT_FALSE(RunStartup(app, dir + QStringLiteral("gone.qrb")));
+    EXPECT_FALSE(RunStartup(app, dir + u"gone.qrb"_s));
     EXPECT_FALSE(app.RulebaseOpen());
     EXPECT_EQ(ui.messageTexts(),
-              QStringList{QStringLiteral("Can't find the rulebase '") + dir + QStringLiteral("gone.qrb'.")});
+              QStringList{u"Can't find the rulebase '"_s + dir + u"gone.qrb'."_s});
     EXPECT_EQ(ui.messages[0].buttons, MessageButtons::OK);
-}
 
-TEST_F(ApplicationTest, MissingRecentFileOffersToRemoveIt)
-{
-    const QString gone = dir + QStringLiteral("gone.qrb");
-    Application app(&form, countingViews());
+    // From the recent list it offers to remove the name.
+    ui.messages.clear();
     ui.answers = {MessageResult::Yes};
-    EXPECT_FALSE(app.OpenRulebase(Application::OpenMode::RecentList, gone));
+    EXPECT_FALSE(app.OpenRulebase(Application::OpenMode::RecentList, dir + u"gone.qrb"_s));
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_EQ(ui.messages[0].text,
-              QStringLiteral("Can't find the rulebase '") + gone
-                  + QStringLiteral("', do you want to remove it from the most recently used list?"));
+              u"Can't find the rulebase '"_s + dir
+                  + u"gone.qrb', do you want to remove it from the most recently used list?"_s);
     EXPECT_EQ(ui.messages[0].buttons, MessageButtons::YesNo);
-    EXPECT_EQ(form.calls, QStringList{QStringLiteral("RemoveFromMRUList ") + gone});
+    EXPECT_EQ(form.calls.filter(u"MRU"_s),
+              QStringList{u"RemoveFromMRUList "_s + dir + u"gone.qrb"_s});
 }
 
 TEST_F(ApplicationTest, AFailedOpenKeepsTheRulebaseBeforeItWholeAndSavable)
 {
-    const QString good = writeRulebase(QStringLiteral("good.qrb"));
-    const QString bad = dir + QStringLiteral("bad.qrb");
-    {
-        QFile file(bad);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("<Quorin_Rulebase SchemaVersion=\"6.2\"><RulebaseProperties");
-    }
+    const QString good = writeRulebase(u"good.qrb"_s);
+    const QString bad = dir + u"bad.qrb"_s;
+    TestEnvironment::writeFile(bad, "<Quorin_Rulebase SchemaVersion=\"6.2\"><RulebaseProperties");
     Application app(&form, countingViews());
     ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, good));
     const std::shared_ptr<Rulebase> before = app.rulebase();
-    before->setTitle(QStringLiteral("Edited"));
+    before->setTitle(u"Edited"_s);
 
     // No to saving first, then the open fails: the edited rulebase is still the open one.
     ui.answers = {MessageResult::No};
@@ -210,34 +189,21 @@ TEST_F(ApplicationTest, AFailedOpenKeepsTheRulebaseBeforeItWholeAndSavable)
     EXPECT_TRUE(before->Dirty());
     EXPECT_EQ(ui.messageTexts().mid(1),
               (QStringList{
-                  QStringLiteral(
-                      "Unable to load the rulebase because of an unexpected error during parsing."),
-                  QStringLiteral("Failed to open '") + bad
-                      + QStringLiteral("', it may not be a valid Quorin rulebase.")}));
-    QFile log(dir + QStringLiteral("Error.log"));
-    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(log.readAll().contains("XML Parser Error"));
+                  u"Unable to load the rulebase because of an unexpected error during parsing."_s,
+                  u"Failed to open '"_s + bad + u"', it may not be a valid Quorin rulebase."_s}));
+    EXPECT_TRUE(TestEnvironment::readFile(dir + u"Error.log"_s).contains("XML Parser Error"));
 
     // Closing still asks, and Save writes the edit.
     ui.answers = {MessageResult::Cancel};
     EXPECT_FALSE(app.CheckForSave());
     EXPECT_TRUE(app.SaveRulebase());
-    EXPECT_EQ(RulebaseManager().LoadRulebase(good)->Title(), QStringLiteral("Edited"));
+    EXPECT_EQ(RulebaseManager().LoadRulebase(good)->Title(), u"Edited"_s);
 }
 
 TEST_F(ApplicationTest, AFileThatLoadedInPartSaysSoAndAsksBeforeItIsWrittenOver)
 {
-    const QString path = dir + QStringLiteral("part.qrb");
-    QFile sample(TestEnvironment::sampleRulebase());
-    ASSERT_TRUE(sample.open(QIODevice::ReadOnly));
-    QByteArray bytes = sample.readAll();
-    ASSERT_TRUE(bytes.contains("<CategoryList LastID=\"14\">"));
-    bytes.replace("<CategoryList LastID=\"14\">", "<CategoryList LastID=\"fourteen\">");
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
+    const QString path = dir + u"part.qrb"_s;
+    const QByteArray bytes = writePartFile(path);
 
     Application app(&form, countingViews());
     ASSERT_TRUE(
@@ -252,14 +218,11 @@ TEST_F(ApplicationTest, AFileThatLoadedInPartSaysSoAndAsksBeforeItIsWrittenOver)
     ui.answers = {MessageResult::No};
     EXPECT_FALSE(app.SaveRulebase());
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_TRUE(ui.messages[0].text.contains(QStringLiteral("loaded only in part")));
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), bytes);
-    file.close();
+    EXPECT_TRUE(ui.messages[0].text.contains(u"loaded only in part"_s));
+    EXPECT_EQ(TestEnvironment::readFile(path), bytes);
 
     // Save As to another file asks nothing; Yes over the file itself writes it.
-    const QString copy = dir + QStringLiteral("copy.qrb");
+    const QString copy = dir + u"copy.qrb"_s;
     ui.saveAnswers = {copy};
     EXPECT_TRUE(app.SaveRulebaseAs());
     EXPECT_FALSE(app.rulebase()->LoadedInPart());
@@ -274,103 +237,97 @@ TEST_F(ApplicationTest, AFileThatLoadedInPartSaysSoAndAsksBeforeItIsWrittenOver)
 
 TEST_F(ApplicationTest, UnsavedChangesAreAskedAboutAndCancelStopsEverything)
 {
-    const QString first = writeRulebase(QStringLiteral("first.qrb"));
-    const QString second = writeRulebase(QStringLiteral("second.qrb"));
+    const QString first = writeRulebase(u"first.qrb"_s);
+    const QString second = writeRulebase(u"second.qrb"_s);
     Application app(&form, countingViews());
     ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, first));
-    app.rulebase()->setTitle(QStringLiteral("Changed"));
+    app.rulebase()->setTitle(u"Changed"_s);
 
     ui.answers = {MessageResult::Cancel};
     EXPECT_FALSE(app.OpenRulebase(Application::OpenMode::Ask));
     EXPECT_EQ(app.rulebase()->Filename(), first);
     EXPECT_TRUE(ui.fileRequests.empty()); // no file dialog after Cancel
     EXPECT_EQ(ui.messageTexts(),
-              QStringList{QStringLiteral("The current rulebase has changed, do you wish to save the changes?")});
+              QStringList{u"The current rulebase has changed, do you wish to save the changes?"_s});
 
     // No: the change is dropped and the dialog's file opens.
     ui.answers = {MessageResult::No};
     ui.openAnswers = {second};
     EXPECT_TRUE(app.OpenRulebase(Application::OpenMode::Ask));
     EXPECT_EQ(app.rulebase()->Filename(), second);
-    EXPECT_EQ(ui.fileRequests.back().title, QStringLiteral("Select Quorin Rulebase"));
+    EXPECT_EQ(ui.fileRequests.back().title, u"Select Quorin Rulebase"_s);
     EXPECT_EQ(gobjAdminData->LastPath(), dir);
 
     // Yes saves first.
-    app.rulebase()->setTitle(QStringLiteral("Saved on the way"));
+    app.rulebase()->setTitle(u"Saved on the way"_s);
     ui.answers = {MessageResult::Yes};
     app.NewRulebase();
-    EXPECT_EQ(RulebaseManager().LoadRulebase(second)->Title(), QStringLiteral("Saved on the way"));
-}
+    EXPECT_EQ(RulebaseManager().LoadRulebase(second)->Title(), u"Saved on the way"_s);
 
-// A question about unsaved changes that cannot be asked keeps them: nothing replaces the rulebase.
-TEST_F(ApplicationTest, AFailedQuestionKeepsTheChangedRulebase)
-{
-    const QString file = writeRulebase(QStringLiteral("file.qrb"));
-    Application app(&form, countingViews());
-    ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, file));
-    app.rulebase()->setTitle(QStringLiteral("Changed"));
+    // A question that cannot be asked keeps the changes: nothing replaces the rulebase.
+    ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, second));
+    app.rulebase()->setTitle(u"Changed"_s);
     ui.failQuestions = true;
     EXPECT_FALSE(app.CheckForSave());
     app.NewRulebase();
-    EXPECT_EQ(app.rulebase()->Filename(), file);
-    EXPECT_EQ(app.rulebase()->Title(), QStringLiteral("Changed"));
+    EXPECT_EQ(app.rulebase()->Filename(), second);
     EXPECT_TRUE(app.rulebase()->Dirty());
 }
 
 TEST_F(ApplicationTest, NewStaysInTheCurrentViewWhileOpenGoesToTheCategoryView)
 {
-    const QString file = writeRulebase(QStringLiteral("file.qrb"));
+    const QString file = writeRulebase(u"file.qrb"_s);
     Application app(&form, countingViews());
     app.NewRulebase();
-    EXPECT_EQ(app.CurrentViewName(), QStringLiteral("tlCodingConventions"));
-    app.SwitchView(QStringLiteral("tlSeverityView"));
-    const int before = populates;
+    EXPECT_EQ(app.CurrentViewName(), u"tlCodingConventions"_s);
+    app.SwitchView(u"tlSeverityView"_s);
+    const qsizetype before = populates();
     app.NewRulebase();
-    EXPECT_EQ(app.CurrentViewName(), QStringLiteral("tlSeverityView"));
-    EXPECT_EQ(populates, before + 1);
+    EXPECT_EQ(app.CurrentViewName(), u"tlSeverityView"_s);
+    EXPECT_EQ(populates(), before + 1);
     EXPECT_FALSE(app.rulebase()->Dirty());
 
     ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, file));
-    EXPECT_EQ(app.CurrentViewName(), QStringLiteral("tlCategoryView"));
+    EXPECT_EQ(app.CurrentViewName(), u"tlCategoryView"_s);
 
     // Switching to the current view, in any case, does nothing at all.
-    const int populated = populates;
+    const qsizetype populated = populates();
     const qsizetype calls = form.calls.size();
-    app.SwitchView(QStringLiteral("TLCATEGORYVIEW"));
-    EXPECT_EQ(populates, populated);
+    app.SwitchView(u"TLCATEGORYVIEW"_s);
+    EXPECT_EQ(populates(), populated);
     EXPECT_EQ(form.calls.size(), calls);
     // An unknown name leaves the view as it is.
-    app.SwitchView(QStringLiteral("tlNoSuchView"));
-    EXPECT_EQ(app.CurrentViewName(), QStringLiteral("tlCategoryView"));
+    app.SwitchView(u"tlNoSuchView"_s);
+    EXPECT_EQ(app.CurrentViewName(), u"tlCategoryView"_s);
 }
 
 TEST_F(ApplicationTest, SaveAsProposesTheTitleAndSetsTheNameOnlyAfterSuccess)
 {
     Application app(&form, countingViews());
     app.NewRulebase();
-    app.rulebase()->setTitle(QStringLiteral("Team Standards"));
+    app.rulebase()->setTitle(u"Team Standards"_s);
 
     ui.saveAnswers = {std::nullopt};
     EXPECT_FALSE(app.SaveRulebase()); // no name yet: Save As, cancelled
-    EXPECT_EQ(ui.fileRequests.back().fileTitle, QStringLiteral("Team Standards.qrb"));
-    EXPECT_EQ(ui.fileRequests.back().title, QStringLiteral("Save Quorin Rulebase"));
+    EXPECT_EQ(ui.fileRequests.back().fileTitle, u"Team Standards.qrb"_s);
+    EXPECT_EQ(ui.fileRequests.back().title, u"Save Quorin Rulebase"_s);
     EXPECT_TRUE(app.rulebase()->Filename().isEmpty());
     EXPECT_TRUE(app.rulebase()->Dirty());
 
     // A folder that does not exist: the save fails, nothing changes.
-    const QString nowhere = dir + QStringLiteral("missing/Team Standards.qrb");
+    const QString nowhere = dir + u"missing/Team Standards.qrb"_s;
     ui.saveAnswers = {nowhere};
     EXPECT_FALSE(app.SaveRulebaseAs());
-    EXPECT_EQ(ui.messageTexts().last(), QStringLiteral("Error during save: Invalid path."));
+    EXPECT_EQ(ui.messageTexts().last(), u"Error during save: Invalid path."_s);
     EXPECT_TRUE(app.rulebase()->Filename().isEmpty());
     EXPECT_TRUE(app.rulebase()->Dirty());
 
-    const QString target = dir + QStringLiteral("Team Standards.qrb");
+    const QString target = dir + u"Team Standards.qrb"_s;
     ui.saveAnswers = {target};
     EXPECT_TRUE(app.SaveRulebaseAs());
     EXPECT_EQ(app.rulebase()->Filename(), target);
     EXPECT_FALSE(app.rulebase()->Dirty());
-    EXPECT_EQ(form.calls.filter(QStringLiteral("AddToMRUList")), QStringList{QStringLiteral("AddToMRUList ") + target});
+    EXPECT_EQ(form.calls.filter(u"AddToMRUList"_s), QStringList{u"AddToMRUList "_s + target});
     EXPECT_TRUE(app.CheckForSave());
 }
 
@@ -390,15 +347,9 @@ TEST_F(ApplicationTest, EveryQuestionThatDeletesOrDiscardsDefaultsToTheSafeAnswe
             app.CurrentView()->DeleteItems();
         };
     };
-    const QString gone = dir + QStringLiteral("gone.qrb");
-    const QString part = dir + QStringLiteral("part.qrb");
-    {
-        QFile sample(TestEnvironment::sampleRulebase());
-        QFile file(part);
-        ASSERT_TRUE(sample.open(QIODevice::ReadOnly) && file.open(QIODevice::WriteOnly));
-        file.write(sample.readAll().replace("<CategoryList LastID=\"14\">",
-                                            "<CategoryList LastID=\"x\">"));
-    }
+    const QString gone = dir + u"gone.qrb"_s;
+    const QString part = dir + u"part.qrb"_s;
+    writePartFile(part);
     const std::vector<Case> cases = {
         {"delete coding conventions", deleteInView("tlCodingConventions"), MessageResult::No},
         {"delete naming conventions", deleteInView("tlNamingConventions"), MessageResult::No},
@@ -421,7 +372,7 @@ TEST_F(ApplicationTest, EveryQuestionThatDeletesOrDiscardsDefaultsToTheSafeAnswe
              form.setConvention(std::make_shared<NamingConvention>());
              form.setRulebase(app.rulebase());
              form.Load();
-             form.screen().txtCondition = QStringLiteral("Quorin.ApplyConvention");
+             form.screen().txtCondition = u"Quorin.ApplyConvention"_s;
              form.cmdDelete_Click();
          },
          MessageResult::No},
@@ -438,8 +389,8 @@ TEST_F(ApplicationTest, EveryQuestionThatDeletesOrDiscardsDefaultsToTheSafeAnswe
         {"close the condition editor with changes",
          [](Application &, MemoryMainForm &) {
              RuleEditorModel editor;
-             editor.setRuleCode(QStringLiteral("Sub Main\r\nEnd Sub"));
-             editor.CloseTool(QStringLiteral("Sub Main\r\n  x = 1\r\nEnd Sub"));
+             editor.setRuleCode(u"Sub Main\r\nEnd Sub"_s);
+             editor.CloseTool(u"Sub Main\r\n  x = 1\r\nEnd Sub"_s);
          },
          MessageResult::Cancel},
         {"remove a missing file from the recent list",

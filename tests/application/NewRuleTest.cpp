@@ -1,21 +1,14 @@
 #include "application/Application.h"
-#include "collections/ObjectArrayList.h"
-#include "editors/CategoryEditorForm.h"
 #include "editors/IConventionForm.h"
 #include "editors/IFormFactory.h"
-#include "editors/SeverityEditorForm.h"
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
 #include "platform/TextUtils.h"
-#include "rulebase/CategoryItem.h"
 #include "rulebase/CodingConvention.h"
 #include "rulebase/NamingConvention.h"
 #include "rulebase/RuleLists.h"
-#include "rulebase/SeverityItem.h"
 #include "rulebase/Rulebase.h"
-#include "rulebase/UnauthorisedKeyword.h"
 #include "rulebase/ViolationDefinition.h"
-#include "editors/IRuleEditorLauncher.h"
 #include "views/IViewController.h"
 #include "application/ToolDispatcher.h"
 #include "views/ViewFactory.h"
@@ -28,6 +21,8 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Rule dialogs that run a script on the rule instead of a person, and record what they were told.
@@ -39,10 +34,8 @@ public:
 
     std::unique_ptr<IConventionForm> createConventionForm(qint32 ruleType) override;
 
-    bool confirm = true;
-    std::function<void(IRule &)> edit;
+    bool confirm = false;
     QList<qint32> created;
-    std::shared_ptr<IRule> lastRule;
     RuleDialogContext lastContext;
     // What the rule looked like when the dialog opened, for the preselection.
     QString eventsAtShow;
@@ -64,7 +57,6 @@ public:
     bool Cancelled() const override { return m_cancelled; }
     void Show() override
     {
-        m_forms.lastRule = m_rule;
         const auto def = m_rule->ViolationDefinition();
         m_forms.categoryAtShow = def->CategoryID();
         m_forms.severityAtShow = def->Severity();
@@ -77,8 +69,6 @@ public:
         // The real dialogs always leave a severity chosen.
         if (m_forms.confirm && def->Severity() == 0)
             def->setSeverity(1);
-        if (m_forms.confirm && m_forms.edit)
-            m_forms.edit(*m_rule);
         m_cancelled = !m_forms.confirm;
     }
 
@@ -112,7 +102,6 @@ protected:
         gobjAdminData.reset();
     }
 
-    RuleLists &lists() { return *app->rulebase()->RuleLists(); }
     // The author clicks the tree node with this key.
     void clickNode(const QString &key)
     {
@@ -120,14 +109,6 @@ protected:
         ASSERT_NE(node, 0) << key.toStdString();
         form.treeControl.click(node);
     }
-    // The author selects the list row of a rule.
-    void clickRow(const IRule &rule)
-    {
-        const int row = form.listControl.find(rule.RuleKey());
-        ASSERT_NE(row, 0);
-        form.listControl.click(row);
-    }
-
     ScriptedUserInterface ui;
     ScriptedForms forms;
     MemoryMainForm form;
@@ -138,14 +119,13 @@ protected:
 
 TEST_F(NewRuleTest, PreselectsFromTheSelectedNodeOfEachView)
 {
-    forms.confirm = false;
     bool cancelled = false;
 
     app->SwitchView("tlCodingConventions");
     clickNode("30Key");
     EXPECT_EQ(app->NewCodingConvention(cancelled), nullptr);
     EXPECT_TRUE(cancelled);
-    EXPECT_EQ(forms.eventsAtShow, QStringLiteral("30"));
+    EXPECT_EQ(forms.eventsAtShow, u"30"_s);
     EXPECT_EQ(forms.categoryAtShow, -1);
     EXPECT_EQ(forms.lastContext.rulebase, app->rulebase());
     EXPECT_TRUE(forms.lastContext.editCategories);
@@ -187,154 +167,15 @@ TEST_F(NewRuleTest, PreselectsFromTheSelectedNodeOfEachView)
     // Cancel adds nothing, and leaves the rulebase as it was read.
     EXPECT_FALSE(app->rulebase()->Dirty());
     EXPECT_TRUE(ui.messages.empty());
-}
 
-TEST_F(NewRuleTest, ConfirmedRulesJoinTheListsAndTheView)
-{
+    // A confirmed rule from the tool joins the rule lists and the list of its event's node.
+    forms.confirm = true;
     app->SwitchView("tlCodingConventions");
     clickNode("30Key");
-    const int before = lists().CodingConventions()->Count();
-    const auto inEvent = [&](qint32 event) {
-        const auto list = lists().ParserEventCCList(event, false);
-        return list ? list->Count() : 0;
-    };
-    const int eventBefore = inEvent(30);
-    forms.edit = [](IRule &rule) {
-        auto &cc = dynamic_cast<CodingConvention &>(rule);
-        cc.setTitle("Made by the test");
-        cc.ViolationDefinition()->setTitle("V");
-    };
     const int rows = form.listControl.count();
-    ASSERT_TRUE(ExecuteTool(*app, "tlCodingConvention"));
-    ASSERT_TRUE(forms.lastRule);
-    const std::shared_ptr<IRule> rule = forms.lastRule;
-    EXPECT_GE(rule->RuleID(), 5000);
-    EXPECT_EQ(lists().CodingConventions()->Count(), before + 1);
-    EXPECT_EQ(inEvent(30), eventBefore + 1);
+    const qint32 rules = app->rulebase()->RuleLists()->CodingConventions()->Count();
+    ASSERT_TRUE(ExecuteTool(*app, u"tlCodingConvention"_s));
+    EXPECT_EQ(app->rulebase()->RuleLists()->CodingConventions()->Count(), rules + 1);
     EXPECT_EQ(form.listControl.count(), rows + 1);
-    EXPECT_NE(form.listControl.find(rule->RuleKey()), 0);
     EXPECT_TRUE(app->rulebase()->Dirty());
-
-    bool cancelled = true;
-    forms.edit = {};
-    const auto keyword = app->NewUnauthorisedKeyword(cancelled);
-    EXPECT_FALSE(cancelled);
-    ASSERT_TRUE(keyword);
-    EXPECT_TRUE(lists().AllConventions()->ContainsValue(keyword));
-    // The coding conventions view shows no keyword.
-    EXPECT_EQ(form.listControl.find(keyword->RuleKey()), 0);
-    EXPECT_TRUE(ui.messages.empty());
-}
-
-TEST_F(NewRuleTest, OpeningARuleGoesThroughItsDialogAndKeepsTheEventIndexes)
-{
-    app->SwitchView("tlCodingConventions");
-    clickNode("ProjectKey");
-    std::shared_ptr<CodingConvention> rule;
-    for (qint32 i = 1; i <= lists().CodingConventions()->Count() && !rule; ++i) {
-        auto candidate = lists().CodingConventions()->Item(i);
-        if (!candidate->PendingViolation() && !candidate->IsAssignedToEvent(21))
-            rule = candidate;
-    }
-    ASSERT_TRUE(rule);
-    const qint32 oldEvent = rule->ParserEventID(0);
-    clickNode(QString::number(oldEvent) + "Key");
-    clickRow(*rule);
-
-    // Cancelled: nothing moves.
-    forms.confirm = false;
-    app->CurrentView()->OpenItem();
-    EXPECT_EQ(forms.lastRule, rule);
-    EXPECT_NE(form.listControl.find(rule->RuleKey()), 0);
-
-    // Moved to event 21 alone: it leaves this event's list and its row goes.
-    forms.confirm = true;
-    forms.edit = [](IRule &r) {
-        auto &cc = dynamic_cast<CodingConvention &>(r);
-        cc.RemoveParserEventID(-1);
-        cc.AddParserEventID(21);
-        cc.setTitle("Moved");
-    };
-    ASSERT_TRUE(ExecuteTool(*app, "tlOpenRule"));
-    EXPECT_EQ(form.listControl.find(rule->RuleKey()), 0);
-    EXPECT_TRUE(lists().ParserEventCCList(21, false)->ContainsValue(rule));
-    const auto old = lists().ParserEventCCList(oldEvent, false);
-    EXPECT_TRUE(!old || !old->ContainsValue(rule));
-
-    // From the category view the same dialog opens, and the row shows the new title.
-    app->SwitchView("tlCategoryView");
-    clickNode("Category");
-    clickRow(*rule);
-    forms.edit = [](IRule &r) { dynamic_cast<CodingConvention &>(r).setTitle("Renamed"); };
-    forms.created.clear();
-    app->CurrentView()->OpenItem();
-    EXPECT_EQ(forms.created, QList<qint32>{4});
-    const int row = form.listControl.find(rule->RuleKey());
-    ASSERT_NE(row, 0);
-    EXPECT_EQ(form.listControl.subItemText(row, 1), QStringLiteral("Renamed"));
-}
-
-TEST(FormLauncher, TheApplicationInstallsItOnlyWhereNoneStands)
-{
-    MemoryMainForm form;
-    EXPECT_EQ(IRuleEditorLauncher::installed(), nullptr);
-    {
-        Application app(&form);
-        IRuleEditorLauncher *launcher = IRuleEditorLauncher::installed();
-        ASSERT_NE(launcher, nullptr);
-        // Without a dialog for the rule, nothing is confirmed.
-        EXPECT_FALSE(launcher->EditRule(std::make_shared<NamingConvention>()));
-        EXPECT_FALSE(launcher->EditRule(nullptr));
-        {
-            Application second(&form);
-            EXPECT_EQ(IRuleEditorLauncher::installed(), launcher);
-        }
-        EXPECT_EQ(IRuleEditorLauncher::installed(), launcher);
-    }
-    EXPECT_EQ(IRuleEditorLauncher::installed(), nullptr);
-}
-
-// The launcher the Application installs also carries the views' category and severity edits.
-TEST(FormLauncher, CategoryAndSeverityEditsRunTheirEditorsAndWriteOnlyOnOK)
-{
-    class Editors final : public IFormFactory
-    {
-    public:
-        Editors() { install(this); }
-        ~Editors() override { install(nullptr); }
-        bool runCategoryEditor(CategoryEditorForm &form) override
-        {
-            form.setTitle(QStringLiteral("Layout"));
-            form.setDescription(QStringLiteral("Indentation and spacing"));
-            return confirm ? form.OK() : (form.Cancel(), false);
-        }
-        bool runSeverityEditor(SeverityEditorForm &form) override
-        {
-            form.setTitle(QStringLiteral("Blocking"));
-            return confirm ? form.OK() : (form.Cancel(), false);
-        }
-        bool confirm = false;
-    } editors;
-
-    MemoryMainForm form;
-    Application app(&form);
-    IRuleEditorLauncher &launcher = IRuleEditorLauncher::current();
-    auto category = std::make_shared<CategoryItem>();
-    category->setTitle(QStringLiteral("Old"));
-    category->setDescription(QStringLiteral("Old text"));
-    auto severity = std::make_shared<SeverityItem>();
-    severity->setTitle(QStringLiteral("High"));
-    severity->setDescription(QStringLiteral("Fix before release"));
-
-    EXPECT_FALSE(launcher.EditCategory(category));
-    EXPECT_FALSE(launcher.EditSeverity(severity));
-    EXPECT_EQ(category->Title(), QStringLiteral("Old"));
-    EXPECT_EQ(severity->Title(), QStringLiteral("High"));
-
-    editors.confirm = true;
-    EXPECT_TRUE(launcher.EditCategory(category));
-    EXPECT_TRUE(launcher.EditSeverity(severity));
-    EXPECT_EQ(category->Title(), QStringLiteral("Layout"));
-    EXPECT_EQ(category->Description(), QStringLiteral("Indentation and spacing"));
-    EXPECT_EQ(severity->Title(), QStringLiteral("Blocking"));
 }

@@ -12,55 +12,36 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/SeverityItem.h"
 #include "rulebase/ViolationDefinition.h"
-#include "views/IViewController.h"
 
 #include "../editors/RulebaseFormScripts.h"
 #include "support/MemoryMainForm.h"
+#include "support/RecordingView.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
-
-// A view that only records the list changes it is told of.
-class ListChangeView final : public IViewController
-{
-public:
-    explicit ListChangeView(QStringList *calls) : m_calls(calls) {}
-    void setRulebase(std::shared_ptr<Rulebase>) override {}
-    void setMainForm(IMainForm *) override {}
-    void Customise() override {}
-    void Populate() override {}
-    void DeleteItems() override {}
-    void OpenItem() override {}
-    void SetEnabledState() override {}
-    void ResizeView() override {}
-    void AddItem(const std::shared_ptr<IRule> &) override {}
-    void CloneItems() override {}
-    int ItemsActiveState() override { return 4; }
-    void ActivateItems(bool) override {}
-    void CategoryListChanged() override { *m_calls << QStringLiteral("CategoryListChanged"); }
-    void SeverityListChanged() override { *m_calls << QStringLiteral("SeverityListChanged"); }
-
-private:
-    QStringList *m_calls;
-};
 
 struct Commands
 {
     Commands()
-        : app(&window, [this](const QString &) { return std::make_unique<ListChangeView>(&viewCalls); })
+        : app(&window, RecordingView::factory(&calls))
     {
-        EXPECT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, TestEnvironment::sampleRulebase()));
+        EXPECT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine,
+                                     TestEnvironment::sampleRulebase()));
         rulebase = app.rulebase();
-        viewCalls.clear();
+        calls.clear();
     }
+    // What the views were told of the category and severity lists.
+    QStringList viewCalls() const { return calls.filter(u"ListChanged"_s); }
 
     ScriptedUserInterface ui;
     RulebaseFormScripts scripts;
     MemoryMainForm window;
-    QStringList viewCalls;
+    QStringList calls;
     Application app;
     std::shared_ptr<Rulebase> rulebase;
 };
@@ -88,13 +69,13 @@ TEST(RulebaseDialogCommands, TheCategoryListSortsAndTellsTheViewOnlyWhenSomethin
     };
     c.app.ShowCategoryList();
     EXPECT_EQ(c.scripts.runs, 1);
-    EXPECT_TRUE(c.viewCalls.isEmpty());
+    EXPECT_TRUE(c.viewCalls().isEmpty());
     EXPECT_EQ(categoryTitles(*categories), before);
     EXPECT_FALSE(c.rulebase->Dirty());
 
     c.scripts.categoryEditor = [](CategoryEditorForm &editor) {
-        editor.setTitle(QStringLiteral("aaa first"));
-        editor.setDescription(QStringLiteral("d"));
+        editor.setTitle(u"aaa first"_s);
+        editor.setDescription(u"d"_s);
         return editor.OK();
     };
     c.scripts.categorySeverity = [](CategorySeverityForm &form) {
@@ -102,8 +83,8 @@ TEST(RulebaseDialogCommands, TheCategoryListSortsAndTellsTheViewOnlyWhenSomethin
         return form.RequestClose();
     };
     c.app.ShowCategoryList();
-    EXPECT_EQ(c.viewCalls, QStringList{QStringLiteral("CategoryListChanged")});
-    EXPECT_EQ(categories->Item(1)->Title(), QStringLiteral("aaa first"));
+    EXPECT_EQ(c.viewCalls(), QStringList{u"CategoryListChanged"_s});
+    EXPECT_EQ(categories->Item(1)->Title(), u"aaa first"_s);
     QStringList sorted = categoryTitles(*categories);
     std::sort(sorted.begin(), sorted.end(), [](const QString &a, const QString &b) {
         return a.compare(b, Qt::CaseInsensitive) < 0;
@@ -124,35 +105,7 @@ TEST(RulebaseDialogCommands, TheCategoryListDeletesWithTheRulebaseSet)
     c.app.ShowCategoryList();
     EXPECT_FALSE(c.rulebase->CategoryList()->ContainsID(id));
     EXPECT_EQ(c.rulebase->RuleLists()->ConventionsListByCatID(id)->Count(), 0);
-    EXPECT_EQ(c.viewCalls, QStringList{QStringLiteral("CategoryListChanged")});
-}
-
-TEST(RulebaseDialogCommands, TheSeverityListTellsTheViewAndKeepsTheEditFromBeingLost)
-{
-    Commands c;
-    c.scripts.categorySeverity = [](CategorySeverityForm &form) {
-        EXPECT_EQ(form.DialogType(), 2);
-        return true;
-    };
-    c.app.ShowSeverityList();
-    EXPECT_TRUE(c.viewCalls.isEmpty());
-    EXPECT_FALSE(c.rulebase->Dirty());
-
-    c.scripts.severityEditor = [](SeverityEditorForm &editor) {
-        editor.Load();
-        editor.setTitle(QStringLiteral("Grave"));
-        return editor.OK();
-    };
-    c.scripts.categorySeverity = [](CategorySeverityForm &form) {
-        form.Edit();
-        return form.RequestClose();
-    };
-    const QString firstCategory = c.rulebase->CategoryList()->Item(1)->Title();
-    c.app.ShowSeverityList();
-    EXPECT_EQ(c.viewCalls, QStringList{QStringLiteral("SeverityListChanged")});
-    EXPECT_EQ(c.rulebase->SeverityList()->Item(1)->Title(), QStringLiteral("Grave"));
-    EXPECT_EQ(c.rulebase->CategoryList()->Item(1)->Title(), firstCategory);
-    EXPECT_TRUE(c.rulebase->Dirty());
+    EXPECT_EQ(c.viewCalls(), QStringList{u"CategoryListChanged"_s});
 }
 
 TEST(RulebaseDialogCommands, DefaultViolationsChangedAloneMarkTheRulebaseSoNewAsks)
@@ -160,7 +113,7 @@ TEST(RulebaseDialogCommands, DefaultViolationsChangedAloneMarkTheRulebaseSoNewAs
     Commands c;
     // Cancelled, nothing is marked.
     c.scripts.defaultViolations = [](DefaultViolationsForm &form) {
-        form.setAdvice(QStringLiteral("Dropped."));
+        form.setAdvice(u"Dropped."_s);
         form.Cancel();
         return false;
     };
@@ -169,75 +122,51 @@ TEST(RulebaseDialogCommands, DefaultViolationsChangedAloneMarkTheRulebaseSoNewAs
 
     c.scripts.defaultViolations = [](DefaultViolationsForm &form) {
         EXPECT_EQ(form.CurrentType(), 1);
-        form.setAdvice(QStringLiteral("Remove it."));
+        form.setAdvice(u"Remove it."_s);
         form.OK();
         return true;
     };
     c.app.ShowDefaultViolations();
-    EXPECT_EQ(c.rulebase->DefaultViolations()->ItemByType(1)->Advice(), QStringLiteral("Remove it."));
+    EXPECT_EQ(c.rulebase->DefaultViolations()->ItemByType(1)->Advice(), u"Remove it."_s);
     EXPECT_TRUE(c.rulebase->Dirty());
     c.ui.answers = {MessageResult::Cancel};
     c.app.NewRulebase();
     EXPECT_EQ(c.app.rulebase(), c.rulebase);
     EXPECT_EQ(c.ui.messageTexts(),
-              QStringList{QStringLiteral(
-                  "The current rulebase has changed, do you wish to save the changes?")});
-}
-
-TEST(RulebaseDialogCommands, RulebasePropertiesWriteOnOKOnly)
-{
-    Commands c;
-    const QString title = c.rulebase->Title();
-    c.scripts.rulebaseProperties = [&](RulebasePropertiesForm &form) {
-        EXPECT_EQ(form.Title(), title);
-        form.setTitle(QStringLiteral("Elsewhere"));
-        form.Cancel();
-        return false;
-    };
-    c.app.ShowRulebasePropertiesDialog();
-    EXPECT_EQ(c.rulebase->Title(), title);
-    EXPECT_FALSE(c.rulebase->Dirty());
-
-    c.scripts.rulebaseProperties = [](RulebasePropertiesForm &form) {
-        form.setTitle(QStringLiteral("Elsewhere"));
-        return form.OK();
-    };
-    c.app.ShowRulebasePropertiesDialog();
-    EXPECT_EQ(c.rulebase->Title(), QStringLiteral("Elsewhere"));
-    EXPECT_TRUE(c.rulebase->Dirty());
+              QStringList{u"The current rulebase has changed, do you wish to save the changes?"_s});
 }
 
 TEST(RulebaseDialogCommands, TagListsCopyBackOnlyWhatChanged)
 {
     Commands c;
-    c.rulebase->setArrayTag(QStringLiteral("a"));
+    c.rulebase->setArrayTag(u"a"_s);
     c.rulebase->setUnknownControlViolation(false);
     c.rulebase->setDirty(false);
 
     // A change of case alone is not taken over, and the rulebase stays clean.
     c.scripts.tagList = [](TagListForm &form) {
         EXPECT_EQ(form.TagType(), 2);
-        EXPECT_EQ(form.ArrayTag(), QStringLiteral("a"));
-        form.setArrayTag(QStringLiteral("A"));
+        EXPECT_EQ(form.ArrayTag(), u"a"_s);
+        form.setArrayTag(u"A"_s);
         return form.OK();
     };
     c.app.ShowTagList(2);
-    EXPECT_EQ(c.rulebase->ArrayTag(), QStringLiteral("a"));
+    EXPECT_EQ(c.rulebase->ArrayTag(), u"a"_s);
     EXPECT_FALSE(c.rulebase->Dirty());
 
     c.scripts.tagList = [](TagListForm &form) {
-        form.setArrayTag(QStringLiteral("arr"));
+        form.setArrayTag(u"arr"_s);
         form.setOption(true);
         return form.OK();
     };
     c.app.ShowTagList(2);
-    EXPECT_EQ(c.rulebase->ArrayTag(), QStringLiteral("arr"));
+    EXPECT_EQ(c.rulebase->ArrayTag(), u"arr"_s);
     EXPECT_TRUE(c.rulebase->UseCTagsAsDTTags());
     c.rulebase->setDirty(false);
 
     // A cancelled control set keeps the option and its row.
     c.scripts.tagList = [](TagListForm &form) {
-        EXPECT_EQ(form.Caption(), QStringLiteral("Control Tags"));
+        EXPECT_EQ(form.Caption(), u"Control Tags"_s);
         form.setOption(true);
         form.Cancel();
         return false;

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using T = BasicTokenKind;
@@ -32,69 +34,62 @@ QString describe(const QString &text)
 
 TEST(BasicLexer, SortsWordsNumbersStringsAndSymbols)
 {
-    EXPECT_EQ(describe(QStringLiteral("dIM s$, n% : s = UCase$(\"a\"\"b\") & 1.5E-3")),
-              QStringLiteral("Kw:dIM|Id:s$|Punct:,|Id:n%|Punct::|Id:s|Op:=|Id:UCase$|Punct:(|Str:"
-                             "\"a\"\"b\"|Punct:)|Op:&|Num:1.5E-3"));
+    EXPECT_EQ(describe(u"dIM s$, n% : s = UCase$(\"a\"\"b\") & 1.5E-3"_s),
+              u"Kw:dIM|Id:s$|Punct:,|Id:n%|Punct::|Id:s|Op:=|Id:UCase$|Punct:(|Str:"
+              u"\"a\"\"b\"|Punct:)|Op:&|Num:1.5E-3"_s);
     EXPECT_EQ(
-        describe(QStringLiteral("x = &HFF& + &O17 + 12% + 3# + .5 + 2@")),
-        QStringLiteral(
-            "Id:x|Op:=|Num:&HFF&|Op:+|Num:&O17|Op:+|Num:12%|Op:+|Num:3#|Op:+|Num:.5|Op:+|Num:2@"));
-    EXPECT_EQ(describe(QStringLiteral("d = #1/2/2000# : Print #1, a <= b <> c >= d, n:=1")),
-              QStringLiteral("Id:d|Op:=|Date:#1/2/"
-                             "2000#|Punct::|Id:Print|Punct:#|Num:1|Punct:,|Id:a|Op:<=|Id:b|Op:<>|"
-                             "Id:c|Op:>=|Id:d|Punct:,|Id:n|Punct::=|Num:1"));
+        describe(u"x = &HFF& + &O17 + 12% + 3# + .5 + 2@"_s),
+        u"Id:x|Op:=|Num:&HFF&|Op:+|Num:&O17|Op:+|Num:12%|Op:+|Num:3#|Op:+|Num:.5|Op:+|Num:2@"_s);
+    EXPECT_EQ(describe(u"d = #1/2/2000# : Print #1, a <= b <> c >= d, n:=1"_s),
+              u"Id:d|Op:=|Date:#1/2/"
+              u"2000#|Punct::|Id:Print|Punct:#|Num:1|Punct:,|Id:a|Op:<=|Id:b|Op:<>|"
+              u"Id:c|Op:>=|Id:d|Punct:,|Id:n|Punct::=|Num:1"_s);
 }
 
 TEST(BasicLexer, DateLiteralsOnlyWhereTheTextReadsAsADate)
 {
-    EXPECT_EQ(
-        describe(QStringLiteral("d = #Jan 1, 2000# + #2000-01-02 12:30:00 PM# + #1-Feb-2000#")),
-        QStringLiteral(
-            "Id:d|Op:=|Date:#Jan 1, 2000#|Op:+|Date:#2000-01-02 12:30:00 PM#|Op:+|Date:#1-Feb-2000#"));
-    EXPECT_EQ(describe(QStringLiteral("Write #1, a, #1/2/2000#")),
-              QStringLiteral("Id:Write|Punct:#|Num:1|Punct:,|Id:a|Punct:,|Date:#1/2/2000#"));
-    EXPECT_EQ(
-        describe(QStringLiteral("Print #1, x: Print #1, y")),
-        QStringLiteral(
-            "Id:Print|Punct:#|Num:1|Punct:,|Id:x|Punct::|Id:Print|Punct:#|Num:1|Punct:,|Id:y"));
+    EXPECT_EQ(describe(u"d = #Jan 1, 2000# + #2000-01-02 12:30:00 PM# + #1-Feb-2000#"_s),
+              u"Id:d|Op:=|Date:#Jan 1, 2000#|Op:+|Date:#2000-01-02 12:30:00 "
+              u"PM#|Op:+|Date:#1-Feb-2000#"_s);
+    EXPECT_EQ(describe(u"Write #1, a, #1/2/2000#"_s),
+              u"Id:Write|Punct:#|Num:1|Punct:,|Id:a|Punct:,|Date:#1/2/2000#"_s);
+    EXPECT_EQ(describe(u"Print #1, x: Print #1, y"_s),
+              u"Id:Print|Punct:#|Num:1|Punct:,|Id:x|Punct::|Id:Print|Punct:#|Num:1|Punct:,|Id:y"_s);
 }
 
 TEST(BasicLexer, MemberNamesAfterADotAreNeverKeywords)
 {
-    EXPECT_EQ(describe(QStringLiteral("rs.Type = x.End + rs!Name + a! + [My Name]")),
-              QStringLiteral("Id:rs|Punct:.|Id:Type|Op:=|Id:x|Punct:.|Id:End|Op:+|Id:rs|Punct:!|Id:"
-                             "Name|Op:+|Id:a!|Op:+|Id:[My Name]"));
+    EXPECT_EQ(describe(u"rs.Type = x.End + rs!Name + a! + [My Name]"_s),
+              u"Id:rs|Punct:.|Id:Type|Op:=|Id:x|Punct:.|Id:End|Op:+|Id:rs|Punct:!|Id:"
+              u"Name|Op:+|Id:a!|Op:+|Id:[My Name]"_s);
 }
 
 TEST(BasicLexer, CommentsByApostropheAndByRemAtAStatementStartOnly)
 {
-    EXPECT_EQ(describe(QStringLiteral("Remark = 1 ' note\nREM all of it\nx = 1: Rem tail")),
-              QStringLiteral("Id:Remark|Op:=|Num:1|Rem:' note|EOL|Rem:REM all of "
-                             "it|EOL|Id:x|Op:=|Num:1|Punct::|Rem:Rem tail"));
-    EXPECT_EQ(describe(QStringLiteral("If a Then Rem why")),
-              QStringLiteral("Kw:If|Id:a|Kw:Then|Rem:Rem why"));
-    EXPECT_EQ(describe(QStringLiteral("10 Rem numbered\nRem = 1 + Rem")),
-              QStringLiteral("Num:10|Rem:Rem numbered|EOL|Rem:Rem = 1 + Rem"));
+    EXPECT_EQ(describe(u"Remark = 1 ' note\nREM all of it\nx = 1: Rem tail"_s),
+              u"Id:Remark|Op:=|Num:1|Rem:' note|EOL|Rem:REM all of "
+              u"it|EOL|Id:x|Op:=|Num:1|Punct::|Rem:Rem tail"_s);
+    EXPECT_EQ(describe(u"If a Then Rem why"_s), u"Kw:If|Id:a|Kw:Then|Rem:Rem why"_s);
+    EXPECT_EQ(describe(u"10 Rem numbered\nRem = 1 + Rem"_s),
+              u"Num:10|Rem:Rem numbered|EOL|Rem:Rem = 1 + Rem"_s);
 }
 
 TEST(BasicLexer, ContinuationJoinsLinesWithoutALineEnd)
 {
-    const QString text = QStringLiteral("x = a _\r\n    + b\r\ny = a_b");
-    EXPECT_EQ(describe(text),
-              QStringLiteral("Id:x|Op:=|Id:a|Cont:_|Op:+|Id:b|EOL|Id:y|Op:=|Id:a_b"));
+    const QString text = u"x = a _\r\n    + b\r\ny = a_b"_s;
+    EXPECT_EQ(describe(text), u"Id:x|Op:=|Id:a|Cont:_|Op:+|Id:b|EOL|Id:y|Op:=|Id:a_b"_s);
     const auto tokens = BasicLexer::tokenize(text);
     EXPECT_EQ(tokens[4].line, 2);
     EXPECT_EQ(tokens[4].column, 5);
     EXPECT_EQ(tokens[7].line, 3);
 
     // A comment ending in " _" runs on over the next line.
-    EXPECT_EQ(describe(QStringLiteral("' one _\ntwo\nx")),
-              QStringLiteral("Rem:' one _\ntwo|EOL|Id:x"));
+    EXPECT_EQ(describe(u"' one _\ntwo\nx"_s), u"Rem:' one _\ntwo|EOL|Id:x"_s);
 }
 
 TEST(BasicLexer, PositionsCountEveryKindOfLineEnd)
 {
-    const auto tokens = BasicLexer::tokenize(QStringLiteral("a\r\n\tb\nc\rd"));
+    const auto tokens = BasicLexer::tokenize(u"a\r\n\tb\nc\rd"_s);
     ASSERT_EQ(tokens.size(), 8u);
     const int expected[][2] = {{1, 1}, {1, 2}, {2, 2}, {2, 3}, {3, 1}, {3, 2}, {4, 1}, {4, 2}};
     for (size_t i = 0; i < tokens.size(); ++i) {
@@ -106,7 +101,7 @@ TEST(BasicLexer, PositionsCountEveryKindOfLineEnd)
 
 TEST(BasicLexer, FlagsUnterminatedStringsAndStrayCharacters)
 {
-    const auto tokens = BasicLexer::tokenize(QStringLiteral("s = \"open\nx ? y"));
+    const auto tokens = BasicLexer::tokenize(u"s = \"open\nx ? y"_s);
     EXPECT_EQ(tokens[2].kind, T::String);
     EXPECT_FALSE(tokens[2].complete);
     EXPECT_EQ(tokens[2].length, 5);

@@ -3,6 +3,8 @@
 #include "basic/ConditionRules.h"
 #include "rulebase/IRule.h"
 
+using namespace Qt::StringLiterals;
+
 using namespace ConditionRules;
 
 namespace {
@@ -20,23 +22,23 @@ TEST(ConditionRules, OnlyTheBareSubMainLineMayStartAProcedure)
     EXPECT_TRUE(ContainsMethods(script({"Sub Main()", "End Sub"})));
     EXPECT_TRUE(ContainsMethods(script({"Sub Main ", "End Sub"})));
     EXPECT_TRUE(ContainsMethods(script({"Sub Main", "End Sub", "Function Foo", "End Function"})));
-    EXPECT_TRUE(ContainsMethods(QStringLiteral("Private Sub Foo")));
-    EXPECT_TRUE(ContainsMethods(QStringLiteral("Public Property Get X")));
-    EXPECT_TRUE(ContainsMethods(QStringLiteral("Friend Function F")));
-    EXPECT_TRUE(ContainsMethods(QStringLiteral("Property Let X(v)")));
+    EXPECT_TRUE(ContainsMethods(u"Private Sub Foo"_s));
+    EXPECT_TRUE(ContainsMethods(u"Public Property Get X"_s));
+    EXPECT_TRUE(ContainsMethods(u"Friend Function F"_s));
+    EXPECT_TRUE(ContainsMethods(u"Property Let X(v)"_s));
     // The pattern is case-sensitive and anchored at the line start.
-    EXPECT_FALSE(ContainsMethods(QStringLiteral("sub helper")));
-    EXPECT_FALSE(ContainsMethods(QStringLiteral("  Sub Helper")));
-    EXPECT_FALSE(ContainsMethods(QStringLiteral("Subtotal = 1")));
+    EXPECT_FALSE(ContainsMethods(u"sub helper"_s));
+    EXPECT_FALSE(ContainsMethods(u"  Sub Helper"_s));
+    EXPECT_FALSE(ContainsMethods(u"Subtotal = 1"_s));
     // Any line end splits lines, not only CR LF.
-    EXPECT_FALSE(ContainsMethods(QStringLiteral("Sub Main\nEnd Sub")));
-    EXPECT_TRUE(ContainsMethods(QStringLiteral("Sub Main\nSub Foo")));
+    EXPECT_FALSE(ContainsMethods(u"Sub Main\nEnd Sub"_s));
+    EXPECT_TRUE(ContainsMethods(u"Sub Main\nSub Foo"_s));
 }
 
 TEST(ConditionRules, ANamingConditionMustApplyItsConvention)
 {
     EXPECT_TRUE(ValidNamingConvention(QString()));
-    EXPECT_TRUE(ValidNamingConvention(QStringLiteral("' quorin.applyconvention")));
+    EXPECT_TRUE(ValidNamingConvention(u"' quorin.applyconvention"_s));
     EXPECT_FALSE(ValidNamingConvention(script({"Sub Main", "End Sub"})));
 }
 
@@ -47,24 +49,23 @@ TEST(ConditionRules, CheckConditionAppliesTheRulesInOrder)
     EXPECT_FALSE(verdict.passed);
     EXPECT_FALSE(verdict.syntaxError);
     EXPECT_EQ(verdict.message,
-              QStringLiteral("Quorin rule conditions do not support the use of Subs, Functions or "
-                             "Property procedures other than the required Sub Main."));
+              u"Quorin rule conditions do not support the use of Subs, Functions or "
+              u"Property procedures other than the required Sub Main."_s);
 
     verdict = CheckCondition(script({"Sub Main", "  If x Then", "End Sub"}), Naming);
     EXPECT_FALSE(verdict.passed);
     EXPECT_EQ(verdict.message,
-              QStringLiteral("A naming convention condition, if set, must contain the line "
-                             "Quorin.ApplyConvention to notify the parser that the convention must "
-                             "be applied."));
+              u"A naming convention condition, if set, must contain the line "
+              u"Quorin.ApplyConvention to notify the parser that the convention must "
+              u"be applied."_s);
 
     verdict = CheckCondition(
         script({"Sub Main", "  If x Then", "  Quorin.ApplyConvention", "End Sub"}), Naming);
     EXPECT_FALSE(verdict.passed);
     EXPECT_TRUE(verdict.syntaxError);
-    EXPECT_EQ(
-        verdict.message,
-        QStringLiteral("line 2, column 3: Block If without End If Please fix before trying to "
-                       "save the condition."));
+    EXPECT_EQ(verdict.message,
+              u"line 2, column 3: Block If without End If Please fix before trying to "
+              u"save the condition."_s);
     EXPECT_EQ(verdict.line, 2);
     EXPECT_EQ(verdict.column, 3);
 

@@ -4,6 +4,8 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Lines written as one string, "|" between them.
@@ -44,9 +46,9 @@ TEST(ScriptEditing, BlocksIndentOutdentAndCommentLineByLine)
         EXPECT_EQ(c.edit(lines(c.in)), lines(c.out)) << c.in;
 
     // The unit is the text's own: its first indented line.
-    EXPECT_EQ(ScriptEditing::indentUnit(u"Sub Main\n\tx\n  y"), QStringLiteral("\t"));
-    EXPECT_EQ(ScriptEditing::indentUnit(u"  \nSub Main\n  x\n    y"), QStringLiteral("  "));
-    EXPECT_EQ(ScriptEditing::indentUnit(u"Sub Main\nEnd Sub"), QStringLiteral("\t"));
+    EXPECT_EQ(ScriptEditing::indentUnit(u"Sub Main\n\tx\n  y"), u"\t"_s);
+    EXPECT_EQ(ScriptEditing::indentUnit(u"  \nSub Main\n  x\n    y"), u"  "_s);
+    EXPECT_EQ(ScriptEditing::indentUnit(u"Sub Main\nEnd Sub"), u"\t"_s);
 }
 
 TEST(ScriptEditing, NewAndClosingLinesTakeTheIndentationOfTheirBlock)
@@ -100,8 +102,8 @@ TEST(ScriptEditing, NewAndClosingLinesTakeTheIndentationOfTheirBlock)
     for (const auto &c : closing) {
         const std::optional<QString> result
             = ScriptEditing::outdentedAsTyped(lines(c.before), QString::fromUtf8(c.line), "\t");
-        EXPECT_EQ(result.value_or(QStringLiteral("(unchanged)")),
-                  c.result ? QString::fromUtf8(c.result) : QStringLiteral("(unchanged)"))
+        EXPECT_EQ(result.value_or(u"(unchanged)"_s),
+                  c.result ? QString::fromUtf8(c.result) : u"(unchanged)"_s)
             << c.before << " / " << c.line;
     }
 }

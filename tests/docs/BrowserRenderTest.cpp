@@ -14,9 +14,11 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString chromium = QStringLiteral("/usr/bin/chromium");
+const QString chromium = u"/usr/bin/chromium"_s;
 
 // A page beside the document that loads it in a frame, follows every internal link the way a
 // click does, and reports the links whose target does not become the page's :target.
@@ -61,7 +63,7 @@ TEST(BrowserRender, EveryLinkOfTheSampleDocumentReachesItsAnchor)
 
     ScriptedUserInterface ui;
     const QString folder = TestEnvironment::makeTempDir();
-    const QString rulebaseFile = folder + QStringLiteral("/Sample.qrb");
+    const QString rulebaseFile = folder + u"/Sample.qrb"_s;
     ASSERT_TRUE(QFile::copy(TestEnvironment::sampleRulebase(), rulebaseFile));
     const auto rulebase = RulebaseManager().LoadRulebase(rulebaseFile);
     ASSERT_NE(rulebase, nullptr);
@@ -71,10 +73,10 @@ TEST(BrowserRender, EveryLinkOfTheSampleDocumentReachesItsAnchor)
     QString document;
     ASSERT_TRUE(writer.CreateDocumentation(*rulebase, document));
     const QString text = DocTestSupport::readDocument(document);
-    const qsizetype internalLinks = text.count(QStringLiteral("<a href=\"#"));
+    const qsizetype internalLinks = text.count(u"<a href=\"#"_s);
     ASSERT_GT(internalLinks, 50);
 
-    const QString page = folder + QStringLiteral("/check.html");
+    const QString page = folder + u"/check.html"_s;
     QFile check(page);
     ASSERT_TRUE(check.open(QIODevice::WriteOnly));
     check.write(QByteArray(checkPage).replace("DOCUMENT",
@@ -83,25 +85,25 @@ TEST(BrowserRender, EveryLinkOfTheSampleDocumentReachesItsAnchor)
 
     QProcess browser;
     browser.start(chromium,
-                  {QStringLiteral("--headless"),
-                   QStringLiteral("--no-sandbox"),
-                   QStringLiteral("--disable-gpu"),
-                   QStringLiteral("--allow-file-access-from-files"),
-                   QStringLiteral("--user-data-dir=") + folder + QStringLiteral("/profile"),
-                   QStringLiteral("--virtual-time-budget=10000"),
-                   QStringLiteral("--dump-dom"),
+                  {u"--headless"_s,
+                   u"--no-sandbox"_s,
+                   u"--disable-gpu"_s,
+                   u"--allow-file-access-from-files"_s,
+                   u"--user-data-dir="_s + folder + u"/profile"_s,
+                   u"--virtual-time-budget=10000"_s,
+                   u"--dump-dom"_s,
                    QUrl::fromLocalFile(page).toString()});
     ASSERT_TRUE(browser.waitForFinished(120000)) << "the browser did not finish";
     const QString dom = QString::fromUtf8(browser.readAllStandardOutput());
-    const QRegularExpression result(QStringLiteral("<pre id=\"result\">(.*?)</pre>"),
+    const QRegularExpression result(u"<pre id=\"result\">(.*?)</pre>"_s,
                                     QRegularExpression::DotMatchesEverythingOption);
     const QRegularExpressionMatch match = result.match(dom);
     ASSERT_TRUE(match.hasMatch()) << browser.readAllStandardError().toStdString();
     const QStringList lines = match.captured(1).split(QLatin1Char('\n'));
 
-    EXPECT_EQ(lines.value(0), QStringLiteral("TITLE Visual Basic Coding Standards"));
-    EXPECT_EQ(lines.value(1), QStringLiteral("LINKS %1").arg(internalLinks));
-    const QStringList broken = lines.filter(QStringLiteral("BROKEN"));
+    EXPECT_EQ(lines.value(0), u"TITLE Visual Basic Coding Standards"_s);
+    EXPECT_EQ(lines.value(1), u"LINKS %1"_s.arg(internalLinks));
+    const QStringList broken = lines.filter(u"BROKEN"_s);
     EXPECT_TRUE(broken.isEmpty()) << broken.join(QLatin1Char(' ')).toStdString();
-    EXPECT_EQ(lines.value(lines.size() - 1), QStringLiteral("DONE"));
+    EXPECT_EQ(lines.value(lines.size() - 1), u"DONE"_s);
 }

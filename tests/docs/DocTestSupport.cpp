@@ -15,7 +15,9 @@
 #include "rulebase/UnauthorisedKeyword.h"
 #include "rulebase/ViolationDefinition.h"
 
-#include <QFile>
+#include "support/TestEnvironment.h"
+
+using namespace Qt::StringLiterals;
 
 namespace DocTestSupport {
 
@@ -79,91 +81,51 @@ table(qint32 type, const QString &key, const QString &title, const QString &text
 std::shared_ptr<Rulebase> smallRulebase(const QString &folder)
 {
     auto rulebase = std::make_shared<Rulebase>();
-    rulebase->setTitle(QStringLiteral("Depot Coding Standards"));
-    rulebase->setVersion(QStringLiteral("2.1.7"));
-    rulebase->setDescription(QStringLiteral("Standards of the depot team."));
-    rulebase->setArrayTag(QStringLiteral("a"));
-    rulebase->setFilename(folder + QStringLiteral("/Depot.qrb"));
+    rulebase->setTitle(u"Depot Coding Standards"_s);
+    rulebase->setVersion(u"2.1.7"_s);
+    rulebase->setDescription(u"Standards of the depot team."_s);
+    rulebase->setArrayTag(u"a"_s);
+    rulebase->setFilename(folder + u"/Depot.qrb"_s);
 
-    const auto errors = category(*rulebase,
-                                 QStringLiteral("Error Handling"),
-                                 QStringLiteral("Trapping and logging of errors."));
-    const auto naming
-        = category(*rulebase, QStringLiteral("Naming & Style"), QStringLiteral("Names."));
-    const auto empty = category(*rulebase, QStringLiteral("Empty"), QString());
+    const auto errors
+        = category(*rulebase, u"Error Handling"_s, u"Trapping and logging of errors."_s);
+    const auto naming = category(*rulebase, u"Naming & Style"_s, u"Names."_s);
+    const auto empty = category(*rulebase, u"Empty"_s, QString());
 
-    const auto handler
-        = rule<CodingConvention>(*rulebase,
-                                 QStringLiteral("Error handler required"),
-                                 QStringLiteral("Every public procedure has an error handler."),
-                                 errors->ID(),
-                                 1,
-                                 500);
-    const auto resume
-        = rule<UnauthorisedKeyword>(*rulebase,
-                                    QStringLiteral("No Resume Next"),
-                                    QStringLiteral("<b>On Error Resume Next</b> hides errors."),
-                                    errors->ID(),
-                                    99,
-                                    250);
-    const auto prefix = rule<NamingConvention>(*rulebase,
-                                               QStringLiteral("Form prefix"),
-                                               QStringLiteral("Forms start with frm."),
-                                               naming->ID(),
-                                               3,
-                                               10);
+    const auto handler = rule<CodingConvention>(*rulebase,
+                                                u"Error handler required"_s,
+                                                u"Every public procedure has an error handler."_s,
+                                                errors->ID(),
+                                                1,
+                                                500);
+    const auto resume = rule<UnauthorisedKeyword>(*rulebase,
+                                                  u"No Resume Next"_s,
+                                                  u"<b>On Error Resume Next</b> hides errors."_s,
+                                                  errors->ID(),
+                                                  99,
+                                                  250);
+    const auto prefix = rule<NamingConvention>(
+        *rulebase, u"Form prefix"_s, u"Forms start with frm."_s, naming->ID(), 3, 10);
 
     auto &controlTags = *rulebase->ControlTags();
     controlTags.Clear();
-    tag(controlTags,
-        QStringLiteral("VB.TextBox"),
-        QStringLiteral("txt"),
-        QStringLiteral("Text box"),
-        QStringLiteral("txtName"));
-    tag(controlTags,
-        QStringLiteral("VB.CommandButton"),
-        QStringLiteral("cmd"),
-        QString(),
-        QString());
+    tag(controlTags, u"VB.TextBox"_s, u"txt"_s, u"Text box"_s, u"txtName"_s);
+    tag(controlTags, u"VB.CommandButton"_s, u"cmd"_s, QString(), QString());
     auto &dataTypeTags = *rulebase->DataTypeTags();
     dataTypeTags.Clear();
-    tag(dataTypeTags,
-        QStringLiteral("String"),
-        QStringLiteral("s"),
-        QString(),
-        QStringLiteral("sName"));
-    tag(dataTypeTags,
-        QStringLiteral("Long"),
-        QStringLiteral("l"),
-        QString(),
-        QStringLiteral("lCount"));
+    tag(dataTypeTags, u"String"_s, u"s"_s, QString(), u"sName"_s);
+    tag(dataTypeTags, u"Long"_s, u"l"_s, QString(), u"lCount"_s);
     auto &scopeTags = *rulebase->ScopeTags();
     scopeTags.Clear();
-    tag(scopeTags,
-        QStringLiteral("Module"),
-        QStringLiteral("m"),
-        QString(),
-        QStringLiteral("msName"));
-    tag(scopeTags, QStringLiteral("Global"), QStringLiteral("g"), QString(), QString());
+    tag(scopeTags, u"Module"_s, u"m"_s, QString(), u"msName"_s);
+    tag(scopeTags, u"Global"_s, u"g"_s, QString(), QString());
 
-    rulebase->AuthorisedComponents()->Add(QStringLiteral("{B-GUID}"),
-                                          QStringLiteral("mscomctl.ocx"),
-                                          QStringLiteral("2.0"),
-                                          QString());
-    rulebase->AuthorisedComponents()->Add(QStringLiteral("{A-GUID}"),
-                                          QStringLiteral("Grid.ocx"),
-                                          QStringLiteral("1.0|1.1"),
-                                          QString());
-    rulebase->AuthorisedReferences()->Add(QStringLiteral("{D-GUID}"),
-                                          QStringLiteral("Scripting Runtime"),
-                                          QStringLiteral("scrrun.dll"),
-                                          QStringLiteral("1.0"),
-                                          QString());
-    rulebase->AuthorisedReferences()->Add(QStringLiteral("{C-GUID}"),
-                                          QStringLiteral("ADO 2.8"),
-                                          QStringLiteral("msado15.dll"),
-                                          QString(),
-                                          QString());
+    rulebase->AuthorisedComponents()->Add(u"{B-GUID}"_s, u"mscomctl.ocx"_s, u"2.0"_s, QString());
+    rulebase->AuthorisedComponents()->Add(u"{A-GUID}"_s, u"Grid.ocx"_s, u"1.0|1.1"_s, QString());
+    rulebase->AuthorisedReferences()->Add(
+        u"{D-GUID}"_s, u"Scripting Runtime"_s, u"scrrun.dll"_s, u"1.0"_s, QString());
+    rulebase->AuthorisedReferences()->Add(
+        u"{C-GUID}"_s, u"ADO 2.8"_s, u"msado15.dll"_s, QString(), QString());
 
     auto &sections = *rulebase->Report()->Sections();
     const auto errorsPage = std::make_shared<CategoryItem>();
@@ -184,21 +146,12 @@ std::shared_ptr<Rulebase> smallRulebase(const QString &folder)
     emptyPage->setTitle(empty->Title());
     emptyPage->setID(empty->ID());
     sections.Add(emptyPage);
-    sections.Add(table(
-        0, QStringLiteral("1T"), QStringLiteral("Control Tags"), QStringLiteral("Control tags.")));
-    sections.Add(table(
-        1, QStringLiteral("2T"), QStringLiteral("Data Type Tags"), QStringLiteral("Data tags.")));
-    sections.Add(table(
-        2, QStringLiteral("3T"), QStringLiteral("Scope Tags"), QStringLiteral("Scope tags.")));
-    sections.Add(table(3,
-                       QStringLiteral("4T"),
-                       QStringLiteral("Authorised Components"),
-                       QStringLiteral("Components.")));
-    sections.Add(table(4,
-                       QStringLiteral("5T"),
-                       QStringLiteral("Authorised References"),
-                       QStringLiteral("References.")));
-    sections.Add(table(5, QStringLiteral("6T"), QStringLiteral("Severity Details"), QString()));
+    sections.Add(table(0, u"1T"_s, u"Control Tags"_s, u"Control tags."_s));
+    sections.Add(table(1, u"2T"_s, u"Data Type Tags"_s, u"Data tags."_s));
+    sections.Add(table(2, u"3T"_s, u"Scope Tags"_s, u"Scope tags."_s));
+    sections.Add(table(3, u"4T"_s, u"Authorised Components"_s, u"Components."_s));
+    sections.Add(table(4, u"5T"_s, u"Authorised References"_s, u"References."_s));
+    sections.Add(table(5, u"6T"_s, u"Severity Details"_s, QString()));
     return rulebase;
 }
 
@@ -209,20 +162,12 @@ QDate publishedDate()
 
 QString organisation()
 {
-    return QStringLiteral("Tarnwick Freight");
-}
-
-QByteArray readBytes(const QString &filename)
-{
-    QFile file(filename);
-    if (!file.open(QIODevice::ReadOnly))
-        return QByteArray();
-    return file.readAll();
+    return u"Tarnwick Freight"_s;
 }
 
 QString readDocument(const QString &filename)
 {
-    return Windows1252::decode(readBytes(filename));
+    return Windows1252::decode(TestEnvironment::readFile(filename));
 }
 
 } // namespace DocTestSupport

@@ -20,7 +20,6 @@ std::shared_ptr<Rulebase> smallRulebase(const QString &folder);
 QDate publishedDate();
 QString organisation();
 
-QByteArray readBytes(const QString &filename);
 // The document as text; it is written in Windows-1252.
 QString readDocument(const QString &filename);
 

@@ -21,7 +21,10 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 using namespace DocTestSupport;
+using TestEnvironment::readFile;
 
 namespace {
 
@@ -37,39 +40,40 @@ QString writeDocument(Rulebase &rulebase)
 
 QString expectedDocument(const QString &name)
 {
-    QString text = readDocument(TestEnvironment::sourceDir()
-                                + QStringLiteral("/tests/docs/expected/") + name);
-    return text.replace(QStringLiteral("{DATE}"),
+    QString text = readDocument(TestEnvironment::sourceDir() + u"/tests/docs/expected/"_s + name);
+    return text.replace(u"{DATE}"_s,
                         QLocale::system().toString(publishedDate(), QLocale::LongFormat));
 }
 
 // With the log in place, so that a failure reaches the error box as in the program.
-class RulebaseDocCreatorWithLog : public ::testing::Test
+class RulebaseDocCreatorTest : public ::testing::Test
 {
 protected:
-    void SetUp() override { ASSERT_EQ(CreateGlobalObjects(), 0); }
+    void SetUp() override
+    {
+        TestEnvironment::clearSettings();
+        ASSERT_EQ(CreateGlobalObjects(), 0);
+    }
     void TearDown() override { DestroyGlobalObjects(); }
     ScriptedUserInterface ui;
+    const QString folder = TestEnvironment::makeTempDir();
+    const std::shared_ptr<Rulebase> rulebase = smallRulebase(folder);
 };
 
 } // namespace
 
-TEST(RulebaseDocCreator, WritesTheSmallRulebaseLineForLine)
+TEST_F(RulebaseDocCreatorTest, WritesTheSmallRulebaseLineForLine)
 {
-    ScriptedUserInterface ui;
-    const QString folder = TestEnvironment::makeTempDir();
-    const auto rulebase = smallRulebase(folder);
     const QString filename = writeDocument(*rulebase);
-    ASSERT_EQ(filename, folder + QStringLiteral("/Depot.html"));
+    ASSERT_EQ(filename, folder + u"/Depot.html"_s);
 
-    const QByteArray bytes = readBytes(filename);
+    const QByteArray bytes = readFile(filename);
     // Every line ends in CR LF, and no bare LF hides anywhere.
     EXPECT_TRUE(bytes.endsWith("</html>\r\n"));
     EXPECT_EQ(bytes.count("\n"), bytes.count("\r\n"));
 
-    const QStringList actual = readDocument(filename).split(QStringLiteral("\r\n"));
-    const QStringList expected
-        = expectedDocument(QStringLiteral("SmallDocument.html")).split(QStringLiteral("\r\n"));
+    const QStringList actual = readDocument(filename).split(u"\r\n"_s);
+    const QStringList expected = expectedDocument(u"SmallDocument.html"_s).split(u"\r\n"_s);
     ASSERT_FALSE(expected.isEmpty());
     for (qsizetype i = 0; i < std::min(actual.size(), expected.size()); ++i)
         ASSERT_EQ(actual.at(i), expected.at(i)) << "line " << i + 1;
@@ -77,78 +81,60 @@ TEST(RulebaseDocCreator, WritesTheSmallRulebaseLineForLine)
     EXPECT_TRUE(ui.messages.empty());
 }
 
-TEST(RulebaseDocCreator, NamesTheDocumentAfterTheRulebase)
+TEST(RulebaseDocCreatorName, NamesTheDocumentAfterTheRulebase)
 {
-    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team.qrb")),
-              QStringLiteral("/data/Team.html"));
-    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team.v2.qrb")),
-              QStringLiteral("/data/Team.v2.html"));
-    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team.")),
-              QStringLiteral("/data/Team.html"));
-    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QStringLiteral("/data/Team")),
-              QStringLiteral("/data/Team"));
+    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(u"/data/Team.qrb"_s), u"/data/Team.html"_s);
+    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(u"/data/Team.v2.qrb"_s),
+              u"/data/Team.v2.html"_s);
+    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(u"/data/Team."_s), u"/data/Team.html"_s);
+    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(u"/data/Team"_s), u"/data/Team"_s);
     EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QString()), QString());
 }
 
-TEST_F(RulebaseDocCreatorWithLog, NeverWritesOverTheRulebaseItselfNorWithoutAFile)
+TEST_F(RulebaseDocCreatorTest, NeverWritesOverTheRulebaseItselfNorWithoutAFile)
 {
-    const QString folder = TestEnvironment::makeTempDir();
-    const auto rulebase = smallRulebase(folder);
 
     // A rulebase file without a point would be its own document.
-    const QString bare = folder + QStringLiteral("/Standards");
-    QFile file(bare);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("<Quorin_Rulebase/>");
-    file.close();
+    const QString bare = folder + u"/Standards"_s;
+    TestEnvironment::writeFile(bare, "<Quorin_Rulebase/>");
     rulebase->setFilename(bare);
     EXPECT_TRUE(writeDocument(*rulebase).isEmpty());
-    EXPECT_EQ(readBytes(bare), QByteArray("<Quorin_Rulebase/>"));
+    EXPECT_EQ(readFile(bare), QByteArray("<Quorin_Rulebase/>"));
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_TRUE(
-        ui.messages.back().text.contains(QStringLiteral("would replace the rulebase itself")));
+    EXPECT_TRUE(ui.messages.back().text.contains(u"would replace the rulebase itself"_s));
 
     // An unsaved rulebase has no place for its document.
     rulebase->setFilename(QString());
     EXPECT_TRUE(writeDocument(*rulebase).isEmpty());
     ASSERT_EQ(ui.messages.size(), 2u);
-    EXPECT_TRUE(ui.messages.back().text.contains(QStringLiteral("Save it first")));
+    EXPECT_TRUE(ui.messages.back().text.contains(u"Save it first"_s));
 }
 
-TEST(RulebaseDocCreator, AnEmptyPlanGivesTitleContentsAndFooter)
+TEST_F(RulebaseDocCreatorTest, AnEmptyPlanGivesTitleContentsAndFooter)
 {
-    ScriptedUserInterface ui;
-    const QString folder = TestEnvironment::makeTempDir();
-    const auto rulebase = smallRulebase(folder);
     rulebase->Report()->Sections()->Clear();
     const QString text = readDocument(writeDocument(*rulebase));
-    EXPECT_TRUE(text.contains(QStringLiteral("<h2>Tarnwick Freight</h2>")));
-    EXPECT_TRUE(
-        text.contains(QStringLiteral("            <ul type=\"square\">\r\n            </ul>\r\n")));
-    EXPECT_TRUE(
-        text.contains(QStringLiteral("\u00A9 2024 Tarnwick Freight. All rights reserved.")));
-    EXPECT_FALSE(text.contains(QStringLiteral("Page Body Table")));
-    EXPECT_FALSE(text.contains(QStringLiteral("<!-- Category:")));
-    EXPECT_TRUE(text.endsWith(
-        QStringLiteral("<!-- End Of Footer Table -->\r\n\r\n\r\n</body>\r\n</html>\r\n")));
+    EXPECT_TRUE(text.contains(u"<h2>Tarnwick Freight</h2>"_s));
+    EXPECT_TRUE(text.contains(u"            <ul type=\"square\">\r\n            </ul>\r\n"_s));
+    EXPECT_TRUE(text.contains(u"\u00A9 2024 Tarnwick Freight. All rights reserved."_s));
+    EXPECT_FALSE(text.contains(u"Page Body Table"_s));
+    EXPECT_FALSE(text.contains(u"<!-- Category:"_s));
+    EXPECT_TRUE(text.endsWith(u"<!-- End Of Footer Table -->\r\n\r\n\r\n</body>\r\n</html>\r\n"_s));
 }
 
-TEST(RulebaseDocCreator, CopiesTextsAsTheyStandAndEncodesWhatTheCodePageLacks)
+TEST_F(RulebaseDocCreatorTest, CopiesTextsAsTheyStandAndEncodesWhatTheCodePageLacks)
 {
-    ScriptedUserInterface ui;
-    const QString folder = TestEnvironment::makeTempDir();
-    const auto rulebase = smallRulebase(folder);
     const auto page
         = std::dynamic_pointer_cast<CategoryItem>(rulebase->Report()->Sections()->Item(1));
-    page->setTitle(QStringLiteral("Z\u00FCrich & <Co>"));
-    rulebase->setDescription(QStringLiteral("Costs \u20AC; \u6F22 and \U0001F600."));
+    page->setTitle(u"Z\u00FCrich & <Co>"_s);
+    rulebase->setDescription(u"Costs \u20AC; \u6F22 and \U0001F600."_s);
     const auto rule = page->CategoryRules()->Item(2);
     rule->setRuleID(12345);
     const auto first = page->CategoryRules()->Item(1);
     first->setRuleID(7);
 
     const QString filename = writeDocument(*rulebase);
-    const QByteArray bytes = readBytes(filename);
+    const QByteArray bytes = readFile(filename);
     // Markup goes through untouched, blanks alone become underscores in the anchor.
     EXPECT_TRUE(bytes.contains("id=\"category_Z\xFCrich_&_<Co>\""));
     EXPECT_TRUE(bytes.contains("<a href=\"#category_Z\xFCrich_&_<Co>\">Z\xFCrich & <Co></a>"));
@@ -162,47 +148,38 @@ TEST(RulebaseDocCreator, CopiesTextsAsTheyStandAndEncodesWhatTheCodePageLacks)
     EXPECT_TRUE(bytes.contains("<span class=\"rule_id\">[12345]</span>"));
 }
 
-TEST(RulebaseDocCreator, SortsTheTagSetsInPlaceButNotTheAuthorisedItems)
+TEST_F(RulebaseDocCreatorTest, SortsTheTagSetsInPlaceButNotTheAuthorisedItems)
 {
-    ScriptedUserInterface ui;
-    const QString folder = TestEnvironment::makeTempDir();
-    const auto rulebase = smallRulebase(folder);
     ASSERT_FALSE(writeDocument(*rulebase).isEmpty());
-    EXPECT_EQ(rulebase->ControlTags()->Key(1), QStringLiteral("VB.CommandButton"));
-    EXPECT_EQ(rulebase->DataTypeTags()->Key(1), QStringLiteral("Long"));
-    EXPECT_EQ(rulebase->ScopeTags()->Key(1), QStringLiteral("Module"));
-    EXPECT_EQ(rulebase->AuthorisedComponents()->Item(1)->Filename(),
-              QStringLiteral("mscomctl.ocx"));
+    EXPECT_EQ(rulebase->ControlTags()->Key(1), u"VB.CommandButton"_s);
+    EXPECT_EQ(rulebase->DataTypeTags()->Key(1), u"Long"_s);
+    EXPECT_EQ(rulebase->ScopeTags()->Key(1), u"Module"_s);
+    EXPECT_EQ(rulebase->AuthorisedComponents()->Item(1)->Filename(), u"mscomctl.ocx"_s);
 }
 
-TEST(RulebaseDocCreator, RepeatedSectionsAndAnchorsAreWrittenAsTheyCome)
+TEST_F(RulebaseDocCreatorTest, RepeatedSectionsAndAnchorsAreWrittenAsTheyCome)
 {
-    ScriptedUserInterface ui;
-    const QString folder = TestEnvironment::makeTempDir();
-    const auto rulebase = smallRulebase(folder);
     auto &sections = *rulebase->Report()->Sections();
     // The scope table twice, and a category whose title differs from another only by blanks.
     sections.Add(sections.Item(6));
     const auto twin = std::make_shared<CategoryItem>();
-    twin->setTitle(QStringLiteral("Error_Handling"));
+    twin->setTitle(u"Error_Handling"_s);
     twin->setID(40);
     sections.Add(twin);
     const QString text = readDocument(writeDocument(*rulebase));
-    EXPECT_EQ(text.count(QStringLiteral("id=\"scope_tags_page\"")), 2);
-    EXPECT_EQ(text.count(QStringLiteral("id=\"category_Error_Handling\"")), 2);
+    EXPECT_EQ(text.count(u"id=\"scope_tags_page\""_s), 2);
+    EXPECT_EQ(text.count(u"id=\"category_Error_Handling\""_s), 2);
 }
 
-TEST_F(RulebaseDocCreatorWithLog, AFolderThatCannotBeWrittenLeavesTheOldDocument)
+TEST_F(RulebaseDocCreatorTest, AFolderThatCannotBeWrittenLeavesTheOldDocument)
 {
-    const QString folder = TestEnvironment::makeTempDir();
-    const auto rulebase = smallRulebase(folder);
     const QString filename = writeDocument(*rulebase);
     ASSERT_FALSE(filename.isEmpty());
-    const QByteArray before = readBytes(filename);
+    const QByteArray before = readFile(filename);
 
     if (!TestEnvironment::makeReadOnly(folder))
         GTEST_SKIP() << "no way to make a folder read-only here";
-    rulebase->setTitle(QStringLiteral("Changed Title"));
+    rulebase->setTitle(u"Changed Title"_s);
     RulebaseDocCreator writer;
     writer.setOrganisation(organisation());
     QString second;
@@ -211,40 +188,32 @@ TEST_F(RulebaseDocCreatorWithLog, AFolderThatCannotBeWrittenLeavesTheOldDocument
 
     EXPECT_FALSE(written);
     EXPECT_EQ(second, filename);
-    EXPECT_EQ(readBytes(filename), before);
+    EXPECT_EQ(readFile(filename), before);
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Unexpected Error"));
-    EXPECT_TRUE(
-        ui.messages[0].text.contains(QStringLiteral("Can't write the document '") + filename));
-    EXPECT_TRUE(ui.messages[0].text.contains(QStringLiteral("module clsStandardsDocCreator")));
+    EXPECT_EQ(ui.messages[0].title, u"Quorin Unexpected Error"_s);
+    EXPECT_TRUE(ui.messages[0].text.contains(u"Can't write the document '"_s + filename));
+    EXPECT_TRUE(ui.messages[0].text.contains(u"module clsStandardsDocCreator"_s));
 }
 
-TEST(RulebaseDocCreator, TakesTheRememberedOrganisationOrAsksOnce)
+TEST_F(RulebaseDocCreatorTest, TakesTheRememberedOrganisationOrAsksOnce)
 {
-    TestEnvironment::clearSettings();
-    ScriptedUserInterface ui;
-    ASSERT_EQ(CreateGlobalObjects(), 0);
-    const QString folder = TestEnvironment::makeTempDir();
-    const auto rulebase = smallRulebase(folder);
     QString filename;
 
     // Declined: nothing is written and nothing remembered.
     gobjAdminData->setLastCompanyName(QString());
     EXPECT_FALSE(RulebaseDocCreator().CreateDocumentation(*rulebase, filename));
-    EXPECT_FALSE(QFile::exists(folder + QStringLiteral("/Depot.html")));
+    EXPECT_FALSE(QFile::exists(folder + u"/Depot.html"_s));
     EXPECT_EQ(ui.textPrompts.size(), 1);
 
-    ui.textAnswers.push_back(QStringLiteral("  Harbour Lines  "));
+    ui.textAnswers.push_back(u"  Harbour Lines  "_s);
     EXPECT_TRUE(RulebaseDocCreator().CreateDocumentation(*rulebase, filename));
-    EXPECT_EQ(gobjAdminData->LastCompanyName(), QStringLiteral("Harbour Lines"));
-    EXPECT_TRUE(readDocument(filename).contains(QStringLiteral("<h2>Harbour Lines</h2>")));
+    EXPECT_EQ(gobjAdminData->LastCompanyName(), u"Harbour Lines"_s);
+    EXPECT_TRUE(readDocument(filename).contains(u"<h2>Harbour Lines</h2>"_s));
 
     // Remembered from now on: no more questions.
     EXPECT_TRUE(RulebaseDocCreator().CreateDocumentation(*rulebase, filename));
     EXPECT_EQ(ui.textPrompts.size(), 2);
     EXPECT_TRUE(readDocument(filename).contains(
-        QStringLiteral("\u00A9 %1 Harbour Lines. All rights reserved.")
-            .arg(QDate::currentDate().year())));
+        u"\u00A9 %1 Harbour Lines. All rights reserved."_s.arg(QDate::currentDate().year())));
     EXPECT_TRUE(ui.messages.empty());
-    DestroyGlobalObjects();
 }

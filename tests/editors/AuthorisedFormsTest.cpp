@@ -13,20 +13,20 @@
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString noLibraryWarning
-    = QStringLiteral("Unable to extract the type library information from the selected component.");
+    = u"Unable to extract the type library information from the selected component."_s;
 
 QString typelibFile(const char *name)
 {
-    return TestEnvironment::sharedDataDir() + QStringLiteral("/typelib/") + QLatin1String(name);
+    return TestEnvironment::sharedDataDir() + u"/typelib/"_s + QLatin1String(name);
 }
 
 // The settings the dialogs read their starting folder from, for the length of a test.
@@ -47,24 +47,12 @@ QByteArray projectUsing(const char *guid, const char *version, const char *file)
            + "\r\nName=\"P\"\r\n";
 }
 
-QString writeProject(const QString &dir, const char *name, const QByteArray &bytes)
-{
-    const QString path = dir + QLatin1Char('/') + QLatin1String(name);
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-    return path;
-}
-
 } // namespace
 
 TEST(AuthorisedComponentForm, ANewItemStartsEmptyWithOKAndAdviceDisabled)
 {
     auto item = std::make_shared<AuthorisedComponent>();
     AuthorisedComponentForm form(item);
-    EXPECT_EQ(form.Caption(), QStringLiteral("Authorised Component"));
-    EXPECT_EQ(form.FilenameLabel(), QStringLiteral("&Component Filename"));
-    EXPECT_EQ(form.BrowseCaption(), QStringLiteral("Browse For Component"));
     EXPECT_TRUE(form.Filename().isEmpty());
     EXPECT_TRUE(form.GUID().isEmpty());
     EXPECT_FALSE(form.OKEnabled());
@@ -76,9 +64,9 @@ TEST(AuthorisedComponentForm, ANewItemStartsEmptyWithOKAndAdviceDisabled)
     EXPECT_TRUE(form.Cancelled());
 
     // File name and GUID both: that is all OK needs.
-    form.setGUID(QStringLiteral("{G}"));
+    form.setGUID(u"{G}"_s);
     EXPECT_FALSE(form.OKEnabled());
-    form.setFilename(QStringLiteral("grid.ocx"));
+    form.setFilename(u"grid.ocx"_s);
     EXPECT_TRUE(form.OKEnabled());
     form.setFilename(QString());
     EXPECT_FALSE(form.OKEnabled());
@@ -87,53 +75,43 @@ TEST(AuthorisedComponentForm, ANewItemStartsEmptyWithOKAndAdviceDisabled)
 TEST(AuthorisedComponentForm, AKnownItemFillsTheFieldsAndOKWritesThemBack)
 {
     auto item = std::make_shared<AuthorisedComponent>();
-    item->setFilename(QStringLiteral("MSCOMCTL.OCX"));
-    item->setLibID(QStringLiteral("{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}"));
-    item->setVersionList(QStringLiteral("2.0; 2.1"));
-    item->setAdvice(QStringLiteral("Use 2.1."));
+    item->setFilename(u"MSCOMCTL.OCX"_s);
+    item->setLibID(u"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}"_s);
+    item->setVersionList(u"2.0; 2.1"_s);
+    item->setAdvice(u"Use 2.1."_s);
     AuthorisedComponentForm form(item);
     EXPECT_EQ(form.Filename(), item->Filename());
     EXPECT_EQ(form.GUID(), item->LibID());
     EXPECT_EQ(form.Versions(), item->VersionList());
-    EXPECT_EQ(form.Advice(), QStringLiteral("Use 2.1."));
+    EXPECT_EQ(form.Advice(), u"Use 2.1."_s);
     EXPECT_TRUE(form.OKEnabled());
     EXPECT_TRUE(form.AdviceEnabled());
     EXPECT_TRUE(form.ObjectPropertyEnabled());
 
     // A property macro goes in at the caret, over the selection.
-    const int caret
-        = form.InsertIntoAdvice(form.ObjectPropertyMacro(QStringLiteral("Filename")), 4, 3);
-    EXPECT_EQ(form.Advice(), QStringLiteral("Use %Component.Filename%."));
+    const int caret = form.InsertIntoAdvice(form.ObjectPropertyMacro(u"Filename"_s), 4, 3);
+    EXPECT_EQ(form.Advice(), u"Use %Component.Filename%."_s);
     EXPECT_EQ(caret, 24);
-    form.setVersions(QStringLiteral("2.2"));
+    form.setVersions(u"2.2"_s);
     ASSERT_TRUE(form.OK());
     EXPECT_FALSE(form.Cancelled());
-    EXPECT_EQ(item->VersionList(), QStringLiteral("2.2"));
-    EXPECT_EQ(item->Advice(), QStringLiteral("Use %Component.Filename%."));
-    EXPECT_EQ(item->LibID(), QStringLiteral("{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}"));
-}
+    EXPECT_EQ(item->VersionList(), u"2.2"_s);
+    EXPECT_EQ(item->Advice(), u"Use %Component.Filename%."_s);
+    EXPECT_EQ(item->LibID(), u"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}"_s);
 
-TEST(AuthorisedComponentForm, ClearingTheVersionsClearsTheAdviceForGood)
-{
-    auto item = std::make_shared<AuthorisedComponent>();
-    item->setLibID(QStringLiteral("{G}"));
-    item->setFilename(QStringLiteral("a.ocx"));
-    item->setVersionList(QStringLiteral("1.0"));
-    item->setAdvice(QStringLiteral("Upgrade."));
-    AuthorisedComponentForm form(item);
-    form.setVersions(QString());
-    EXPECT_TRUE(form.Advice().isEmpty());
-    EXPECT_FALSE(form.AdviceEnabled());
-    EXPECT_FALSE(form.ObjectPropertyEnabled());
-    form.setVersions(QStringLiteral("1"));
-    EXPECT_TRUE(form.AdviceEnabled());
-    EXPECT_TRUE(form.Advice().isEmpty());
-
-    // Cancel writes nothing.
-    form.Cancel();
-    EXPECT_TRUE(form.Cancelled());
-    EXPECT_EQ(item->Advice(), QStringLiteral("Upgrade."));
-    EXPECT_EQ(item->VersionList(), QStringLiteral("1.0"));
+    // Clearing the versions clears the advice for good; Cancel then writes nothing.
+    AuthorisedComponentForm again(item);
+    again.setVersions(QString());
+    EXPECT_TRUE(again.Advice().isEmpty());
+    EXPECT_FALSE(again.AdviceEnabled());
+    EXPECT_FALSE(again.ObjectPropertyEnabled());
+    again.setVersions(u"1"_s);
+    EXPECT_TRUE(again.AdviceEnabled());
+    EXPECT_TRUE(again.Advice().isEmpty());
+    again.Cancel();
+    EXPECT_TRUE(again.Cancelled());
+    EXPECT_EQ(item->VersionList(), u"2.2"_s);
+    EXPECT_FALSE(item->Advice().isEmpty());
 }
 
 TEST(AuthorisedComponentForm, BrowseReadsTheLibraryOrWarnsAndKeepsThePath)
@@ -141,7 +119,7 @@ TEST(AuthorisedComponentForm, BrowseReadsTheLibraryOrWarnsAndKeepsThePath)
     if (!QFileInfo::exists(typelibFile("GridCtl.ocx")))
         GTEST_SKIP() << "no shared type library data";
     SettingsScope settings;
-    gobjAdminData->setLastPath(QStringLiteral("/start/"));
+    gobjAdminData->setLastPath(u"/start/"_s);
     ScriptedUserInterface ui;
     auto item = std::make_shared<AuthorisedComponent>();
     AuthorisedComponentForm form(item);
@@ -150,15 +128,13 @@ TEST(AuthorisedComponentForm, BrowseReadsTheLibraryOrWarnsAndKeepsThePath)
     ASSERT_TRUE(form.Browse());
     ASSERT_EQ(ui.fileRequests.size(), 1u);
     EXPECT_EQ(ui.fileRequests[0].fileType, 6);
-    EXPECT_EQ(ui.fileRequests[0].title, QStringLiteral("Select ActiveX Control"));
-    EXPECT_EQ(ui.fileRequests[0].folder, QStringLiteral("/start/"));
+    EXPECT_EQ(ui.fileRequests[0].folder, u"/start/"_s);
     EXPECT_EQ(form.Filename(), typelibFile("GridCtl.ocx"));
-    EXPECT_EQ(form.GUID(), QStringLiteral("{6B1A3F20-5C2D-4E8F-9A10-1B2C3D4E5F60}"));
-    EXPECT_EQ(form.Versions(), QStringLiteral("1.0"));
+    EXPECT_EQ(form.GUID(), u"{6B1A3F20-5C2D-4E8F-9A10-1B2C3D4E5F60}"_s);
+    EXPECT_EQ(form.Versions(), u"1.0"_s);
     EXPECT_TRUE(form.OKEnabled());
     EXPECT_TRUE(form.AdviceEnabled());
-    EXPECT_EQ(gobjAdminData->LastPath(),
-              TestEnvironment::sharedDataDir() + QStringLiteral("/typelib/"));
+    EXPECT_EQ(gobjAdminData->LastPath(), TestEnvironment::sharedDataDir() + u"/typelib/"_s);
     EXPECT_TRUE(ui.messages.empty());
 
     ui.openAnswers = {typelibFile("NoTypeLib.dll")};
@@ -184,20 +160,15 @@ TEST(AuthorisedReferenceForm, DescriptionAndGuidEnableOKAndBrowseTakesTheHelpStr
 {
     auto item = std::make_shared<AuthorisedReference>();
     AuthorisedReferenceForm form(item);
-    EXPECT_EQ(form.Caption(), QStringLiteral("Authorised Reference"));
-    EXPECT_EQ(form.FilenameLabel(), QStringLiteral("&Reference Filename"));
-    EXPECT_EQ(form.BrowseCaption(), QStringLiteral("Browse For Reference"));
-    EXPECT_EQ(form.HelpTopic(), QStringLiteral("::/AuthorisedReference.htm"));
     // The file name is not what a reference needs.
-    form.setFilename(QStringLiteral("x.dll"));
-    form.setGUID(QStringLiteral("{G}"));
+    form.setFilename(u"x.dll"_s);
+    form.setGUID(u"{G}"_s);
     EXPECT_FALSE(form.OKEnabled());
-    form.setDescription(QStringLiteral("X Library"));
+    form.setDescription(u"X Library"_s);
     EXPECT_TRUE(form.OKEnabled());
     form.setFilename(QString());
     EXPECT_TRUE(form.OKEnabled());
-    EXPECT_EQ(form.ObjectPropertyMacro(QStringLiteral("Version")),
-              QStringLiteral("%Reference.Version%"));
+    EXPECT_EQ(form.ObjectPropertyMacro(u"Version"_s), u"%Reference.Version%"_s);
 
     if (!QFileInfo::exists(typelibFile("ReportLib.tlb")))
         GTEST_SKIP() << "no shared type library data";
@@ -205,14 +176,13 @@ TEST(AuthorisedReferenceForm, DescriptionAndGuidEnableOKAndBrowseTakesTheHelpStr
     ui.openAnswers = {typelibFile("ReportLib.tlb")};
     ASSERT_TRUE(form.Browse());
     EXPECT_EQ(ui.fileRequests[0].fileType, 7);
-    EXPECT_EQ(ui.fileRequests[0].title, QStringLiteral("Select ActiveX Component"));
-    EXPECT_EQ(form.Description(), QStringLiteral("Report Engine 2.5 Type Library"));
-    EXPECT_EQ(form.GUID(), QStringLiteral("{0F9E8D7C-6B5A-4938-2716-05F4E3D2C1B0}"));
-    EXPECT_EQ(form.Versions(), QStringLiteral("2.5"));
+    EXPECT_EQ(form.Description(), u"Report Engine 2.5 Type Library"_s);
+    EXPECT_EQ(form.GUID(), u"{0F9E8D7C-6B5A-4938-2716-05F4E3D2C1B0}"_s);
+    EXPECT_EQ(form.Versions(), u"2.5"_s);
     ASSERT_TRUE(form.OK());
-    EXPECT_EQ(item->Description(), QStringLiteral("Report Engine 2.5 Type Library"));
+    EXPECT_EQ(item->Description(), u"Report Engine 2.5 Type Library"_s);
     EXPECT_EQ(item->Filename(), typelibFile("ReportLib.tlb"));
-    EXPECT_EQ(item->VersionList(), QStringLiteral("2.5"));
+    EXPECT_EQ(item->VersionList(), u"2.5"_s);
 
     // A truncated library: the warning, and the description stays as it was.
     AuthorisedReferenceForm second(item);
@@ -220,7 +190,7 @@ TEST(AuthorisedReferenceForm, DescriptionAndGuidEnableOKAndBrowseTakesTheHelpStr
     ASSERT_TRUE(second.Browse());
     EXPECT_EQ(ui.messages.back().text, noLibraryWarning);
     EXPECT_TRUE(second.GUID().isEmpty());
-    EXPECT_EQ(second.Description(), QStringLiteral("Report Engine 2.5 Type Library"));
+    EXPECT_EQ(second.Description(), u"Report Engine 2.5 Type Library"_s);
     EXPECT_FALSE(second.OKEnabled());
 }
 
@@ -233,47 +203,37 @@ TEST(AddFromProjectForm, TabsListTheCandidatesAndTicksReachThem)
     AddFromProject importer;
     importer.setRulebase(rulebase);
     AddFromProjectForm form(importer);
-    EXPECT_EQ(AddFromProjectForm::Caption(), QStringLiteral("Add Authorised Items From Project"));
-    EXPECT_EQ(AddFromProjectForm::BrowseToolTip(), QStringLiteral("Browse For Project or Group"));
     EXPECT_FALSE(form.OKEnabled());
     EXPECT_TRUE(form.Rows().isEmpty());
 
-    ui.openAnswers = {
-        writeProject(dir,
-                     "p.vbp",
-                     projectUsing("{B0000000-0000-0000-0000-000000000002}", "1.0", "b.ocx")
-                         + projectUsing("{A0000000-0000-0000-0000-000000000001}", "3.1", "a.ocx"))};
+    ui.openAnswers = {TestEnvironment::writeFile(
+        dir + u"/p.vbp"_s,
+        projectUsing("{B0000000-0000-0000-0000-000000000002}", "1.0", "b.ocx")
+            + projectUsing("{A0000000-0000-0000-0000-000000000001}", "3.1", "a.ocx"))};
     ASSERT_TRUE(form.Browse());
     EXPECT_EQ(ui.fileRequests[0].fileType, 5);
-    EXPECT_EQ(ui.fileRequests[0].title, QStringLiteral("Select VB Project or Group File"));
-    EXPECT_EQ(form.File(), dir + QStringLiteral("/p.vbp"));
+    EXPECT_EQ(form.File(), dir + u"/p.vbp"_s);
     EXPECT_EQ(gobjAdminData->LastPath(), dir + QLatin1Char('/'));
     EXPECT_EQ(ui.messages.back().text,
-              QStringLiteral(
-                  "2 new components and 3 new references were found for the project 'p.vbp'."));
+              u"2 new components and 3 new references were found for the project 'p.vbp'."_s);
     EXPECT_TRUE(form.OKEnabled());
 
-    EXPECT_EQ(form.TabPicture(), QStringLiteral("imgComponents"));
-    EXPECT_EQ(form.ColumnHeaders(),
-              (QStringList{QStringLiteral("Component"),
-                           QStringLiteral("Version"),
-                           QStringLiteral("Filename"),
-                           QStringLiteral("GUID")}));
+    EXPECT_EQ(form.TabPicture(), u"imgComponents"_s);
     QList<AddFromProjectForm::Row> rows = form.Rows();
     ASSERT_EQ(rows.size(), 2);
-    EXPECT_EQ(rows[0].text, QStringLiteral("b.ocx"));
-    EXPECT_EQ(rows[0].key, QStringLiteral("{B0000000-0000-0000-0000-000000000002}"));
+    EXPECT_EQ(rows[0].text, u"b.ocx"_s);
+    EXPECT_EQ(rows[0].key, u"{B0000000-0000-0000-0000-000000000002}"_s);
     EXPECT_TRUE(rows[0].checked);
 
     // Sorting by a header: ascending first, then descending.
     form.ColumnClick(1);
-    EXPECT_EQ(form.Rows()[0].text, QStringLiteral("a.ocx"));
-    EXPECT_EQ(form.ColumnIcon(1), QStringLiteral("SortAscending"));
+    EXPECT_EQ(form.Rows()[0].text, u"a.ocx"_s);
+    EXPECT_EQ(form.ColumnIcon(1), u"SortAscending"_s);
     form.ColumnClick(1);
-    EXPECT_EQ(form.Rows()[0].text, QStringLiteral("b.ocx"));
-    EXPECT_EQ(form.ColumnIcon(1), QStringLiteral("SortDescending"));
+    EXPECT_EQ(form.Rows()[0].text, u"b.ocx"_s);
+    EXPECT_EQ(form.ColumnIcon(1), u"SortDescending"_s);
     form.ColumnClick(2);
-    EXPECT_EQ(form.Rows()[0].version, QStringLiteral("1.0"));
+    EXPECT_EQ(form.Rows()[0].version, u"1.0"_s);
     EXPECT_TRUE(form.ColumnIcon(1).isEmpty());
 
     // Ticks are the candidates' Selected; OK needs one of either tab.
@@ -281,17 +241,16 @@ TEST(AddFromProjectForm, TabsListTheCandidatesAndTicksReachThem)
     EXPECT_EQ(importer.ComponentList()->SelectedCount(), 0);
     EXPECT_TRUE(form.OKEnabled()); // the references are still ticked
     form.setCurrentTab(AddFromProjectForm::ReferencesTab);
-    EXPECT_EQ(form.ColumnHeaders().first(), QStringLiteral("Description"));
-    EXPECT_EQ(form.TabPicture(), QStringLiteral("imgReferences"));
+    EXPECT_EQ(form.ColumnHeaders().first(), u"Description"_s);
+    EXPECT_EQ(form.TabPicture(), u"imgReferences"_s);
     EXPECT_EQ(form.Rows().size(), 3);
-    EXPECT_EQ(form.Rows()[0].text, QStringLiteral("Visual Basic For Applications"));
+    EXPECT_EQ(form.Rows()[0].text, u"Visual Basic For Applications"_s);
     form.SelectNone();
     EXPECT_FALSE(form.OKEnabled());
-    form.setItemChecked(QStringLiteral("{FCFB3D2E-A0FA-1068-A738-08002B3371B5}"), true);
+    form.setItemChecked(u"{FCFB3D2E-A0FA-1068-A738-08002B3371B5}"_s, true);
     EXPECT_TRUE(form.OKEnabled());
-    EXPECT_TRUE(importer.ReferenceList()
-                    ->Item(QStringLiteral("{FCFB3D2E-A0FA-1068-A738-08002B3371B5}"))
-                    ->Selected());
+    EXPECT_TRUE(
+        importer.ReferenceList()->Item(u"{FCFB3D2E-A0FA-1068-A738-08002B3371B5}"_s)->Selected());
     form.SelectAll();
     EXPECT_EQ(importer.ReferenceList()->SelectedCount(), 3);
     EXPECT_EQ(importer.ComponentList()->SelectedCount(), 0);

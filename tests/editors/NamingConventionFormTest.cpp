@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Form = NamingConventionForm;
@@ -42,31 +44,35 @@ struct Opened
 
 } // namespace
 
-TEST(NamingConventionForm, StaticListsAndANewRule)
+TEST(NamingConventionForm, ANewRuleStartsWithEveryPartOffAndPassesWithItsTitles)
 {
     Opened o;
     o.open();
     auto &s = o.screen();
     ASSERT_EQ(s.imgcboObject.count(), 41);
-    EXPECT_EQ(s.imgcboObject.key(0), QStringLiteral("1Key"));
+    EXPECT_EQ(s.imgcboObject.key(0), u"1Key"_s);
     EXPECT_EQ(s.imgcboObject.entry(1).indentation, 1);
-    EXPECT_EQ(s.imgcboObject.key(17), QStringLiteral("47Key"));
+    EXPECT_EQ(s.imgcboObject.key(17), u"47Key"_s);
     EXPECT_EQ(s.imgcboObject.entry(17).indentation, 2);
-    EXPECT_EQ(s.imgcboObject.key(40), QStringLiteral("35Key"));
+    EXPECT_EQ(s.imgcboObject.key(40), u"35Key"_s);
     EXPECT_FALSE(s.imgcboObject.hasSelection());
-    const auto &kinds = s.prefix.rows[0].kind;
-    ASSERT_EQ(kinds.count(), 7);
-    EXPECT_EQ(kinds.text(1), QStringLiteral("Literal / Pattern"));
-    EXPECT_EQ(kinds.itemData(5), 5);
-    EXPECT_EQ(kinds.text(6), QStringLiteral("Array Tag"));
+    EXPECT_EQ(s.prefix.rows[0].kind.count(), 7);
     // A new rule: first severity with its impact, no category, every part off.
     EXPECT_EQ(s.cboSeverity.currentItemData(), 1);
-    EXPECT_EQ(s.txtVImpact, QStringLiteral("900"));
+    EXPECT_EQ(s.txtVImpact, u"900"_s);
     EXPECT_FALSE(s.cboCategory.hasSelection());
     EXPECT_FALSE(s.prefix.enabled);
     EXPECT_FALSE(s.prefix.rows[0].kindEnabled);
     EXPECT_FALSE(s.bodyEnabled);
     EXPECT_FALSE(o.form.cmdDeleteEnabled());
+
+    // With every part off, an object, a title and a violation title are all OK needs.
+    ScriptedUserInterface ui;
+    o.selectObject(17);
+    s.txtTitle = "T";
+    s.txtVTitle = "V";
+    EXPECT_TRUE(o.form.cmdOK_Click());
+    EXPECT_TRUE(ui.messages.empty());
 }
 
 TEST(NamingConventionForm, RowsOpenTopDownByKind)
@@ -84,18 +90,18 @@ TEST(NamingConventionForm, RowsOpenTopDownByKind)
     EXPECT_TRUE(rows[0].textEnabled);
     EXPECT_FALSE(rows[0].textLocked);
     EXPECT_TRUE(rows[0].actionEnabled);
-    EXPECT_EQ(rows[0].actionToolTip, QStringLiteral("Insert Pattern"));
+    EXPECT_EQ(rows[0].actionToolTip, u"Insert Pattern"_s);
     EXPECT_TRUE(rows[1].kindEnabled);
 
     o.prefixKind(1, 5);
     EXPECT_TRUE(rows[1].textEnabled);
     EXPECT_TRUE(rows[1].textLocked);
-    EXPECT_EQ(rows[1].actionToolTip, QStringLiteral("Select Workfield"));
+    EXPECT_EQ(rows[1].actionToolTip, u"Select Workfield"_s);
     EXPECT_TRUE(o.form.ActionPicksWorkfield(Form::Prefix, 1));
-    rows[1].text = QStringLiteral("Procedure.WF.Scope");
+    rows[1].text = u"Procedure.WF.Scope"_s;
 
     o.prefixKind(2, 1);
-    rows[2].text = QStringLiteral("str");
+    rows[2].text = u"str"_s;
     // A tag kind discards what its box held.
     o.prefixKind(2, 3);
     EXPECT_TRUE(rows[2].text.isEmpty());
@@ -114,7 +120,7 @@ TEST(NamingConventionForm, RowsOpenTopDownByKind)
     EXPECT_FALSE(rows[2].kindEnabled);
     EXPECT_FALSE(rows[3].kindEnabled);
 
-    o.screen().prefix.advice = QStringLiteral("advice");
+    o.screen().prefix.advice = u"advice"_s;
     o.screen().chkPrefixActive = false;
     o.form.chkPrefixActive_Click();
     EXPECT_FALSE(o.screen().prefix.enabled);
@@ -179,30 +185,18 @@ TEST(NamingConventionForm, ValidationWalksTheTenFaultsInOrder)
     EXPECT_EQ(ui.messages.size(), 10u);
 }
 
-TEST(NamingConventionForm, AllPartsOffWithAViolationTitlePasses)
-{
-    ScriptedUserInterface ui;
-    Opened o;
-    o.rule->setObjectType(17);
-    o.open();
-    o.screen().txtTitle = "T";
-    o.screen().txtVTitle = "V";
-    EXPECT_TRUE(o.form.cmdOK_Click());
-    EXPECT_TRUE(ui.messages.empty());
-}
-
 TEST(NamingConventionForm, OkWritesTheRuleAndCancelWritesNothing)
 {
     ScriptedUserInterface ui;
     Opened o;
     o.rule->setObjectType(28);
     o.rule->setPropertyType(37);
-    o.rule->ViolationDefinition()->setAdvice(QStringLiteral("untouched"));
+    o.rule->ViolationDefinition()->setAdvice(u"untouched"_s);
     o.rule->setDirty(false);
     o.open();
     auto &s = o.screen();
     ASSERT_TRUE(s.imgcboObject.hasSelection());
-    EXPECT_EQ(s.imgcboObject.currentKey(), QStringLiteral("28Key"));
+    EXPECT_EQ(s.imgcboObject.currentKey(), u"28Key"_s);
     EXPECT_GT(s.imgcboProperty.count(), 0);
 
     s.txtTitle = "Variables";
@@ -238,63 +232,42 @@ TEST(NamingConventionForm, OkWritesTheRuleAndCancelWritesNothing)
 
     ASSERT_TRUE(o.form.cmdOK_Click());
     const NamingConvention &rule = *o.rule;
-    EXPECT_EQ(rule.Title(), QStringLiteral("Variables"));
-    EXPECT_EQ(rule.Description(), QStringLiteral("Names of variables"));
+    EXPECT_EQ(rule.Title(), u"Variables"_s);
+    EXPECT_EQ(rule.Description(), u"Names of variables"_s);
     EXPECT_EQ(rule.CategoryID(), 1);
     EXPECT_EQ(rule.ObjectType(), 28);
     EXPECT_EQ(rule.PropertyType(), 37);
     EXPECT_FALSE(rule.PropertyName().isEmpty());
     EXPECT_FALSE(rule.CaseSensitive());
-    EXPECT_EQ(rule.ExclusionList(), QStringLiteral("i;j"));
-    EXPECT_EQ(rule.Condition(), QStringLiteral("Sub Main\r\n  Quorin.ApplyConvention\r\nEnd Sub"));
+    EXPECT_EQ(rule.ExclusionList(), u"i;j"_s);
+    EXPECT_EQ(rule.Condition(), u"Sub Main\r\n  Quorin.ApplyConvention\r\nEnd Sub"_s);
     EXPECT_TRUE(rule.PrefixActive());
     EXPECT_EQ(rule.PrefixItems()->Item(1)->PSType(), 4);
     EXPECT_EQ(rule.PrefixItems()->Item(2)->PSType(), 1);
-    EXPECT_EQ(rule.PrefixItems()->Item(2)->Value(), QStringLiteral("_"));
+    EXPECT_EQ(rule.PrefixItems()->Item(2)->Value(), u"_"_s);
     EXPECT_EQ(rule.PrefixItems()->Item(3)->PSType(), 0);
-    EXPECT_EQ(rule.PrefixAdvice(), QStringLiteral("pa"));
+    EXPECT_EQ(rule.PrefixAdvice(), u"pa"_s);
     EXPECT_TRUE(rule.BodyActive());
-    EXPECT_EQ(rule.BodyPattern(), QStringLiteral("[A-Z][a-z]+"));
+    EXPECT_EQ(rule.BodyPattern(), u"[A-Z][a-z]+"_s);
     EXPECT_EQ(rule.MinBodyLength(), 3);
     EXPECT_EQ(rule.MaxBodyLength(), 0);
-    EXPECT_EQ(rule.BodyAdvice(), QStringLiteral("ba"));
+    EXPECT_EQ(rule.BodyAdvice(), u"ba"_s);
     EXPECT_FALSE(rule.SuffixActive());
-    EXPECT_EQ(rule.ViolationDefinition()->Title(), QStringLiteral("Bad variable name"));
+    EXPECT_EQ(rule.ViolationDefinition()->Title(), u"Bad variable name"_s);
     EXPECT_EQ(rule.ViolationDefinition()->Severity(), 1);
     EXPECT_EQ(rule.ViolationDefinition()->Impact(), 12);
-    EXPECT_EQ(rule.ViolationDefinition()->Advice(), QStringLiteral("untouched"));
+    EXPECT_EQ(rule.ViolationDefinition()->Advice(), u"untouched"_s);
 
     // The rule reads back into a fresh dialog as it was written.
     Opened again;
     again.rule = o.rule;
     again.open();
-    EXPECT_EQ(again.screen().prefix.rows[1].text, QStringLiteral("_"));
+    EXPECT_EQ(again.screen().prefix.rows[1].text, u"_"_s);
     EXPECT_EQ(again.screen().prefix.rows[1].kind.currentItemData(), 1);
     EXPECT_TRUE(again.screen().prefix.rows[2].kindEnabled);
     EXPECT_FALSE(again.screen().prefix.rows[3].kindEnabled);
-    EXPECT_EQ(again.screen().txtBody[1], QStringLiteral("3"));
-    EXPECT_EQ(again.screen().txtVImpact, QStringLiteral("12"));
-}
-
-TEST(NamingConventionForm, ConditionDeleteAsksFirst)
-{
-    ScriptedUserInterface ui;
-    Opened o;
-    o.open();
-    o.screen().txtCondition = "Quorin.ApplyConvention";
-    ui.answers.push_back(MessageResult::No);
-    o.form.cmdDelete_Click();
-    EXPECT_EQ(o.screen().txtCondition, QStringLiteral("Quorin.ApplyConvention"));
-    ui.answers.push_back(MessageResult::Yes);
-    o.form.cmdDelete_Click();
-    EXPECT_TRUE(o.screen().txtCondition.isEmpty());
-    EXPECT_FALSE(o.form.cmdDeleteEnabled());
-    ASSERT_EQ(ui.messages.size(), 2u);
-    EXPECT_EQ(ui.messages[0].text,
-              QStringLiteral(
-                  "Are you sure you wish to delete the condition for this naming convention?"));
-    EXPECT_EQ(ui.messages[0].icon, MessageIcon::Question);
-    EXPECT_EQ(ui.messages[0].buttons, MessageButtons::YesNo);
+    EXPECT_EQ(again.screen().txtBody[1], u"3"_s);
+    EXPECT_EQ(again.screen().txtVImpact, u"12"_s);
 }
 
 TEST(NamingConventionForm, SeverityChangeOverwritesImpactAndHelpersBehave)
@@ -304,15 +277,15 @@ TEST(NamingConventionForm, SeverityChangeOverwritesImpactAndHelpersBehave)
     o.rule->ViolationDefinition()->setImpact(5);
     o.open();
     auto &s = o.screen();
-    EXPECT_EQ(s.txtVImpact, QStringLiteral("5"));
+    EXPECT_EQ(s.txtVImpact, u"5"_s);
     EXPECT_EQ(s.imgIcon, 16);
     s.cboSeverity.setCurrentIndex(s.cboSeverity.FindItemWithItemData(3));
     o.form.cboSeverity_Click();
-    EXPECT_EQ(s.txtVImpact, QStringLiteral("500"));
-    EXPECT_EQ(Form::StripPercent("%Variable.WF.Scope%"), QStringLiteral("Variable.WF.Scope"));
-    EXPECT_EQ(Form::ObjectPropertyTarget(2), QStringLiteral("txtBody_0"));
-    EXPECT_EQ(Form::InsertText("abcd", 2, "XY"), QStringLiteral("abXYcd"));
-    EXPECT_EQ(Form::InsertText("abcd", 99, "XY"), QStringLiteral("abcdXY"));
+    EXPECT_EQ(s.txtVImpact, u"500"_s);
+    EXPECT_EQ(Form::StripPercent("%Variable.WF.Scope%"), u"Variable.WF.Scope"_s);
+    EXPECT_EQ(Form::ObjectPropertyTarget(2), u"txtBody_0"_s);
+    EXPECT_EQ(Form::InsertText("abcd", 2, "XY"), u"abXYcd"_s);
+    EXPECT_EQ(Form::InsertText("abcd", 99, "XY"), u"abcdXY"_s);
     EXPECT_TRUE(Form::CheckNumericKey(QLatin1Char('7')));
     EXPECT_TRUE(Form::CheckNumericKey(QChar(8)));
     EXPECT_FALSE(Form::CheckNumericKey(QLatin1Char('-')));

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 TEST(ScriptPattern, KeepsTheAuthorsMeaning)
 {
     // Case is ignored unless asked for.
@@ -48,7 +50,7 @@ TEST(ScriptPattern, TellsTheFiveFaultsWithTheirPosition)
     const ScriptPattern late("a$b$(", true);
     EXPECT_EQ(late.fault(), ScriptPattern::MissingParenthesis);
     EXPECT_EQ(late.faultOffset(), 5);
-    EXPECT_TRUE(late.faultMessage().endsWith(QStringLiteral("position 6 of the pattern.")));
+    EXPECT_TRUE(late.faultMessage().endsWith(u"position 6 of the pattern."_s));
     const ScriptPattern range("ab[9-0]", true);
     EXPECT_GE(range.faultOffset(), 3);
     EXPECT_LE(range.faultOffset(), 6);
@@ -61,36 +63,34 @@ TEST(PatternTestForm, TestsWithoutClosingAndHandsThePatternBack)
     form.setPattern("^Public ");
     form.Load();
     auto &s = form.screen();
-    EXPECT_EQ(s.txtPattern, QStringLiteral("^Public "));
+    EXPECT_EQ(s.txtPattern, u"^Public "_s);
     EXPECT_TRUE(form.cmdTestEnabled());
 
     s.txtText = "public Sub Foo";
     form.cmdTest_Click();
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_EQ(ui.messages[0].text,
-              QStringLiteral("A match for the pattern was found in the text."));
+    EXPECT_EQ(ui.messages[0].text, u"A match for the pattern was found in the text."_s);
     EXPECT_EQ(ui.messages[0].icon, MessageIcon::Information);
     s.chkCaseSensitive = true;
     form.cmdTest_Click();
-    EXPECT_EQ(ui.messages.back().text,
-              QStringLiteral("No match for the pattern was found in the text."));
+    EXPECT_EQ(ui.messages.back().text, u"No match for the pattern was found in the text."_s);
 
     // A faulty pattern gives its warning and stays in the field.
     s.txtPattern = "^(Public ";
     form.cmdTest_Click();
     EXPECT_EQ(ui.messages.back().icon, MessageIcon::Exclamation);
-    EXPECT_TRUE(ui.messages.back().text.startsWith(
-        QStringLiteral("There is a missing ')' in the regular expression.")));
-    EXPECT_EQ(s.txtPattern, QStringLiteral("^(Public "));
+    EXPECT_TRUE(
+        ui.messages.back().text.startsWith(u"There is a missing ')' in the regular expression."_s));
+    EXPECT_EQ(s.txtPattern, u"^(Public "_s);
 
     // Cancel keeps the pattern the dialog was given; OK takes the faulty one untested.
     form.cmdCancel_Click();
     EXPECT_TRUE(form.Cancelled());
-    EXPECT_EQ(form.Pattern(), QStringLiteral("^Public "));
+    EXPECT_EQ(form.Pattern(), u"^Public "_s);
     const auto shown = ui.messages.size();
     form.cmdOK_Click();
     EXPECT_FALSE(form.Cancelled());
-    EXPECT_EQ(form.Pattern(), QStringLiteral("^(Public "));
+    EXPECT_EQ(form.Pattern(), u"^(Public "_s);
     EXPECT_EQ(ui.messages.size(), shown);
 
     s.txtPattern.clear();

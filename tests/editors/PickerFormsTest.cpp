@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 int rowOf(const std::vector<ObjectPropertyForm::ListEntry> &list, qint32 id)
@@ -28,11 +30,9 @@ TEST(ObjectPropertyForm, PropertyModePicksAPropertyOrANameByHand)
     form.setObjectListType(ObjectListType::Everything);
     form.Load();
     auto &s = form.screen();
-    EXPECT_EQ(s.caption, QStringLiteral("Object Property Selection"));
-    EXPECT_EQ(s.lblManualEntry, QStringLiteral("&Enter/select the name of the property to get."));
     ASSERT_FALSE(s.lvwObject.empty());
     EXPECT_EQ(s.selectedObject, 0);
-    EXPECT_TRUE(s.lvwObject[0].key.endsWith(QStringLiteral("KEY")));
+    EXPECT_TRUE(s.lvwObject[0].key.endsWith(u"KEY"_s));
     EXPECT_EQ(s.txtDescription, ObjectHelper::ObjectDescription(s.lvwObject[0].id));
     EXPECT_FALSE(form.cmdOKEnabled());
 
@@ -51,16 +51,15 @@ TEST(ObjectPropertyForm, PropertyModePicksAPropertyOrANameByHand)
     form.lvwObject_Click(controlProperties);
     EXPECT_TRUE(s.lvwProperty.empty());
     EXPECT_TRUE(s.cboManualEntryEnabled);
-    EXPECT_EQ(s.cboManualEntryItems.first(), QStringLiteral("Appearance"));
-    EXPECT_TRUE(s.cboManualEntryItems.contains(QStringLiteral("WhatsThisHelpID")));
-    EXPECT_FALSE(s.cboManualEntryItems.contains(QStringLiteral("WindowState")));
+    EXPECT_EQ(s.cboManualEntryItems.first(), u"Appearance"_s);
+    EXPECT_TRUE(s.cboManualEntryItems.contains(u"WhatsThisHelpID"_s));
+    EXPECT_FALSE(s.cboManualEntryItems.contains(u"WindowState"_s));
     EXPECT_FALSE(form.cmdOKEnabled());
     s.cboManualEntry = "Caption";
     EXPECT_TRUE(form.cmdOKEnabled());
     form.cmdOK_Click();
-    EXPECT_EQ(form.UserSelection(), QStringLiteral("%ControlProperties.Caption%"));
-    EXPECT_TRUE(
-        ObjectPropertyForm::ManualEntryFieldList(8).contains(QStringLiteral("WindowState")));
+    EXPECT_EQ(form.UserSelection(), u"%ControlProperties.Caption%"_s);
+    EXPECT_TRUE(ObjectPropertyForm::ManualEntryFieldList(8).contains(u"WindowState"_s));
     EXPECT_TRUE(ObjectPropertyForm::ManualEntryFieldList(1).isEmpty());
 
     form.cmdCancel_Click();
@@ -78,7 +77,6 @@ TEST(ObjectPropertyForm, WorkfieldModesExtendTheCallersList)
         form.setObjectType(28);
         form.Load();
         auto &s = form.screen();
-        EXPECT_EQ(s.caption, QStringLiteral("Object Workfield Selection"));
         EXPECT_FALSE(s.lvwPropertyVisible);
         ASSERT_GE(s.selectedObject, 0);
         EXPECT_EQ(s.lvwObject[std::size_t(s.selectedObject)].id, 28);
@@ -98,19 +96,18 @@ TEST(ObjectPropertyForm, WorkfieldModesExtendTheCallersList)
     form.setObjectType(1);
     form.Load();
     auto &s = form.screen();
-    EXPECT_EQ(s.caption, QStringLiteral("Object Property/Workfield Selection"));
     const int pseudo = rowOf(s.lvwProperty, ObjectPropertyForm::workfieldsProperty);
     ASSERT_EQ(pseudo, int(s.lvwProperty.size()) - 1);
-    EXPECT_EQ(s.lvwProperty[std::size_t(pseudo)].text, QStringLiteral("Workfields"));
-    EXPECT_EQ(s.lvwProperty[std::size_t(pseudo)].key, QStringLiteral("1000KEY"));
+    EXPECT_EQ(s.lvwProperty[std::size_t(pseudo)].text, u"Workfields"_s);
+    EXPECT_EQ(s.lvwProperty[std::size_t(pseudo)].key, u"1000KEY"_s);
     form.lvwProperty_Click(pseudo);
     EXPECT_EQ(s.txtDescription,
-              QStringLiteral("Enter/select the name of the workfield attached to this object."));
+              u"Enter/select the name of the workfield attached to this object."_s);
     EXPECT_TRUE(s.cboManualEntryEnabled);
     EXPECT_EQ(s.cboManualEntryItems.size(), 2);
     s.cboManualEntry = "Scope";
     form.cmdOK_Click();
-    EXPECT_EQ(form.UserSelection(), QStringLiteral("%Argument.WF.Scope%"));
+    EXPECT_EQ(form.UserSelection(), u"%Argument.WF.Scope%"_s);
     EXPECT_EQ(workfields.size(), 2); // "Scope" was there already
 
     // An object without workfields has no such entry.
@@ -126,7 +123,6 @@ TEST(ObjectPropertyForm, ObjectModeNeedsTheObjectAlone)
     form.setSelectionMode(ObjectPropertyForm::ObjectMode);
     form.setObjectListType(ObjectListType::CodingConvention);
     form.Load();
-    EXPECT_EQ(form.screen().caption, QStringLiteral("Object Selection"));
     EXPECT_FALSE(form.screen().lvwPropertyVisible);
     EXPECT_TRUE(form.cmdOKEnabled());
     form.cmdOK_Click();
@@ -144,7 +140,7 @@ TEST(ParserEventForm, PicksANodeOfTheRuleTree)
     EXPECT_EQ(tree.find("ProjectKey"), 0); // no root for the event tree
     EXPECT_FALSE(form.cmdOK_Click());
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_EQ(ui.messages[0].text, QStringLiteral("Please select a parser event."));
+    EXPECT_EQ(ui.messages[0].text, u"Please select a parser event."_s);
     EXPECT_TRUE(form.Cancelled());
 
     const int control = tree.find(VBParserEvents::ParserEventKey(7));
@@ -165,7 +161,7 @@ TEST(ParserEventForm, PicksANodeOfTheRuleTree)
     const int root = objects.screen().tvwEvent.find("-1Key");
     ASSERT_NE(root, 0);
     objects.tvwEvent_NodeClick(root);
-    EXPECT_EQ(objects.screen().txtDescription, QStringLiteral("Unknown Parser Event"));
+    EXPECT_EQ(objects.screen().txtDescription, u"Unknown Parser Event"_s);
     objects.cmdCancel_Click();
     EXPECT_TRUE(objects.Cancelled());
 }

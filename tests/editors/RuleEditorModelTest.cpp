@@ -8,12 +8,14 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString valid = QStringLiteral("Sub Main\n  Call Quorin.RaiseViolation()\nEnd Sub\n");
-const QString faulty = QStringLiteral("Sub Main\n  If x Then\nEnd Sub\n");
-const QString question = QStringLiteral("Do you want to save your changes?");
-const QString syntaxTitle = QStringLiteral("Quorin Administrator - Syntax Error");
+const QString valid = u"Sub Main\n  Call Quorin.RaiseViolation()\nEnd Sub\n"_s;
+const QString faulty = u"Sub Main\n  If x Then\nEnd Sub\n"_s;
+const QString question = u"Do you want to save your changes?"_s;
+const QString syntaxTitle = u"Quorin Administrator - Syntax Error"_s;
 
 RuleEditorModel model(const QString &opening, qint32 ruleType = RuleTypes::CodingConvention)
 {
@@ -25,93 +27,41 @@ RuleEditorModel model(const QString &opening, qint32 ruleType = RuleTypes::Codin
 
 } // namespace
 
-TEST(RuleEditorModel, CaptionNamesTheRuleByIdAndTitle)
-{
-    RuleEditorModel m;
-    EXPECT_EQ(m.Caption(), QStringLiteral("Condition Editor"));
-    m.setRuleID(12);
-    EXPECT_EQ(m.Caption(), QStringLiteral("Condition Editor")); // an id alone says nothing
-    m.setRuleTitle(QStringLiteral("No GoTo"));
-    EXPECT_EQ(m.Caption(), QStringLiteral("Condition Editor - [0012] No GoTo"));
-    m.setRuleID(5000);
-    EXPECT_EQ(m.Caption(), QStringLiteral("Condition Editor - [5000] No GoTo"));
-    m.setRuleID(123456);
-    EXPECT_EQ(m.Caption(), QStringLiteral("Condition Editor - [123456] No GoTo"));
-    m.setRuleID(0);
-    EXPECT_EQ(m.Caption(), QStringLiteral("Condition Editor - No GoTo"));
-}
-
-TEST(RuleEditorModel, ToolsStandInTheirMenusInOrder)
-{
-    QStringList rows;
-    for (const RuleEditorTool &tool : RuleEditorModel::tools())
-        rows << tool.id.toString() + QLatin1Char('|') + tool.menu.toString();
-    EXPECT_EQ(rows,
-              (QStringList{"tlCheckSyntax|mnuFile",
-                           "tlSaveAndClose|mnuFile",
-                           "tlClose|mnuFile",
-                           "tlUndo|mnuEdit",
-                           "tlRedo|mnuEdit",
-                           "tlCut|mnuEdit",
-                           "tlCopy|mnuEdit",
-                           "tlPaste|mnuEdit",
-                           "tlSelectAll|mnuEdit",
-                           "tlFind|mnuEdit",
-                           "tlFindNext|mnuEdit",
-                           "tlReplace|mnuEdit",
-                           "tlGoToLine|mnuEdit",
-                           "tlToggleComment|mnuEdit",
-                           "tlObjectProperty|mnuInsert",
-                           "tlObjectWorkfield|mnuInsert",
-                           "tlParserEvent|mnuInsert",
-                           "tlCancelPV|mnuInsert",
-                           "tlRaiseViolation|mnuInsert",
-                           "tlApplyConvention|mnuInsert",
-                           "tlQuorinHelp|mnuHelp",
-                           "tlLanguageHelp|mnuHelp"}));
-    QStringList menus;
-    for (const RuleEditorMenu &menu : RuleEditorModel::menus())
-        menus << menu.caption.toString();
-    EXPECT_EQ(menus, (QStringList{"&Condition", "&Edit", "&Insert", "&Help"}));
-}
-
 TEST(RuleEditorModel, InsertToolsPutTheirCallsAtTheCaret)
 {
-    EXPECT_EQ(RuleEditorModel::ToolText(QStringLiteral("tlRaiseViolation")),
-              QStringLiteral("Call Quorin.RaiseViolation()\r\n"));
-    EXPECT_EQ(RuleEditorModel::ToolText(QStringLiteral("TLCANCELPV")),
-              QStringLiteral("Call Quorin.CancelPendingViolation()\r\n"));
-    EXPECT_EQ(RuleEditorModel::ToolText(QStringLiteral("tlApplyConvention")),
-              QStringLiteral("Quorin.ApplyConvention\r\n"));
-    EXPECT_EQ(RuleEditorModel::ToolText(QStringLiteral("tlUndo")), QString());
+    EXPECT_EQ(RuleEditorModel::ToolText(u"tlRaiseViolation"_s),
+              u"Call Quorin.RaiseViolation()\r\n"_s);
+    EXPECT_EQ(RuleEditorModel::ToolText(u"TLCANCELPV"_s),
+              u"Call Quorin.CancelPendingViolation()\r\n"_s);
+    EXPECT_EQ(RuleEditorModel::ToolText(u"tlApplyConvention"_s), u"Quorin.ApplyConvention\r\n"_s);
+    EXPECT_EQ(RuleEditorModel::ToolText(u"tlUndo"_s), QString());
 
     // At position 0 the line goes in front of everything, the caret behind it.
-    auto at = RuleEditorModel::InsertScriptText(
-        QStringLiteral("Sub Main"), 0, QStringLiteral("X\r\n"), -1);
-    EXPECT_EQ(at.content, QStringLiteral("X\r\nSub Main"));
+    auto at = RuleEditorModel::InsertScriptText(u"Sub Main"_s, 0, u"X\r\n"_s, -1);
+    EXPECT_EQ(at.content, u"X\r\nSub Main"_s);
     EXPECT_EQ(at.caret, 3);
-    at = RuleEditorModel::InsertScriptText(QStringLiteral("abcd"), 2, QStringLiteral("XY"), -1);
-    EXPECT_EQ(at.content, QStringLiteral("abXYcd"));
+    at = RuleEditorModel::InsertScriptText(u"abcd"_s, 2, u"XY"_s, -1);
+    EXPECT_EQ(at.content, u"abXYcd"_s);
     EXPECT_EQ(at.caret, 4);
-    at = RuleEditorModel::InsertScriptText(QStringLiteral("abcd"), 4, QStringLiteral("XY"), 1);
-    EXPECT_EQ(at.content, QStringLiteral("abcdXY"));
+    at = RuleEditorModel::InsertScriptText(u"abcd"_s, 4, u"XY"_s, 1);
+    EXPECT_EQ(at.content, u"abcdXY"_s);
     EXPECT_EQ(at.caret, 5);
-    at = RuleEditorModel::InsertScriptText(QStringLiteral("ab"), 99, QStringLiteral("X"), -1);
-    EXPECT_EQ(at.content, QStringLiteral("abX"));
+    at = RuleEditorModel::InsertScriptText(u"ab"_s, 99, u"X"_s, -1);
+    EXPECT_EQ(at.content, u"abX"_s);
 
-    EXPECT_EQ(RuleEditorModel::ObjectPropertyText(QStringLiteral("%Procedure.Name%")),
-              QStringLiteral("Quorin.GetObjectProperty(\"Procedure\", \"Name\")"));
+    EXPECT_EQ(RuleEditorModel::ObjectPropertyText(u"%Procedure.Name%"_s),
+              u"Quorin.GetObjectProperty(\"Procedure\", \"Name\")"_s);
     // The property is everything behind the first dot.
-    EXPECT_EQ(RuleEditorModel::ObjectPropertyText(QStringLiteral("%File.A.B%")),
-              QStringLiteral("Quorin.GetObjectProperty(\"File\", \"A.B\")"));
-    EXPECT_EQ(RuleEditorModel::ObjectWorkfieldText(QStringLiteral("%Procedure.WF.Count%")),
-              QStringLiteral("Quorin.GetObjectWorkField(\"Procedure\", \"Count\")"));
-    EXPECT_EQ(RuleEditorModel::ObjectWorkfieldText(QStringLiteral("%File.WF.a.b%")),
-              QStringLiteral("Quorin.GetObjectWorkField(\"File\", \"a.b\")"));
+    EXPECT_EQ(RuleEditorModel::ObjectPropertyText(u"%File.A.B%"_s),
+              u"Quorin.GetObjectProperty(\"File\", \"A.B\")"_s);
+    EXPECT_EQ(RuleEditorModel::ObjectWorkfieldText(u"%Procedure.WF.Count%"_s),
+              u"Quorin.GetObjectWorkField(\"Procedure\", \"Count\")"_s);
+    EXPECT_EQ(RuleEditorModel::ObjectWorkfieldText(u"%File.WF.a.b%"_s),
+              u"Quorin.GetObjectWorkField(\"File\", \"a.b\")"_s);
     EXPECT_EQ(RuleEditorModel::ObjectPropertyText(QString()), QString());
-    EXPECT_EQ(RuleEditorModel::ObjectWorkfieldText(QStringLiteral("%Procedure%")), QString());
-    EXPECT_EQ(RuleEditorModel::ParserEventText(QStringLiteral("begin Project")),
-              QStringLiteral("Quorin.ParserEvent() = \"begin Project\""));
+    EXPECT_EQ(RuleEditorModel::ObjectWorkfieldText(u"%Procedure%"_s), QString());
+    EXPECT_EQ(RuleEditorModel::ParserEventText(u"begin Project"_s),
+              u"Quorin.ParserEvent() = \"begin Project\""_s);
 
     EXPECT_EQ(model({}, RuleTypes::CodingConvention).WorkfieldListType(),
               ObjectListType::CodingConvention);
@@ -123,7 +73,7 @@ TEST(RuleEditorModel, CheckConditionShowsTheFirstRefusal)
 {
     ScriptedUserInterface ui;
     RuleEditorModel coding = model({});
-    EXPECT_FALSE(coding.CheckCondition(QStringLiteral("Sub Main()\nEnd Sub")));
+    EXPECT_FALSE(coding.CheckCondition(u"Sub Main()\nEnd Sub"_s));
     EXPECT_FALSE(coding.CheckCondition(faulty));
     EXPECT_EQ(coding.ErrorLine(), 2);
     EXPECT_TRUE(coding.CheckCondition(valid));
@@ -132,25 +82,22 @@ TEST(RuleEditorModel, CheckConditionShowsTheFirstRefusal)
     RuleEditorModel naming = model({}, RuleTypes::NamingConvention);
     EXPECT_FALSE(naming.CheckCondition(valid));
     EXPECT_TRUE(naming.CheckCondition(QString()));
-    EXPECT_TRUE(
-        naming.CheckCondition(QStringLiteral("Sub Main\n'Quorin.ApplyConvention\nEnd Sub")));
+    EXPECT_TRUE(naming.CheckCondition(u"Sub Main\n'Quorin.ApplyConvention\nEnd Sub"_s));
 
     ASSERT_EQ(ui.messages.size(), 3u);
     EXPECT_EQ(ui.messages[0].text,
-              QStringLiteral(
-                  "Quorin rule conditions do not support the use of Subs, Functions or Property "
-                  "procedures other than the required Sub Main."));
-    EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Administrator"));
+              u"Quorin rule conditions do not support the use of Subs, Functions or Property "
+              u"procedures other than the required Sub Main."_s);
+    EXPECT_EQ(ui.messages[0].title, u"Quorin Administrator"_s);
     EXPECT_EQ(ui.messages[0].icon, MessageIcon::Exclamation);
     EXPECT_EQ(ui.messages[1].text,
-              QStringLiteral("line 2, column 3: Block If without End If Please fix before trying "
-                             "to save the condition."));
+              u"line 2, column 3: Block If without End If Please fix before trying "
+              u"to save the condition."_s);
     EXPECT_EQ(ui.messages[1].title, syntaxTitle);
     EXPECT_EQ(
         ui.messages[2].text,
-        QStringLiteral(
-            "A naming convention condition, if set, must contain the line Quorin.ApplyConvention "
-            "to notify the parser that the convention must be applied."));
+        u"A naming convention condition, if set, must contain the line Quorin.ApplyConvention "
+        u"to notify the parser that the convention must be applied."_s);
 }
 
 TEST(RuleEditorModel, CheckSyntaxReportsEitherOutcome)
@@ -159,15 +106,15 @@ TEST(RuleEditorModel, CheckSyntaxReportsEitherOutcome)
     RuleEditorModel m = model({});
     EXPECT_TRUE(m.CheckSyntax(valid));
     // The syntax tool checks the syntax alone: a second procedure is not its business.
-    EXPECT_TRUE(m.CheckSyntax(QStringLiteral("Sub Main\nEnd Sub\nSub Other\nEnd Sub")));
+    EXPECT_TRUE(m.CheckSyntax(u"Sub Main\nEnd Sub\nSub Other\nEnd Sub"_s));
     EXPECT_FALSE(m.CheckSyntax(faulty));
     EXPECT_EQ(m.ErrorLine(), 2);
     EXPECT_EQ(m.ErrorColumn(), 3);
     ASSERT_EQ(ui.messages.size(), 3u);
-    EXPECT_EQ(ui.messages[0].text, QStringLiteral("Syntax correct."));
+    EXPECT_EQ(ui.messages[0].text, u"Syntax correct."_s);
     EXPECT_EQ(ui.messages[0].icon, MessageIcon::Information);
-    EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Administrator"));
-    EXPECT_EQ(ui.messages[2].text, QStringLiteral("line 2, column 3: Block If without End If"));
+    EXPECT_EQ(ui.messages[0].title, u"Quorin Administrator"_s);
+    EXPECT_EQ(ui.messages[2].text, u"line 2, column 3: Block If without End If"_s);
     EXPECT_EQ(ui.messages[2].icon, MessageIcon::Exclamation);
     EXPECT_EQ(ui.messages[2].title, syntaxTitle);
 }
@@ -176,15 +123,15 @@ TEST(RuleEditorModel, CloseAsksOnlyAboutRealChanges)
 {
     ScriptedUserInterface ui;
     // A change of case or of line ends is no change: nothing is asked and the edit is lost.
-    RuleEditorModel m = model(QStringLiteral("Sub Main\r\nx = 1\r\nEnd Sub"));
-    EXPECT_TRUE(m.CloseTool(QStringLiteral("SUB MAIN\nX = 1\nEND SUB")));
+    RuleEditorModel m = model(u"Sub Main\r\nx = 1\r\nEnd Sub"_s);
+    EXPECT_TRUE(m.CloseTool(u"SUB MAIN\nX = 1\nEND SUB"_s));
     EXPECT_TRUE(m.Cancelled());
     EXPECT_TRUE(ui.messages.empty());
 
     // No: close without saving.
     m = model(valid);
     ui.answers = {MessageResult::No};
-    EXPECT_TRUE(m.CloseTool(valid + QStringLiteral("' more\n")));
+    EXPECT_TRUE(m.CloseTool(valid + u"' more\n"_s));
     EXPECT_TRUE(m.Cancelled());
 
     // Cancel: stay.
@@ -206,7 +153,7 @@ TEST(RuleEditorModel, CloseAsksOnlyAboutRealChanges)
 
     // Yes with a good script: saved, and the flag is spent.
     ui.answers = {MessageResult::Yes};
-    EXPECT_TRUE(m.CloseTool(valid + QStringLiteral("' more\n")));
+    EXPECT_TRUE(m.CloseTool(valid + u"' more\n"_s));
     EXPECT_FALSE(m.Cancelled());
     EXPECT_FALSE(m.SaveOnClose());
     EXPECT_EQ(ui.unscriptedQuestions, 0);
@@ -229,7 +176,7 @@ TEST(RuleEditorModel, TheFrameCloseFollowsTheEditorsStateAndTheSaveQuestion)
 {
     ScriptedUserInterface ui;
     using U = RuleEditorModel::Unload;
-    const QString changed = valid + QStringLiteral("' more\n");
+    const QString changed = valid + u"' more\n"_s;
 
     // Unchanged: the editor's busy answers hold the close up; a ready one lets it through.
     RuleEditorModel m = model(valid);

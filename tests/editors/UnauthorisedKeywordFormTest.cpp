@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 TEST(UnauthorisedKeywordForm, ValidationOrderAndWhatOkWrites)
 {
     ScriptedUserInterface ui;
@@ -42,12 +44,12 @@ TEST(UnauthorisedKeywordForm, ValidationOrderAndWhatOkWrites)
     ASSERT_TRUE(form.cmdOK_Click());
     EXPECT_EQ(ui.messages.size(), 4u);
 
-    EXPECT_EQ(rule->Title(), QStringLiteral("No End"));
-    EXPECT_EQ(rule->Condition(), QStringLiteral("^\\s*End(\\s|$"));
+    EXPECT_EQ(rule->Title(), u"No End"_s);
+    EXPECT_EQ(rule->Condition(), u"^\\s*End(\\s|$"_s);
     EXPECT_EQ(rule->CategoryID(), 2);
-    EXPECT_EQ(rule->ParserEventList(), QStringLiteral("10|30"));
-    EXPECT_EQ(rule->ViolationDefinition()->Title(), QStringLiteral("End used"));
-    EXPECT_EQ(rule->ViolationDefinition()->Advice(), QStringLiteral("Raise an error instead."));
+    EXPECT_EQ(rule->ParserEventList(), u"10|30"_s);
+    EXPECT_EQ(rule->ViolationDefinition()->Title(), u"End used"_s);
+    EXPECT_EQ(rule->ViolationDefinition()->Advice(), u"Raise an error instead."_s);
     EXPECT_EQ(rule->ViolationDefinition()->Impact(), 900);
 }
 
@@ -68,13 +70,13 @@ TEST(UnauthorisedKeywordForm, OtherEventsAreDroppedOnOkAndKeptOnCancel)
     EXPECT_FALSE(cancelled.screen().chkDeclaration);
     cancelled.screen().chkProcedureDecl = false;
     cancelled.cmdCancel_Click();
-    EXPECT_EQ(rule->ParserEventList(), QStringLiteral("4|28"));
+    EXPECT_EQ(rule->ParserEventList(), u"4|28"_s);
     EXPECT_FALSE(rule->Dirty());
 
     UnauthorisedKeywordForm form(rule);
     form.Load();
     ASSERT_TRUE(form.cmdOK_Click());
-    EXPECT_EQ(rule->ParserEventList(), QStringLiteral("28"));
+    EXPECT_EQ(rule->ParserEventList(), u"28"_s);
     // Without a rulebase there are no categories: OK saves none.
     EXPECT_EQ(rule->CategoryID(), -1);
     EXPECT_TRUE(ui.messages.empty());

@@ -29,6 +29,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Collects what QAbstractItemModelTester reports, so that a broken model fails the test.
@@ -47,7 +49,7 @@ private:
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &message)
     {
         if (type != QtDebugMsg && context.category
-            && QLatin1String(context.category) == QLatin1String("qt.modeltest"))
+            && QLatin1String(context.category) == "qt.modeltest"_L1)
             s_messages << message;
     }
     static inline QtMessageHandler s_previous = nullptr;
@@ -95,19 +97,17 @@ TEST(QtTreeControl, KeepsNodesInOrderAndPassesTheModelTester)
     tree->setEventSink(&events);
     view.show();
 
-    const int root = tree->addChild(
-        0, QStringLiteral("Root"), QStringLiteral("Root"), QStringLiteral("Category"));
+    const int root = tree->addChild(0, u"Root"_s, u"Root"_s, u"Category"_s);
     tree->setExpanded(root, true);
-    const int b = tree->addChild(
-        root, QStringLiteral("B"), QStringLiteral("Bee"), QStringLiteral("Folder"));
-    const int d = tree->addChild(root, QStringLiteral("D"), QStringLiteral("Dee"), QString());
-    const int c = tree->addAfter(b, QStringLiteral("C"), QStringLiteral("Cee"), QString());
-    const int e = tree->addChild(d, QStringLiteral("E"), QStringLiteral("Eee"), QString());
+    const int b = tree->addChild(root, u"B"_s, u"Bee"_s, u"Folder"_s);
+    const int d = tree->addChild(root, u"D"_s, u"Dee"_s, QString());
+    const int c = tree->addAfter(b, u"C"_s, u"Cee"_s, QString());
+    const int e = tree->addChild(d, u"E"_s, u"Eee"_s, QString());
     EXPECT_EQ((QList<int>{root, b, d, c, e}), (QList<int>{1, 2, 3, 4, 5}));
     EXPECT_EQ(tree->count(), 5);
-    EXPECT_EQ(tree->find(QStringLiteral("c")), c);
-    EXPECT_EQ(tree->find(QStringLiteral("none")), 0);
-    EXPECT_THROW(tree->addChild(root, QStringLiteral("b"), QString(), QString()), QuorinError);
+    EXPECT_EQ(tree->find(u"c"_s), c);
+    EXPECT_EQ(tree->find(u"none"_s), 0);
+    EXPECT_THROW(tree->addChild(root, u"b"_s, QString(), QString()), QuorinError);
     EXPECT_EQ(tree->count(), 5);
 
     // Siblings in the order shown: the node added after B stands before D.
@@ -120,9 +120,9 @@ TEST(QtTreeControl, KeepsNodesInOrderAndPassesTheModelTester)
     EXPECT_EQ(tree->parent(e), d);
     EXPECT_EQ(tree->parent(root), 0);
 
-    tree->setText(c, QStringLiteral("Cee (3)"));
+    tree->setText(c, u"Cee (3)"_s);
     tree->setBold(c, true);
-    EXPECT_EQ(tree->indexOf(c).data().toString(), QStringLiteral("Cee (3)"));
+    EXPECT_EQ(tree->indexOf(c).data().toString(), u"Cee (3)"_s);
     EXPECT_TRUE(tree->indexOf(c).data(Qt::FontRole).value<QFont>().bold());
     EXPECT_FALSE(tree->indexOf(d).data(Qt::FontRole).value<QFont>().bold());
     EXPECT_FALSE(tree->indexOf(b).data(Qt::DecorationRole).value<QIcon>().isNull());
@@ -159,7 +159,7 @@ TEST(QtTreeControl, KeepsNodesInOrderAndPassesTheModelTester)
     EXPECT_EQ(tree->count(), 0);
     EXPECT_EQ(tree->rowCount(), 0);
     EXPECT_EQ(tree->selectedItem(), 0);
-    EXPECT_EQ(tree->addChild(0, QStringLiteral("B"), QStringLiteral("Again"), QString()), 1);
+    EXPECT_EQ(tree->addChild(0, u"B"_s, u"Again"_s, QString()), 1);
     EXPECT_THROW(tree->text(2), QuorinError);
     EXPECT_EQ(events.clicks, QList<int>{d});
 
@@ -178,22 +178,19 @@ TEST(QtListControl, AddsSortsAndSelectsRowsAndPassesTheModelTester)
     list->setEventSink(&events);
     view.show();
 
-    list->addColumn(QStringLiteral("Rule"), ColumnAlignment::Left, 60);
-    list->addColumn(QStringLiteral("Title"), ColumnAlignment::Left, 200);
-    list->addColumn(QStringLiteral("Impact"), ColumnAlignment::Right, 80);
+    list->addColumn(u"Rule"_s, ColumnAlignment::Left, 60);
+    list->addColumn(u"Title"_s, ColumnAlignment::Left, 200);
+    list->addColumn(u"Impact"_s, ColumnAlignment::Right, 80);
     EXPECT_EQ(list->columnCount(), 3);
-    EXPECT_EQ(list->columnHeader(2), QStringLiteral("Title"));
-    EXPECT_EQ(list->headerData(2, Qt::Horizontal, Qt::DisplayRole).toString(),
-              QStringLiteral("Impact"));
+    EXPECT_EQ(list->columnHeader(2), u"Title"_s);
+    EXPECT_EQ(list->headerData(2, Qt::Horizontal, Qt::DisplayRole).toString(), u"Impact"_s);
     EXPECT_EQ(list->columnWidth(2), 200);
     list->setColumnWidth(1, 70);
     EXPECT_EQ(view.header()->sectionSize(0), 70);
     EXPECT_EQ(list->width(), view.viewport()->width());
 
-    const QStringList keys
-        = {QStringLiteral("5003Key"), QStringLiteral("5001Key"), QStringLiteral("5002Key")};
-    const QStringList titles
-        = {QStringLiteral("beta"), QStringLiteral("Gamma"), QStringLiteral("alpha")};
+    const QStringList keys = {u"5003Key"_s, u"5001Key"_s, u"5002Key"_s};
+    const QStringList titles = {u"beta"_s, u"Gamma"_s, u"alpha"_s};
     for (int i = 0; i < 3; ++i) {
         const int row = list->add(keys[i], keys[i].left(4), i + 1);
         EXPECT_EQ(row, i + 1);
@@ -201,11 +198,11 @@ TEST(QtListControl, AddsSortsAndSelectsRowsAndPassesTheModelTester)
         list->setSubItemText(row, 2, QString::number(10 * (i + 1)));
         list->setSelected(row, false);
     }
-    EXPECT_THROW(list->add(QStringLiteral("5001KEY"), QString(), 0), QuorinError);
+    EXPECT_THROW(list->add(u"5001KEY"_s, QString(), 0), QuorinError);
     EXPECT_EQ(list->count(), 3);
-    EXPECT_EQ(list->find(QStringLiteral("5002key")), 3);
-    EXPECT_EQ(list->index(2, 1).data().toString(), QStringLiteral("alpha"));
-    EXPECT_EQ(list->index(2, 0).data(Qt::UserRole).toString(), QStringLiteral("5002Key"));
+    EXPECT_EQ(list->find(u"5002key"_s), 3);
+    EXPECT_EQ(list->index(2, 1).data().toString(), u"alpha"_s);
+    EXPECT_EQ(list->index(2, 0).data(Qt::UserRole).toString(), u"5002Key"_s);
     EXPECT_EQ(list->index(0, 2).data(Qt::TextAlignmentRole).value<Qt::Alignment>()
                   & Qt::AlignHorizontal_Mask,
               Qt::AlignRight);
@@ -230,15 +227,11 @@ TEST(QtListControl, AddsSortsAndSelectsRowsAndPassesTheModelTester)
     // Sorting reorders the rows themselves; keys, selection and the current row follow.
     list->setSortKey(1);
     list->setSortOrder(0);
-    EXPECT_EQ(
-        listTexts(*list),
-        (QStringList{QStringLiteral("5003"), QStringLiteral("5001"), QStringLiteral("5002")}));
+    EXPECT_EQ(listTexts(*list), (QStringList{u"5003"_s, u"5001"_s, u"5002"_s}));
     list->setSorted(true);
-    EXPECT_EQ(
-        listTexts(*list),
-        (QStringList{QStringLiteral("5002"), QStringLiteral("5003"), QStringLiteral("5001")}));
-    EXPECT_EQ(list->find(QStringLiteral("5001Key")), 3);
-    EXPECT_EQ(list->index(2, 0).data(Qt::UserRole).toString(), QStringLiteral("5001Key"));
+    EXPECT_EQ(listTexts(*list), (QStringList{u"5002"_s, u"5003"_s, u"5001"_s}));
+    EXPECT_EQ(list->find(u"5001Key"_s), 3);
+    EXPECT_EQ(list->index(2, 0).data(Qt::UserRole).toString(), u"5001Key"_s);
     EXPECT_EQ(list->selectedItem(), 3);
     EXPECT_TRUE(list->selected(3));
     EXPECT_TRUE(list->selected(1));
@@ -248,19 +241,15 @@ TEST(QtListControl, AddsSortsAndSelectsRowsAndPassesTheModelTester)
     // A header click: the same column again reverses the order, and the view is told after.
     emit view.header()->sectionClicked(1);
     EXPECT_EQ(list->sortOrder(), 1);
-    EXPECT_EQ(
-        listTexts(*list),
-        (QStringList{QStringLiteral("5001"), QStringLiteral("5003"), QStringLiteral("5002")}));
+    EXPECT_EQ(listTexts(*list), (QStringList{u"5001"_s, u"5003"_s, u"5002"_s}));
     EXPECT_EQ(events.columns, QList<int>{2});
-    EXPECT_EQ(list->columnIcon(2), QStringLiteral("SortDescending"));
+    EXPECT_EQ(list->columnIcon(2), u"SortDescending"_s);
     EXPECT_TRUE(view.header()->isSortIndicatorShown());
     EXPECT_EQ(view.header()->sortIndicatorSection(), 1);
     EXPECT_EQ(view.header()->sortIndicatorOrder(), Qt::DescendingOrder);
     emit view.header()->sectionClicked(0);
     EXPECT_EQ(list->sortKey(), 0);
-    EXPECT_EQ(
-        listTexts(*list),
-        (QStringList{QStringLiteral("5001"), QStringLiteral("5002"), QStringLiteral("5003")}));
+    EXPECT_EQ(listTexts(*list), (QStringList{u"5001"_s, u"5002"_s, u"5003"_s}));
 
     // The user's moves reach the view: a change of current row, the mouse over the rows.
     view.selectionModel()->setCurrentIndex(
@@ -278,98 +267,20 @@ TEST(QtListControl, AddsSortsAndSelectsRowsAndPassesTheModelTester)
     QApplication::sendEvent(view.viewport(), &move);
     ASSERT_FALSE(events.moves.isEmpty());
     EXPECT_EQ(events.moves.last(), second.center());
-    list->setToolTipText(QStringLiteral("Inactive"));
-    EXPECT_EQ(view.viewport()->toolTip(), QStringLiteral("Inactive"));
+    list->setToolTipText(u"Inactive"_s);
+    EXPECT_EQ(view.viewport()->toolTip(), u"Inactive"_s);
 
-    list->remove(QStringLiteral("5002KEY"));
-    EXPECT_EQ(listTexts(*list), (QStringList{QStringLiteral("5001"), QStringLiteral("5003")}));
-    EXPECT_EQ(list->find(QStringLiteral("5003Key")), 2);
-    EXPECT_THROW(list->remove(QStringLiteral("5002Key")), QuorinError);
+    list->remove(u"5002KEY"_s);
+    EXPECT_EQ(listTexts(*list), (QStringList{u"5001"_s, u"5003"_s}));
+    EXPECT_EQ(list->find(u"5003Key"_s), 2);
+    EXPECT_THROW(list->remove(u"5002Key"_s), QuorinError);
 
     list->clear();
     list->clearColumns();
     EXPECT_EQ(list->rowCount(), 0);
     EXPECT_EQ(list->columnCount(), 0);
-    EXPECT_EQ(list->find(QStringLiteral("5001Key")), 0);
+    EXPECT_EQ(list->find(u"5001Key"_s), 0);
 
     EXPECT_TRUE(warnings.messages().isEmpty())
         << warnings.messages().join(QLatin1Char('\n')).toStdString();
-}
-
-TEST(MainWindow, ShowsTheCategoryViewInTheRealTreeAndList)
-{
-    TestEnvironment::clearSettings();
-    ScriptedUserInterface ui;
-    ASSERT_EQ(CreateGlobalObjects(), 0);
-    gobjAdminData->setFirstUse(false);
-    gobjAdminData->setDisplayTips(false);
-    {
-        frmMain window(false);
-        Application app(&window, createView);
-        window.setApplication(&app);
-        window.ShowWindow();
-        ASSERT_TRUE(RunStartup(app, TestEnvironment::sampleRulebase()));
-        ASSERT_EQ(app.CurrentViewName(), QStringLiteral("tlCategoryView"));
-        ASSERT_NE(window.tree(), nullptr);
-        ASSERT_NE(window.list(), nullptr);
-
-        // The tree: the root, each category, and "Unallocated", in the real view.
-        const std::shared_ptr<Rulebase> rulebase = app.rulebase();
-        const int categories = rulebase->CategoryList()->Count();
-        QTreeView *tvw = window.tvwMain();
-        EXPECT_EQ(window.tree()->count(), categories + 2);
-        ASSERT_EQ(tvw->model()->rowCount(), 1);
-        const QModelIndex root = tvw->model()->index(0, 0);
-        EXPECT_EQ(tvw->model()->rowCount(root), categories + 1);
-        EXPECT_TRUE(tvw->isExpanded(root));
-        EXPECT_TRUE(root.data().toString().startsWith(QStringLiteral("Category")));
-        EXPECT_EQ(tvw->currentIndex(), root);
-        EXPECT_EQ(window.findChild<QLabel *>(QStringLiteral("lblTreeViewTitle"))->text(),
-                  QStringLiteral(" Conventions by Category"));
-        EXPECT_TRUE(window.findChild<QLabel *>(QStringLiteral("lblListViewTitle"))
-                        ->text()
-                        .contains(QStringLiteral("All Items")));
-
-        // The list: every convention, with the inactive ones in red.
-        const auto all = rulebase->RuleLists()->AllConventions();
-        QTreeView *lvw = window.lvwMain();
-        QAbstractItemModel *rows = lvw->model();
-        ASSERT_EQ(rows->rowCount(), all->Count());
-        EXPECT_EQ(window.list()->count(), all->Count());
-        EXPECT_EQ(rows->columnCount(), 4);
-        EXPECT_EQ(rows->headerData(1, Qt::Horizontal).toString(), QStringLiteral("Title"));
-        int inactive = 0;
-        for (qint32 i = 1; i <= all->Count(); ++i) {
-            const std::shared_ptr<IRule> rule = all->Item(i);
-            const int row = window.list()->find(rule->RuleKey());
-            ASSERT_NE(row, 0) << rule->RuleKey().toStdString();
-            const QModelIndex cell = rows->index(row - 1, 0);
-            EXPECT_EQ(cell.data(Qt::UserRole).toString(), rule->RuleKey());
-            EXPECT_EQ(rows->index(row - 1, 1).data().toString(), rule->Title());
-            if (!rule->RuleActive()) {
-                ++inactive;
-                EXPECT_EQ(cell.data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::red));
-            } else {
-                EXPECT_FALSE(cell.data(Qt::ForegroundRole).isValid());
-            }
-        }
-        EXPECT_GT(inactive, 0);
-        EXPECT_FALSE(window.findChild<QLabel *>(QStringLiteral("txtNoItems"))->isVisibleTo(lvw));
-
-        // A click on a category shows only its rules; an empty one says so over the list.
-        const QModelIndex first = tvw->model()->index(0, 0, root);
-        tvw->selectionModel()->setCurrentIndex(first, QItemSelectionModel::ClearAndSelect);
-        const qint32 categoryID = Text::valLong(window.tree()->key(QtTreeControl::nodeOf(first)));
-        ASSERT_GT(categoryID, 0);
-        int expected = 0;
-        for (qint32 i = 1; i <= all->Count(); ++i)
-            expected += all->Item(i)->ViolationDefinition()->CategoryID() == categoryID ? 1 : 0;
-        EXPECT_EQ(rows->rowCount(), expected);
-        EXPECT_EQ(window.findChild<QLabel *>(QStringLiteral("txtNoItems"))->isVisibleTo(lvw),
-                  expected == 0);
-
-        EXPECT_TRUE(window.close());
-        EXPECT_TRUE(ui.messages.empty());
-    }
-    DestroyGlobalObjects();
 }

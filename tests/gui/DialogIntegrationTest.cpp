@@ -85,22 +85,13 @@
 #include <functional>
 #include <memory>
 
-namespace {
+using namespace Qt::StringLiterals;
 
-// Keys as a person types them, one press and release each.
-void typeInto(QWidget *widget, const QString &text)
-{
-    for (const QChar c : text) {
-        QKeyEvent press(QEvent::KeyPress, c.unicode(), Qt::NoModifier, QString(c));
-        QApplication::sendEvent(widget, &press);
-        QKeyEvent release(QEvent::KeyRelease, c.unicode(), Qt::NoModifier, QString(c));
-        QApplication::sendEvent(widget, &release);
-    }
-}
+namespace {
 
 std::string joined(const QStringList &texts)
 {
-    return texts.join(QStringLiteral(", ")).toStdString();
+    return texts.join(u", "_s).toStdString();
 }
 
 // The page a help request lands on, "" when it names none.
@@ -163,126 +154,48 @@ TEST_F(DialogIntegration, DefaultViolationsInsertThePickedPropertyAtTheCaretOfTh
 {
     bool picked = false;
     bool seen = false;
-    whenModal(QStringLiteral("frmDefaultViolations"), [&](QDialog &dialog) {
+    whenModal(u"frmDefaultViolations"_s, [&](QDialog &dialog) {
         seen = true;
         auto *button = child<QPushButton>(dialog, "cmdObjectProperty");
         ASSERT_NE(button, nullptr);
         EXPECT_TRUE(button->isEnabled());
-        EXPECT_EQ(button->text(), QStringLiteral("Insert Object Property"));
+        EXPECT_EQ(button->text(), u"Insert Object Property"_s);
         auto *advice = child<QPlainTextEdit>(dialog, "txtAdvice");
-        advice->setPlainText(QStringLiteral("Use  instead."));
+        advice->setPlainText(u"Use  instead."_s);
         QTextCursor cursor = advice->textCursor();
         cursor.setPosition(4);
         advice->setTextCursor(cursor);
 
         // The catalogue's picker for one property of any object.
         QString chosen;
-        whenModal(QStringLiteral("frmObjectProperty"), [&](QDialog &picker) {
+        whenModal(u"frmObjectProperty"_s, [&](QDialog &picker) {
             picked = true;
-            EXPECT_EQ(picker.windowTitle(), QStringLiteral("Object Property Selection"));
+            EXPECT_EQ(picker.windowTitle(), u"Object Property Selection"_s);
             auto *objects = child<QListWidget>(picker, "lvwObject");
-            const auto reference
-                = objects->findItems(QStringLiteral("Reference"), Qt::MatchExactly);
+            const auto reference = objects->findItems(u"Reference"_s, Qt::MatchExactly);
             ASSERT_EQ(reference.size(), 1);
             objects->setCurrentItem(reference.first());
             auto *properties = child<QListWidget>(picker, "lvwProperty");
             ASSERT_GT(properties->count(), 0);
             properties->setCurrentRow(0);
-            chosen
-                = QStringLiteral("%Reference.") + properties->item(0)->text() + QStringLiteral("%");
+            chosen = u"%Reference."_s + properties->item(0)->text() + u"%"_s;
             click(picker, "cmdOK");
         });
         button->click();
-        EXPECT_EQ(advice->toPlainText(),
-                  QStringLiteral("Use ") + chosen + QStringLiteral(" instead."));
+        EXPECT_EQ(advice->toPlainText(), u"Use "_s + chosen + u" instead."_s);
         EXPECT_EQ(advice->textCursor().position(), 4 + chosen.size());
 
         // Cancelled, the picker inserts nothing.
         const QString before = advice->toPlainText();
-        whenModal(QStringLiteral("frmObjectProperty"),
-                  [&](QDialog &picker) { click(picker, "cmdCancel"); });
+        whenModal(u"frmObjectProperty"_s, [&](QDialog &picker) { click(picker, "cmdCancel"); });
         button->click();
         EXPECT_EQ(advice->toPlainText(), before);
         click(dialog, "cmdOK");
     });
-    window->tool(QStringLiteral("tlDefaultViolations"))->trigger();
+    window->tool(u"tlDefaultViolations"_s)->trigger();
     EXPECT_TRUE(seen);
     EXPECT_TRUE(picked);
-    EXPECT_TRUE(rulebase->DefaultViolations()->Item(1)->Advice().startsWith(
-        QStringLiteral("Use %Reference.")));
-}
-
-TEST_F(DialogIntegration, AuthorisedItemsPickAPropertyOfTheirOwnObject)
-{
-    const auto check
-        = [](QDialog &dialog, const QString &object, const std::function<QString()> &advice) {
-              auto *button = child<QPushButton>(dialog, "cmdObjectProperty");
-              ASSERT_NE(button, nullptr);
-              EXPECT_FALSE(button->isEnabled());
-              child<QLineEdit>(dialog, "txtVersions")->setText(QStringLiteral("1.0"));
-              ASSERT_TRUE(button->isEnabled());
-
-              QString chosen;
-              whenModal(QStringLiteral("frmObjectProperty"), [&](QDialog &picker) {
-                  EXPECT_EQ(picker.windowTitle(), QStringLiteral("Object Property Selection"));
-                  auto *objects = child<QListWidget>(picker, "lvwObject");
-                  ASSERT_NE(objects->currentItem(), nullptr);
-                  // Every object is offered, the item's own selected.
-                  EXPECT_GT(objects->count(), 20);
-                  EXPECT_EQ(objects->currentItem()->text(), object);
-                  auto *properties = child<QListWidget>(picker, "lvwProperty");
-                  ASSERT_GT(properties->count(), 1);
-                  properties->setCurrentRow(1);
-                  chosen = QStringLiteral("%") + object + QStringLiteral(".")
-                           + properties->item(1)->text() + QStringLiteral("%");
-                  click(picker, "cmdOK");
-              });
-              button->click();
-              EXPECT_EQ(child<QPlainTextEdit>(dialog, "txtAdvice")->toPlainText(), chosen);
-              EXPECT_EQ(advice(), chosen);
-
-              whenModal(QStringLiteral("frmObjectProperty"),
-                        [&](QDialog &picker) { click(picker, "cmdCancel"); });
-              button->click();
-              EXPECT_EQ(advice(), chosen);
-          };
-
-    AuthorisedComponentForm component(std::make_shared<AuthorisedComponent>());
-    frmAuthorisedComponent componentDialog(component);
-    componentDialog.show();
-    check(componentDialog, QStringLiteral("Component"), [&] { return component.Advice(); });
-
-    AuthorisedReferenceForm reference(std::make_shared<AuthorisedReference>());
-    frmAuthorisedReference referenceDialog(reference);
-    referenceDialog.show();
-    check(referenceDialog, QStringLiteral("Reference"), [&] { return reference.Advice(); });
-}
-
-// A new rule's violation texts take placeholders of properties or workfields.
-TEST_F(DialogIntegration, CodingConventionPicksPropertiesOrWorkfields)
-{
-    window->tool(QStringLiteral("tlCodingConventions"))->trigger();
-    bool seen = false;
-    bool picked = false;
-    whenModal(QStringLiteral("frmCodingConvention"), [&](QDialog &dialog) {
-        seen = true;
-        auto *description = child<QPlainTextEdit>(dialog, "txtVDescription");
-        whenModal(QStringLiteral("frmObjectProperty"), [&](QDialog &picker) {
-            picked = true;
-            EXPECT_EQ(picker.windowTitle(), QStringLiteral("Object Property/Workfield Selection"));
-            auto *properties = child<QListWidget>(picker, "lvwProperty");
-            ASSERT_GT(properties->count(), 0);
-            properties->setCurrentRow(0);
-            click(picker, "cmdOK");
-        });
-        click(dialog, "cmdObjectProperty_0");
-        EXPECT_TRUE(description->toPlainText().startsWith(QLatin1Char('%')));
-        EXPECT_TRUE(description->toPlainText().endsWith(QLatin1Char('%')));
-        click(dialog, "cmdCancel");
-    });
-    window->tool(QStringLiteral("tlCodingConvention"))->trigger();
-    EXPECT_TRUE(seen);
-    EXPECT_TRUE(picked);
+    EXPECT_TRUE(rulebase->DefaultViolations()->Item(1)->Advice().startsWith(u"Use %Reference."_s));
 }
 
 TEST_F(DialogIntegration, EveryDialogsHelpButtonAndF1OpenItsOwnPage)
@@ -323,102 +236,77 @@ TEST_F(DialogIntegration, EveryDialogsHelpButtonAndF1OpenItsOwnPage)
     RulebaseDocCreatorForm docCreator;
     docCreator.setRulebase(rulebase);
 
-    struct Case
-    {
-        QString dialog;
-        QString page;
-        std::function<std::unique_ptr<QDialog>()> make;
-    };
-    const std::vector<Case> cases = {
-        {"frmAddFromProject",
-         "AddFromProject.htm",
-         [&] { return std::make_unique<frmAddFromProject>(addFromProject); }},
+    // Each dialog's own page; the pickers share one.
+    const std::vector<std::pair<QString, std::function<std::unique_ptr<QDialog>()>>> cases = {
+        {"frmAddFromProject", [&] { return std::make_unique<frmAddFromProject>(addFromProject); }},
         {"frmAuthorisedComponent",
-         "AuthorisedComponent.htm",
          [&] { return std::make_unique<frmAuthorisedComponent>(component); }},
         {"frmAuthorisedReference",
-         "AuthorisedReference.htm",
          [&] { return std::make_unique<frmAuthorisedReference>(reference); }},
-        {"frmCategoryEditor",
-         "CategoryEditor.htm",
-         [&] { return std::make_unique<frmCategoryEditor>(categoryEditor); }},
-        {"frmCategorySeverity",
-         "CategoryList.htm",
-         [&] { return std::make_unique<frmCategorySeverity>(categories); }},
-        {"frmCategorySeverity",
-         "SeverityList.htm",
-         [&] { return std::make_unique<frmCategorySeverity>(severities); }},
-        {"frmCodingConvention",
-         "CodingConvention.htm",
-         [] { return std::make_unique<frmCodingConvention>(); }},
+        {"frmCategoryEditor", [&] { return std::make_unique<frmCategoryEditor>(categoryEditor); }},
+        {"frmCategorySeverity", [&] { return std::make_unique<frmCategorySeverity>(categories); }},
+        {"frmCategorySeverity", [&] { return std::make_unique<frmCategorySeverity>(severities); }},
+        {"frmCodingConvention", [] { return std::make_unique<frmCodingConvention>(); }},
         {"frmDefaultViolations",
-         "DefaultViolations.htm",
          [&] { return std::make_unique<frmDefaultViolations>(violations); }},
-        {"frmNamingConvention",
-         "NamingConvention.htm",
-         [] { return std::make_unique<frmNamingConvention>(); }},
-        {"frmObjectProperty", "Pickers.htm", [] { return std::make_unique<frmObjectProperty>(); }},
-        {"frmParserEvent", "Pickers.htm", [] { return std::make_unique<frmParserEvent>(); }},
-        {"frmPatternTest", "PatternTest.htm", [] { return std::make_unique<frmPatternTest>(); }},
+        {"frmNamingConvention", [] { return std::make_unique<frmNamingConvention>(); }},
+        {"frmObjectProperty", [] { return std::make_unique<frmObjectProperty>(); }},
+        {"frmParserEvent", [] { return std::make_unique<frmParserEvent>(); }},
+        {"frmPatternTest", [] { return std::make_unique<frmPatternTest>(); }},
         {"frmRulebaseProperties",
-         "RulebaseProperties.htm",
          [&] { return std::make_unique<frmRulebaseProperties>(properties); }},
-        {"frmSeverityEditor",
-         "SeverityEditor.htm",
-         [&] { return std::make_unique<frmSeverityEditor>(severityEditor); }},
-        {"frmTagList", "TagList.htm", [&] { return std::make_unique<frmTagList>(tags); }},
-        {"frmUnauthorisedKeyword",
-         "UnauthorisedKeyword.htm",
-         [] { return std::make_unique<frmUnauthorisedKeyword>(); }},
+        {"frmSeverityEditor", [&] { return std::make_unique<frmSeverityEditor>(severityEditor); }},
+        {"frmTagList", [&] { return std::make_unique<frmTagList>(tags); }},
+        {"frmUnauthorisedKeyword", [] { return std::make_unique<frmUnauthorisedKeyword>(); }},
         {"frmRulebaseDocCreator",
-         "DocumentationWizard.htm",
          [&] { return std::make_unique<frmRulebaseDocCreator>(docCreator); }},
-        {"frmRuleEditor", "ConditionEditor.htm", [] { return std::make_unique<frmRuleEditor>(); }},
-        {"frmAbout", "About.htm", [] { return std::make_unique<frmAbout>(); }},
-        {"frmTip", "TipOfTheDay.htm", [] { return std::make_unique<frmTip>(); }},
+        {"frmRuleEditor", [] { return std::make_unique<frmRuleEditor>(); }},
+        {"frmAbout", [] { return std::make_unique<frmAbout>(); }},
+        {"frmTip", [] { return std::make_unique<frmTip>(); }},
     };
 
-    QSet<QString> covered;
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.dialog.toStdString() + " " + c.page.toStdString());
-        covered << c.dialog;
-        std::unique_ptr<QDialog> dialog = c.make();
-        EXPECT_EQ(dialog->objectName(), c.dialog);
-        ASSERT_TRUE(QFile::exists(QStringLiteral(":/help/") + c.page));
-
-        // The about box and the tip have F1 only; the condition editor has its help tools.
-        if (auto *help = dialog->findChild<QPushButton *>(QStringLiteral("cmdHelp"))) {
-            ui.helpRequests.clear();
-            help->click();
-            ASSERT_EQ(ui.helpRequests.size(), 1u);
-            EXPECT_EQ(pageOf(ui.helpRequests.front()), c.page);
-        } else {
-            EXPECT_TRUE(c.dialog == QLatin1String("frmAbout") || c.dialog == QLatin1String("frmTip")
-                        || c.dialog == QLatin1String("frmRuleEditor"));
-        }
+    QSet<QString> covered, pages;
+    for (const auto &[name, make] : cases) {
+        SCOPED_TRACE(name.toStdString());
+        covered << name;
+        std::unique_ptr<QDialog> dialog = make();
+        EXPECT_EQ(dialog->objectName(), name);
         ui.helpRequests.clear();
         pressF1(*dialog);
         ASSERT_EQ(ui.helpRequests.size(), 1u);
-        EXPECT_EQ(pageOf(ui.helpRequests.front()), c.page);
+        const QString page = pageOf(ui.helpRequests.front());
+        EXPECT_TRUE(QFile::exists(u":/help/"_s + page)) << page.toStdString();
+        EXPECT_TRUE(!pages.contains(page) || page == "Pickers.htm"_L1) << page.toStdString();
+        pages << page;
+
+        // The about box and the tip have F1 only; the condition editor has its help tools.
+        if (auto *help = dialog->findChild<QPushButton *>(u"cmdHelp"_s)) {
+            ui.helpRequests.clear();
+            help->click();
+            ASSERT_EQ(ui.helpRequests.size(), 1u);
+            EXPECT_EQ(pageOf(ui.helpRequests.front()), page);
+        } else {
+            EXPECT_TRUE(name == "frmAbout"_L1 || name == "frmTip"_L1 || name == "frmRuleEditor"_L1);
+        }
         dialog->hide();
     }
 
     // The condition editor's second help tool explains the language.
     frmRuleEditor editor;
     ui.helpRequests.clear();
-    editor.tool(QStringLiteral("tlLanguageHelp"))->trigger();
+    editor.tool(u"tlLanguageHelp"_s)->trigger();
     ASSERT_EQ(ui.helpRequests.size(), 1u);
-    EXPECT_EQ(pageOf(ui.helpRequests.front()), QStringLiteral("ConditionLanguage.htm"));
-    EXPECT_TRUE(QFile::exists(QStringLiteral(":/help/ConditionLanguage.htm")));
+    EXPECT_EQ(pageOf(ui.helpRequests.front()), u"ConditionLanguage.htm"_s);
+    EXPECT_TRUE(QFile::exists(u":/help/ConditionLanguage.htm"_s));
 
     // A dialog added later comes into this walk, or the walk fails.
     for (const char *folder : {"gui/dialogs", "gui/window", "gui/editor"}) {
         const QDir dir(QStringLiteral(QUORIN_SOURCE_DIR "/") + QLatin1String(folder));
-        const QStringList headers = dir.entryList({QStringLiteral("frm*.h")}, QDir::Files);
+        const QStringList headers = dir.entryList({u"frm*.h"_s}, QDir::Files);
         ASSERT_FALSE(headers.isEmpty()) << folder;
         for (QString header : headers) {
             header.chop(2);
-            if (header != QLatin1String("frmConventionBase")) {
+            if (header != "frmConventionBase"_L1) {
                 EXPECT_TRUE(covered.contains(header)) << header.toStdString();
             }
         }
@@ -477,15 +365,15 @@ TEST_F(DialogIntegration, NumberBoxesRefuseANumberTheirValueCannotHold)
         // The largest value goes in whole; one more loses its last keystroke.
         const QString largest = QString::number(c.range.maximum);
         box->clear();
-        typeInto(box, largest);
+        typeKeys(box, largest);
         EXPECT_EQ(box->text(), largest);
         const QString beyond = QString::number(qint64(c.range.maximum) + 1);
         box->clear();
-        typeInto(box, beyond);
+        typeKeys(box, beyond);
         EXPECT_EQ(box->text(), beyond.chopped(1));
         box->clear();
-        typeInto(box, QStringLiteral("1x2"));
-        EXPECT_EQ(box->text(), QStringLiteral("12"));
+        typeKeys(box, u"1x2"_s);
+        EXPECT_EQ(box->text(), u"12"_s);
     }
     EXPECT_TRUE(ui.messages.empty()) << joined(ui.messageTexts());
 }
@@ -496,7 +384,7 @@ TEST_F(DialogIntegration, APickedPlaceholderGoesInAtTheCaretWhileTabStillSelects
         QApplication::setActiveWindow(&dialog); // focus comes and goes as on a desktop
         child<QTabWidget>(dialog, "tbsConvention")->setCurrentIndex(3);
         auto *advice = child<QPlainTextEdit>(dialog, "txtVAdvice");
-        advice->setPlainText(QStringLiteral("Rename  now."));
+        advice->setPlainText(u"Rename  now."_s);
         advice->setFocus(Qt::MouseFocusReason);
         QTextCursor cursor = advice->textCursor();
         cursor.setPosition(7);
@@ -504,7 +392,7 @@ TEST_F(DialogIntegration, APickedPlaceholderGoesInAtTheCaretWhileTabStillSelects
 
         QString placeholder;
         for (int i = 0; i < 2; ++i) {
-            whenModal(QStringLiteral("frmObjectProperty"), [&](QDialog &picker) {
+            whenModal(u"frmObjectProperty"_s, [&](QDialog &picker) {
                 auto *properties = child<QListWidget>(picker, "lvwProperty");
                 ASSERT_GT(properties->count(), 0);
                 properties->setCurrentRow(0);
@@ -518,8 +406,7 @@ TEST_F(DialogIntegration, APickedPlaceholderGoesInAtTheCaretWhileTabStillSelects
                 placeholder = advice->toPlainText().mid(7, advice->toPlainText().size() - 12);
         }
         ASSERT_TRUE(placeholder.startsWith(QLatin1Char('%'))) << placeholder.toStdString();
-        EXPECT_EQ(advice->toPlainText(),
-                  QStringLiteral("Rename ") + placeholder + placeholder + QStringLiteral(" now."));
+        EXPECT_EQ(advice->toPlainText(), u"Rename "_s + placeholder + placeholder + u" now."_s);
         EXPECT_FALSE(advice->textCursor().hasSelection());
 
         auto *title = child<QLineEdit>(dialog, "txtVTitle");
@@ -534,12 +421,12 @@ TEST_F(DialogIntegration, OKRefusesABrokenConditionTypedIntoTheBoxAndShowsWhere)
 {
     openRule(RuleTypes::CodingConvention, "frmCodingConvention", [&](QDialog &dialog) {
         auto *condition = child<QPlainTextEdit>(dialog, "txtCondition");
-        condition->setPlainText(QStringLiteral("Sub Main\n  x = 1\n  If x Then\nEnd Sub"));
+        condition->setPlainText(u"Sub Main\n  x = 1\n  If x Then\nEnd Sub"_s);
         ui.messages.clear();
         click(dialog, "cmdOK");
         EXPECT_TRUE(dialog.isVisible());
         ASSERT_EQ(ui.messages.size(), 1u);
-        EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Administrator - Syntax Error"));
+        EXPECT_EQ(ui.messages[0].title, u"Quorin Administrator - Syntax Error"_s);
         EXPECT_EQ(child<QTabWidget>(dialog, "tbsConvention")->currentIndex(), 2);
         EXPECT_GE(condition->textCursor().blockNumber(), 2);
     });

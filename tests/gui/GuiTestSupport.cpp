@@ -9,9 +9,9 @@
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
 #include "rulebase/Rulebase.h"
+#include "support/TestEnvironment.h"
 #include "views/IViewController.h"
 #include "views/ViewFactory.h"
-#include "support/TestEnvironment.h"
 
 #include <QAction>
 #include <QFile>
@@ -19,10 +19,13 @@
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QTimer>
 
 #include <memory>
+
+using namespace Qt::StringLiterals;
 
 void whenModal(const QString &name, std::function<void(QDialog &)> act)
 {
@@ -57,6 +60,27 @@ void click(QWidget &parent, const char *button)
         push->click();
 }
 
+void typeKeys(QWidget *widget, const QString &text)
+{
+    for (const QChar c : text) {
+        const int key = c == u'\n' ? int(Qt::Key_Return) : int(c.toUpper().unicode());
+        const QString keyText = c == u'\n' ? u"\r"_s : QString(c);
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, keyText);
+        QApplication::sendEvent(widget, &press);
+        QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, keyText);
+        QApplication::sendEvent(widget, &release);
+    }
+}
+
+bool waitFor(const std::function<bool()> &done)
+{
+    QElapsedTimer clock;
+    clock.start();
+    while (!done() && clock.elapsed() < 5000)
+        QApplication::processEvents(QEventLoop::AllEvents, 20);
+    return done();
+}
+
 GuiSample::GuiSample() = default;
 GuiSample::~GuiSample() = default;
 
@@ -67,7 +91,7 @@ void GuiSample::SetUp()
     gobjAdminData->setFirstUse(false);
     gobjAdminData->setDisplayTips(false);
     Images::initialise();
-    file = TestEnvironment::makeTempDir() + QStringLiteral("/Sample.qrb");
+    file = TestEnvironment::makeTempDir() + u"/Sample.qrb"_s;
     ASSERT_TRUE(QFile::copy(TestEnvironment::sampleRulebase(), file));
     QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner);
     window = std::make_unique<frmMain>(false);

@@ -25,6 +25,11 @@ T *child(QWidget &parent, const char *name)
 // Clicks the push button of this objectName.
 void click(QWidget &parent, const char *button);
 
+// Keys as a person types them, one press and release each; "\n" is Return.
+void typeKeys(QWidget *widget, const QString &text);
+// Runs the event loop until `done` holds, five seconds at most; gives what `done` last said.
+bool waitFor(const std::function<bool()> &done);
+
 #include "support/ScriptedUserInterface.h"
 
 #include <memory>

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 TEST(GuiUserInterface, EnterOnAQuestionGivesItsDefaultAnswer)
 {
     struct Case
@@ -25,22 +27,19 @@ TEST(GuiUserInterface, EnterOnAQuestionGivesItsDefaultAnswer)
     GuiUserInterface ui(true);
     for (const Case &c : cases) {
         SCOPED_TRACE(int(c.defaultButton));
-        whenModal(QStringLiteral("QuorinMessageBox"), [](QDialog &box) {
+        whenModal(u"QuorinMessageBox"_s, [](QDialog &box) {
             QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
             QApplication::sendEvent(&box, &enter);
         });
-        EXPECT_EQ(ui.messageBox(QStringLiteral("Delete it?"),
-                                c.buttons,
-                                MessageIcon::Question,
-                                QStringLiteral("Test"),
-                                c.defaultButton),
-                  c.defaultButton);
+        EXPECT_EQ(
+            ui.messageBox(
+                u"Delete it?"_s, c.buttons, MessageIcon::Question, u"Test"_s, c.defaultButton),
+            c.defaultButton);
     }
 }
 
 TEST(GuiUserInterface, ProjectBrowsingOffersProjectsAndGroupsTogetherFirst)
 {
-    const QString first = GuiUserInterface::qtFilter(5, false).split(QStringLiteral(";;")).first();
-    EXPECT_TRUE(first.contains(QLatin1String("*.vbp")) && first.contains(QLatin1String("*.vbg")))
-        << first.toStdString();
+    const QString first = GuiUserInterface::qtFilter(5, false).split(u";;"_s).first();
+    EXPECT_TRUE(first.contains("*.vbp"_L1) && first.contains("*.vbg"_L1)) << first.toStdString();
 }

@@ -1,6 +1,6 @@
+#include "gui/window/HelpWindow.h"
 #include "application/HelpTopics.h"
 #include "gui/GuiUserInterface.h"
-#include "gui/window/HelpWindow.h"
 #include "gui/window/Images.h"
 
 #include <QAction>
@@ -12,37 +12,15 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 QString pageText(const QString &page)
 {
-    QFile file(QStringLiteral(":/help/") + page);
+    QFile file(u":/help/"_s + page);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 } // namespace
-
-TEST(HelpTopics, ContextIdsAndTopicPathsNameThePagesOfTheHelp)
-{
-    EXPECT_EQ(HelpTopics::pageForContext(65), QStringLiteral("CodingConventionsView.htm"));
-    EXPECT_EQ(HelpTopics::pageForContext(66), QStringLiteral("NamingConventionsView.htm"));
-    EXPECT_EQ(HelpTopics::pageForContext(67), QStringLiteral("AuthorityItemsView.htm"));
-    EXPECT_EQ(HelpTopics::pageForContext(68), QStringLiteral("CategoryView.htm"));
-    EXPECT_EQ(HelpTopics::pageForContext(69), QStringLiteral("SeverityView.htm"));
-    EXPECT_EQ(HelpTopics::pageForContext(89), QStringLiteral("CategoryList.htm"));
-    EXPECT_EQ(HelpTopics::pageForContext(91), QStringLiteral("SeverityList.htm"));
-    EXPECT_TRUE(HelpTopics::pageForContext(12345).isEmpty());
-    EXPECT_EQ(HelpTopics::topicPath(68), QStringLiteral("::/CategoryView.htm"));
-
-    // The topics the dialogs name, whatever the case or the ".htm"/".html" ending.
-    EXPECT_EQ(HelpTopics::pageForTopic(QStringLiteral("::/Introduction.html")), QStringLiteral("Introduction.html"));
-    EXPECT_EQ(HelpTopics::pageForTopic(QStringLiteral("::/categoryeditor.HTML")), QStringLiteral("CategoryEditor.htm"));
-    EXPECT_EQ(HelpTopics::pageForTopic(QStringLiteral("/DefaultViolations.htm#top")),
-              QStringLiteral("DefaultViolations.htm#top"));
-    for (const char *topic : {"::/CategoryEditor.htm", "::/SeverityEditor.htm", "::/CategoryList.htm",
-                              "::/SeverityList.htm", "::/DefaultViolations.htm", "::/AuthorisedComponent.htm",
-                              "::/AuthorisedReference.htm"})
-        EXPECT_FALSE(HelpTopics::pageForTopic(QLatin1String(topic)).isEmpty()) << topic;
-    EXPECT_TRUE(HelpTopics::pageForTopic(QStringLiteral("::/NoSuchPage.htm")).isEmpty());
-}
 
 TEST(HelpTopics, EveryPageExistsAndEveryLinkBetweenPagesLeadsToOne)
 {
@@ -50,15 +28,15 @@ TEST(HelpTopics, EveryPageExistsAndEveryLinkBetweenPagesLeadsToOne)
     QStringList pages{HelpTopics::contentsPage(), HelpTopics::searchPage()};
     for (const HelpTopics::Topic &topic : HelpTopics::all())
         pages << QLatin1String(topic.page);
-    const QRegularExpression link(QStringLiteral("href=\"([^\"#:]+)"));
+    const QRegularExpression link(u"href=\"([^\"#:]+)"_s);
     QSet<QString> linked;
     for (const QString &page : std::as_const(pages)) {
         const QString html = pageText(page);
         ASSERT_FALSE(html.isEmpty()) << page.toStdString();
-        EXPECT_TRUE(html.contains(QStringLiteral("<title>"))) << page.toStdString();
+        EXPECT_TRUE(html.contains(u"<title>"_s)) << page.toStdString();
         for (auto m = link.globalMatch(html); m.hasNext();) {
             const QString target = m.next().captured(1);
-            EXPECT_TRUE(QFile::exists(QStringLiteral(":/help/") + target))
+            EXPECT_TRUE(QFile::exists(u":/help/"_s + target))
                 << page.toStdString() << " links to " << target.toStdString();
             linked << target;
         }
@@ -73,23 +51,29 @@ TEST(HelpWindow, OpensThePageOfAContextIdOrATopicAndKeepsOneWindow)
     HelpWindow *help = HelpWindow::instance();
     EXPECT_EQ(HelpWindow::instance(), help);
     EXPECT_TRUE(help->showContext(68));
-    EXPECT_EQ(help->currentPage(), QStringLiteral("CategoryView.htm"));
-    EXPECT_TRUE(help->browser()->toPlainText().contains(QStringLiteral("Unallocated")));
+    EXPECT_EQ(help->currentPage(), u"CategoryView.htm"_s);
+    EXPECT_TRUE(help->browser()->toPlainText().contains(u"Unallocated"_s));
     EXPECT_TRUE(help->isVisible());
 
-    EXPECT_TRUE(help->showTopic(QStringLiteral("::/CategoryList.htm")));
-    EXPECT_EQ(help->currentPage(), QStringLiteral("CategoryList.htm"));
+    EXPECT_TRUE(help->showTopic(u"::/CategoryList.htm"_s));
+    EXPECT_EQ(help->currentPage(), u"CategoryList.htm"_s);
     // Back and forward walk the pages shown.
-    QAction *back = help->findChild<QAction *>(QStringLiteral("actBack"));
+    QAction *back = help->findChild<QAction *>(u"actBack"_s);
     ASSERT_NE(back, nullptr);
     EXPECT_TRUE(back->isEnabled());
     back->trigger();
-    EXPECT_EQ(help->currentPage(), QStringLiteral("CategoryView.htm"));
-    help->findChild<QAction *>(QStringLiteral("actForward"))->trigger();
-    EXPECT_EQ(help->currentPage(), QStringLiteral("CategoryList.htm"));
+    EXPECT_EQ(help->currentPage(), u"CategoryView.htm"_s);
+    help->findChild<QAction *>(u"actForward"_s)->trigger();
+    EXPECT_EQ(help->currentPage(), u"CategoryList.htm"_s);
+
+    // Topics match whatever the case or the ".htm"/".html" ending, anchors kept.
+    EXPECT_EQ(HelpTopics::pageForTopic(u"::/categoryeditor.HTML"_s), u"CategoryEditor.htm"_s);
+    EXPECT_EQ(HelpTopics::pageForTopic(u"/DefaultViolations.htm#top"_s),
+              u"DefaultViolations.htm#top"_s);
+    EXPECT_EQ(HelpTopics::topicPath(68), u"::/CategoryView.htm"_s);
 
     // An unknown topic or id shows the contents and says so.
-    EXPECT_FALSE(help->showTopic(QStringLiteral("::/Nowhere.htm")));
+    EXPECT_FALSE(help->showTopic(u"::/Nowhere.htm"_s));
     EXPECT_EQ(help->currentPage(), HelpTopics::contentsPage());
     EXPECT_FALSE(help->showContext(4242));
     EXPECT_EQ(help->currentPage(), HelpTopics::contentsPage());
@@ -98,9 +82,9 @@ TEST(HelpWindow, OpensThePageOfAContextIdOrATopicAndKeepsOneWindow)
     GuiUserInterface ui(true);
     ui.showHelp(HelpCommand::Context, QString(), 65);
     EXPECT_EQ(HelpWindow::existing(), help);
-    EXPECT_EQ(help->currentPage(), QStringLiteral("CodingConventionsView.htm"));
-    ui.showHelp(HelpCommand::Topic, QStringLiteral("::/Introduction.html"), 0);
-    EXPECT_EQ(help->currentPage(), QStringLiteral("Introduction.html"));
+    EXPECT_EQ(help->currentPage(), u"CodingConventionsView.htm"_s);
+    ui.showHelp(HelpCommand::Topic, u"::/Introduction.html"_s, 0);
+    EXPECT_EQ(help->currentPage(), u"Introduction.html"_s);
     ui.showHelp(HelpCommand::Contents, QString(), 0);
     EXPECT_EQ(help->currentPage(), HelpTopics::contentsPage());
     ui.showHelp(HelpCommand::Search, QString(), 0);

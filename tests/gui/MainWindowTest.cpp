@@ -1,8 +1,6 @@
 #include "application/Application.h"
 #include "application/HelpTopics.h"
 #include "application/Startup.h"
-#include "gui/QtListControl.h"
-#include "gui/QtTreeControl.h"
 #include "gui/frmMain.h"
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
@@ -13,26 +11,25 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/ViolationDefinition.h"
 #include "views/CommandTable.h"
-#include "views/DragDrop.h"
 #include "views/IViewController.h"
+#include "controls/TreeControl.h"
 #include "views/ViewFactory.h"
 
+#include "StartedMainWindow.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QDragEnterEvent>
-#include <QFile>
 #include <QLabel>
 #include <QMenuBar>
-#include <QMimeData>
-#include <QSplitter>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QTreeView>
 
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 TEST(MainWindow, OpensTheSampleWithItsMenusAndClosesWithoutAsking)
 {
@@ -49,29 +46,29 @@ TEST(MainWindow, OpensTheSampleWithItsMenusAndClosesWithoutAsking)
         // Before a rulebase: no document tools, and the status says so.
         window.ShowWindow();
         window.Update();
-        EXPECT_FALSE(window.tool(QStringLiteral("tlSaveRulebase"))->isEnabled());
-        EXPECT_EQ(window.findChild<QLabel *>(QStringLiteral("lblStatus"))->text(), QStringLiteral("No rulebase selected."));
+        EXPECT_FALSE(window.tool(u"tlSaveRulebase"_s)->isEnabled());
+        EXPECT_EQ(window.findChild<QLabel *>(u"lblStatus"_s)->text(), u"No rulebase selected."_s);
 
         ASSERT_TRUE(RunStartup(app, TestEnvironment::sampleRulebase()));
-        EXPECT_EQ(window.windowTitle(), QStringLiteral("Sample.qrb - Quorin Administrator"));
-        EXPECT_TRUE(window.tool(QStringLiteral("tlSaveRulebase"))->isEnabled());
-        EXPECT_TRUE(window.tool(QStringLiteral("tlCategoryView"))->isChecked());
-        EXPECT_FALSE(window.tool(QStringLiteral("tlSeverityView"))->isChecked());
+        EXPECT_EQ(window.windowTitle(), u"Sample.qrb - Quorin Administrator"_s);
+        EXPECT_TRUE(window.tool(u"tlSaveRulebase"_s)->isEnabled());
+        EXPECT_TRUE(window.tool(u"tlCategoryView"_s)->isChecked());
+        EXPECT_FALSE(window.tool(u"tlSeverityView"_s)->isChecked());
 
         QStringList menus;
         for (QAction *menu : window.menuBar()->actions())
             menus << menu->text();
-        EXPECT_EQ(menus, (QStringList{QStringLiteral("&File"), QStringLiteral("&View"), QStringLiteral("&Rule"),
-                                      QStringLiteral("&Tools"), QStringLiteral("&Help")}));
+        EXPECT_EQ(menus,
+                  (QStringList{u"&File"_s, u"&View"_s, u"&Rule"_s, u"&Tools"_s, u"&Help"_s}));
         for (const char *bar : {"tlbFile", "tlbView", "tlbRule", "tlbTools", "lbarMain"})
             EXPECT_NE(window.findChild<QToolBar *>(QLatin1String(bar)), nullptr) << bar;
 
         // The navigation bar switches views; the toolbar toggles are the window's own.
-        window.tool(QStringLiteral("tlSeverityView"))->trigger();
-        EXPECT_EQ(app.CurrentViewName(), QStringLiteral("tlSeverityView"));
-        window.tool(QStringLiteral("tlRuleToolbar"))->trigger();
-        EXPECT_FALSE(window.findChild<QToolBar *>(QStringLiteral("tlbRule"))->isVisible());
-        EXPECT_FALSE(window.tool(QStringLiteral("tlRuleToolbar"))->isChecked());
+        window.tool(u"tlSeverityView"_s)->trigger();
+        EXPECT_EQ(app.CurrentViewName(), u"tlSeverityView"_s);
+        window.tool(u"tlRuleToolbar"_s)->trigger();
+        EXPECT_FALSE(window.findChild<QToolBar *>(u"tlbRule"_s)->isVisible());
+        EXPECT_FALSE(window.tool(u"tlRuleToolbar"_s)->isChecked());
 
         EXPECT_TRUE(window.close());
         EXPECT_TRUE(ui.messages.empty());
@@ -79,209 +76,79 @@ TEST(MainWindow, OpensTheSampleWithItsMenusAndClosesWithoutAsking)
     DestroyGlobalObjects();
 }
 
-namespace {
-
-// The sample in a fresh window, as the program starts it; the globals live as long as this.
-struct SampleWindow
-{
-    SampleWindow()
-    {
-        EXPECT_EQ(CreateGlobalObjects(), 0);
-        gobjAdminData->setFirstUse(false);
-        gobjAdminData->setDisplayTips(false);
-        window = std::make_unique<frmMain>(false);
-        app = std::make_unique<Application>(window.get(), createView);
-        window->setApplication(app.get());
-        opened = RunStartup(*app, TestEnvironment::sampleRulebase());
-    }
-    ~SampleWindow()
-    {
-        window->close();
-        app.reset();
-        window.reset();
-        DestroyGlobalObjects();
-    }
-    QSplitter *splitter(const char *name) const { return window->findChild<QSplitter *>(QLatin1String(name)); }
-
-    ScriptedUserInterface ui;
-    std::unique_ptr<frmMain> window;
-    std::unique_ptr<Application> app;
-    bool opened = false;
-};
-
-} // namespace
-
 TEST(MainWindow, EveryViewCanBeShownAndF1OpensItsPage)
 {
-    TestEnvironment::clearSettings();
-    SampleWindow w;
-    ASSERT_TRUE(w.opened);
-    w.window->resize(900, 600);
+    ScriptedUserInterface ui;
+    StartedMainWindow w(TestEnvironment::sampleRulebase());
+    ASSERT_TRUE(w.started);
+    w.window.resize(900, 600);
     QApplication::processEvents();
 
     for (const QString &id : CommandTable::viewTools()) {
-        QAction *tool = w.window->tool(id);
+        QAction *tool = w.window.tool(id);
         const bool built = createView(id) != nullptr;
         // A view that is not built yet is disabled and says so; the others switch.
         EXPECT_EQ(tool->isEnabled(), built) << id.toStdString();
         if (!built) {
-            EXPECT_TRUE(tool->toolTip().contains(QStringLiteral("later"))) << id.toStdString();
+            EXPECT_TRUE(tool->toolTip().contains(u"later"_s)) << id.toStdString();
             continue;
         }
         tool->trigger();
-        EXPECT_EQ(w.app->CurrentViewName(), id);
+        EXPECT_EQ(w.app.CurrentViewName(), id);
         EXPECT_TRUE(tool->isChecked());
-        EXPECT_GT(w.window->tree()->count(), 0) << id.toStdString();
-        EXPECT_FALSE(w.window->findChild<QLabel *>(QStringLiteral("lblTreeViewTitle"))->text().isEmpty());
+        EXPECT_GT(w.window.tree()->count(), 0) << id.toStdString();
+        EXPECT_FALSE(w.window.findChild<QLabel *>(u"lblTreeViewTitle"_s)->text().isEmpty());
 
-        w.window->showContextHelp();
-        ASSERT_FALSE(w.ui.helpRequests.empty());
-        const HelpRequest &help = w.ui.helpRequests.back();
+        w.window.showContextHelp();
+        ASSERT_FALSE(ui.helpRequests.empty());
+        const HelpRequest &help = ui.helpRequests.back();
         EXPECT_EQ(help.command, HelpCommand::Context);
         EXPECT_FALSE(HelpTopics::pageForContext(help.context).isEmpty()) << help.context;
     }
-    w.window->tool(QStringLiteral("tlCategoryView"))->trigger();
-    w.window->showContextHelp();
-    EXPECT_EQ(w.ui.helpRequests.back().context, 68);
-    EXPECT_EQ(HelpTopics::pageForContext(68), QStringLiteral("CategoryView.htm"));
+    w.window.tool(u"tlCategoryView"_s)->trigger();
+    w.window.showContextHelp();
+    EXPECT_EQ(ui.helpRequests.back().context, 68);
+    EXPECT_EQ(HelpTopics::pageForContext(68), u"CategoryView.htm"_s);
 
     // Rows carry their severity's picture, and the list header the selected node's.
-    const QModelIndex first = w.window->lvwMain()->model()->index(0, 0);
+    const QModelIndex first = w.window.lvwMain()->model()->index(0, 0);
     EXPECT_FALSE(first.data(Qt::DecorationRole).value<QIcon>().isNull());
-    EXPECT_FALSE(w.window->findChild<QLabel *>(QStringLiteral("imgListHeader"))->pixmap().isNull());
-    EXPECT_FALSE(w.window->tool(QStringLiteral("tlSaveRulebase"))->icon().isNull());
-}
-
-TEST(MainWindow, PaneSizesColumnsAndPlaceSurviveACloseAndAReopen)
-{
-    TestEnvironment::clearSettings();
-    QList<int> treeAndList;
-    QList<int> treeAndDocs;
-    double titleShare = 0;
-    {
-        SampleWindow w;
-        ASSERT_TRUE(w.opened);
-        w.window->setGeometry(40, 50, 1000, 700);
-        QApplication::processEvents();
-        w.splitter("picContainer")->setSizes({300, 600});
-        QSplitter *left = qobject_cast<QSplitter *>(w.window->tvwMain()->parentWidget()->parentWidget());
-        ASSERT_NE(left, nullptr);
-        left->setSizes({400, 150});
-        QApplication::processEvents();
-        treeAndList = w.splitter("picContainer")->sizes();
-        treeAndDocs = left->sizes();
-        ListControl *list = w.window->list();
-        list->setColumnWidth(2, list->width() / 2);
-        titleShare = double(list->columnWidth(2)) / list->width();
-        EXPECT_TRUE(w.window->close());
-        EXPECT_EQ(gobjAdminData->TreeWidth(), treeAndList.at(0) * 15);
-        EXPECT_EQ(gobjAdminData->DocHeight(), treeAndDocs.at(1) * 15);
-        EXPECT_EQ(gobjAdminData->MainWidth(), 1000 * 15);
-        EXPECT_NEAR(gobjAdminData->ListColWidthCC(2), titleShare, 0.01);
-    }
-    {
-        SampleWindow w;
-        ASSERT_TRUE(w.opened);
-        QApplication::processEvents();
-        EXPECT_EQ(w.window->geometry(), QRect(40, 50, 1000, 700));
-        EXPECT_EQ(w.splitter("picContainer")->sizes().at(0), treeAndList.at(0));
-        QSplitter *left = qobject_cast<QSplitter *>(w.window->tvwMain()->parentWidget()->parentWidget());
-        EXPECT_EQ(left->sizes().at(1), treeAndDocs.at(1));
-        ListControl *list = w.window->list();
-        EXPECT_NEAR(double(list->columnWidth(2)) / list->width(), titleShare, 0.02);
-    }
-}
-
-TEST(MainWindow, ARowDraggedOntoACategoryNodeMovesTheRule)
-{
-    TestEnvironment::clearSettings();
-    SampleWindow w;
-    ASSERT_TRUE(w.opened);
-    w.window->resize(1000, 700);
-    QApplication::processEvents();
-    ASSERT_EQ(w.app->CurrentViewName(), QStringLiteral("tlCategoryView"));
-    const CategoryList &categories = *w.app->rulebase()->CategoryList();
-    auto *tree = static_cast<QtTreeControl *>(w.window->tree());
-    auto *list = static_cast<QtListControl *>(w.window->list());
-
-    // Show the first category and pick its first rule.
-    const int source = tree->find(categories.Item(1)->Key());
-    const int target = tree->find(categories.Item(2)->Key());
-    w.window->tvwMain()->selectionModel()->setCurrentIndex(tree->indexOf(source),
-                                                            QItemSelectionModel::ClearAndSelect);
-    ASSERT_GT(list->count(), 0);
-    list->setSelectedItem(1);
-    const QString key = list->key(1);
-    std::unique_ptr<QMimeData> data(list->dragData());
-    ASSERT_NE(data, nullptr);
-    EXPECT_TRUE(data->hasFormat(QLatin1String(DragDrop::MimeType)));
-
-    QWidget *viewport = w.window->tvwMain()->viewport();
-    const QPoint at = w.window->tvwMain()->visualRect(tree->indexOf(target)).center();
-    QDragEnterEvent enter(at, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(viewport, &enter);
-    EXPECT_TRUE(enter.isAccepted());
-    QDragMoveEvent move(at, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(viewport, &move);
-    EXPECT_TRUE(move.isAccepted());
-    EXPECT_EQ(move.dropAction(), Qt::MoveAction);
-    EXPECT_EQ(tree->dropHighlight(), target);
-    EXPECT_TRUE(tree->indexOf(target).data(Qt::BackgroundRole).isValid());
-
-    QDropEvent drop(QPointF(at), Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(viewport, &drop);
-    EXPECT_TRUE(drop.isAccepted());
-    const auto rule = w.app->rulebase()->RuleLists()->AllConventions()->Item(key);
-    EXPECT_EQ(rule->ViolationDefinition()->CategoryID(), categories.Item(2)->ID());
-    EXPECT_EQ(list->find(key), 0);
-
-    // Dropped text of another kind is refused.
-    QMimeData text;
-    text.setText(QStringLiteral("5001Key||"));
-    QDragEnterEvent other(at, Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(viewport, &other);
-    EXPECT_FALSE(other.isAccepted());
+    EXPECT_FALSE(w.window.findChild<QLabel *>(u"imgListHeader"_s)->pixmap().isNull());
+    EXPECT_FALSE(w.window.tool(u"tlSaveRulebase"_s)->icon().isNull());
 }
 
 TEST(MainWindow, AFailedOpenLeavesTheWindowLiveAndAPartLoadSaysSoUntilSaved)
 {
-    TestEnvironment::clearSettings();
     const QString dir = TestEnvironment::makeTempDir() + QLatin1Char('/');
-    const QString bad = dir + QStringLiteral("bad.qrb");
-    const QString part = dir + QStringLiteral("part.qrb");
-    {
-        QFile sample(TestEnvironment::sampleRulebase());
-        QFile truncated(bad);
-        QFile partial(part);
-        ASSERT_TRUE(sample.open(QIODevice::ReadOnly) && truncated.open(QIODevice::WriteOnly)
-                    && partial.open(QIODevice::WriteOnly));
-        const QByteArray bytes = sample.readAll();
-        truncated.write(bytes.left(400));
-        partial.write(QByteArray(bytes).replace("<CategoryList LastID=\"14\">",
-                                                "<CategoryList LastID=\"x\">"));
-    }
-    SampleWindow w;
-    ASSERT_TRUE(w.opened);
-    const QString title = w.window->windowTitle();
+    const QString bad = dir + u"bad.qrb"_s;
+    const QString part = dir + u"part.qrb"_s;
+    const QByteArray bytes = TestEnvironment::readFile(TestEnvironment::sampleRulebase());
+    TestEnvironment::writeFile(bad, bytes.left(400));
+    TestEnvironment::writeFile(
+        part,
+        QByteArray(bytes).replace("<CategoryList LastID=\"14\">", "<CategoryList LastID=\"x\">"));
+    ScriptedUserInterface ui;
+    StartedMainWindow w(TestEnvironment::sampleRulebase());
+    ASSERT_TRUE(w.started);
+    const QString title = w.window.windowTitle();
 
     // Not saved first, and the open fails: the edit is still there to save, and closing asks.
-    w.app->rulebase()->setTitle(QStringLiteral("Edited"));
-    w.ui.answers = {MessageResult::No};
-    EXPECT_FALSE(w.app->OpenRulebase(Application::OpenMode::CommandLine, bad));
-    EXPECT_EQ(w.window->windowTitle(), title);
-    EXPECT_TRUE(w.window->tool(QStringLiteral("tlSaveRulebase"))->isEnabled());
-    EXPECT_EQ(w.app->rulebase()->Title(), QStringLiteral("Edited"));
-    w.ui.answers = {MessageResult::Cancel};
-    EXPECT_FALSE(w.window->close());
-    EXPECT_EQ(w.ui.messages.back().text,
-              QStringLiteral("The current rulebase has changed, do you wish to save the changes?"));
+    w.app.rulebase()->setTitle(u"Edited"_s);
+    ui.answers = {MessageResult::No};
+    EXPECT_FALSE(w.app.OpenRulebase(Application::OpenMode::CommandLine, bad));
+    EXPECT_EQ(w.window.windowTitle(), title);
+    EXPECT_TRUE(w.window.tool(u"tlSaveRulebase"_s)->isEnabled());
+    EXPECT_EQ(w.app.rulebase()->Title(), u"Edited"_s);
+    ui.answers = {MessageResult::Cancel};
+    EXPECT_FALSE(w.window.close());
+    EXPECT_EQ(ui.messages.back().text,
+              u"The current rulebase has changed, do you wish to save the changes?"_s);
 
-    w.ui.answers = {MessageResult::No};
-    ASSERT_TRUE(w.app->OpenRulebase(Application::OpenMode::CommandLine, part));
-    EXPECT_EQ(w.window->windowTitle(),
-              QStringLiteral("part.qrb (loaded in part) - Quorin Administrator"));
-    w.ui.answers = {MessageResult::Yes};
-    w.window->tool(QStringLiteral("tlSaveRulebase"))->trigger();
-    EXPECT_EQ(w.window->windowTitle(), QStringLiteral("part.qrb - Quorin Administrator"));
-    EXPECT_EQ(w.ui.unscriptedQuestions, 0);
+    ui.answers = {MessageResult::No};
+    ASSERT_TRUE(w.app.OpenRulebase(Application::OpenMode::CommandLine, part));
+    EXPECT_EQ(w.window.windowTitle(), u"part.qrb (loaded in part) - Quorin Administrator"_s);
+    ui.answers = {MessageResult::Yes};
+    w.window.tool(u"tlSaveRulebase"_s)->trigger();
+    EXPECT_EQ(w.window.windowTitle(), u"part.qrb - Quorin Administrator"_s);
+    EXPECT_EQ(ui.unscriptedQuestions, 0);
 }

@@ -31,6 +31,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Private variables begin with "m" and a capital (5000), GoTo is forbidden (5001), and a
@@ -38,19 +40,18 @@ namespace {
 QString writeRulebase()
 {
     Rulebase rulebase;
-    const PreviewRules rules
-        = addPreviewRules(rulebase, QStringLiteral("m"), QStringLiteral("Controls"), 6);
+    const PreviewRules rules = addPreviewRules(rulebase, u"m"_s, u"Controls"_s, 6);
     rules.privates->setBodyActive(true);
-    rules.privates->setBodyPattern(QStringLiteral("^[A-Z]"));
-    rules.privates->setPrefixAdvice(QStringLiteral("Begin with m."));
-    rules.privates->setBodyAdvice(QStringLiteral("Go on with a capital."));
+    rules.privates->setBodyPattern(u"^[A-Z]"_s);
+    rules.privates->setPrefixAdvice(u"Begin with m."_s);
+    rules.privates->setBodyAdvice(u"Go on with a capital."_s);
     for (const std::shared_ptr<IRule> &rule : {std::shared_ptr<IRule>(rules.privates),
                                                std::shared_ptr<IRule>(rules.keyword),
                                                std::shared_ptr<IRule>(rules.conditional)}) {
         rule->ViolationDefinition()->setTitle(rule->Title());
         rule->ViolationDefinition()->setSeverity(3);
     }
-    const QString path = TestEnvironment::makeTempDir() + QStringLiteral("/Preview.qrb");
+    const QString path = TestEnvironment::makeTempDir() + u"/Preview.qrb"_s;
     EXPECT_TRUE(RulebaseManager().Save(rulebase, path));
     return path;
 }
@@ -76,13 +77,12 @@ TEST(PreviewWindow, ShowsFindingsByRuleAndFileAndRefreshesAfterARuleIsEdited)
         frmMain &window = session.window;
         Application &app = session.app;
 
-        QAction *tool = window.tool(QStringLiteral("tlPreviewProject"));
+        QAction *tool = window.tool(u"tlPreviewProject"_s);
         ASSERT_NE(tool, nullptr);
         EXPECT_TRUE(tool->isEnabled());
-        ui.openAnswers = {TestEnvironment::sourceDir()
-                          + QStringLiteral("/tests/preview/data/Kinds/Kinds.vbp")};
+        ui.openAnswers = {TestEnvironment::sourceDir() + u"/tests/preview/data/Kinds/Kinds.vbp"_s};
         tool->trigger();
-        auto *preview = window.findChild<frmPreview *>(QStringLiteral("frmPreview"));
+        auto *preview = window.findChild<frmPreview *>(u"frmPreview"_s);
         ASSERT_NE(preview, nullptr);
         EXPECT_TRUE(preview->isVisible());
         auto *findings = child<QTreeView>(*preview, "tvwFindings");
@@ -93,7 +93,7 @@ TEST(PreviewWindow, ShowsFindingsByRuleAndFileAndRefreshesAfterARuleIsEdited)
 #endif
         auto *counts = child<QLabel>(*preview, "lblCounts");
         // Two references and two components the rulebase does not authorise, two names, GoTo.
-        EXPECT_EQ(counts->text(), QStringLiteral("7 violations, 1 not previewed, 1 file not read"));
+        EXPECT_EQ(counts->text(), u"7 violations, 1 not previewed, 1 file not read"_s);
         EXPECT_EQ(groups(model),
                   QStringList({"5000 Private variables (2)",
                                "5001 GoTo (1)",
@@ -103,37 +103,34 @@ TEST(PreviewWindow, ShowsFindingsByRuleAndFileAndRefreshesAfterARuleIsEdited)
                                "Files that could not be read (1)"}));
         EXPECT_EQ(
             model.index(0, PreviewResultsModel::NameColumn, model.index(0, 0)).data().toString(),
-            QStringLiteral("m_colItems"));
+            u"m_colItems"_s);
 
         child<QComboBox>(*preview, "cboGroupBy")->setCurrentIndex(1);
         EXPECT_EQ(groups(model),
                   QStringList({"Kinds.vbp (5)", "modKinds.bas (3)", "modMissing.bas (1)"}));
 
         // The filter narrows the list and says how much it shows.
-        child<QLineEdit>(*preview, "txtFilter")->setText(QStringLiteral("iindex"));
+        child<QLineEdit>(*preview, "txtFilter")->setText(u"iindex"_s);
         EXPECT_EQ(groups(model), QStringList({"modKinds.bas (1)"}));
-        EXPECT_TRUE(counts->text().endsWith(QLatin1String("; 1 shown")))
-            << counts->text().toStdString();
+        EXPECT_TRUE(counts->text().endsWith("; 1 shown"_L1)) << counts->text().toStdString();
 
         // A double click on a finding shows its line among its neighbours.
         const QModelIndex found = model.index(0, 0, model.index(0, 0));
         emit findings->doubleClicked(found);
         auto *source = child<QPlainTextEdit>(*preview, "txtSource");
-        EXPECT_TRUE(child<QLabel>(*preview, "lblSource")
-                        ->text()
-                        .endsWith(QLatin1String("modKinds.bas:21")));
-        EXPECT_EQ(source->textCursor().selectedText(), QStringLiteral("    21  Dim iIndex"));
-        EXPECT_TRUE(source->toPlainText().startsWith(QLatin1String("    13  ")));
+        EXPECT_TRUE(child<QLabel>(*preview, "lblSource")->text().endsWith("modKinds.bas:21"_L1));
+        EXPECT_EQ(source->textCursor().selectedText(), u"    21  Dim iIndex"_s);
+        EXPECT_TRUE(source->toPlainText().startsWith("    13  "_L1));
 
         // A rule's row opens its dialog; what is saved there is previewed at once.
         child<QLineEdit>(*preview, "txtFilter")->clear();
         child<QComboBox>(*preview, "cboGroupBy")->setCurrentIndex(0);
-        whenModal(QStringLiteral("frmNamingConvention"), [](QDialog &dialog) {
-            child<QLineEdit>(dialog, "txtTitle")->setText(QStringLiteral("Module variables"));
+        whenModal(u"frmNamingConvention"_s, [](QDialog &dialog) {
+            child<QLineEdit>(dialog, "txtTitle")->setText(u"Module variables"_s);
             click(dialog, "cmdOK");
         });
         emit findings->doubleClicked(model.index(0, 0));
-        EXPECT_EQ(groups(model).value(0), QStringLiteral("5000 Module variables (2)"))
+        EXPECT_EQ(groups(model).value(0), u"5000 Module variables (2)"_s)
             << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
         EXPECT_TRUE(app.rulebase()->Dirty());
 
@@ -142,7 +139,7 @@ TEST(PreviewWindow, ShowsFindingsByRuleAndFileAndRefreshesAfterARuleIsEdited)
             preview->resize(1100, 560);
             findings->setCurrentIndex(model.index(0, 0, model.index(0, 0)));
             emit findings->doubleClicked(model.index(1, 0, model.index(0, 0)));
-            EXPECT_TRUE(preview->grab().save(folder + QStringLiteral("/preview-window.png")));
+            EXPECT_TRUE(preview->grab().save(folder + u"/preview-window.png"_s));
         }
         ui.answers = {MessageResult::No};
         window.close();

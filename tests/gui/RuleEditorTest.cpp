@@ -34,48 +34,7 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-void type(QWidget *widget, const QString &text)
-{
-    for (const QChar c : text) {
-        const int key = c == u'\n' ? int(Qt::Key_Return) : int(c.toUpper().unicode());
-        const QString keyText = c == u'\n' ? QStringLiteral("\r") : QString(c);
-        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, keyText);
-        QApplication::sendEvent(widget, &press);
-        QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, keyText);
-        QApplication::sendEvent(widget, &release);
-    }
-}
-
-void press(QWidget *widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-{
-    QKeyEvent event(QEvent::KeyPress, key, modifiers);
-    QApplication::sendEvent(widget, &event);
-}
-
-// Selects from one 1-based line and column to another.
-void select(BasicEditor *editor, int line, int column, int toLine, int toColumn)
-{
-    editor->goTo(line, column);
-    QTextCursor cursor = editor->textCursor();
-    editor->goTo(toLine, toColumn);
-    cursor.setPosition(editor->caretPosition(), QTextCursor::KeepAnchor);
-    editor->setTextCursor(cursor);
-}
-
-// Lets timers run until `done` holds or a generous time has passed.
-template<typename Condition>
-bool waitFor(Condition done)
-{
-    QElapsedTimer timer;
-    timer.start();
-    while (!done() && timer.elapsed() < 5000)
-        QApplication::processEvents(QEventLoop::AllEvents, 20);
-    return done();
-}
-
-} // namespace
+using namespace Qt::StringLiterals;
 
 TEST(RuleEditor, MarksAnErrorWhileTypingAndSavesOnceItIsFixed)
 {
@@ -83,63 +42,61 @@ TEST(RuleEditor, MarksAnErrorWhileTypingAndSavesOnceItIsFixed)
     frmRuleEditor dialog;
     dialog.setRuleType(RuleTypes::CodingConvention);
     dialog.setRuleID(12);
-    dialog.setRuleTitle(QStringLiteral("No GoTo"));
-    dialog.setRuleCode(QStringLiteral("Sub Main\r\n  x = 1\r\nEnd Sub\r\n"));
-    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Condition Editor - [0012] No GoTo"));
+    dialog.setRuleTitle(u"No GoTo"_s);
+    dialog.setRuleCode(u"Sub Main\r\n  x = 1\r\nEnd Sub\r\n"_s);
+    EXPECT_EQ(dialog.windowTitle(), u"Condition Editor - [0012] No GoTo"_s);
     EXPECT_TRUE(dialog.Cancelled());
 
     QStringList menus;
-    for (QAction *menu : dialog.findChild<QMenuBar *>(QStringLiteral("abMain"))->actions())
+    for (QAction *menu : dialog.findChild<QMenuBar *>(u"abMain"_s)->actions())
         menus << menu->text();
     EXPECT_EQ(menus, (QStringList{"&Condition", "&Edit", "&Insert", "&Help"}));
-    EXPECT_EQ(dialog.findChild<QMenu *>(QStringLiteral("mnuInsert"))->actions().size(), 6);
-    EXPECT_EQ(dialog.tool(QStringLiteral("tlSaveAndClose"))->toolTip(),
-              QStringLiteral("Save the condition and close"));
-    EXPECT_EQ(dialog.tool(QStringLiteral("tlCheckSyntax"))->text(),
-              QStringLiteral("Check S&yntax"));
-    EXPECT_NE(dialog.findChild<QToolBar *>(QStringLiteral("tlbTools")), nullptr);
+    EXPECT_EQ(dialog.findChild<QMenu *>(u"mnuInsert"_s)->actions().size(), 6);
+    EXPECT_EQ(dialog.tool(u"tlSaveAndClose"_s)->toolTip(), u"Save the condition and close"_s);
+    EXPECT_EQ(dialog.tool(u"tlCheckSyntax"_s)->text(), u"Check S&yntax"_s);
+    EXPECT_NE(dialog.findChild<QToolBar *>(u"tlbTools"_s), nullptr);
 
-    BasicEditor *editor = dialog.findChild<BasicEditor *>(QStringLiteral("sbMain"));
+    BasicEditor *editor = dialog.findChild<BasicEditor *>(u"sbMain"_s);
     ASSERT_NE(editor, nullptr);
     editor->setRecheckDelay(10);
     dialog.show();
 
     // A block If without its end, typed behind "  x = 1": the new line keeps the indent.
     editor->goTo(2, 8);
-    type(editor, QStringLiteral("\nIf y Then"));
-    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Main\n  x = 1\n  If y Then\nEnd Sub\n"));
+    typeKeys(editor, u"\nIf y Then"_s);
+    EXPECT_EQ(editor->toPlainText(), u"Sub Main\n  x = 1\n  If y Then\nEnd Sub\n"_s);
     ASSERT_TRUE(waitFor([&] { return editor->markOfLine(3) == BasicEditor::Mark::Error; }));
-    EXPECT_EQ(editor->messagesOfLine(3), QStringList{QStringLiteral("Block If without End If")});
+    EXPECT_EQ(editor->messagesOfLine(3), QStringList{u"Block If without End If"_s});
     EXPECT_EQ(editor->markOfLine(2), BasicEditor::Mark::None);
 
     // Refused with the checker's words; the caret goes to the fault.
     editor->setCaretPosition(0);
-    dialog.tool(QStringLiteral("tlSaveAndClose"))->trigger();
+    dialog.tool(u"tlSaveAndClose"_s)->trigger();
     EXPECT_TRUE(dialog.isVisible());
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_EQ(ui.messages[0].text,
-              QStringLiteral("line 3, column 3: Block If without End If Please fix before trying "
-                             "to save the condition."));
-    EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Administrator - Syntax Error"));
+              u"line 3, column 3: Block If without End If Please fix before trying "
+              u"to save the condition."_s);
+    EXPECT_EQ(ui.messages[0].title, u"Quorin Administrator - Syntax Error"_s);
     EXPECT_EQ(editor->textCursor().blockNumber(), 2);
 
     // Fixed, with a violation raised inside the If: Enter goes one level (the text's two
     // spaces) deeper, and "End If" finds the If's indentation as it is typed.
     editor->goTo(3, 12);
-    type(editor, QStringLiteral("\n"));
-    dialog.tool(QStringLiteral("tlRaiseViolation"))->trigger();
-    type(editor, QStringLiteral("End If"));
+    typeKeys(editor, u"\n"_s);
+    dialog.tool(u"tlRaiseViolation"_s)->trigger();
+    typeKeys(editor, u"End If"_s);
     ASSERT_TRUE(waitFor([&] { return editor->markOfLine(3) == BasicEditor::Mark::None; }));
     EXPECT_TRUE(editor->errors().empty());
 
     // Undo and redo go through the editor's own history.
     const QString fixed = editor->toPlainText();
-    dialog.tool(QStringLiteral("tlUndo"))->trigger();
+    dialog.tool(u"tlUndo"_s)->trigger();
     EXPECT_NE(editor->toPlainText(), fixed);
-    dialog.tool(QStringLiteral("tlRedo"))->trigger();
+    dialog.tool(u"tlRedo"_s)->trigger();
     EXPECT_EQ(editor->toPlainText(), fixed);
 
-    dialog.tool(QStringLiteral("tlSaveAndClose"))->trigger();
+    dialog.tool(u"tlSaveAndClose"_s)->trigger();
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_FALSE(dialog.Cancelled());
@@ -156,18 +113,18 @@ TEST(RuleEditor, ClosingAsksAboutChangesAndRunsModally)
     {
         // Unchanged: the close tool ends the modal run at once, cancelled.
         frmRuleEditor dialog;
-        dialog.setRuleCode(QStringLiteral("Sub Main\nEnd Sub"));
-        QTimer::singleShot(0, &dialog, [&] { dialog.tool(QStringLiteral("tlClose"))->trigger(); });
+        dialog.setRuleCode(u"Sub Main\nEnd Sub"_s);
+        QTimer::singleShot(0, &dialog, [&] { dialog.tool(u"tlClose"_s)->trigger(); });
         EXPECT_EQ(dialog.exec(), QDialog::Rejected);
         EXPECT_TRUE(dialog.Cancelled());
         EXPECT_TRUE(ui.messages.empty());
     }
     {
         frmRuleEditor dialog;
-        dialog.setRuleCode(QStringLiteral("Sub Main\r\nEnd Sub"));
+        dialog.setRuleCode(u"Sub Main\r\nEnd Sub"_s);
         dialog.show();
         dialog.editor()->setCaretPosition(0);
-        type(dialog.editor(), QStringLiteral("' note\n"));
+        typeKeys(dialog.editor(), u"' note\n"_s);
 
         // The frame's close asks; Cancel stays, No leaves without the change. Escape asks
         // with Cancel as the default, so Enter next keeps the text as it is.
@@ -189,16 +146,15 @@ TEST(RuleEditor, ClosingAsksAboutChangesAndRunsModally)
         // Yes on the way out saves a passing condition.
         frmRuleEditor dialog;
         dialog.setRuleType(RuleTypes::NamingConvention);
-        dialog.setRuleCode(QStringLiteral("Sub Main\nEnd Sub"));
+        dialog.setRuleCode(u"Sub Main\nEnd Sub"_s);
         dialog.show();
         dialog.editor()->goTo(2, 1);
-        dialog.tool(QStringLiteral("tlApplyConvention"))->trigger();
+        dialog.tool(u"tlApplyConvention"_s)->trigger();
         ui.answers = {MessageResult::Yes};
         dialog.close();
         EXPECT_FALSE(dialog.isVisible());
         EXPECT_FALSE(dialog.Cancelled());
-        EXPECT_EQ(dialog.RuleCode(),
-                  QStringLiteral("Sub Main\r\nQuorin.ApplyConvention\r\nEnd Sub"));
+        EXPECT_EQ(dialog.RuleCode(), u"Sub Main\r\nQuorin.ApplyConvention\r\nEnd Sub"_s);
     }
 }
 
@@ -209,13 +165,12 @@ TEST(RuleEditor, PickersAndCompletionInsertTheVocabulary)
     RuleEditorPickers::setObjectPicker(
         [&](QWidget *, const RuleEditorPickers::ObjectRequest &request) {
             asked = request;
-            return request.selectionMode == 3 ? QStringLiteral("%File.WF.Lines%")
-                                              : QStringLiteral("%Procedure.Name%");
+            return request.selectionMode == 3 ? u"%File.WF.Lines%"_s : u"%Procedure.Name%"_s;
         });
     qint32 eventRuleType = 0;
     RuleEditorPickers::setEventPicker([&](QWidget *, qint32 ruleType) {
         eventRuleType = ruleType;
-        return QStringLiteral("begin File");
+        return u"begin File"_s;
     });
 
     frmRuleEditor dialog;
@@ -223,237 +178,47 @@ TEST(RuleEditor, PickersAndCompletionInsertTheVocabulary)
     dialog.show();
     BasicEditor *editor = dialog.editor();
     editor->clear(); // no skeleton: the inserts alone
-    dialog.tool(QStringLiteral("tlObjectProperty"))->trigger();
+    dialog.tool(u"tlObjectProperty"_s)->trigger();
     EXPECT_EQ(asked.selectionMode, 2);
-    type(editor, QStringLiteral("\n"));
-    dialog.tool(QStringLiteral("tlObjectWorkfield"))->trigger();
+    typeKeys(editor, u"\n"_s);
+    dialog.tool(u"tlObjectWorkfield"_s)->trigger();
     EXPECT_EQ(asked.selectionMode, 3);
     EXPECT_NE(asked.workfields, nullptr);
-    type(editor, QStringLiteral("\n"));
-    dialog.tool(QStringLiteral("tlParserEvent"))->trigger();
+    typeKeys(editor, u"\n"_s);
+    dialog.tool(u"tlParserEvent"_s)->trigger();
     EXPECT_EQ(eventRuleType, RuleTypes::NamingConvention);
     EXPECT_EQ(editor->toPlainText(),
-              QStringLiteral("Quorin.GetObjectProperty(\"Procedure\", \"Name\")\n"
-                             "Quorin.GetObjectWorkField(\"File\", \"Lines\")\n"
-                             "Quorin.ParserEvent() = \"begin File\""));
+              u"Quorin.GetObjectProperty(\"Procedure\", \"Name\")\n"
+              u"Quorin.GetObjectWorkField(\"File\", \"Lines\")\n"
+              u"Quorin.ParserEvent() = \"begin File\""_s);
     RuleEditorPickers::setObjectPicker({});
     RuleEditorPickers::setEventPicker({});
 
     // "Quorin." offers the members; choosing one puts it in.
-    type(editor, QStringLiteral("\nCall Quorin.Rai"));
+    typeKeys(editor, u"\nCall Quorin.Rai"_s);
     QCompleter *completer = editor->completer();
     ASSERT_TRUE(completer->popup()->isVisible());
-    EXPECT_EQ(completer->currentCompletion(), QStringLiteral("RaiseViolation"));
+    EXPECT_EQ(completer->currentCompletion(), u"RaiseViolation"_s);
     emit completer->activated(completer->currentCompletion());
-    EXPECT_TRUE(editor->toPlainText().endsWith(QStringLiteral("\nCall Quorin.RaiseViolation")));
+    EXPECT_TRUE(editor->toPlainText().endsWith(u"\nCall Quorin.RaiseViolation"_s));
 
     // Inside a property call's first string: the objects, closed by a quote.
-    type(editor, QStringLiteral("\nx = Quorin.GetObjectProperty(\"Proc"));
+    typeKeys(editor, u"\nx = Quorin.GetObjectProperty(\"Proc"_s);
     ASSERT_TRUE(completer->popup()->isVisible());
-    emit completer->activated(QStringLiteral("Procedure"));
-    EXPECT_TRUE(editor->toPlainText().endsWith(QStringLiteral("GetObjectProperty(\"Procedure\"")));
+    emit completer->activated(u"Procedure"_s);
+    EXPECT_TRUE(editor->toPlainText().endsWith(u"GetObjectProperty(\"Procedure\""_s));
 
     // Text comes back as it went in, no-break spaces and all, with CR LF line ends.
-    const QString odd = QStringLiteral("Sub Main\n  x = \"a\u00a0b\u00e9\"\r\rEnd Sub\r\n");
+    const QString odd = u"Sub Main\n  x = \"a\u00a0b\u00e9\"\r\rEnd Sub\r\n"_s;
     editor->setScript(odd);
-    EXPECT_EQ(editor->script(),
-              QStringLiteral("Sub Main\r\n  x = \"a\u00a0b\u00e9\"\r\n\r\nEnd Sub\r\n"));
-    editor->setScript(QStringLiteral("Quorin.GetObjectProperty"));
+    EXPECT_EQ(editor->script(), u"Sub Main\r\n  x = \"a\u00a0b\u00e9\"\r\n\r\nEnd Sub\r\n"_s);
+    editor->setScript(u"Quorin.GetObjectProperty"_s);
 
     // With the caret at the start the line goes in front of everything, the caret behind it.
     editor->setCaretPosition(0);
-    dialog.tool(QStringLiteral("tlRaiseViolation"))->trigger();
+    dialog.tool(u"tlRaiseViolation"_s)->trigger();
     EXPECT_TRUE(editor->toPlainText().startsWith(
-        QStringLiteral("Call Quorin.RaiseViolation()\nQuorin.GetObjectProperty")));
+        u"Call Quorin.RaiseViolation()\nQuorin.GetObjectProperty"_s));
     EXPECT_EQ(editor->caretPosition(), 29);
     EXPECT_TRUE(ui.messages.empty());
-}
-
-TEST(RuleEditor, EditingCommandsStandInBothMenusAndWorkOnWholeLines)
-{
-    ScriptedUserInterface ui;
-    frmRuleEditor dialog;
-    dialog.setRuleCode(QStringLiteral("Sub Main\r\n\tx = 1\r\n\ty = 2\r\nEnd Sub"));
-    dialog.show();
-    BasicEditor *editor = dialog.editor();
-    auto *mnuEdit = child<QMenu>(dialog, "mnuEdit");
-    auto *mnuContext = child<QMenu>(dialog, "mnuContext");
-    ASSERT_TRUE(mnuEdit && mnuContext);
-    const QString ids = QStringLiteral(
-        "tlUndo tlCut tlCopy tlPaste tlSelectAll tlFind tlReplace tlGoToLine tlToggleComment");
-    for (const QString &id : ids.split(QLatin1Char(' '))) {
-        QAction *action = dialog.tool(id);
-        EXPECT_TRUE(mnuEdit->actions().contains(action)) << id.toStdString();
-        EXPECT_TRUE(mnuContext->actions().contains(action)) << id.toStdString();
-        EXPECT_FALSE(action->shortcut().isEmpty()) << id.toStdString();
-    }
-    EXPECT_TRUE(mnuContext->actions().contains(
-        dialog.findChild<QMenu *>(QStringLiteral("mnuInsert"))->menuAction()));
-
-    // Tab and Shift+Tab move the lines a selection touches, each one undo step; the selection
-    // stays on them. Without a selection Tab puts in the text's own unit.
-    const QString opening = editor->toPlainText();
-    select(editor, 2, 3, 3, 2);
-    press(editor, Qt::Key_Tab);
-    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Main\n\t\tx = 1\n\t\ty = 2\nEnd Sub"));
-    EXPECT_EQ(editor->textCursor().selectedText(), QStringLiteral("\t\tx = 1\u2029\t\ty = 2"));
-    press(editor, Qt::Key_Backtab, Qt::ShiftModifier);
-    press(editor, Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Main\nx = 1\ny = 2\nEnd Sub"));
-    for (int step = 0; step < 3; ++step)
-        dialog.tool(QStringLiteral("tlUndo"))->trigger();
-    EXPECT_EQ(editor->toPlainText(), opening);
-    editor->goTo(2, 1);
-    press(editor, Qt::Key_Tab);
-    EXPECT_EQ(editor->textCursor().block().text(), QStringLiteral("\t\tx = 1"));
-
-    // Comment and back; cut and paste through the clipboard.
-    select(editor, 2, 1, 3, 2);
-    dialog.tool(QStringLiteral("tlToggleComment"))->trigger();
-    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Main\n\t' \tx = 1\n\t' y = 2\nEnd Sub"));
-    dialog.tool(QStringLiteral("tlToggleComment"))->trigger();
-    select(editor, 3, 2, 3, 7);
-    dialog.tool(QStringLiteral("tlCut"))->trigger();
-    editor->goTo(1, 9);
-    dialog.tool(QStringLiteral("tlPaste"))->trigger();
-    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Mainy = 2\n\t\tx = 1\n\t\nEnd Sub"));
-    dialog.tool(QStringLiteral("tlSelectAll"))->trigger();
-    EXPECT_EQ(editor->textCursor().selectedText().size(), editor->toPlainText().size());
-
-    // Replace all through the bar; Escape closes the bar, not the editor.
-    dialog.tool(QStringLiteral("tlReplace"))->trigger();
-    auto *find = child<QLineEdit>(dialog, "txtFind");
-    ASSERT_TRUE(find && find->isVisible() && child<QLineEdit>(dialog, "txtReplace")->isVisible());
-    find->setText(QStringLiteral("X"));
-    child<QLineEdit>(dialog, "txtReplace")->setText(QStringLiteral("total"));
-    child<QToolButton>(dialog, "cmdReplaceAll")->click();
-    EXPECT_EQ(editor->toPlainText(), QStringLiteral("Sub Mainy = 2\n\t\ttotal = 1\n\t\nEnd Sub"));
-    EXPECT_EQ(child<QLabel>(dialog, "lblFindResult")->text(), QStringLiteral("1 replaced"));
-    find->setFocus();
-    press(find, Qt::Key_Escape);
-    EXPECT_FALSE(find->isVisible());
-    EXPECT_TRUE(dialog.isVisible());
-
-    // Find wraps round; go to line asks for the number.
-    editor->goTo(4, 1);
-    dialog.tool(QStringLiteral("tlFind"))->trigger();
-    find->setText(QStringLiteral("total"));
-    dialog.tool(QStringLiteral("tlFindNext"))->trigger();
-    EXPECT_EQ(editor->textCursor().selectedText(), QStringLiteral("total"));
-    whenModal(QStringLiteral("frmGoToLine"), [](QDialog &asked) {
-        static_cast<QInputDialog &>(asked).setIntValue(3);
-        asked.accept();
-    });
-    dialog.tool(QStringLiteral("tlGoToLine"))->trigger();
-    EXPECT_EQ(editor->textCursor().blockNumber(), 2);
-    EXPECT_EQ(child<QLabel>(dialog, "lblPosition")->text(), QStringLiteral("Ln 3, Col 1"));
-    EXPECT_TRUE(ui.messages.empty());
-}
-
-TEST(RuleEditor, TheErrorListAndTheUnderlinesLeadToTheFault)
-{
-    ScriptedUserInterface ui;
-    frmRuleEditor dialog;
-    dialog.setRuleCode(QStringLiteral("Sub Main\r\n\tx = 1\r\n\tIf F(x) Then\r\nEnd Sub"));
-    dialog.show();
-    BasicEditor *editor = dialog.editor();
-    ASSERT_FALSE(editor->errors().empty());
-    const BasicDiagnostic fault = editor->errors().front();
-    auto *list = child<QTreeWidget>(dialog, "lvwErrors");
-    ASSERT_TRUE(list);
-    ASSERT_EQ(list->topLevelItemCount(), int(editor->errors().size() + editor->warnings().size()));
-    QTreeWidgetItem *row = list->topLevelItem(0);
-    EXPECT_EQ(row->text(0), QString::number(fault.line));
-    EXPECT_EQ(row->text(2), fault.message);
-
-    editor->setCaretPosition(0);
-    emit list->itemActivated(row, 0);
-    EXPECT_EQ(editor->textCursor().blockNumber() + 1, fault.line);
-    EXPECT_EQ(editor->textCursor().positionInBlock() + 1, fault.column);
-
-    // The underline's tool tip is the message.
-    const int at = editor->caretPosition();
-    EXPECT_EQ(editor->diagnosticAt(at), fault.message);
-    EXPECT_TRUE(editor->diagnosticAt(0).isEmpty());
-    const QPoint point = editor->cursorRect().center() + QPoint(2, 0);
-    QHelpEvent help(QEvent::ToolTip, point, editor->viewport()->mapToGlobal(point));
-    QApplication::sendEvent(editor->viewport(), &help);
-    EXPECT_EQ(QToolTip::text(), fault.message);
-    QToolTip::hideText();
-
-    // A bracket beside the caret lights its partner.
-    editor->goTo(3, 9);
-    const int partner = editor->textCursor().block().position() + 5;
-    const QList<QTextEdit::ExtraSelection> lit = editor->extraSelections();
-    EXPECT_TRUE(std::any_of(lit.begin(), lit.end(), [&](const QTextEdit::ExtraSelection &s) {
-        return s.cursor.selectionStart() == partner && s.cursor.selectionEnd() == partner + 1;
-    }));
-
-    // Once fixed, the list is empty.
-    editor->setScript(QStringLiteral("Sub Main\r\nEnd Sub"));
-    EXPECT_EQ(list->topLevelItemCount(), 0);
-}
-
-TEST(RuleEditor, ANewConditionStartsAsSubMainAndTheWindowKeepsItsPlace)
-{
-    ScriptedUserInterface ui;
-    TestEnvironment::clearSettings();
-    gobjAdminData = std::make_shared<QuorinAdminData>();
-    {
-        // The skeleton untouched is no condition: closing asks nothing.
-        frmRuleEditor dialog;
-        EXPECT_EQ(dialog.editor()->toPlainText(), ScriptEditing::newScript());
-        EXPECT_EQ(dialog.editor()->textCursor().blockNumber() + 1, ScriptEditing::newScriptLine);
-        EXPECT_TRUE(dialog.RuleCode().isEmpty());
-        dialog.show();
-        dialog.move(120, 90);
-        dialog.resize(500, 360);
-        dialog.tool(QStringLiteral("tlClose"))->trigger();
-        EXPECT_FALSE(dialog.isVisible());
-        EXPECT_TRUE(ui.messages.empty());
-    }
-    EXPECT_EQ(gobjAdminData->EditorWidth(), 500 * 15);
-    gobjAdminData->SaveSettings();
-    gobjAdminData = std::make_shared<QuorinAdminData>();
-    {
-        frmRuleEditor dialog;
-        dialog.show();
-        EXPECT_EQ(dialog.size(), QSize(500, 360));
-        EXPECT_EQ(dialog.pos(), QPoint(120, 90));
-    }
-    // A place on no screen is not taken.
-    gobjAdminData->setEditorLeft(-90000);
-    {
-        frmRuleEditor dialog;
-        dialog.show();
-        EXPECT_GE(dialog.x(), 0);
-    }
-    gobjAdminData.reset();
-    TestEnvironment::clearSettings();
-}
-
-TEST(RuleEditor, HelpOpensBesideTheModalEditorAndOutlivesIt)
-{
-    GuiUserInterface gui(true);
-    UserInterface::install(&gui);
-    HelpWindow::instance()->resize(300, 200);
-    frmRuleEditor dialog;
-    dialog.setGeometry(0, 0, 300, 300);
-    QTimer::singleShot(0, &dialog, [&] {
-        dialog.tool(QStringLiteral("tlLanguageHelp"))->trigger();
-        HelpWindow *help = HelpWindow::existing();
-        ASSERT_TRUE(help && help->isVisible());
-        EXPECT_EQ(help->currentPage(), QStringLiteral("ConditionLanguage.htm"));
-        // A window of the modal editor: not blocked by it.
-        EXPECT_EQ(help->parentWidget(), &dialog);
-        EXPECT_EQ(help->x(), dialog.frameGeometry().right() + 1);
-        dialog.tool(QStringLiteral("tlClose"))->trigger();
-    });
-    dialog.exec();
-    HelpWindow *help = HelpWindow::existing();
-    ASSERT_TRUE(help);
-    EXPECT_NE(help->parentWidget(), &dialog);
-    EXPECT_TRUE(help->isVisible());
-    help->close();
-    UserInterface::install(nullptr);
 }

@@ -44,6 +44,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using RulebaseDialogs = GuiSample;
@@ -53,123 +55,25 @@ using RulebaseDialogs = GuiSample;
 TEST_F(RulebaseDialogs, RulebasePropertiesOpenFromTheFileMenuAndWriteOnOK)
 {
     bool seen = false;
-    whenModal(QStringLiteral("frmRulebaseProperties"), [&](QDialog &dialog) {
+    whenModal(u"frmRulebaseProperties"_s, [&](QDialog &dialog) {
         seen = true;
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Rulebase Properties"));
+        EXPECT_EQ(dialog.windowTitle(), u"Rulebase Properties"_s);
         auto *title = child<QLineEdit>(dialog, "txtTitle");
         EXPECT_EQ(title->text(), rulebase->Title());
-        const auto labels = dialog.findChildren<QLabel *>(QStringLiteral("lblSeverityTolerance"));
+        const auto labels = dialog.findChildren<QLabel *>(u"lblSeverityTolerance"_s);
         ASSERT_EQ(labels.size(), 6);
-        EXPECT_EQ(labels.last()->text(), QStringLiteral("Total"));
-        EXPECT_EQ(dialog.findChildren<QLineEdit *>(QStringLiteral("txtToleranceCount")).size(), 6);
+        EXPECT_EQ(labels.last()->text(), u"Total"_s);
+        EXPECT_EQ(dialog.findChildren<QLineEdit *>(u"txtToleranceCount"_s).size(), 6);
         auto *ok = child<QPushButton>(dialog, "cmdOK");
         title->setText(QString());
         EXPECT_FALSE(ok->isEnabled());
-        title->setText(QStringLiteral("From the dialog"));
+        title->setText(u"From the dialog"_s);
         EXPECT_TRUE(ok->isEnabled());
         ok->click();
     });
     trigger("tlRulebaseProperties");
     EXPECT_TRUE(seen);
-    EXPECT_EQ(rulebase->Title(), QStringLiteral("From the dialog"));
-}
-
-TEST_F(RulebaseDialogs, TheCategoryListOpensItsEditorAndCloses)
-{
-    const qint32 categories = rulebase->CategoryList()->Count();
-    const QString first = rulebase->CategoryList()->Item(1)->Title();
-    bool editorSeen = false;
-    whenModal(QStringLiteral("frmCategorySeverity"), [&](QDialog &dialog) {
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Category List"));
-        auto *list = child<QTreeWidget>(dialog, "lvwCategorySeverity");
-        EXPECT_EQ(list->topLevelItemCount(), categories);
-        EXPECT_EQ(list->headerItem()->text(0), QStringLiteral("Available Categories"));
-        EXPECT_TRUE(child<QPushButton>(dialog, "cmdAdd")->isVisibleTo(&dialog));
-        EXPECT_TRUE(child<QPushButton>(dialog, "cmdDelete")->isEnabled());
-        whenModal(QStringLiteral("frmCategoryEditor"), [&](QDialog &editor) {
-            editorSeen = true;
-            EXPECT_EQ(child<QLineEdit>(editor, "txtTitle")->text(), first);
-            child<QLineEdit>(editor, "txtTitle")->setText(QStringLiteral("Not kept"));
-            click(editor, "cmdCancel");
-        });
-        click(dialog, "cmdEdit");
-        click(dialog, "cmdClose");
-    });
-    trigger("tlCategoryList");
-    EXPECT_TRUE(editorSeen);
-    EXPECT_EQ(rulebase->CategoryList()->Item(1)->Title(), first);
-    EXPECT_FALSE(rulebase->Dirty());
-}
-
-TEST_F(RulebaseDialogs, TheSeverityListShowsTheFiveWithoutAddOrDelete)
-{
-    bool seen = false;
-    whenModal(QStringLiteral("frmCategorySeverity"), [&](QDialog &dialog) {
-        seen = true;
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Severity List"));
-        auto *list = child<QTreeWidget>(dialog, "lvwCategorySeverity");
-        EXPECT_EQ(list->topLevelItemCount(), 5);
-        EXPECT_EQ(list->columnCount(), 3);
-        EXPECT_FALSE(child<QPushButton>(dialog, "cmdAdd")->isVisibleTo(&dialog));
-        EXPECT_FALSE(child<QPushButton>(dialog, "cmdDelete")->isVisibleTo(&dialog));
-        click(dialog, "cmdClose");
-    });
-    trigger("tlSeverityList");
-    EXPECT_TRUE(seen);
-}
-
-TEST_F(RulebaseDialogs, DefaultViolationsOfferTheirFiveItemsAndCancel)
-{
-    bool seen = false;
-    whenModal(QStringLiteral("frmDefaultViolations"), [&](QDialog &dialog) {
-        seen = true;
-        auto *bar = child<QToolBar>(dialog, "abViolations");
-        ASSERT_EQ(bar->actions().size(), 5);
-        EXPECT_EQ(bar->actions().at(0)->objectName(), QStringLiteral("tlUnauthComp"));
-        EXPECT_EQ(child<QLabel>(dialog, "lblTitle")->text(), QStringLiteral("Unauthorised Component "));
-        bar->actions().at(4)->trigger();
-        EXPECT_EQ(child<QLabel>(dialog, "lblTitle")->text(), QStringLiteral("Unknown Control "));
-        click(dialog, "cmdCancel");
-    });
-    trigger("tlDefaultViolations");
-    EXPECT_TRUE(seen);
-    EXPECT_FALSE(rulebase->Dirty());
-}
-
-TEST_F(RulebaseDialogs, TagListsShowTheirFacesAndCancelLeavesTheSet)
-{
-    const qint32 controls = rulebase->ControlTags()->Count();
-    whenModal(QStringLiteral("frmTagList"), [&](QDialog &dialog) {
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Control Tags"));
-        auto *grid = child<QTableView>(dialog, "grdTags");
-        EXPECT_EQ(grid->model()->rowCount(), controls);
-        EXPECT_FALSE(child<QTabBar>(dialog, "tbsTagList")->isVisibleTo(&dialog));
-        click(dialog, "cmdInsert");
-        EXPECT_EQ(grid->model()->rowCount(), controls + 1);
-        click(dialog, "cmdCancel");
-    });
-    trigger("tlControlTags");
-    EXPECT_EQ(rulebase->ControlTags()->Count(), controls);
-
-    whenModal(QStringLiteral("frmTagList"), [&](QDialog &dialog) {
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Data Type Tags"));
-        auto *tabs = child<QTabBar>(dialog, "tbsTagList");
-        EXPECT_EQ(tabs->count(), 2);
-        tabs->setCurrentIndex(1);
-        EXPECT_FALSE(child<QPushButton>(dialog, "cmdInsert")->isEnabled());
-        EXPECT_TRUE(child<QLineEdit>(dialog, "txtArrayTagValue")->isVisibleTo(&dialog));
-        click(dialog, "cmdCancel");
-    });
-    trigger("tlDataTags");
-
-    whenModal(QStringLiteral("frmTagList"), [&](QDialog &dialog) {
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Scope Tags"));
-        EXPECT_FALSE(child<QPushButton>(dialog, "cmdInsert")->isVisibleTo(&dialog));
-        EXPECT_FALSE(child<QCheckBox>(dialog, "chkOption")->isVisibleTo(&dialog));
-        click(dialog, "cmdOK");
-    });
-    trigger("tlScopeTags");
-    EXPECT_FALSE(rulebase->Dirty());
+    EXPECT_EQ(rulebase->Title(), u"From the dialog"_s);
 }
 
 #if QUORIN_HAVE_MODEL_TESTER
@@ -179,7 +83,8 @@ TEST(TagGridModel, PassesTheModelTesterThroughInsertsDeletesTabsAndTheOption)
     Rulebase rulebase;
     TagListForm form;
     form.Initialise(rulebase.DataTypeTags(), TagListForm::DataTypeTags);
-    QAbstractItemModelTester tester(form.grid(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    QAbstractItemModelTester tester(form.grid(),
+                                    QAbstractItemModelTester::FailureReportingMode::Fatal);
     const qint32 row = form.Insert();
     EXPECT_EQ(form.grid()->rowCount(), row);
     form.Delete(row);
@@ -189,7 +94,8 @@ TEST(TagGridModel, PassesTheModelTesterThroughInsertsDeletesTabsAndTheOption)
 
     TagListForm controls;
     controls.Initialise(rulebase.ControlTags(), TagListForm::ControlTags);
-    QAbstractItemModelTester controlTester(controls.grid(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    QAbstractItemModelTester controlTester(controls.grid(),
+                                           QAbstractItemModelTester::FailureReportingMode::Fatal);
     controls.setOption(true);
     controls.setOption(false);
     EXPECT_EQ(controls.grid()->rowCount(), 23);

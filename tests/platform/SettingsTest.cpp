@@ -13,6 +13,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 using namespace RegistryUtils;
 
 namespace {
@@ -54,8 +56,8 @@ TEST_F(SettingsTest, FirstRunGivesTheDefaults)
 
     QuorinData machine;
     EXPECT_EQ(machine.LocalDataPath(), QuorinData::programFolder());
-    EXPECT_EQ(machine.ErrorLogFile(), QuorinData::programFolder() + QStringLiteral("Error.log"));
-    EXPECT_EQ(machine.ProductVersion(), QStringLiteral("6.2"));
+    EXPECT_EQ(machine.ErrorLogFile(), QuorinData::programFolder() + u"Error.log"_s);
+    EXPECT_EQ(machine.ProductVersion(), u"6.2"_s);
 }
 
 TEST_F(SettingsTest, ValuesSurviveARunAndFractionsReadUnderAnyDecimalSign)
@@ -64,16 +66,16 @@ TEST_F(SettingsTest, ValuesSurviveARunAndFractionsReadUnderAnyDecimalSign)
         QuorinAdminData data;
         data.setFirstUse(false);
         data.setMainTop(1200);
-        data.setLastCompanyName(QStringLiteral("Zinnober & Söhne"));
+        data.setLastCompanyName(u"Zinnober & Söhne"_s);
         data.setListColWidthCC(1, 0.2f);
         data.setListColWidthUK(1, 0.5f); // read only: never written back
-    } // saved here
-    SetRegString(adminKey, QStringLiteral("ListACCol1"), QStringLiteral("0,25"), HKEY_CURRENT_USER);
+    }                                    // saved here
+    SetRegString(adminKey, u"ListACCol1"_s, u"0,25"_s, HKEY_CURRENT_USER);
 
     QuorinAdminData data;
     EXPECT_FALSE(data.FirstUse());
     EXPECT_EQ(data.MainTop(), 1200);
-    EXPECT_EQ(data.LastCompanyName(), QStringLiteral("Zinnober & Söhne"));
+    EXPECT_EQ(data.LastCompanyName(), u"Zinnober & Söhne"_s);
     EXPECT_FLOAT_EQ(data.ListColWidthCC(1), 0.2f);
     EXPECT_FLOAT_EQ(data.ListColWidthUK(1), 0.13f);
     EXPECT_FLOAT_EQ(data.ListColWidthAC(1), 0.25f);
@@ -81,55 +83,54 @@ TEST_F(SettingsTest, ValuesSurviveARunAndFractionsReadUnderAnyDecimalSign)
 
 TEST_F(SettingsTest, RegistryGivesDefaultsForMissingValuesAndRefusesNonText)
 {
-    const QString key = RegistryUtils::productKey() + QStringLiteral("\\Probe");
+    const QString key = RegistryUtils::productKey() + u"\\Probe"_s;
     EXPECT_FALSE(KeyExists(key, HKEY_CURRENT_USER));
-    EXPECT_EQ(GetRegString(key, QStringLiteral("Missing"), QStringLiteral("dflt"), HKEY_CURRENT_USER),
-              QStringLiteral("dflt"));
-    EXPECT_TRUE(SetRegString(key, QStringLiteral("Name"), QStringLiteral("a,b"), HKEY_CURRENT_USER));
+    EXPECT_EQ(GetRegString(key, u"Missing"_s, u"dflt"_s, HKEY_CURRENT_USER), u"dflt"_s);
+    EXPECT_TRUE(SetRegString(key, u"Name"_s, u"a,b"_s, HKEY_CURRENT_USER));
     EXPECT_TRUE(KeyExists(key, HKEY_CURRENT_USER));
-    EXPECT_EQ(GetRegString(key, QStringLiteral("Name"), QString(), HKEY_CURRENT_USER), QStringLiteral("a,b"));
+    EXPECT_EQ(GetRegString(key, u"Name"_s, QString(), HKEY_CURRENT_USER), u"a,b"_s);
     // The machine-wide store is another place.
     EXPECT_FALSE(KeyExists(key, HKEY_LOCAL_MACHINE));
 
     {
-        QSettings raw(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Tarnwick"), QStringLiteral("Quorin"));
-        raw.setValue(QStringLiteral("6.2/Probe/Shape"), QRect(1, 2, 3, 4));
+        QSettings raw(QSettings::NativeFormat, QSettings::UserScope, u"Tarnwick"_s, u"Quorin"_s);
+        raw.setValue(u"6.2/Probe/Shape"_s, QRect(1, 2, 3, 4));
     }
     try {
-        GetRegString(key, QStringLiteral("Shape"), QString(), HKEY_CURRENT_USER);
+        GetRegString(key, u"Shape"_s, QString(), HKEY_CURRENT_USER);
         FAIL() << "a non-text value was read as text";
     } catch (const QuorinError &e) {
         EXPECT_EQ(e.number(), qint32(0x8004026A));
-        EXPECT_EQ(e.description(), QStringLiteral("Registry data type does not match the type requested."));
+        EXPECT_EQ(e.description(), u"Registry data type does not match the type requested."_s);
     }
 }
 
 TEST_F(SettingsTest, RecentListKeepsFourNewestFirstWithoutDuplicates)
 {
     MRUUtils mru;
-    mru.setAppName(QStringLiteral("Settings\\Rulebase"));
+    mru.setAppName(u"Settings\\Rulebase"_s);
     EXPECT_EQ(mru.Count(), 0);
     for (const char *f : {"/a.qrb", "/b.qrb", "/c.qrb", "/d.qrb"})
         mru.Add(QLatin1String(f));
     EXPECT_EQ(mru.Count(), 4);
-    EXPECT_EQ(mru.Item(1), QStringLiteral("/d.qrb"));
+    EXPECT_EQ(mru.Item(1), u"/d.qrb"_s);
 
-    mru.Add(QStringLiteral("/B.QRB")); // already there, in another case: moves to the top
+    mru.Add(u"/B.QRB"_s); // already there, in another case: moves to the top
     EXPECT_EQ(mru.Count(), 4);
-    EXPECT_EQ(mru.Item(1), QStringLiteral("/B.QRB"));
-    EXPECT_EQ(mru.Item(2), QStringLiteral("/d.qrb"));
+    EXPECT_EQ(mru.Item(1), u"/B.QRB"_s);
+    EXPECT_EQ(mru.Item(2), u"/d.qrb"_s);
 
-    mru.Add(QStringLiteral("/e.qrb")); // a fifth drops the oldest
+    mru.Add(u"/e.qrb"_s); // a fifth drops the oldest
     EXPECT_EQ(mru.Count(), 4);
-    EXPECT_EQ(mru.Item(4), QStringLiteral("/c.qrb"));
+    EXPECT_EQ(mru.Item(4), u"/c.qrb"_s);
 
-    mru.Remove(QStringLiteral("/d.qrb"));
+    mru.Remove(u"/d.qrb"_s);
     MRUUtils again;
-    again.setAppName(QStringLiteral("Settings\\Rulebase"));
+    again.setAppName(u"Settings\\Rulebase"_s);
     ASSERT_EQ(again.Count(), 3);
-    EXPECT_EQ(again.Item(1), QStringLiteral("/e.qrb"));
-    EXPECT_EQ(again.Item(2), QStringLiteral("/B.QRB"));
-    EXPECT_EQ(again.Item(3), QStringLiteral("/c.qrb"));
+    EXPECT_EQ(again.Item(1), u"/e.qrb"_s);
+    EXPECT_EQ(again.Item(2), u"/B.QRB"_s);
+    EXPECT_EQ(again.Item(3), u"/c.qrb"_s);
     EXPECT_EQ(again.Item(4), QString());
 }
 
@@ -139,7 +140,7 @@ TEST_F(SettingsTest, GlobalObjectsAreMadeOnceAndReleasedAtTheLastUser)
     ASSERT_EQ(CreateGlobalObjects(), 0);
     const auto log = gobjLogFile;
     ASSERT_TRUE(log);
-    EXPECT_EQ(log->ComponentVersion(), QStringLiteral("6.02.0001"));
+    EXPECT_EQ(log->ComponentVersion(), u"6.02.0001"_s);
     EXPECT_EQ(log->logFileName(), gobjQuorinData->ErrorLogFile());
     EXPECT_EQ(gobjAdminData->LastPath(), gobjQuorinData->LocalDataPath());
     DestroyGlobalObjects();

@@ -1,6 +1,6 @@
+#include "platform/TextUtils.h"
 #include "platform/FileUtils.h"
 #include "platform/QuorinError.h"
-#include "platform/TextUtils.h"
 
 #include <gtest/gtest.h>
 
@@ -11,22 +11,29 @@ using namespace Qt::StringLiterals;
 // The leading number of a text, as keys ("5000Key") and hand-typed values are read.
 TEST(TextUtils, ValReadsTheLeadingNumberOnly)
 {
-    const std::pair<const char16_t *, double> cases[] = {
-        {u"5000Key", 5000},  {u"7K", 7},           {u"K", 0},         {u"", 0},
-        {u"0Key", 0},        {u"  -12.5abc", -12.5}, {u"\t\r\n 3", 3}, {u"+4", 4},
-        {u"-", 0},           {u".5", 0.5},         {u"1.2.3", 1.2},   {u"1 2 3x", 123},
-        {u"1e3", 1000},      {u"2E-2x", 0.02},     {u"1e", 1},        {u"1e+", 1},
-        {u"-1e2", -100},     {u"１２", 0},         {u"x12", 0},       {u"12\u00a0", 12},
-        {u"99999999999", 99999999999.0}};
+    const std::pair<const char16_t *, double> cases[]
+        = {{u"5000Key", 5000}, {u"7K", 7},        {u"K", 0},
+           {u"", 0},           {u"0Key", 0},      {u"  -12.5abc", -12.5},
+           {u"\t\r\n 3", 3},   {u"+4", 4},        {u"-", 0},
+           {u".5", 0.5},       {u"1.2.3", 1.2},   {u"1 2 3x", 123},
+           {u"1e3", 1000},     {u"2E-2x", 0.02},  {u"1e", 1},
+           {u"1e+", 1},        {u"-1e2", -100},   {u"１２", 0},
+           {u"x12", 0},        {u"12\u00a0", 12}, {u"99999999999", 99999999999.0}};
     for (const auto &[text, expected] : cases)
-        EXPECT_DOUBLE_EQ(Text::val(QString::fromUtf16(text)), expected) << QString::fromUtf16(text).toStdString();
+        EXPECT_DOUBLE_EQ(Text::val(QString::fromUtf16(text)), expected)
+            << QString::fromUtf16(text).toStdString();
 
     // Rounded half to even into 32 bits, as the original runtime's CLng did.
-    const std::pair<const char16_t *, qint32> longs[] = {
-        {u"2.5", 2}, {u"3.5", 4}, {u"-2.5", -2}, {u"2.51", 3}, {u"2147483647", 2147483647},
-        {u"-2147483648", -2147483647 - 1}, {u"2147483647.4", 2147483647}};
+    const std::pair<const char16_t *, qint32> longs[] = {{u"2.5", 2},
+                                                         {u"3.5", 4},
+                                                         {u"-2.5", -2},
+                                                         {u"2.51", 3},
+                                                         {u"2147483647", 2147483647},
+                                                         {u"-2147483648", -2147483647 - 1},
+                                                         {u"2147483647.4", 2147483647}};
     for (const auto &[text, expected] : longs)
-        EXPECT_EQ(Text::valLong(QString::fromUtf16(text)), expected) << QString::fromUtf16(text).toStdString();
+        EXPECT_EQ(Text::valLong(QString::fromUtf16(text)), expected)
+            << QString::fromUtf16(text).toStdString();
     for (const char16_t *text : {u"99999999999", u"2147483647.5", u"-2147483648.6"})
         EXPECT_THROW(Text::valLong(QString::fromUtf16(text)), QuorinError);
 }
@@ -89,14 +96,15 @@ TEST(TextUtils, FormatsFractionsAndBlanks)
     EXPECT_EQ(Text::zeroPadded(-7, 3), u"-007"_s);
     EXPECT_EQ(Text::fromBool(true), u"True"_s);
     EXPECT_EQ(Text::fromBool(false), u"False"_s);
-    for (const auto &[text, expected] : {std::pair("0,25", 0.25f), {" 0.58 ", 0.58f}, {"x", 0.0f},
-                                         {"-1,5e1", -15.0f}})
+    for (const auto &[text, expected] :
+         {std::pair("0,25", 0.25f), {" 0.58 ", 0.58f}, {"x", 0.0f}, {"-1,5e1", -15.0f}})
         EXPECT_FLOAT_EQ(Text::stringToSingle(QLatin1String(text)), expected) << text;
     EXPECT_EQ(Text::trimBlanks(u"  a\t "_s), u"a\t"_s);
     EXPECT_EQ(Text::trimBlanks(u"   "_s), QString());
     EXPECT_TRUE(Text::same(u"ABC"_s, u"abc"_s));
     EXPECT_TRUE(Text::same(u"Straße"_s, u"STRAßE"_s));
-    for (const auto &[a, b] : {std::pair(u"abc", u"abd"), {u"ab", u"abc"}, {u"@", u"`"}, {u"[", u"{"}})
+    for (const auto &[a, b] :
+         {std::pair(u"abc", u"abd"), {u"ab", u"abc"}, {u"@", u"`"}, {u"[", u"{"}})
         EXPECT_FALSE(Text::same(QString::fromUtf16(a), QString::fromUtf16(b)));
 }
 

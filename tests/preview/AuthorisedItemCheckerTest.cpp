@@ -5,18 +5,18 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 // By GUID (braces or not, any case), then by version: a listed version, the same number
 // written otherwise, or any version when the list is empty.
 TEST(AuthorisedItemChecker, ChecksLibrariesByGuidThenVersion)
 {
     using V = AuthorisedItemChecker::Verdict;
     Rulebase rulebase;
-    const QString grid = QStringLiteral("{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}");
-    const QString ado = QStringLiteral("{00000205-0000-0010-8000-00AA006D2EA4}");
-    rulebase.AuthorisedComponents()->Add(
-        grid, QStringLiteral("MSCOMCTL.OCX"), QStringLiteral("1.0; 2.1"), {});
-    rulebase.AuthorisedReferences()->Add(
-        ado, QStringLiteral("ADO"), QStringLiteral("msado.tlb"), QString(), {});
+    const QString grid = u"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}"_s;
+    const QString ado = u"{00000205-0000-0010-8000-00AA006D2EA4}"_s;
+    rulebase.AuthorisedComponents()->Add(grid, u"MSCOMCTL.OCX"_s, u"1.0; 2.1"_s, {});
+    rulebase.AuthorisedReferences()->Add(ado, u"ADO"_s, u"msado.tlb"_s, QString(), {});
     const AuthorisedItemChecker checker(rulebase);
 
     const struct
@@ -42,7 +42,7 @@ TEST(AuthorisedItemChecker, ChecksLibrariesByGuidThenVersion)
                               : checker.reference(row.guid, QLatin1String(row.version), allowed);
         EXPECT_EQ(verdict, row.verdict) << row.guid.toStdString() << " " << row.version;
         if (verdict == V::VersionNotListed) {
-            EXPECT_EQ(allowed, QStringLiteral("1.0; 2.1"));
+            EXPECT_EQ(allowed, u"1.0; 2.1"_s);
         }
     }
 }

@@ -16,6 +16,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 namespace CO = CatalogueObject;
@@ -44,10 +46,7 @@ struct Expected
     const char *name;
     qint32 line;
     S scope;
-    const char *dataType;
-    bool isArray;
-    bool isAsNew;
-    const char *progID;
+    const char *declared;
 };
 
 quint64 bits(std::initializer_list<qint32> ids)
@@ -65,7 +64,7 @@ quint64 bits(std::initializer_list<qint32> ids)
 TEST(DeclarationScanner, FindsEveryKindOfObjectAndEveryLineItsParserEvents)
 {
     auto project = std::make_shared<VirtualProject>();
-    ASSERT_EQ(project->LoadProject(kindsDir() + QStringLiteral("/Kinds.vbp")), 0);
+    ASSERT_EQ(project->LoadProject(kindsDir() + u"/Kinds.vbp"_s), 0);
     Recorder recorder;
     DeclarationScanner scanner(recorder);
     const auto sources = project->SourceFiles();
@@ -74,9 +73,9 @@ TEST(DeclarationScanner, FindsEveryKindOfObjectAndEveryLineItsParserEvents)
         recorder.file = QFileInfo(source->Filename()).fileName();
         QString problem;
         const bool read = scanner.scan(*source, problem);
-        if (recorder.file == QLatin1String("modMissing.bas")) {
+        if (recorder.file == "modMissing.bas"_L1) {
             EXPECT_FALSE(read);
-            EXPECT_EQ(problem, QStringLiteral("No such file"));
+            EXPECT_EQ(problem, u"No such file"_s);
             continue;
         }
         ASSERT_TRUE(read) << recorder.file.toStdString() << ": " << problem.toStdString();
@@ -90,197 +89,64 @@ TEST(DeclarationScanner, FindsEveryKindOfObjectAndEveryLineItsParserEvents)
             << recorder.file.toStdString();
     }
 
+    const char *bas = "modKinds.bas", *cls = "cKinds.cls", *frm = "frmKinds.frm";
+    // The declared type reads as written: "New" for an instance made on use, "()" for an array;
+    // a control shows its ProgID.
     const Expected expected[] = {
-        {"modKinds.bas", CO::ModuleFile, "modKinds", 1, S::None, "", false, false, ""},
-        {"modKinds.bas", CO::PublicConst, "PUBLIC_LIMIT", 5, S::Public, "Long", false, false, ""},
-        {"modKinds.bas",
-         CO::PrivateConst,
-         "PRIVATE_NAME",
-         6,
-         S::Private,
-         "String",
-         false,
-         false,
-         ""},
-        {"modKinds.bas", CO::PublicConst, "GLOBAL_PI", 7, S::Public, "Double", false, false, ""},
-        {"modKinds.bas", CO::PublicConst, "GLOBAL_DAYS", 7, S::Public, "Long", false, false, ""},
-        {"modKinds.bas", CO::Declare, "GetTickCount", 8, S::Private, "Long", false, false, ""},
-        {"modKinds.bas", CO::Declare, "Sleep", 9, S::Public, "", false, false, ""},
-        {"modKinds.bas",
-         CO::DeclareArgument,
-         "dwMilliseconds",
-         10,
-         S::ByValArgument,
-         "Long",
-         false,
-         false,
-         ""},
-        {"modKinds.bas", CO::Enum, "eKinds", 11, S::Public, "", false, false, ""},
-        {"modKinds.bas", CO::EnumElement, "kOne", 12, S::None, "Long", false, false, ""},
-        {"modKinds.bas", CO::EnumElement, "k Two", 13, S::None, "Long", false, false, ""},
-        {"modKinds.bas", CO::Type, "udtPoint", 15, S::Private, "", false, false, ""},
-        {"modKinds.bas", CO::TypeElement, "X", 16, S::None, "Single", false, false, ""},
-        {"modKinds.bas", CO::TypeElement, "Names", 17, S::None, "String", true, false, ""},
-        {"modKinds.bas", CO::PublicVariable, "gCount", 19, S::Public, "Long", false, false, ""},
-        {"modKinds.bas", CO::PublicVariable, "gNames", 19, S::Public, "String", true, false, ""},
-        {"modKinds.bas",
-         CO::PrivateVariable,
-         "m_colItems",
-         20,
-         S::Private,
-         "Collection",
-         false,
-         true,
-         ""},
-        {"modKinds.bas",
-         CO::PrivateVariable,
-         "iIndex",
-         21,
-         S::Private,
-         "Integer",
-         false,
-         false,
-         ""},
-        {"modKinds.bas",
-         CO::FunctionProcedure,
-         "Twice",
-         22,
-         S::Public,
-         "Integer",
-         false,
-         false,
-         ""},
-        {"modKinds.bas",
-         CO::ProcedureArgument,
-         "iValue",
-         22,
-         S::ByValArgument,
-         "Integer",
-         false,
-         false,
-         ""},
-        {"modKinds.bas",
-         CO::ProcedureArgument,
-         "vExtra",
-         22,
-         S::ByRefArgument,
-         "Variant",
-         false,
-         false,
-         ""},
-        {"modKinds.bas",
-         CO::ProcedureArgument,
-         "vRest",
-         23,
-         S::ByRefArgument,
-         "Variant",
-         true,
-         false,
-         ""},
-        {"modKinds.bas", CO::LocalConst, "LOCAL_MAX", 24, S::Local, "Integer", false, false, ""},
-        {"modKinds.bas",
-         CO::LocalVariable,
-         "strCaf\u00e9",
-         25,
-         S::Local,
-         "String",
-         false,
-         false,
-         ""},
-        {"modKinds.bas", CO::LocalVariable, "aPoints", 25, S::Local, "udtPoint", true, false, ""},
-        {"modKinds.bas",
-         CO::LocalStaticVariable,
-         "lCalls",
-         26,
-         S::LocalStatic,
-         "Long",
-         false,
-         false,
-         ""},
-        {"modKinds.bas", CO::LineLabel, "Retry", 29, S::None, "", false, false, ""},
-        {"modKinds.bas", CO::LineLabel, "10", 30, S::None, "", false, false, ""},
-        {"modKinds.bas", CO::SubProcedure, "Tick", 32, S::Private, "", false, false, ""},
-        {"modKinds.bas",
-         CO::LocalStaticVariable,
-         "lTicks",
-         33,
-         S::LocalStatic,
-         "Long",
-         false,
-         false,
-         ""},
-        {"cKinds.cls", CO::ClassFile, "cKinds", 1, S::None, "", false, false, ""},
-        {"cKinds.cls", CO::Implements, "IKinds", 8, S::None, "", false, false, ""},
-        {"cKinds.cls", CO::Event, "Changed", 9, S::Public, "", false, false, ""},
-        {"cKinds.cls",
-         CO::EventArgument,
-         "strWhat",
-         9,
-         S::ByValArgument,
-         "String",
-         false,
-         false,
-         ""},
-        {"cKinds.cls",
-         CO::PrivateWithEventsVariable,
-         "m_frmOwner",
-         10,
-         S::Private,
-         "frmKinds",
-         false,
-         false,
-         ""},
-        {"cKinds.cls",
-         CO::PublicWithEventsVariable,
-         "gTimer",
-         11,
-         S::Public,
-         "VB.Timer",
-         false,
-         false,
-         ""},
-        {"cKinds.cls", CO::PropertyProcedure, "Count", 12, S::Friend, "Long", false, false, ""},
-        {"cKinds.cls", CO::PropertyProcedure, "Caption", 16, S::Public, "", false, false, ""},
-        {"cKinds.cls",
-         CO::ProcedureArgument,
-         "strValue",
-         16,
-         S::ByValArgument,
-         "String",
-         false,
-         false,
-         ""},
-        {"frmKinds.frm", CO::MDIChildFormFile, "frmKinds", 1, S::None, "", false, false, ""},
-        {"frmKinds.frm", CO::Control, "cmdOK", 6, S::None, "", false, false, "VB.CommandButton"},
-        {"frmKinds.frm", CO::Control, "Text1", 12, S::None, "", false, false, "VB.TextBox"},
-        {"frmKinds.frm",
-         CO::Control,
-         "lvwItems",
-         18,
-         S::None,
-         "",
-         false,
-         false,
-         "MSComctlLib.ListView"},
-        {"frmKinds.frm", CO::Control, "mnuFile", 20, S::None, "", false, false, "VB.Menu"},
-        {"frmKinds.frm", CO::Control, "mnuFileExit", 22, S::None, "", false, false, "VB.Menu"},
-        {"frmKinds.frm", CO::SubProcedure, "cmdOK_Click", 31, S::Private, "", false, false, ""},
-        {"mdiMain.frm", CO::MDIFormFile, "mdiMain", 1, S::None, "", false, false, ""},
-        {"frmPlain.frm", CO::NonMDIFormFile, "frmPlain", 1, S::None, "", false, false, ""},
-        {"frmPlain.frm",
-         CO::PrivateVariable,
-         "mGr\u00f6\u00dfe",
-         7,
-         S::Private,
-         "Long",
-         false,
-         false,
-         ""},
-        {"ucKinds.ctl", CO::UserControlFile, "ucKinds", 1, S::None, "", false, false, ""},
-        {"ucKinds.ctl", CO::Control, "lblValue", 3, S::None, "", false, false, "VB.Label"},
-        {"ppgKinds.pag", CO::PropertyPageFile, "ppgKinds", 1, S::None, "", false, false, ""},
-        {"udKinds.dob", CO::UserDocumentFile, "udKinds", 1, S::None, "", false, false, ""},
-        {"dsrKinds.dsr", CO::DesignerFile, "deKinds", 1, S::None, "", false, false, ""},
+        {bas, CO::ModuleFile, "modKinds", 1, S::None, ""},
+        {bas, CO::PublicConst, "PUBLIC_LIMIT", 5, S::Public, "Long"},
+        {bas, CO::PrivateConst, "PRIVATE_NAME", 6, S::Private, "String"},
+        {bas, CO::PublicConst, "GLOBAL_PI", 7, S::Public, "Double"},
+        {bas, CO::PublicConst, "GLOBAL_DAYS", 7, S::Public, "Long"},
+        {bas, CO::Declare, "GetTickCount", 8, S::Private, "Long"},
+        {bas, CO::Declare, "Sleep", 9, S::Public, ""},
+        {bas, CO::DeclareArgument, "dwMilliseconds", 10, S::ByValArgument, "Long"},
+        {bas, CO::Enum, "eKinds", 11, S::Public, ""},
+        {bas, CO::EnumElement, "kOne", 12, S::None, "Long"},
+        {bas, CO::EnumElement, "k Two", 13, S::None, "Long"},
+        {bas, CO::Type, "udtPoint", 15, S::Private, ""},
+        {bas, CO::TypeElement, "X", 16, S::None, "Single"},
+        {bas, CO::TypeElement, "Names", 17, S::None, "String()"},
+        {bas, CO::PublicVariable, "gCount", 19, S::Public, "Long"},
+        {bas, CO::PublicVariable, "gNames", 19, S::Public, "String()"},
+        {bas, CO::PrivateVariable, "m_colItems", 20, S::Private, "New Collection"},
+        {bas, CO::PrivateVariable, "iIndex", 21, S::Private, "Integer"},
+        {bas, CO::FunctionProcedure, "Twice", 22, S::Public, "Integer"},
+        {bas, CO::ProcedureArgument, "iValue", 22, S::ByValArgument, "Integer"},
+        {bas, CO::ProcedureArgument, "vExtra", 22, S::ByRefArgument, "Variant"},
+        {bas, CO::ProcedureArgument, "vRest", 23, S::ByRefArgument, "Variant()"},
+        {bas, CO::LocalConst, "LOCAL_MAX", 24, S::Local, "Integer"},
+        {bas, CO::LocalVariable, "strCaf\u00e9", 25, S::Local, "String"},
+        {bas, CO::LocalVariable, "aPoints", 25, S::Local, "udtPoint()"},
+        {bas, CO::LocalStaticVariable, "lCalls", 26, S::LocalStatic, "Long"},
+        {bas, CO::LineLabel, "Retry", 29, S::None, ""},
+        {bas, CO::LineLabel, "10", 30, S::None, ""},
+        {bas, CO::SubProcedure, "Tick", 32, S::Private, ""},
+        {bas, CO::LocalStaticVariable, "lTicks", 33, S::LocalStatic, "Long"},
+        {cls, CO::ClassFile, "cKinds", 1, S::None, ""},
+        {cls, CO::Implements, "IKinds", 8, S::None, ""},
+        {cls, CO::Event, "Changed", 9, S::Public, ""},
+        {cls, CO::EventArgument, "strWhat", 9, S::ByValArgument, "String"},
+        {cls, CO::PrivateWithEventsVariable, "m_frmOwner", 10, S::Private, "frmKinds"},
+        {cls, CO::PublicWithEventsVariable, "gTimer", 11, S::Public, "VB.Timer"},
+        {cls, CO::PropertyProcedure, "Count", 12, S::Friend, "Long"},
+        {cls, CO::PropertyProcedure, "Caption", 16, S::Public, ""},
+        {cls, CO::ProcedureArgument, "strValue", 16, S::ByValArgument, "String"},
+        {frm, CO::MDIChildFormFile, "frmKinds", 1, S::None, ""},
+        {frm, CO::Control, "cmdOK", 6, S::None, "VB.CommandButton"},
+        {frm, CO::Control, "Text1", 12, S::None, "VB.TextBox"},
+        {frm, CO::Control, "lvwItems", 18, S::None, "MSComctlLib.ListView"},
+        {frm, CO::Control, "mnuFile", 20, S::None, "VB.Menu"},
+        {frm, CO::Control, "mnuFileExit", 22, S::None, "VB.Menu"},
+        {frm, CO::SubProcedure, "cmdOK_Click", 31, S::Private, ""},
+        {"mdiMain.frm", CO::MDIFormFile, "mdiMain", 1, S::None, ""},
+        {"frmPlain.frm", CO::NonMDIFormFile, "frmPlain", 1, S::None, ""},
+        {"frmPlain.frm", CO::PrivateVariable, "mGr\u00f6\u00dfe", 7, S::Private, "Long"},
+        {"ucKinds.ctl", CO::UserControlFile, "ucKinds", 1, S::None, ""},
+        {"ucKinds.ctl", CO::Control, "lblValue", 3, S::None, "VB.Label"},
+        {"ppgKinds.pag", CO::PropertyPageFile, "ppgKinds", 1, S::None, ""},
+        {"udKinds.dob", CO::UserDocumentFile, "udKinds", 1, S::None, ""},
+        {"dsrKinds.dsr", CO::DesignerFile, "deKinds", 1, S::None, ""},
     };
     // Exactly these: a control array is one control, a designer's inner block is none.
     EXPECT_EQ(recorder.objects.size(), qsizetype(std::size(expected)));
@@ -296,10 +162,10 @@ TEST(DeclarationScanner, FindsEveryKindOfObjectAndEveryLineItsParserEvents)
         const DeclaredObject &object = found->second;
         EXPECT_EQ(object.line, row.line) << row.name;
         EXPECT_EQ(object.scope, row.scope) << row.name;
-        EXPECT_EQ(object.dataType, QString::fromUtf8(row.dataType)) << row.name;
-        EXPECT_EQ(object.isArray, row.isArray) << row.name;
-        EXPECT_EQ(object.isAsNew, row.isAsNew) << row.name;
-        EXPECT_EQ(object.progID, QString::fromUtf8(row.progID)) << row.name;
+        EXPECT_EQ((object.isAsNew ? u"New "_s : QString()) + object.dataType
+                      + (object.isArray ? u"()"_s : QString()) + object.progID,
+                  QString::fromUtf8(row.declared))
+            << row.name;
     }
 
     namespace P = ParserEvent;
@@ -337,10 +203,8 @@ TEST(DeclarationScanner, FindsEveryKindOfObjectAndEveryLineItsParserEvents)
         EXPECT_EQ(found & line.hasNot, 0u) << line.where;
     }
     // Keywords see code: literals emptied, comments cut; a comment line is no code at all.
-    EXPECT_EQ(recorder.texts.value(QStringLiteral("modKinds.bas:28")),
-              QStringLiteral("Debug.Print \"\""));
-    EXPECT_EQ(recorder.texts.value(QStringLiteral("modKinds.bas:6")),
-              QStringLiteral("Const PRIVATE_NAME = \"\""));
-    EXPECT_FALSE(recorder.texts.contains(QStringLiteral("modKinds.bas:3")));
-    EXPECT_FALSE(recorder.events.contains(QStringLiteral("cKinds.cls:13"))); // a member attribute
+    EXPECT_EQ(recorder.texts.value(u"modKinds.bas:28"_s), u"Debug.Print \"\""_s);
+    EXPECT_EQ(recorder.texts.value(u"modKinds.bas:6"_s), u"Const PRIVATE_NAME = \"\""_s);
+    EXPECT_FALSE(recorder.texts.contains(u"modKinds.bas:3"_s));
+    EXPECT_FALSE(recorder.events.contains(u"cKinds.cls:13"_s)); // a member attribute
 }

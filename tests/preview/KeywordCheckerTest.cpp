@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace P = ParserEvent;
 
 // The literals a pattern's every match holds, which decide the lines it is run on: a literal
@@ -34,7 +36,8 @@ TEST(KeywordChecker, FindsTheLiteralsEveryMatchOfAPatternHolds)
         {R"(\QGo\E)", {}},
     };
     for (const auto &row : rows)
-        EXPECT_EQ(LiteralFilter::requiredLiterals(QString::fromUtf8(row.pattern)), row.literals) << row.pattern;
+        EXPECT_EQ(LiteralFilter::requiredLiterals(QString::fromUtf8(row.pattern)), row.literals)
+            << row.pattern;
 }
 
 // Keywords are tried at their own events only, ignoring case, each once, whether or not
@@ -78,16 +81,15 @@ TEST(KeywordChecker, TriesEachPatternAtItsEventsAndSaysWhichCantBeTried)
     std::vector<KeywordChecker::Match> matches;
     checker.check(P::bit(P::ProcedureBody), u"x = GOTO", matches);
     ASSERT_EQ(matches.size(), 1u);
-    EXPECT_EQ(matches[0].text, QStringLiteral("GOTO"));
+    EXPECT_EQ(matches[0].text, u"GOTO"_s);
 
     std::vector<std::pair<qsizetype, QString>> problems;
     for (const auto &problem : checker.problems())
         problems.emplace_back(problem.keyword, problem.reason);
     ASSERT_EQ(problems.size(), 3u);
     EXPECT_EQ(problems[0].first, 4);
-    EXPECT_TRUE(problems[0].second.startsWith(QLatin1String("its pattern does not compile")));
-    EXPECT_EQ(
-        problems[1],
-        std::make_pair(qsizetype(5), QStringLiteral("its parser events have no source line")));
-    EXPECT_EQ(problems[2], std::make_pair(qsizetype(6), QStringLiteral("it has no pattern")));
+    EXPECT_TRUE(problems[0].second.startsWith("its pattern does not compile"_L1));
+    EXPECT_EQ(problems[1],
+              std::make_pair(qsizetype(5), u"its parser events have no source line"_s));
+    EXPECT_EQ(problems[2], std::make_pair(qsizetype(6), u"it has no pattern"_s));
 }

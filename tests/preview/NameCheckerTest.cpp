@@ -14,30 +14,17 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 namespace CO = CatalogueObject;
-using O = NameChecker::Outcome;
 using S = DeclaredScope;
 using Items = std::initializer_list<std::pair<qint32, const char *>>;
 
 // PSType
 constexpr qint32 Literal = 1, ControlTag = 2, DataTypeTag = 3, ScopeTag = 4, Workfield = 5,
                  ArrayTag = 6;
-
-struct Row
-{
-    const char *what;
-    qint32 conventionType;
-    Items prefix;
-    Items suffix;
-    DeclaredObject object;
-    O outcome;
-    const char *message = "";
-    bool unknownControl = false;
-    // Applied to the convention before the check.
-    std::function<void(NamingConvention &)> adjust = {};
-};
 
 std::shared_ptr<const QHash<QString, QString>> properties(QHash<QString, QString> values)
 {
@@ -55,10 +42,8 @@ TEST(NameChecker, AppliesEveryPartOfAConventionAndNeverGuessesWhatOnlyItsConditi
         = {{"String", "str"}, {"Long", "lng"}, {"(Classes)", "o"}, {"(Controls)", "ctl"}};
     for (const auto &[name, value] : dataTypeTags)
         rulebase.DataTypeTags()->Item(QLatin1String(name))->setTagValue(QLatin1String(value));
-    rulebase.ScopeTags()
-        ->Item(QStringLiteral("Private (Module level)"))
-        ->setTagValue(QStringLiteral("m"));
-    rulebase.setArrayTag(QStringLiteral("a"));
+    rulebase.ScopeTags()->Item(u"Private (Module level)"_s)->setTagValue(u"m"_s);
+    rulebase.setArrayTag(u"a"_s);
 
     const auto variable
         = [](const char *name, const char *type, S scope = S::Local, bool array = false) {
@@ -83,242 +68,144 @@ TEST(NameChecker, AppliesEveryPartOfAConventionAndNeverGuessesWhatOnlyItsConditi
         };
     };
 
-    const Row rows[] = {
-        {"literal", CO::Variable, {{Literal, "m_"}}, {}, variable("m_count", "Long"), O::Pass},
-        {"literal missing",
-         CO::Variable,
-         {{Literal, "m_"}},
-         {},
-         variable("count", "Long"),
-         O::Violation,
-         "expected prefix 'm_'"},
-        {"pattern", CO::Variable, {{Literal, "g[A-Z]"}}, {}, variable("gCount", "Long"), O::Pass},
-        {"pattern missing",
-         CO::Variable,
-         {{Literal, "g[A-Z]"}},
-         {},
-         variable("gcount", "Long"),
-         O::Violation,
-         "expected prefix matching 'g[A-Z]'"},
-        {"data type tag",
-         CO::Variable,
-         {{DataTypeTag, ""}},
-         {},
-         variable("sName", "String"),
-         O::Violation,
-         "expected prefix 'str' for a String"},
-        {"data type tag of a class of the project",
-         CO::Variable,
-         {{DataTypeTag, ""}},
-         {},
-         variable("invoice", "Core.cInvoice"),
-         O::Violation,
-         "expected prefix 'o' for a Core.cInvoice (Classes)"},
-        {"a control class without control tags as data type tags",
-         CO::Variable,
-         {{DataTypeTag, ""}},
-         {},
-         variable("ctlName", "TextBox"),
-         O::Pass},
-        {"an unknown data type has no tag",
-         CO::Variable,
-         {{DataTypeTag, ""}, {Literal, "x"}},
-         {},
-         variable("xThing", "ADODB.Recordset"),
-         O::Pass},
-        {"scope, then data type",
-         CO::Variable,
-         {{ScopeTag, ""}, {DataTypeTag, ""}},
-         {},
-         variable("strmName", "String", S::Private),
-         O::Violation,
-         "expected prefix 'mstr' for scope Private (Module level), a String"},
-        {"array tag on an array",
-         CO::Variable,
-         {{ArrayTag, ""}, {DataTypeTag, ""}},
-         {},
-         variable("alngItems", "Long", S::Local, true),
-         O::Pass},
-        {"array tag on no array",
-         CO::Variable,
-         {{ArrayTag, ""}, {DataTypeTag, ""}},
-         {},
-         variable("alngItem", "Long"),
-         O::Violation,
-         "expected prefix 'lng' for a Long"},
-        {"control tag",
-         CO::Control,
-         {{ControlTag, ""}},
-         {},
-         control("Name1", "VB.TextBox"),
-         O::Violation,
-         "expected prefix 'txt' for a VB.TextBox"},
-        {"unknown ProgID",
-         CO::Control,
-         {{ControlTag, ""}},
-         {},
-         control("ctlGizmo", "Acme.Gizmo"),
-         O::Pass,
-         "",
-         true},
-        {"workfield",
-         CO::Variable,
-         {{Workfield, "Prefix"}},
-         {},
-         variable("x", "Long"),
-         O::NotPreviewed,
-         "not previewed (needs its condition)"},
-        {"condition",
-         CO::Variable,
-         {{Literal, "m"}},
-         {},
-         variable("x", "Long"),
-         O::NotPreviewed,
-         "not previewed (needs its condition)",
-         false,
-         [](NamingConvention &c) { c.setCondition(QStringLiteral("Sub Main\nEnd Sub")); }},
-        {"suffix: ends with, preceded by",
-         CO::Variable,
-         {},
-         {{Literal, "Col"}, {Literal, "s"}},
-         variable("itemsCol", "Collection"),
-         O::Pass},
-        {"suffix missing",
-         CO::Variable,
-         {},
-         {{Literal, "Col"}, {Literal, "s"}},
-         variable("itemCol", "Collection"),
-         O::Violation,
-         "expected suffix 'sCol'"},
-        {"body pattern ignoring case",
-         CO::Variable,
-         {{Literal, "M_"}},
-         {},
-         variable("m_count", "Long"),
-         O::Pass,
-         "",
-         false,
-         body("^[A-Z]", 0, 0, false)},
-        {"body pattern respecting case",
-         CO::Variable,
-         {{Literal, "m_"}},
-         {},
-         variable("m_count", "Long"),
-         O::Violation,
-         "body 'count' does not match the pattern '^[A-Z]'",
-         false,
-         body("^[A-Z]")},
-        {"body too short",
-         CO::Variable,
-         {{Literal, "m_"}},
-         {},
-         variable("m_Ab", "Long"),
-         O::Violation,
-         "body 'Ab' is shorter than 3 characters",
-         false,
-         body("", 3, 5)},
-        {"body too long",
-         CO::Variable,
-         {{Literal, "m_"}},
-         {},
-         variable("m_Abcdef", "Long"),
-         O::Violation,
-         "body 'Abcdef' is longer than 5 characters",
-         false,
-         body("", 3, 5)},
-        {"excluded",
-         CO::Variable,
-         {{Literal, "m_"}},
-         {},
-         variable("I", "Long"),
-         O::Excluded,
-         "",
-         false,
-         [](NamingConvention &c) { c.setExclusionList(QStringLiteral("hWnd; i")); }},
-        {"a file's Filename property",
-         CO::File,
-         {{Literal, "frm"}},
-         {},
-         DeclaredObject{.objectType = CO::NonMDIFormFile,
-                        .name = QStringLiteral("frmMain"),
-                        .properties
-                        = properties({{QStringLiteral("filename"), QStringLiteral("Main.frm")}})},
-         O::Violation,
-         "expected prefix 'frm'",
-         false,
-         [](NamingConvention &c) {
-             c.setPropertyType(16);
-             c.setPropertyName(QStringLiteral("Filename"));
-         }},
-        {"a project property it doesn't have",
-         CO::Project,
-         {{Literal, "KV"}},
-         {},
-         DeclaredObject{.objectType = CO::Project,
-                        .name = QStringLiteral("Kinds"),
-                        .properties = properties({})},
-         O::NoValue,
-         "",
-         false,
-         [](NamingConvention &c) {
-             c.setPropertyType(13);
-             c.setPropertyName(QStringLiteral("Description"));
-         }},
-        {"a property the preview doesn't read",
-         CO::Variable,
-         {{Literal, "x"}},
-         {},
-         variable("x", "Long"),
-         O::NotPreviewed,
-         "not previewed (the preview does not read the property 'DataType')",
-         false,
-         [](NamingConvention &c) {
-             c.setPropertyType(9);
-             c.setPropertyName(QStringLiteral("DataType"));
-         }},
-        {"a constant typed by an expression",
-         CO::Const,
-         {{DataTypeTag, ""}},
-         {},
-         DeclaredObject{.objectType = CO::PrivateConst,
-                        .name = QStringLiteral("lngX"),
-                        .dataTypeUnknown = true},
-         O::NotPreviewed,
-         "not previewed (the constant's data type depends on its expression)"},
-        {"a pattern that does not compile",
-         CO::Variable,
-         {{Literal, "m("}},
-         {},
-         variable("m_x", "Long"),
-         O::NotPreviewed,
-         "not previewed (the prefix pattern does not compile: "},
-    };
-
     PatternCache patterns;
     TagLookup tags(rulebase);
-    tags.learn(DeclaredObject{.objectType = CO::ClassFile, .name = QStringLiteral("cInvoice")});
-    for (const Row &row : rows) {
-        auto convention = namingConvention(row.conventionType, row.prefix, row.suffix);
-        if (row.adjust)
-            row.adjust(*convention);
-        const NameChecker checker(convention, patterns);
-        const NameChecker::Result result = checker.check(row.object, tags);
-        EXPECT_EQ(result.outcome, row.outcome) << row.what << ": " << result.message.toStdString();
-        // A message names the fault; a compiler's words after it may vary.
-        if (QByteArray(row.message).isEmpty())
-            EXPECT_TRUE(result.message.isEmpty())
-                << row.what << ": " << result.message.toStdString();
-        else
-            EXPECT_TRUE(result.message.startsWith(QString::fromUtf8(row.message)))
-                << row.what << ": " << result.message.toStdString();
-        EXPECT_EQ(result.unknownControl, row.unknownControl) << row.what;
-    }
+    tags.learn(DeclaredObject{.objectType = CO::ClassFile, .name = u"cInvoice"_s});
+    // The outcome and its message; a compiler's words after the message may vary, so they go.
+    const auto check = [&](qint32 type,
+                           Items prefix,
+                           Items suffix,
+                           const DeclaredObject &object,
+                           const std::function<void(NamingConvention &)> &adjust = {}) {
+        auto convention = namingConvention(type, prefix, suffix);
+        if (adjust)
+            adjust(*convention);
+        const NameChecker::Result result = NameChecker(convention, patterns).check(object, tags);
+        const char *const outcomes[] = {"Pass", "Excluded", "NoValue", "Violation", "NotPreviewed"};
+        const QString message = result.message.section(u": "_s, 0, 0);
+        return (QLatin1String(outcomes[int(result.outcome)]) + u' ' + message).trimmed()
+               + (result.unknownControl ? u" [unknown control]"_s : QString());
+    };
+    EXPECT_EQ(check(CO::Variable, {{Literal, "m_"}}, {}, variable("m_count", "Long")), u"Pass"_s);
+    EXPECT_EQ(check(CO::Variable, {{Literal, "m_"}}, {}, variable("count", "Long")),
+              u"Violation expected prefix 'm_'"_s);
+    EXPECT_EQ(check(CO::Variable, {{Literal, "g[A-Z]"}}, {}, variable("gCount", "Long")),
+              u"Pass"_s);
+    EXPECT_EQ(check(CO::Variable, {{Literal, "g[A-Z]"}}, {}, variable("gcount", "Long")),
+              u"Violation expected prefix matching 'g[A-Z]'"_s);
+    EXPECT_EQ(check(CO::Variable, {{DataTypeTag, ""}}, {}, variable("sName", "String")),
+              u"Violation expected prefix 'str' for a String"_s);
+    EXPECT_EQ(check(CO::Variable, {{DataTypeTag, ""}}, {}, variable("invoice", "Core.cInvoice")),
+              u"Violation expected prefix 'o' for a Core.cInvoice (Classes)"_s);
+    EXPECT_EQ(check(CO::Variable, {{DataTypeTag, ""}}, {}, variable("ctlName", "TextBox")),
+              u"Pass"_s);
+    EXPECT_EQ(check(CO::Variable,
+                    {{DataTypeTag, ""}, {Literal, "x"}},
+                    {},
+                    variable("xThing", "ADODB.Recordset")),
+              u"Pass"_s);
+    EXPECT_EQ(check(CO::Variable,
+                    {{ScopeTag, ""}, {DataTypeTag, ""}},
+                    {},
+                    variable("strmName", "String", S::Private)),
+              u"Violation expected prefix 'mstr' for scope Private (Module level), a String"_s);
+    EXPECT_EQ(check(CO::Variable,
+                    {{ArrayTag, ""}, {DataTypeTag, ""}},
+                    {},
+                    variable("alngItems", "Long", S::Local, true)),
+              u"Pass"_s);
+    EXPECT_EQ(
+        check(CO::Variable, {{ArrayTag, ""}, {DataTypeTag, ""}}, {}, variable("alngItem", "Long")),
+        u"Violation expected prefix 'lng' for a Long"_s);
+    EXPECT_EQ(check(CO::Control, {{ControlTag, ""}}, {}, control("Name1", "VB.TextBox")),
+              u"Violation expected prefix 'txt' for a VB.TextBox"_s);
+    EXPECT_EQ(check(CO::Control, {{ControlTag, ""}}, {}, control("ctlGizmo", "Acme.Gizmo")),
+              u"Pass [unknown control]"_s);
+    EXPECT_EQ(check(CO::Variable, {{Workfield, "Prefix"}}, {}, variable("x", "Long")),
+              u"NotPreviewed not previewed (needs its condition)"_s);
+    EXPECT_EQ(check(CO::Variable,
+                    {{Literal, "m"}},
+                    {},
+                    variable("x", "Long"),
+                    [](NamingConvention &c) { c.setCondition(u"Sub Main\nEnd Sub"_s); }),
+              u"NotPreviewed not previewed (needs its condition)"_s);
+    EXPECT_EQ(check(CO::Variable,
+                    {},
+                    {{Literal, "Col"}, {Literal, "s"}},
+                    variable("itemsCol", "Collection")),
+              u"Pass"_s);
+    EXPECT_EQ(check(CO::Variable,
+                    {},
+                    {{Literal, "Col"}, {Literal, "s"}},
+                    variable("itemCol", "Collection")),
+              u"Violation expected suffix 'sCol'"_s);
+    EXPECT_EQ(check(CO::Variable,
+                    {{Literal, "M_"}},
+                    {},
+                    variable("m_count", "Long"),
+                    body("^[A-Z]", 0, 0, false)),
+              u"Pass"_s);
+    EXPECT_EQ(
+        check(CO::Variable, {{Literal, "m_"}}, {}, variable("m_count", "Long"), body("^[A-Z]")),
+        u"Violation body 'count' does not match the pattern '^[A-Z]'"_s);
+    EXPECT_EQ(check(CO::Variable, {{Literal, "m_"}}, {}, variable("m_Ab", "Long"), body("", 3, 5)),
+              u"Violation body 'Ab' is shorter than 3 characters"_s);
+    EXPECT_EQ(
+        check(CO::Variable, {{Literal, "m_"}}, {}, variable("m_Abcdef", "Long"), body("", 3, 5)),
+        u"Violation body 'Abcdef' is longer than 5 characters"_s);
+    EXPECT_EQ(check(CO::Variable,
+                    {{Literal, "m_"}},
+                    {},
+                    variable("I", "Long"),
+                    [](NamingConvention &c) { c.setExclusionList(u"hWnd; i"_s); }),
+              u"Excluded"_s);
+    EXPECT_EQ(check(CO::File,
+                    {{Literal, "frm"}},
+                    {},
+                    DeclaredObject{.objectType = CO::NonMDIFormFile,
+                                   .name = u"frmMain"_s,
+                                   .properties = properties({{u"filename"_s, u"Main.frm"_s}})},
+                    [](NamingConvention &c) {
+                        c.setPropertyType(16);
+                        c.setPropertyName(u"Filename"_s);
+                    }),
+              u"Violation expected prefix 'frm'"_s);
+    EXPECT_EQ(check(CO::Project,
+                    {{Literal, "KV"}},
+                    {},
+                    DeclaredObject{.objectType = CO::Project,
+                                   .name = u"Kinds"_s,
+                                   .properties = properties({})},
+                    [](NamingConvention &c) {
+                        c.setPropertyType(13);
+                        c.setPropertyName(u"Description"_s);
+                    }),
+              u"NoValue"_s);
+    EXPECT_EQ(check(CO::Variable,
+                    {{Literal, "x"}},
+                    {},
+                    variable("x", "Long"),
+                    [](NamingConvention &c) {
+                        c.setPropertyType(9);
+                        c.setPropertyName(u"DataType"_s);
+                    }),
+              u"NotPreviewed not previewed (the preview does not read the property 'DataType')"_s);
+    EXPECT_EQ(check(CO::Const,
+                    {{DataTypeTag, ""}},
+                    {},
+                    DeclaredObject{.objectType = CO::PrivateConst,
+                                   .name = u"lngX"_s,
+                                   .dataTypeUnknown = true}),
+              u"NotPreviewed not previewed (the constant's data type depends on its expression)"_s);
+    EXPECT_EQ(check(CO::Variable, {{Literal, "m("}}, {}, variable("m_x", "Long")),
+              u"NotPreviewed not previewed (the prefix pattern does not compile"_s);
 
     // With control tags as data type tags, a variable of a control class takes the control's.
     rulebase.setUseCTagsAsDTTags(true);
     const TagLookup controlTags(rulebase);
     const NameChecker checker(namingConvention(CO::Variable, {{DataTypeTag, ""}}), patterns);
-    EXPECT_EQ(checker.check(variable("txtName", "TextBox"), controlTags).outcome, O::Pass);
+    EXPECT_EQ(checker.check(variable("txtName", "TextBox"), controlTags).outcome,
+              NameChecker::Outcome::Pass);
     EXPECT_EQ(checker.check(variable("ctlName", "TextBox"), controlTags).message,
-              QStringLiteral("expected prefix 'txt' for a TextBox"));
+              u"expected prefix 'txt' for a TextBox"_s);
 }

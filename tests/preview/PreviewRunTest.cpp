@@ -18,6 +18,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 inline void PrintTo(const QString &text, std::ostream *os)
 {
     *os << '"' << text.toStdString() << '"';
@@ -34,24 +36,19 @@ std::shared_ptr<Rulebase> kindsRulebase()
     const auto lists = rulebase->RuleLists();
     auto privates = namingConvention(CO::PrivateVariable, {{1, "m"}});
     privates->setBodyActive(true);
-    privates->setBodyPattern(QStringLiteral("^[A-Z][a-z\u00e4\u00f6\u00fc\u00df]+$"));
+    privates->setBodyPattern(u"^[A-Z][a-z\u00e4\u00f6\u00fc\u00df]+$"_s);
     lists->AddConvention(privates, true); // 5000
     lists->AddConvention(unauthorisedKeyword(R"(\bGoTo\b)", {ParserEvent::ProcedureBody}),
                          true); // 5001
     auto conditional = namingConvention(CO::Control, {{1, "x"}});
-    conditional->setCondition(QStringLiteral("Sub Main\nEnd Sub"));
+    conditional->setCondition(u"Sub Main\nEnd Sub"_s);
     lists->AddConvention(conditional, true);                              // 5002
     lists->AddConvention(namingConvention(CO::Control, {{2, ""}}), true); // 5003
     rulebase->setUnknownControlViolation(true);
-    rulebase->AuthorisedComponents()->Add(QStringLiteral("{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}"),
-                                          QStringLiteral("MSCOMCTL.OCX"),
-                                          QStringLiteral("1.0"),
-                                          {});
-    rulebase->AuthorisedReferences()->Add(QStringLiteral("{00020430-0000-0000-C000-000000000046}"),
-                                          QStringLiteral("OLE Automation"),
-                                          QString(),
-                                          QString(),
-                                          {});
+    rulebase->AuthorisedComponents()->Add(
+        u"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}"_s, u"MSCOMCTL.OCX"_s, u"1.0"_s, {});
+    rulebase->AuthorisedReferences()->Add(
+        u"{00020430-0000-0000-C000-000000000046}"_s, u"OLE Automation"_s, QString(), QString(), {});
     rulebase->setTolerancePercentageComments(50);
     return rulebase;
 }
@@ -60,8 +57,7 @@ QStringList describe(const PreviewResult &result)
 {
     QStringList lines;
     for (const PreviewFinding &f : result.findings)
-        lines << QStringLiteral("%1 %2:%3 '%4' %5")
-                     .arg(f.ruleId, QFileInfo(f.file).fileName())
+        lines << u"%1 %2:%3 '%4' %5"_s.arg(f.ruleId, QFileInfo(f.file).fileName())
                      .arg(f.line)
                      .arg(f.name, f.message);
     return lines;
@@ -74,7 +70,7 @@ QStringList describe(const PreviewResult &result)
 TEST(PreviewRun, ReportsWhatTheRulebaseWouldOnAProjectAndNamesWhatCouldNotBeRead)
 {
     PreviewRun run(kindsRulebase());
-    const PreviewResult result = run.run({kindsDir() + QStringLiteral("/Kinds.vbg")});
+    const PreviewResult result = run.run({kindsDir() + u"/Kinds.vbg"_s});
     const QStringList expected = {
         "5002 Kinds.vbp:0 '' not previewed (needs its condition): 6 names in scope",
         "TolerancePercentageComments Kinds.vbp:0 'Kinds' comment lines are 1% of the code and "
@@ -99,7 +95,7 @@ TEST(PreviewRun, ReportsWhatTheRulebaseWouldOnAProjectAndNamesWhatCouldNotBeRead
     };
     EXPECT_EQ(describe(result), expected) << describe(result).join(QLatin1Char('\n')).toStdString();
     ASSERT_EQ(result.projects.size(), 2u);
-    EXPECT_EQ(result.projects[0].name, QStringLiteral("Kinds"));
+    EXPECT_EQ(result.projects[0].name, u"Kinds"_s);
     EXPECT_EQ(result.projects[0].files, 9);
     EXPECT_EQ(result.projects[0].unreadFiles, 1);
     EXPECT_FALSE(result.projects[1].read);
@@ -109,24 +105,18 @@ TEST(PreviewRun, ReportsWhatTheRulebaseWouldOnAProjectAndNamesWhatCouldNotBeRead
 
     // A filter keeps the rules named (and unread files, which are no rule's).
     PreviewRun filtered(kindsRulebase());
-    EXPECT_EQ(filtered.setRuleFilter({QStringLiteral("5001Key"),
-                                      QStringLiteral("unauthorisedcomponent"),
-                                      QStringLiteral("9999"),
-                                      QStringLiteral("Nonsense")}),
-              QStringList({QStringLiteral("9999"), QStringLiteral("Nonsense")}));
+    EXPECT_EQ(filtered.setRuleFilter(
+                  {u"5001Key"_s, u"unauthorisedcomponent"_s, u"9999"_s, u"Nonsense"_s}),
+              QStringList({u"9999"_s, u"Nonsense"_s}));
     QStringList rules;
-    for (const PreviewFinding &finding :
-         filtered.run({kindsDir() + QStringLiteral("/Kinds.vbp")}).findings)
+    for (const PreviewFinding &finding : filtered.run({kindsDir() + u"/Kinds.vbp"_s}).findings)
         rules << finding.ruleId;
-    EXPECT_EQ(rules,
-              QStringList({QStringLiteral("UnauthorisedComponent"),
-                           QStringLiteral("5001"),
-                           QStringLiteral("UnreadFile")}));
+    EXPECT_EQ(rules, QStringList({u"UnauthorisedComponent"_s, u"5001"_s, u"UnreadFile"_s}));
 
     // Arguments that are no project: a finding each, named by their path.
     PreviewRun bad(kindsRulebase());
-    const PreviewResult none = bad.run({kindsDir() + QStringLiteral("/modKinds.bas"),
-                                        kindsDir() + QStringLiteral("/Nothing.vbp")});
+    const PreviewResult none
+        = bad.run({kindsDir() + u"/modKinds.bas"_s, kindsDir() + u"/Nothing.vbp"_s});
     EXPECT_EQ(
         describe(none),
         QStringList({"UnreadFile modKinds.bas:0 'modKinds.bas' Neither a project (.vbp) nor a "
@@ -139,11 +129,11 @@ TEST(PreviewRun, ReportsWhatTheRulebaseWouldOnAProjectAndNamesWhatCouldNotBeRead
                                        true);
     auto body = namingConvention(CO::PrivateVariable, {});
     body->setBodyActive(true);
-    body->setBodyPattern(QStringLiteral("[A-"));
+    body->setBodyPattern(u"[A-"_s);
     faulty->RuleLists()->AddConvention(body, true);
     QStringList messages;
     for (const PreviewFinding &finding :
-         PreviewRun(faulty).run({kindsDir() + QStringLiteral("/Kinds.vbp")}).findings) {
+         PreviewRun(faulty).run({kindsDir() + u"/Kinds.vbp"_s}).findings) {
         if (finding.ruleType != 0)
             messages << finding.ruleId + QLatin1Char(' ')
                             + finding.message.section(QLatin1Char(':'), 0, 0);
@@ -165,40 +155,10 @@ TEST(PreviewRun, StopsWhenCancelledFromItsProgress)
         if (done == 2)
             run.cancel();
     });
-    const PreviewResult result = run.run({kindsDir() + QStringLiteral("/Kinds.vbp")});
+    const PreviewResult result = run.run({kindsDir() + u"/Kinds.vbp"_s});
     EXPECT_TRUE(result.cancelled);
     EXPECT_EQ(seen, QStringList({"modKinds.bas", "cKinds.cls", "frmKinds.frm"}));
     EXPECT_EQ(result.projects[0].files, 2);
     for (const PreviewFinding &finding : result.findings)
-        EXPECT_FALSE(finding.ruleId.startsWith(QLatin1String("Tolerance")))
-            << finding.message.toStdString();
-}
-
-// On the shared projects (mixed line ends and code pages, a missing file, a project without
-// files) the preview counts lines exactly as the line statistics do.
-TEST(PreviewRun, CountsTheSharedProjectsAsTheLineStatisticsDo)
-{
-    const QString dir = TestEnvironment::sharedDataDir() + QStringLiteral("/vb6");
-    if (!QFileInfo::exists(dir + QStringLiteral("/Suite/Suite.vbg")))
-        GTEST_SKIP() << "no shared VB6 test data";
-    const QStringList arguments = {dir + QStringLiteral("/Suite/Suite.vbg"),
-                                   dir + QStringLiteral("/Tools/Report Builder/Report Builder.vbp"),
-                                   dir + QStringLiteral("/Tools/Empty.vbp")};
-    PreviewRun run(kindsRulebase());
-    const PreviewResult result = run.run(arguments);
-    ASSERT_EQ(result.projects.size(), 5u);
-    for (const PreviewProject &project : result.projects) {
-        const ProjectLineCounter::Project counted = ProjectLineCounter::count(project.path);
-        EXPECT_EQ(project.files, counted.filesRead) << project.name.toStdString();
-        EXPECT_EQ(project.codeLines, counted.lines.code) << project.name.toStdString();
-        EXPECT_EQ(project.commentLines, counted.lines.comment) << project.name.toStdString();
-        EXPECT_EQ(project.blankLines, counted.lines.blank) << project.name.toStdString();
-        EXPECT_EQ(project.totalLines, counted.lines.total) << project.name.toStdString();
-    }
-    QStringList unread;
-    for (const PreviewFinding &finding : result.findings) {
-        if (finding.kind == PreviewFinding::Kind::Unread)
-            unread << QFileInfo(finding.file).fileName();
-    }
-    EXPECT_EQ(unread, QStringList({QStringLiteral("modGone.bas")}));
+        EXPECT_FALSE(finding.ruleId.startsWith("Tolerance"_L1)) << finding.message.toStdString();
 }

@@ -7,9 +7,11 @@
 
 #include "support/TestEnvironment.h"
 
+using namespace Qt::StringLiterals;
+
 QString kindsDir()
 {
-    return TestEnvironment::sourceDir() + QStringLiteral("/tests/preview/data/Kinds");
+    return TestEnvironment::sourceDir() + u"/tests/preview/data/Kinds"_s;
 }
 
 std::shared_ptr<NamingConvention>
@@ -19,7 +21,7 @@ namingConvention(qint32 objectType,
 {
     auto convention = std::make_shared<NamingConvention>();
     convention->setObjectType(objectType);
-    convention->setTitle(QStringLiteral("Convention"));
+    convention->setTitle(u"Convention"_s);
     auto fill = [](ObjectArrayList<PrefixSuffixItem> &items,
                    std::initializer_list<std::pair<qint32, const char *>> values) {
         qint32 index = 1;

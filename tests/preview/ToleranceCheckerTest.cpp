@@ -7,6 +7,8 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 // Violation counts and impact by severity and in total, and the share of comment lines, held
 // against the limits that are set; what is not previewed counts for nothing.
 TEST(ToleranceChecker, ReportsTheLimitsAProjectExceedsAndOnlyThose)
@@ -26,7 +28,7 @@ TEST(ToleranceChecker, ReportsTheLimitsAProjectExceedsAndOnlyThose)
            violation(4, 0),
            violation(2, 900, PreviewFinding::Kind::NotPreviewed)};
     PreviewProject project;
-    project.name = QStringLiteral("Kinds");
+    project.name = u"Kinds"_s;
     project.codeLines = 90;
     project.commentLines = 10;
 

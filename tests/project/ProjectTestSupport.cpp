@@ -8,10 +8,12 @@
 #include <QFile>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 void ProjectTest::SetUp()
 {
     m_dir = TestEnvironment::makeTempDir();
-    m_logPath = TestEnvironment::makeTempDir() + QStringLiteral("/Error.log");
+    m_logPath = TestEnvironment::makeTempDir() + u"/Error.log"_s;
     m_previousLog = gobjLogFile;
     auto log = std::make_shared<LogFile>();
     log->setLogFileName(m_logPath);
@@ -26,12 +28,7 @@ void ProjectTest::TearDown()
 
 QString ProjectTest::writeFile(const QString &name, const QByteArray &bytes) const
 {
-    const QString filename = path(name);
-    QDir().mkpath(QFileInfo(filename).absolutePath());
-    QFile file(filename);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(bytes);
-    return filename;
+    return TestEnvironment::writeFile(path(name), bytes);
 }
 
 QStringList ProjectTest::logRecords() const
@@ -44,7 +41,7 @@ QStringList ProjectTest::logRecords() const
 
 QString vb6DataDir()
 {
-    const QString dir = TestEnvironment::sharedDataDir() + QStringLiteral("/vb6");
+    const QString dir = TestEnvironment::sharedDataDir() + u"/vb6"_s;
     return QFileInfo(dir).isDir() ? dir : QString();
 }
 

@@ -7,6 +7,8 @@
 
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint32 Max = std::numeric_limits<qint32>::max();
@@ -23,21 +25,21 @@ TEST_F(ReviewRecords, ObjectPartsAreMadeOnceAndMemberCountsRiseOrAreReplaced)
     EXPECT_EQ(object.LineStats(), object.LineStats());
     EXPECT_EQ(object.ViolationStats(), object.ViolationStats());
 
-    object.IncrementMemberCount(QStringLiteral("X"), 0);
-    object.IncrementMemberCount(QStringLiteral("x"), 0);
-    EXPECT_EQ(object.Properties()->Item(QStringLiteral("X")).toInt(), 2);
-    object.IncrementMemberCount(QStringLiteral("X"), 7);
-    EXPECT_EQ(object.Properties()->Item(QStringLiteral("X")).toInt(), 7);
+    object.IncrementMemberCount(u"X"_s, 0);
+    object.IncrementMemberCount(u"x"_s, 0);
+    EXPECT_EQ(object.Properties()->Item(u"X"_s).toInt(), 2);
+    object.IncrementMemberCount(u"X"_s, 7);
+    EXPECT_EQ(object.Properties()->Item(u"X"_s).toInt(), 7);
     // A value read from a file counts on from its leading number.
-    object.Properties()->Add(QStringLiteral("Text"), QStringLiteral("41 forms"), false);
-    object.IncrementMemberCount(QStringLiteral("Text"), 0);
-    EXPECT_EQ(object.Properties()->Item(QStringLiteral("Text")).toInt(), 42);
+    object.Properties()->Add(u"Text"_s, u"41 forms"_s, false);
+    object.IncrementMemberCount(u"Text"_s, 0);
+    EXPECT_EQ(object.Properties()->Item(u"Text"_s).toInt(), 42);
     // Past the 32-bit range the count keeps its value, and the failure is logged.
-    object.IncrementMemberCount(QStringLiteral("Full"), Max);
-    object.IncrementMemberCount(QStringLiteral("Full"), 0);
-    EXPECT_EQ(object.Properties()->Item(QStringLiteral("Full")).toInt(), Max);
+    object.IncrementMemberCount(u"Full"_s, Max);
+    object.IncrementMemberCount(u"Full"_s, 0);
+    EXPECT_EQ(object.Properties()->Item(u"Full"_s).toInt(), Max);
     ASSERT_EQ(logRecords().size(), 1);
-    EXPECT_TRUE(logRecords().first().contains(QStringLiteral("6 - Overflow#VirtualObject::")));
+    EXPECT_TRUE(logRecords().first().contains(u"6 - Overflow#VirtualObject::"_s));
 }
 
 TEST_F(ReviewRecords, LineCountersFollowTheLineType)
@@ -59,7 +61,7 @@ TEST_F(ReviewRecords, LineCountersFollowTheLineType)
         EXPECT_EQ(value, count) << name;
     }
     qint32 untouched = 99;
-    EXPECT_FALSE(stats.SourceLineStatByName(QStringLiteral("Nonsense"), untouched));
+    EXPECT_FALSE(stats.SourceLineStatByName(u"Nonsense"_s, untouched));
     EXPECT_EQ(untouched, 99);
 
     stats.setBlankLines(Max);

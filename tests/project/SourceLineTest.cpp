@@ -5,6 +5,8 @@
 
 #include <random>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class SourceLineAnalysis : public ProjectTest
@@ -41,7 +43,7 @@ TEST_F(SourceLineAnalysis, ClassifiesLinesByTheTextRules)
     for (const auto &[line, type] : cases)
         EXPECT_EQ(modSource::SourceLineType(QString::fromLatin1(line)), type) << "line: " << line;
     // Only the order of the tests tells a comment-only line from one with an in-line comment.
-    EXPECT_TRUE(modSource::HasInLineComment(QStringLiteral("' only")));
+    EXPECT_TRUE(modSource::HasInLineComment(u"' only"_s));
     EXPECT_FALSE(modSource::IsCommentOnlyLine(QString()));
 }
 
@@ -83,30 +85,27 @@ TEST_F(SourceLineAnalysis, BytesClassifyAsTheirDecodedText)
 
 TEST_F(SourceLineAnalysis, QuotedTextIsEmptiedAndEndQuotesRemoved)
 {
-    EXPECT_EQ(modSource::StripQuotedText(QStringLiteral("x = \"it's\" ' note")),
-              QStringLiteral("x = \"\" ' note"));
-    EXPECT_EQ(modSource::StripQuotedText(QStringLiteral("a(\"x\", \"yz\")")),
-              QStringLiteral("a(\"\", \"\")"));
-    EXPECT_EQ(modSource::StripQuotedText(QStringLiteral("\"\"\"b\"")), QStringLiteral("\"\"\"\""));
-    EXPECT_EQ(modSource::StripQuotedText(QStringLiteral("x = \"open")),
-              QStringLiteral("x = \"open"));
+    EXPECT_EQ(modSource::StripQuotedText(u"x = \"it's\" ' note"_s), u"x = \"\" ' note"_s);
+    EXPECT_EQ(modSource::StripQuotedText(u"a(\"x\", \"yz\")"_s), u"a(\"\", \"\")"_s);
+    EXPECT_EQ(modSource::StripQuotedText(u"\"\"\"b\""_s), u"\"\"\"\""_s);
+    EXPECT_EQ(modSource::StripQuotedText(u"x = \"open"_s), u"x = \"open"_s);
 
-    EXPECT_EQ(modSource::RemoveQuotes(QStringLiteral("\"")), QString());
-    EXPECT_EQ(modSource::RemoveQuotes(QStringLiteral("\"abc")), QStringLiteral("abc"));
-    EXPECT_EQ(modSource::RemoveQuotes(QStringLiteral("abc\"")), QStringLiteral("abc"));
-    EXPECT_EQ(modSource::RemoveQuotes(QStringLiteral("\"\"\"")), QStringLiteral("\""));
+    EXPECT_EQ(modSource::RemoveQuotes(u"\""_s), QString());
+    EXPECT_EQ(modSource::RemoveQuotes(u"\"abc"_s), u"abc"_s);
+    EXPECT_EQ(modSource::RemoveQuotes(u"abc\""_s), u"abc"_s);
+    EXPECT_EQ(modSource::RemoveQuotes(u"\"\"\""_s), u"\""_s);
 }
 
 TEST_F(SourceLineAnalysis, QuoteBeyondSixteenBitPositionIsLoggedOverflow)
 {
-    const QString line = QString(40000, QLatin1Char('x')) + QStringLiteral("\"a'b\"");
+    const QString line = QString(40000, QLatin1Char('x')) + u"\"a'b\""_s;
     EXPECT_EQ(modSource::StripQuotedText(line), QString());
     EXPECT_FALSE(modSource::HasInLineComment(line));
     const QStringList records = logRecords();
     ASSERT_FALSE(records.isEmpty());
-    EXPECT_TRUE(records.first().contains(QStringLiteral("6 - Overflow#C_Source::StripQuotedText")));
+    EXPECT_TRUE(records.first().contains(u"6 - Overflow#C_Source::StripQuotedText"_s));
     // Quotes early in a long line are fine.
-    const QString early = QStringLiteral("x = \"a'b\"") + QString(40000, QLatin1Char('y'));
+    const QString early = u"x = \"a'b\""_s + QString(40000, QLatin1Char('y'));
     EXPECT_EQ(modSource::StripQuotedText(early).size(), early.size() - 3);
 }
 

@@ -13,6 +13,8 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::shared_ptr<CategoryItem> category(const QString &title, qint32 id = 0)
@@ -29,7 +31,7 @@ QString raisedSource(const std::function<void()> &call)
     try {
         call();
     } catch (const QuorinError &e) {
-        return e.number() == ErrorNumber::NoSuchItem ? e.source() : QStringLiteral("other error");
+        return e.number() == ErrorNumber::NoSuchItem ? e.source() : u"other error"_s;
     }
     return {};
 }
@@ -39,35 +41,34 @@ QString raisedSource(const std::function<void()> &call)
 TEST(CategoryList, AllocatesIdsThatTheKeysFollow)
 {
     CategoryList list;
-    const auto first = category(QStringLiteral("Naming"));
+    const auto first = category(u"Naming"_s);
     list.Add(first, true);
     EXPECT_EQ(first->ID(), 1);
-    EXPECT_EQ(first->Key(), QStringLiteral("1K"));
-    EXPECT_EQ(list.Item(QStringLiteral("1k")), first);
+    EXPECT_EQ(first->Key(), u"1K"_s);
+    EXPECT_EQ(list.Item(u"1k"_s), first);
     EXPECT_TRUE(list.ContainsID(1));
     EXPECT_FALSE(list.ContainsID(-1));
-    EXPECT_EQ(CategoryList::CategoryIDToKey(-1), QStringLiteral("-1K"));
+    EXPECT_EQ(CategoryList::CategoryIDToKey(-1), u"-1K"_s);
 
     // An id given by hand leaves LastID behind, and the next allocation collides.
-    list.Add(category(QStringLiteral("Style"), 2), false);
+    list.Add(category(u"Style"_s, 2), false);
     EXPECT_EQ(list.LastID(), 1);
     try {
-        list.Add(category(QStringLiteral("Clash")), true);
+        list.Add(category(u"Clash"_s), true);
         FAIL() << "no duplicate error";
     } catch (const QuorinError &e) {
         EXPECT_EQ(e.number(), ErrorNumber::DuplicateKey);
-        EXPECT_EQ(
-            e.description(),
-            QStringLiteral("The item cannot be added, because the key '2K' is already in use."));
+        EXPECT_EQ(e.description(),
+                  u"The item cannot be added, because the key '2K' is already in use."_s);
     }
     EXPECT_EQ(list.Count(), 2);
     EXPECT_EQ(list.LastID(), 2);
 
     // A new id changes the item's key, not the key it has in the list.
     first->setID(9);
-    EXPECT_EQ(first->Key(), QStringLiteral("9K"));
+    EXPECT_EQ(first->Key(), u"9K"_s);
     EXPECT_FALSE(list.ContainsID(9));
-    EXPECT_EQ(list.Item(QStringLiteral("1K")), first);
+    EXPECT_EQ(list.Item(u"1K"_s), first);
 }
 
 TEST(CategoryList, SortsByTitleLaterEqualsFirstWithKeysAlongAndMarksTheListDirty)
@@ -77,74 +78,41 @@ TEST(CategoryList, SortsByTitleLaterEqualsFirstWithKeysAlongAndMarksTheListDirty
     EXPECT_FALSE(empty.Dirty());
 
     CategoryList list;
-    list.Add(category(QStringLiteral("b")), true);
-    list.Add(category(QStringLiteral("A")), true);
-    list.Add(category(QStringLiteral("a")), true);
+    list.Add(category(u"b"_s), true);
+    list.Add(category(u"A"_s), true);
+    list.Add(category(u"a"_s), true);
     list.setDirty(false);
     list.Sort();
     QStringList titles;
     for (qint32 i = 1; i <= list.Count(); ++i)
         titles << list.Item(i)->Title();
     EXPECT_EQ(titles, (QStringList{"a", "A", "b"}));
-    EXPECT_EQ(list.Item(QStringLiteral("3K"))->Title(), QStringLiteral("a"));
-    EXPECT_EQ(list.Item(QStringLiteral("1K"))->Title(), QStringLiteral("b"));
+    EXPECT_EQ(list.Item(u"3K"_s)->Title(), u"a"_s);
+    EXPECT_EQ(list.Item(u"1K"_s)->Title(), u"b"_s);
     EXPECT_TRUE(list.Dirty());
-}
-
-TEST(CategoryList, KeyedListFaceAssignsIdsAndHidesKeys)
-{
-    auto list = std::make_shared<CategoryList>();
-    const auto face = asKeyedList(list);
-    const auto item = category(QStringLiteral("Design"));
-    face->Add(item, true);
-    EXPECT_EQ(item->ID(), 1);
-    EXPECT_EQ(face->Key(1), QString()); // deliberately empty
-    EXPECT_EQ(face->Item(QStringLiteral("1K"))->Title(), QStringLiteral("Design"));
-    EXPECT_TRUE(face->Contains(QStringLiteral("1K")));
-    EXPECT_THROW(face->Add(std::make_shared<TableItem>(), false), QuorinError);
-    face->Remove(1);
-    EXPECT_EQ(list->Count(), 0);
-}
-
-TEST(SeverityList, KeyedListFaceGivesLevelsAsIds)
-{
-    auto list = std::make_shared<ObjectKeyedArrayList<SeverityItem>>();
-    auto level = std::make_shared<SeverityItem>();
-    level->setSeverityLevel(3);
-    level->setTitle(QStringLiteral("Medium"));
-    list->Add(QStringLiteral("3Key"), level, true, false);
-    const auto face = asKeyedList(list);
-    EXPECT_EQ(face->Item(QStringLiteral("3key"))->ID(), 3);
-    EXPECT_TRUE(face->Selected(1));
-    auto added = std::make_shared<SeverityItem>();
-    face->Add(added, true);
-    EXPECT_EQ(added->Key(), QStringLiteral("Item1"));
-    EXPECT_EQ(list->Count(), 2);
 }
 
 TEST(AuthorisedItems, AddOfAKnownLibIdGivesADetachedBlankItem)
 {
     AuthorisedComponents components;
-    const auto grid = components.Add(
-        QStringLiteral("{GUID-1}"), QStringLiteral("Grid.ocx"), QStringLiteral("1.0"), QString());
+    const auto grid = components.Add(u"{GUID-1}"_s, u"Grid.ocx"_s, u"1.0"_s, QString());
     EXPECT_TRUE(components.Dirty());
-    EXPECT_EQ(components.Item(QStringLiteral("{guid-1}")), grid);
+    EXPECT_EQ(components.Item(u"{guid-1}"_s), grid);
     components.setDirty(false);
 
-    const auto again = components.Add(
-        QStringLiteral("{GUID-1}"), QStringLiteral("Other.ocx"), QString(), QString());
+    const auto again = components.Add(u"{GUID-1}"_s, u"Other.ocx"_s, QString(), QString());
     EXPECT_NE(again, grid);
     EXPECT_TRUE(again->Filename().isEmpty());
     EXPECT_EQ(components.Count(), 1);
     EXPECT_FALSE(components.Dirty());
     auto twin = std::make_shared<AuthorisedComponent>();
-    twin->setLibID(QStringLiteral("{guid-1}"));
+    twin->setLibID(u"{guid-1}"_s);
     EXPECT_FALSE(components.AddComponent(twin));
     EXPECT_FALSE(components.Dirty());
 
-    EXPECT_EQ(components.FindByFilename(QStringLiteral("GRID.OCX")), 1);
-    EXPECT_EQ(components.FindByFilename(QStringLiteral("none.ocx")), -1);
-    EXPECT_EQ(components.FindByLibID(QStringLiteral("{nope}")), -1);
+    EXPECT_EQ(components.FindByFilename(u"GRID.OCX"_s), 1);
+    EXPECT_EQ(components.FindByFilename(u"none.ocx"_s), -1);
+    EXPECT_EQ(components.FindByLibID(u"{nope}"_s), -1);
 
     // The item's own Selected starts True; the wrapped list's flag is another thing.
     EXPECT_TRUE(grid->Selected());
@@ -152,35 +120,29 @@ TEST(AuthorisedItems, AddOfAKnownLibIdGivesADetachedBlankItem)
     grid->setSelected(false);
     EXPECT_EQ(components.SelectedCount(), 0);
     const IAuthorisedItem &face = *grid;
-    EXPECT_EQ(face.Title(), QStringLiteral("Grid.ocx"));
-    EXPECT_EQ(face.TypeLibGuid(), QStringLiteral("{GUID-1}"));
+    EXPECT_EQ(face.Title(), u"Grid.ocx"_s);
+    EXPECT_EQ(face.TypeLibGuid(), u"{GUID-1}"_s);
 }
 
 TEST(AuthorisedItems, BadPositionsAndKeysRaiseUnderTheListsOwnName)
 {
     AuthorisedReferences references;
-    references.Add(QStringLiteral("{R}"),
-                   QStringLiteral("Scripting Runtime"),
-                   QStringLiteral("scrrun.dll"),
-                   QString(),
-                   QString());
-    EXPECT_EQ(references.Item(1)->Title(), QStringLiteral("Scripting Runtime"));
+    references.Add(u"{R}"_s, u"Scripting Runtime"_s, u"scrrun.dll"_s, QString(), QString());
+    EXPECT_EQ(references.Item(1)->Title(), u"Scripting Runtime"_s);
     references.setDirty(false);
 
-    EXPECT_EQ(raisedSource([&] { references.Item(QStringLiteral("{unknown}")); }),
-              QStringLiteral("AuthorisedReferences::Item"));
-    EXPECT_EQ(raisedSource([&] { references.Remove(2); }),
-              QStringLiteral("AuthorisedReferences::Remove"));
+    EXPECT_EQ(raisedSource([&] { references.Item(u"{unknown}"_s); }),
+              u"AuthorisedReferences::Item"_s);
+    EXPECT_EQ(raisedSource([&] { references.Remove(2); }), u"AuthorisedReferences::Remove"_s);
     EXPECT_FALSE(references.Dirty());
-    references.RemoveByLibID(QStringLiteral("{unknown}"));
+    references.RemoveByLibID(u"{unknown}"_s);
     EXPECT_FALSE(references.Dirty());
-    references.RemoveByLibID(QStringLiteral("{r}"));
+    references.RemoveByLibID(u"{r}"_s);
     EXPECT_TRUE(references.Dirty());
     EXPECT_EQ(references.Count(), 0);
 
     AuthorisedComponents components;
-    EXPECT_EQ(raisedSource([&] { components.Remove(0); }),
-              QStringLiteral("AuthorisedComponents::Remove"));
+    EXPECT_EQ(raisedSource([&] { components.Remove(0); }), u"AuthorisedComponents::Remove"_s);
 }
 
 TEST(Report, DirtyAndClonesFollowTablesAndShareCategories)
@@ -190,25 +152,25 @@ TEST(Report, DirtyAndClonesFollowTablesAndShareCategories)
     EXPECT_EQ(report.CloneSections()->Count(), 0);
 
     auto table = std::make_shared<TableItem>();
-    table->setTableKey(QStringLiteral("1T"));
-    table->setTableTitle(QStringLiteral("Control Tags"));
-    table->setTableText(QStringLiteral("abc"));
-    const auto page = category(QStringLiteral("Naming"), 1);
+    table->setTableKey(u"1T"_s);
+    table->setTableTitle(u"Control Tags"_s);
+    table->setTableText(u"abc"_s);
+    const auto page = category(u"Naming"_s, 1);
     report.Sections()->Add(table);
     report.Sections()->Add(page);
     EXPECT_TRUE(report.Dirty());
     report.setDirty(false);
     EXPECT_FALSE(table->Dirty());
 
-    table->setTableText(QStringLiteral("ABC")); // case only: not stored, not dirty
-    EXPECT_EQ(table->TableText(), QStringLiteral("abc"));
+    table->setTableText(u"ABC"_s); // case only: not stored, not dirty
+    EXPECT_EQ(table->TableText(), u"abc"_s);
     table->setTableType(4);
     EXPECT_FALSE(report.Dirty());
 
     const auto clone = report.CloneSections();
     clone->MoveItem(1, 2);
-    std::dynamic_pointer_cast<TableItem>(clone->Item(2))->setTableTitle(QStringLiteral("Tags"));
-    EXPECT_EQ(table->TableTitle(), QStringLiteral("Control Tags"));
+    std::dynamic_pointer_cast<TableItem>(clone->Item(2))->setTableTitle(u"Tags"_s);
+    EXPECT_EQ(table->TableTitle(), u"Control Tags"_s);
     EXPECT_EQ(report.Sections()->Item(1), table);
     EXPECT_FALSE(report.Dirty());
 

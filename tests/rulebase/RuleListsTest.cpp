@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::shared_ptr<CodingConvention> coding(std::initializer_list<qint32> events,
@@ -44,12 +46,12 @@ TEST(RuleLists, NumbersNewRulesFrom5000AndNeverReusesAnId)
     const auto first = coding({1});
     lists.AddConvention(first, true);
     EXPECT_EQ(first->RuleID(), 5000);
-    EXPECT_EQ(lists.AllConventions()->Key(1), QStringLiteral("5000Key"));
+    EXPECT_EQ(lists.AllConventions()->Key(1), u"5000Key"_s);
 
     for (int i = 0; i < 5; ++i)
         lists.AddConvention(coding({1}), true);
     EXPECT_EQ(lists.LastID(), 5005);
-    lists.RemoveRule(QStringLiteral("5005Key"));
+    lists.RemoveRule(u"5005Key"_s);
     const auto next = coding({1});
     lists.AddConvention(next, true);
     EXPECT_EQ(next->RuleID(), 5006);
@@ -59,7 +61,7 @@ TEST(RuleLists, NumbersNewRulesFrom5000AndNeverReusesAnId)
     loaded->setRuleID(42);
     lists.AddConvention(loaded, false);
     EXPECT_EQ(lists.LastID(), 5006);
-    EXPECT_EQ(lists.AllConventions()->Item(QStringLiteral("42key")), loaded);
+    EXPECT_EQ(lists.AllConventions()->Item(u"42key"_s), loaded);
 
     // A key in use is reported, and the rule lands in no list at all.
     const auto clash = coding({3});
@@ -106,7 +108,7 @@ TEST(RuleLists, IndexesEveryRuleByTypeEventAndObject)
     lists.RemoveRule(onThree->RuleKey());
     lists.RemoveRule(name->RuleKey());
     EXPECT_EQ(lists.AllConventions()->Count(), 1);
-    EXPECT_FALSE(lists.CodingConventions()->Contains(QStringLiteral("5000Key")));
+    EXPECT_FALSE(lists.CodingConventions()->Contains(u"5000Key"_s));
     for (const qint32 event : {12, 15, 3})
         EXPECT_TRUE(idsOf(lists.ParserEventCCList(event, false)).empty());
     EXPECT_TRUE(idsOf(lists.ObjectNCList(7, false)).empty());
@@ -115,7 +117,7 @@ TEST(RuleLists, IndexesEveryRuleByTypeEventAndObject)
 
     lists.RemoveRuleFromPendingList(onThree, 20);
     EXPECT_TRUE(idsOf(lists.PendingViolations(20)).empty());
-    lists.RemoveRule(QStringLiteral("777Key")); // unknown: reported, nothing changes
+    lists.RemoveRule(u"777Key"_s); // unknown: reported, nothing changes
     EXPECT_EQ(lists.AllConventions()->Count(), 1);
 }
 
@@ -149,8 +151,8 @@ TEST(RuleLists, MovesBetweenEventAndObjectListsWithoutDuplicates)
 
     // The "all lists" removals take the rule from its type list, its events and the whole.
     lists.RemoveRuleFromAllPECCLists(5000, a->ParserEventList());
-    EXPECT_FALSE(lists.AllConventions()->Contains(QStringLiteral("5000Key")));
-    EXPECT_FALSE(lists.CodingConventions()->Contains(QStringLiteral("5000Key")));
+    EXPECT_FALSE(lists.AllConventions()->Contains(u"5000Key"_s));
+    EXPECT_FALSE(lists.CodingConventions()->Contains(u"5000Key"_s));
     EXPECT_TRUE(idsOf(lists.ParserEventCCList(2, false)).empty());
 }
 
@@ -177,11 +179,11 @@ TEST(RuleLists, DirtyComesFromTheOwnFlagOrAnyRule)
 TEST(RuleLists, ConventionsByCategoryAreSortedByTitleLaterEqualsFirst)
 {
     RuleLists lists;
-    const auto b = coding({1}, QStringLiteral("b"));
-    const auto upperA = coding({1}, QStringLiteral("A"));
-    const auto other = coding({1}, QStringLiteral("0 other category"));
+    const auto b = coding({1}, u"b"_s);
+    const auto upperA = coding({1}, u"A"_s);
+    const auto other = coding({1}, u"0 other category"_s);
     const auto lowerA = std::make_shared<NamingConvention>();
-    lowerA->setTitle(QStringLiteral("a"));
+    lowerA->setTitle(u"a"_s);
     for (const auto &rule : {b, upperA, other})
         rule->setCategoryID(2);
     other->setCategoryID(3);
@@ -206,7 +208,7 @@ TEST(RuleLists, ConventionsByCategoryAreSortedByTitleLaterEqualsFirst)
 TEST(RuleLists, ClonedRulesAreIndexedApartFromTheirSource)
 {
     RuleLists lists;
-    const auto source = coding({6, 9}, QStringLiteral("Source"));
+    const auto source = coding({6, 9}, u"Source"_s);
     lists.AddConvention(source, true);
     const auto clone = source->Clone();
     lists.AddConvention(clone, true);
@@ -215,6 +217,6 @@ TEST(RuleLists, ClonedRulesAreIndexedApartFromTheirSource)
 
     lists.RemoveRule(source->RuleKey());
     EXPECT_EQ(idsOf(lists.ParserEventCCList(6, false)), std::vector<qint32>{5001});
-    EXPECT_EQ(lists.AllConventions()->FindIndexByKey(QStringLiteral("5001Key")), 1);
+    EXPECT_EQ(lists.AllConventions()->FindIndexByKey(u"5001Key"_s), 1);
     EXPECT_EQ(lists.CodingConventions()->Item(1), clone);
 }

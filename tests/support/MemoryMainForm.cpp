@@ -1,5 +1,7 @@
 #include "support/MemoryMainForm.h"
 
+using namespace Qt::StringLiterals;
+
 void MemoryMainForm::setToolEnabled(const QString &toolId, bool enabled)
 {
     m_tools.insert(toolId.toLower(), enabled);
@@ -13,18 +15,18 @@ bool MemoryMainForm::toolEnabled(const QString &toolId) const
 void MemoryMainForm::Update()
 {
     ++updates;
-    calls << QStringLiteral("Update");
+    calls << u"Update"_s;
 }
 
 void MemoryMainForm::SetCurrentViewTool(const QString &viewName)
 {
     currentViewTool = viewName;
-    calls << QStringLiteral("View ") + viewName;
+    calls << u"View "_s + viewName;
 }
 
 int MemoryMainForm::RunTipOfDay(int lastTip)
 {
-    calls << QStringLiteral("Tip");
+    calls << u"Tip"_s;
     return lastTip + 1;
 }
 

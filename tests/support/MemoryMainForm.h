@@ -16,8 +16,14 @@ class MemoryMainForm final : public IMainForm
 {
 public:
     void Update() override;
-    void AddToMRUList(const QString &file) override { calls << QStringLiteral("AddToMRUList ") + file; }
-    void RemoveFromMRUList(const QString &file) override { calls << QStringLiteral("RemoveFromMRUList ") + file; }
+    void AddToMRUList(const QString &file) override
+    {
+        calls << QStringLiteral("AddToMRUList ") + file;
+    }
+    void RemoveFromMRUList(const QString &file) override
+    {
+        calls << QStringLiteral("RemoveFromMRUList ") + file;
+    }
     void SetCurrentViewTool(const QString &viewName) override;
     void SetHelpContext(int context) override { helpContext = context; }
     void SetBusy(bool busy) override { busyCalls.push_back(busy); }

@@ -3,6 +3,8 @@
 #include "platform/FileUtils.h"
 #include "platform/QuorinError.h"
 
+using namespace Qt::StringLiterals;
+
 ScriptedUserInterface::ScriptedUserInterface()
 {
     UserInterface::install(this);
@@ -23,7 +25,7 @@ MessageResult ScriptedUserInterface::messageBox(const QString &text,
     if (buttons == MessageButtons::OK)
         return MessageResult::OK;
     if (failQuestions)
-        throw QuorinError(ErrorNumber::ObjectNotSet, QStringLiteral("ScriptedUserInterface"), text);
+        throw QuorinError(ErrorNumber::ObjectNotSet, u"ScriptedUserInterface"_s, text);
     if (answers.empty()) {
         ++unscriptedQuestions;
         return buttons == MessageButtons::YesNoCancel || buttons == MessageButtons::OKCancel

@@ -1,11 +1,17 @@
 #include "support/TestEnvironment.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include <gtest/gtest.h>
+
 #include <memory>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace TestEnvironment {
 
@@ -27,7 +33,7 @@ QString sharedDataDir()
 
 QString sampleRulebase()
 {
-    return sourceDir() + QStringLiteral("/data/Sample.qrb");
+    return sourceDir() + u"/data/Sample.qrb"_s;
 }
 
 QString makeTempDir()
@@ -41,10 +47,26 @@ QString makeTempDir()
 void clearSettings()
 {
     for (auto scope : {QSettings::UserScope, QSettings::SystemScope}) {
-        QSettings settings(QSettings::NativeFormat, scope, QStringLiteral("Tarnwick"), QStringLiteral("Quorin"));
+        QSettings settings(QSettings::NativeFormat, scope, u"Tarnwick"_s, u"Quorin"_s);
         settings.clear();
         settings.sync();
     }
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString writeFile(const QString &path, const QByteArray &bytes)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate)
+                && file.write(bytes) == bytes.size())
+        << path.toStdString();
+    return path;
 }
 
 } // namespace TestEnvironment
@@ -76,14 +98,15 @@ bool makeReadOnly(const QString &folder)
     if (!runningAsRoot())
         return QFile::setPermissions(folder, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
     // Root ignores permissions; the immutable flag still binds it where the file system has one.
-    return QProcess::execute(QStringLiteral("chattr"), {QStringLiteral("+i"), folder}) == 0;
+    return QProcess::execute(u"chattr"_s, {u"+i"_s, folder}) == 0;
 }
 
 void makeWritable(const QString &folder)
 {
     if (runningAsRoot())
-        QProcess::execute(QStringLiteral("chattr"), {QStringLiteral("-i"), folder});
-    QFile::setPermissions(folder, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+        QProcess::execute(u"chattr"_s, {u"-i"_s, folder});
+    QFile::setPermissions(folder,
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
 }
 
 } // namespace TestEnvironment

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 // Where tests find their data and write their files. Settings live in a temporary folder for
@@ -14,6 +15,10 @@ QString sampleRulebase();
 QString makeTempDir();
 // Removes every stored setting, for tests that need a first run.
 void clearSettings();
+// The bytes of a file; empty when it cannot be read.
+QByteArray readFile(const QString &path);
+// Writes a file whole, making its folders; fails the calling test when it cannot. Gives the path.
+QString writeFile(const QString &path, const QByteArray &bytes);
 
 } // namespace TestEnvironment
 

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The three lines of one rule: its element, its violation and its end tag.
@@ -30,39 +32,36 @@ QByteArray removed(QByteArray text, const QByteArray &part)
 TEST(DiffCommand, ARulebaseEqualsItselfAndAnUnreadableSideIsAnError)
 {
     const QString sample = TestEnvironment::sampleRulebase();
-    const ToolRun text = runQrbTool({QStringLiteral("diff"), sample, sample});
+    const ToolRun text = runQrbTool({u"diff"_s, sample, sample});
     EXPECT_EQ(text.exitCode, 0);
     EXPECT_TRUE(text.out.isEmpty()) << text.out.toStdString();
 
-    const ToolRun json
-        = runQrbTool({QStringLiteral("diff"), QStringLiteral("--format=json"), sample, sample});
+    const ToolRun json = runQrbTool({u"diff"_s, u"--format=json"_s, sample, sample});
     EXPECT_EQ(json.exitCode, 0);
     const QJsonObject root = parseJsonObject(json.out);
-    EXPECT_TRUE(root.value(QStringLiteral("identical")).toBool());
-    EXPECT_TRUE(root.value(QStringLiteral("changes")).toArray().isEmpty());
+    EXPECT_TRUE(root.value(u"identical"_s).toBool());
+    EXPECT_TRUE(root.value(u"changes"_s).toArray().isEmpty());
 
     // A saved 6.0 copy differs only where the upgrade had to fill in what 6.0 lacked.
     const QString dir = TestEnvironment::makeTempDir();
-    const QString old
-        = writeBytes(dir + QStringLiteral("/Old.qrb"), sampleInOldSchema(QStringLiteral("6.0")));
-    const ToolRun upgraded = runQrbTool({QStringLiteral("diff"), sample, old});
+    const QString old = writeFile(dir + u"/Old.qrb"_s, sampleInOldSchema(u"6.0"_s));
+    const ToolRun upgraded = runQrbTool({u"diff"_s, sample, old});
     EXPECT_EQ(upgraded.exitCode, 1);
-    EXPECT_TRUE(upgraded.out.contains(QLatin1String("    ArrayTag: \"a\" -> \"\"\n")))
+    EXPECT_TRUE(upgraded.out.contains("    ArrayTag: \"a\" -> \"\"\n"_L1))
         << upgraded.out.toStdString();
     EXPECT_TRUE(upgraded.out.contains(
-        QLatin1String("    ToleranceCount: \"0|10|40|-1|-1|150\" -> \"-1|-1|-1|-1|-1|-1\"\n")));
+        "    ToleranceCount: \"0|10|40|-1|-1|150\" -> \"-1|-1|-1|-1|-1|-1\"\n"_L1));
 
-    const QString truncated
-        = writeBytes(dir + QStringLiteral("/Truncated.qrb"), sampleBytes().left(900));
+    const QString truncated = writeFile(dir + u"/Truncated.qrb"_s, sampleBytes().left(900));
     for (const QStringList &pair :
-         {QStringList{sample, truncated}, QStringList{dir + QStringLiteral("/None.qrb"), sample}}) {
-        const ToolRun bad = runQrbTool(QStringList{QStringLiteral("diff")} + pair);
+         {QStringList{sample, truncated}, QStringList{dir + u"/None.qrb"_s, sample}}) {
+        const ToolRun bad = runQrbTool(QStringList{u"diff"_s} + pair);
         EXPECT_EQ(bad.exitCode, 2);
         EXPECT_TRUE(bad.out.isEmpty());
         EXPECT_TRUE(bad.err.contains(pair.at(0) == sample ? truncated : pair.at(0)))
             << bad.err.toStdString();
     }
-    EXPECT_EQ(runQrbTool({QStringLiteral("diff"), sample}).exitCode, 2);
+    EXPECT_EQ(runQrbTool({u"diff"_s, sample}).exitCode, 2);
 }
 
 TEST(DiffCommand, ChangesComeBySectionAndKeyFieldByFieldWithConditionsAsUnifiedDiffs)
@@ -91,27 +90,26 @@ TEST(DiffCommand, ChangesComeBySectionAndKeyFieldByFieldWithConditionsAsUnifiedD
     edited.replace("</CodingConventions>", copy + "</CodingConventions>");
 
     const QString dir = TestEnvironment::makeTempDir();
-    const QString before = writeBytes(dir + QStringLiteral("/Before.qrb"), original);
-    const QString after = writeBytes(dir + QStringLiteral("/After.qrb"), edited);
+    const QString before = writeFile(dir + u"/Before.qrb"_s, original);
+    const QString after = writeFile(dir + u"/After.qrb"_s, edited);
 
-    const ToolRun text = runQrbTool({QStringLiteral("diff"), before, after});
+    const ToolRun text = runQrbTool({u"diff"_s, before, after});
     EXPECT_EQ(text.exitCode, 1) << text.err.toStdString();
     const QString expectedStart
-        = QStringLiteral("--- %1\n+++ %2\n"
-                         "changed properties\n"
-                         "    Title: \"Kestrel & Vane VB6 Coding Standards\" -> \"Kestrel & Vane "
-                         "VB6 Coding Standards (draft)\"\n"
-                         "changed category 4 \"Declarations and scope\"\n"
-                         "    Title: \"Declarations\" -> \"Declarations and scope\"\n"
-                         "changed control tag VB.Form\n"
-                         "    TagValue: \"frm\" -> \"form\"\n"
-                         "removed authorised component {5E9E78A0-531B-11CF-91F6-C2863C385E30} "
-                         "\"MSFLXGRD.OCX\"\n"
-                         "changed rule 5024 coding convention \"Option Explicit\"\n"
-                         "    Condition:\n"
-                         "        @@ -1,5 +1,5 @@\n"
-                         "         Sub Main\n")
-              .arg(before, after);
+        = u"--- %1\n+++ %2\n"
+          u"changed properties\n"
+          u"    Title: \"Kestrel & Vane VB6 Coding Standards\" -> \"Kestrel & Vane "
+          u"VB6 Coding Standards (draft)\"\n"
+          u"changed category 4 \"Declarations and scope\"\n"
+          u"    Title: \"Declarations\" -> \"Declarations and scope\"\n"
+          u"changed control tag VB.Form\n"
+          u"    TagValue: \"frm\" -> \"form\"\n"
+          u"removed authorised component {5E9E78A0-531B-11CF-91F6-C2863C385E30} "
+          u"\"MSFLXGRD.OCX\"\n"
+          u"changed rule 5024 coding convention \"Option Explicit\"\n"
+          u"    Condition:\n"
+          u"        @@ -1,5 +1,5 @@\n"
+          u"         Sub Main\n"_s.arg(before, after);
     EXPECT_TRUE(text.out.startsWith(expectedStart)) << text.out.toStdString();
     EXPECT_TRUE(text.out.contains(
         QLatin1String("        -\t\tCall Quorin.CancelPendingViolation()\n"
@@ -125,49 +123,41 @@ TEST(DiffCommand, ChangesComeBySectionAndKeyFieldByFieldWithConditionsAsUnifiedD
         << text.out.toStdString();
     // Its condition comes as the block of lines it is.
     EXPECT_TRUE(text.out.contains(
-        QLatin1String("    Condition:\n        Sub Main\n        \tDim sDataType As String\n")))
+        "    Condition:\n        Sub Main\n        \tDim sDataType As String\n"_L1))
         << text.out.toStdString();
 
-    const ToolRun json = runQrbTool({QStringLiteral("diff"),
-                                     QStringLiteral("--format"),
-                                     QStringLiteral("json"),
-                                     before,
-                                     after});
+    const ToolRun json = runQrbTool({u"diff"_s, u"--format"_s, u"json"_s, before, after});
     EXPECT_EQ(json.exitCode, 1);
     const QJsonObject root = parseJsonObject(json.out);
-    EXPECT_FALSE(root.value(QStringLiteral("identical")).toBool());
-    const QJsonArray changes = root.value(QStringLiteral("changes")).toArray();
+    EXPECT_FALSE(root.value(u"identical"_s).toBool());
+    const QJsonArray changes = root.value(u"changes"_s).toArray();
     QStringList summary;
     for (const QJsonValue &value : changes) {
         const QJsonObject change = value.toObject();
-        summary << change.value(QStringLiteral("change")).toString() + QLatin1Char(' ')
-                       + change.value(QStringLiteral("section")).toString() + QLatin1Char(' ')
-                       + change.value(QStringLiteral("key")).toString();
+        summary << change.value(u"change"_s).toString() + QLatin1Char(' ')
+                       + change.value(u"section"_s).toString() + QLatin1Char(' ')
+                       + change.value(u"key"_s).toString();
     }
-    EXPECT_EQ(
-        summary,
-        (QStringList{
-            QStringLiteral("changed properties "),
-            QStringLiteral("changed category 4"),
-            QStringLiteral("changed control-tag VB.Form"),
-            QStringLiteral("removed authorised-component {5E9E78A0-531B-11CF-91F6-C2863C385E30}"),
-            QStringLiteral("changed rule 5024"),
-            QStringLiteral("removed rule 5030"),
-            QStringLiteral("added rule 5200")}));
-    const QJsonArray fields = changes.at(4).toObject().value(QStringLiteral("fields")).toArray();
+    EXPECT_EQ(summary,
+              (QStringList{u"changed properties "_s,
+                           u"changed category 4"_s,
+                           u"changed control-tag VB.Form"_s,
+                           u"removed authorised-component {5E9E78A0-531B-11CF-91F6-C2863C385E30}"_s,
+                           u"changed rule 5024"_s,
+                           u"removed rule 5030"_s,
+                           u"added rule 5200"_s}));
+    const QJsonArray fields = changes.at(4).toObject().value(u"fields"_s).toArray();
     ASSERT_EQ(fields.size(), 2);
     const QJsonObject condition = fields.at(0).toObject();
-    EXPECT_EQ(condition.value(QStringLiteral("field")).toString(), QStringLiteral("Condition"));
-    EXPECT_TRUE(
-        condition.value(QStringLiteral("old")).toString().contains(QLatin1String("Call Quorin.")));
-    EXPECT_EQ(condition.value(QStringLiteral("diff")).toArray().size(), 7);
-    EXPECT_EQ(fields.at(1).toObject().value(QStringLiteral("new")).toString(), QStringLiteral("2"));
+    EXPECT_EQ(condition.value(u"field"_s).toString(), u"Condition"_s);
+    EXPECT_TRUE(condition.value(u"old"_s).toString().contains("Call Quorin."_L1));
+    EXPECT_EQ(condition.value(u"diff"_s).toArray().size(), 7);
+    EXPECT_EQ(fields.at(1).toObject().value(u"new"_s).toString(), u"2"_s);
     // An added rule carries its new values only, a removed one its old values only.
     const QJsonObject added
-        = changes.at(6).toObject().value(QStringLiteral("fields")).toArray().at(0).toObject();
-    EXPECT_FALSE(added.contains(QStringLiteral("old")));
-    EXPECT_EQ(added.value(QStringLiteral("new")).toString(), QStringLiteral("coding convention"));
-    const QJsonObject gone
-        = changes.at(5).toObject().value(QStringLiteral("fields")).toArray().at(0).toObject();
-    EXPECT_FALSE(gone.contains(QStringLiteral("new")));
+        = changes.at(6).toObject().value(u"fields"_s).toArray().at(0).toObject();
+    EXPECT_FALSE(added.contains(u"old"_s));
+    EXPECT_EQ(added.value(u"new"_s).toString(), u"coding convention"_s);
+    const QJsonObject gone = changes.at(5).toObject().value(u"fields"_s).toArray().at(0).toObject();
+    EXPECT_FALSE(gone.contains(u"new"_s));
 }

@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Private variables begin with "m_" (5000), GoTo is forbidden in procedures (5001), and a
@@ -19,8 +21,8 @@ namespace {
 QString writeRulebase(const QString &folder)
 {
     Rulebase rulebase;
-    addPreviewRules(rulebase, QStringLiteral("m_"), QStringLiteral("Constants"), 5);
-    const QString path = folder + QStringLiteral("/Team.qrb");
+    addPreviewRules(rulebase, u"m_"_s, u"Constants"_s, 5);
+    const QString path = folder + u"/Team.qrb"_s;
     EXPECT_TRUE(RulebaseManager().Save(rulebase, path));
     return path;
 }
@@ -34,99 +36,76 @@ TEST(PreviewCommand, ReportsFindingsAsTextJsonAndSarifWithTheBuildsExitCodes)
 {
     const QString dir = TestEnvironment::makeTempDir();
     const QString rulebase = writeRulebase(dir);
-    const QString folder = dir + QStringLiteral("/My Projects");
-    const QString module = writeBytes(folder + QStringLiteral("/modA.bas"),
-                                      "Attribute VB_Name = \"modA\"\r\n"
-                                      "Option Explicit\r\n"
-                                      "Private count As Long\r\n"
-                                      "Private Const LIMIT = 3\r\n"
-                                      "Public Sub Run()\n"
-                                      "    GoTo Done ' a comment's GoTo is no code\n"
-                                      "Done:\n"
-                                      "End Sub\n");
-    const QString project = writeBytes(folder + QStringLiteral("/A.vbp"),
-                                       "Type=Exe\r\nModule=modA; modA.bas\r\n"
-                                       "Module=modGone; modGone.bas\r\nName=\"A\"\r\n");
+    const QString folder = dir + u"/My Projects"_s;
+    const QString module = writeFile(folder + u"/modA.bas"_s,
+                                     "Attribute VB_Name = \"modA\"\r\n"
+                                     "Option Explicit\r\n"
+                                     "Private count As Long\r\n"
+                                     "Private Const LIMIT = 3\r\n"
+                                     "Public Sub Run()\n"
+                                     "    GoTo Done ' a comment's GoTo is no code\n"
+                                     "Done:\n"
+                                     "End Sub\n");
+    const QString project = writeFile(folder + u"/A.vbp"_s,
+                                      "Type=Exe\r\nModule=modA; modA.bas\r\n"
+                                      "Module=modGone; modGone.bas\r\nName=\"A\"\r\n");
 
-    const ToolRun text = runQrbTool({QStringLiteral("preview"), rulebase, project});
+    const ToolRun text = runQrbTool({u"preview"_s, rulebase, project});
     EXPECT_EQ(text.exitCode, 1) << text.err.toStdString();
     const QString shown = QDir::current().relativeFilePath(module);
-    EXPECT_TRUE(
-        text.out.contains(shown
-                          + QStringLiteral(":3: 5000 \"Private variables\": Variable (Private) "
-                                           "'count': expected prefix 'm_'\n")))
+    EXPECT_TRUE(text.out.contains(shown
+                                  + u":3: 5000 \"Private variables\": Variable (Private) "
+                                    u"'count': expected prefix 'm_'\n"_s))
         << text.out.toStdString();
-    EXPECT_TRUE(text.out.contains(shown + QStringLiteral(":6: 5001 \"GoTo\": Source 'GoTo': ")));
-    EXPECT_TRUE(text.out.contains(QStringLiteral("modGone.bas:0: UnreadFile")));
-    EXPECT_TRUE(text.err.contains(
-        QStringLiteral("2 violations, 1 not previewed, 1 file not read, in 1 project")))
+    EXPECT_TRUE(text.out.contains(shown + u":6: 5001 \"GoTo\": Source 'GoTo': "_s));
+    EXPECT_TRUE(text.out.contains(u"modGone.bas:0: UnreadFile"_s));
+    EXPECT_TRUE(
+        text.err.contains(u"2 violations, 1 not previewed, 1 file not read, in 1 project"_s))
         << text.err.toStdString();
 
-    const ToolRun sarif = runQrbTool(
-        {QStringLiteral("preview"), QStringLiteral("--format=sarif"), rulebase, project});
+    const ToolRun sarif = runQrbTool({u"preview"_s, u"--format=sarif"_s, rulebase, project});
     EXPECT_EQ(sarif.exitCode, 1);
     const QJsonObject log = parseJsonObject(sarif.out);
-    EXPECT_EQ(log.value(QStringLiteral("version")).toString(), QStringLiteral("2.1.0"));
-    const QJsonObject run = log.value(QStringLiteral("runs")).toArray().at(0).toObject();
-    const QJsonArray rules
-        = run[QStringLiteral("tool")][QStringLiteral("driver")][QStringLiteral("rules")].toArray();
-    const QUrl base(run[QStringLiteral("originalUriBaseIds")][QStringLiteral("%SRCROOT%")]
-                       [QStringLiteral("uri")]
-                           .toString());
+    EXPECT_EQ(log.value(u"version"_s).toString(), u"2.1.0"_s);
+    const QJsonObject run = log.value(u"runs"_s).toArray().at(0).toObject();
+    const QJsonArray rules = run[u"tool"_s][u"driver"_s][u"rules"_s].toArray();
+    const QUrl base(run[u"originalUriBaseIds"_s][u"%SRCROOT%"_s][u"uri"_s].toString());
     QStringList seen;
-    for (const QJsonValue &value : run.value(QStringLiteral("results")).toArray()) {
+    for (const QJsonValue &value : run.value(u"results"_s).toArray()) {
         const QJsonObject result = value.toObject();
-        const QString id = result.value(QStringLiteral("ruleId")).toString();
-        EXPECT_EQ(rules.at(result.value(QStringLiteral("ruleIndex")).toInt())[QStringLiteral("id")]
-                      .toString(),
-                  id);
-        const QJsonObject location
-            = result[QStringLiteral("locations")][0][QStringLiteral("physicalLocation")].toObject();
-        const QString uri
-            = location[QStringLiteral("artifactLocation")][QStringLiteral("uri")].toString();
+        const QString id = result.value(u"ruleId"_s).toString();
+        EXPECT_EQ(rules.at(result.value(u"ruleIndex"_s).toInt())[u"id"_s].toString(), id);
+        const QJsonObject location = result[u"locations"_s][0][u"physicalLocation"_s].toObject();
+        const QString uri = location[u"artifactLocation"_s][u"uri"_s].toString();
         // Relative and encoded, and pointing at the file from the base.
         EXPECT_FALSE(uri.startsWith(QLatin1Char('/'))) << uri.toStdString();
-        EXPECT_TRUE(uri.contains(QLatin1String("My%20Projects/"))) << uri.toStdString();
+        EXPECT_TRUE(uri.contains("My%20Projects/"_L1)) << uri.toStdString();
         const QString target = base.resolved(QUrl(uri)).toLocalFile();
-        seen << QStringLiteral("%1 %2 %3 %4")
-                    .arg(id,
-                         result.value(QStringLiteral("kind")).toString(),
-                         QFileInfo(target).fileName())
-                    .arg(location[QStringLiteral("region")][QStringLiteral("startLine")].toInt());
+        seen << u"%1 %2 %3 %4"_s
+                    .arg(id, result.value(u"kind"_s).toString(), QFileInfo(target).fileName())
+                    .arg(location[u"region"_s][u"startLine"_s].toInt());
         EXPECT_TRUE(QFileInfo(target).isFile()) << target.toStdString();
     }
     EXPECT_EQ(seen,
               QStringList({"5002 open A.vbp 0", "5000 fail modA.bas 3", "5001 fail modA.bas 6"}));
-    const QJsonArray notes
-        = run[QStringLiteral("invocations")][0][QStringLiteral("toolExecutionNotifications")]
-              .toArray();
+    const QJsonArray notes = run[u"invocations"_s][0][u"toolExecutionNotifications"_s].toArray();
     ASSERT_EQ(notes.size(), 1);
-    EXPECT_TRUE(notes
-                    .at(0)[QStringLiteral("locations")][0][QStringLiteral("physicalLocation")]
-                          [QStringLiteral("artifactLocation")][QStringLiteral("uri")]
-                    .toString()
-                    .endsWith(QLatin1String("/modGone.bas")));
+    EXPECT_TRUE(
+        notes.at(0)[u"locations"_s][0][u"physicalLocation"_s][u"artifactLocation"_s][u"uri"_s]
+            .toString()
+            .endsWith("/modGone.bas"_L1));
 
-    const ToolRun json = runQrbTool({QStringLiteral("preview"),
-                                     QStringLiteral("--format"),
-                                     QStringLiteral("json"),
-                                     QStringLiteral("--rule"),
-                                     QStringLiteral("5001,5002"),
-                                     rulebase,
-                                     project});
+    const ToolRun json = runQrbTool(
+        {u"preview"_s, u"--format"_s, u"json"_s, u"--rule"_s, u"5001,5002"_s, rulebase, project});
     const QJsonObject report = parseJsonObject(json.out);
-    EXPECT_EQ(report.value(QStringLiteral("violations")).toInt(), 1);
-    EXPECT_EQ(report.value(QStringLiteral("notPreviewed")).toInt(), 1);
-    EXPECT_EQ(report.value(QStringLiteral("exitCode")).toInt(), json.exitCode);
-    EXPECT_EQ(report[QStringLiteral("projects")][0][QStringLiteral("codeLines")].toInt(), 7);
+    EXPECT_EQ(report.value(u"violations"_s).toInt(), 1);
+    EXPECT_EQ(report.value(u"notPreviewed"_s).toInt(), 1);
+    EXPECT_EQ(report.value(u"exitCode"_s).toInt(), json.exitCode);
+    EXPECT_EQ(report[u"projects"_s][0][u"codeLines"_s].toInt(), 7);
 
     // What needs a condition alone fails nothing; a project that is all there reads cleanly.
-    const QString clean
-        = writeBytes(folder + QStringLiteral("/B.vbp"), "Type=Exe\r\nModule=modA; modA.bas\r\n");
-    EXPECT_EQ(
-        runQrbTool({QStringLiteral("preview"), QStringLiteral("--rule=5002"), rulebase, clean})
-            .exitCode,
-        0);
+    const QString clean = writeFile(folder + u"/B.vbp"_s, "Type=Exe\r\nModule=modA; modA.bas\r\n");
+    EXPECT_EQ(runQrbTool({u"preview"_s, u"--rule=5002"_s, rulebase, clean}).exitCode, 0);
 
     const struct
     {
@@ -134,14 +113,13 @@ TEST(PreviewCommand, ReportsFindingsAsTextJsonAndSarifWithTheBuildsExitCodes)
         const char *error;
     } bad[] = {
         {{rulebase}, "no project or group file given"},
-        {{QStringLiteral("--rule"), QStringLiteral("1234"), rulebase, project},
-         "no rule or check 1234"},
-        {{QStringLiteral("--format=xml"), rulebase, project}, "unknown format 'xml'"},
-        {{dir + QStringLiteral("/None.qrb"), project}, "None.qrb: No such file"},
+        {{u"--rule"_s, u"1234"_s, rulebase, project}, "no rule or check 1234"},
+        {{u"--format=xml"_s, rulebase, project}, "unknown format 'xml'"},
+        {{dir + u"/None.qrb"_s, project}, "None.qrb: No such file"},
         {{project, project}, "could not be read completely"},
     };
     for (const auto &row : bad) {
-        const ToolRun run = runQrbTool(QStringList{QStringLiteral("preview")} + row.arguments);
+        const ToolRun run = runQrbTool(QStringList{u"preview"_s} + row.arguments);
         EXPECT_EQ(run.exitCode, 2) << row.error;
         EXPECT_TRUE(run.err.contains(QLatin1String(row.error))) << run.err.toStdString();
         EXPECT_TRUE(run.out.isEmpty());

@@ -17,40 +17,38 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 TEST(QrbTool, OverviewVersionHelpAndUnknownCommands)
 {
     const ToolRun none = runQrbTool({});
     EXPECT_EQ(none.exitCode, 2);
     EXPECT_TRUE(none.out.isEmpty());
-    EXPECT_TRUE(none.err.startsWith(QLatin1String("Usage: qrbtool COMMAND")));
+    EXPECT_TRUE(none.err.startsWith("Usage: qrbtool COMMAND"_L1));
 
-    const ToolRun help = runQrbTool({QStringLiteral("--help")});
+    const ToolRun help = runQrbTool({u"--help"_s});
     EXPECT_EQ(help.exitCode, 0);
     for (const char *command : {"check", "upgrade", "diff", "stats", "doc", "scripts", "import"})
-        EXPECT_TRUE(help.out.contains(QStringLiteral("\n  %1 ").arg(QLatin1String(command))))
-            << command;
+        EXPECT_TRUE(help.out.contains(u"\n  %1 "_s.arg(QLatin1String(command)))) << command;
 
-    const ToolRun version = runQrbTool({QStringLiteral("--version")});
+    const ToolRun version = runQrbTool({u"--version"_s});
     EXPECT_EQ(version.exitCode, 0);
     EXPECT_EQ(version.out, QrbTool::versionText() + QLatin1Char('\n'));
 
-    const ToolRun unknown = runQrbTool({QStringLiteral("lint")});
+    const ToolRun unknown = runQrbTool({u"lint"_s});
     EXPECT_EQ(unknown.exitCode, 2);
-    EXPECT_TRUE(unknown.err.contains(QLatin1String("unknown command 'lint'")));
+    EXPECT_TRUE(unknown.err.contains("unknown command 'lint'"_L1));
 
     // Every command answers --help and "help COMMAND" alike, on the output, with exit 0.
     QrbTool tool;
     for (const char *name : {"check", "upgrade", "diff", "stats", "doc", "scripts", "import"}) {
         const ToolCommand *command = tool.command(QLatin1String(name));
         ASSERT_NE(command, nullptr) << name;
-        const ToolRun commandHelp = runQrbTool({QLatin1String(name), QStringLiteral("--help")});
+        const ToolRun commandHelp = runQrbTool({QLatin1String(name), u"--help"_s});
         EXPECT_EQ(commandHelp.exitCode, 0) << name;
-        EXPECT_TRUE(
-            commandHelp.out.startsWith(QStringLiteral("Usage: qrbtool ") + command->synopsis()))
-            << name;
-        EXPECT_TRUE(commandHelp.out.contains(QLatin1String("Exit codes: 0 success")));
-        EXPECT_EQ(runQrbTool({QStringLiteral("help"), QLatin1String(name)}).out, commandHelp.out)
-            << name;
+        EXPECT_TRUE(commandHelp.out.startsWith(u"Usage: qrbtool "_s + command->synopsis())) << name;
+        EXPECT_TRUE(commandHelp.out.contains("Exit codes: 0 success"_L1));
+        EXPECT_EQ(runQrbTool({u"help"_s, QLatin1String(name)}).out, commandHelp.out) << name;
     }
 }
 
@@ -58,7 +56,7 @@ TEST(QrbTool, CommandsOfFeaturesCheckTheirArgumentsFirst)
 {
     const QString sample = TestEnvironment::sampleRulebase();
     const QString dir = TestEnvironment::makeTempDir();
-    const QString project = writeBytes(dir + QStringLiteral("/P.vbp"), "Type=Exe\r\n");
+    const QString project = writeFile(dir + u"/P.vbp"_s, "Type=Exe\r\n");
 
     // What a build without a feature says of its command.
     QString said;
@@ -66,29 +64,23 @@ TEST(QrbTool, CommandsOfFeaturesCheckTheirArgumentsFirst)
         QTextStream out(&said);
         QTextStream err(&said);
         ToolContext context(out, err);
-        EXPECT_EQ(ToolBackends::notAvailable(QStringLiteral("scripts"), context), 2);
+        EXPECT_EQ(ToolBackends::notAvailable(u"scripts"_s, context), 2);
     }
-    EXPECT_EQ(said, QStringLiteral("qrbtool: 'scripts' is not available in this build\n"));
+    EXPECT_EQ(said, u"qrbtool: 'scripts' is not available in this build\n"_s);
 
     // Usage comes first: a missing -o or --from is said as such.
-    const ToolRun noOutput = runQrbTool({QStringLiteral("doc"), sample});
+    const ToolRun noOutput = runQrbTool({u"doc"_s, sample});
     EXPECT_EQ(noOutput.exitCode, 2);
-    EXPECT_TRUE(
-        noOutput.err.contains(QLatin1String("qrbtool doc: no output file given (-o OUT.html)")));
-    const ToolRun noSource = runQrbTool({QStringLiteral("import"), sample});
-    EXPECT_TRUE(noSource.err.contains(QLatin1String("qrbtool import: nothing to import from")));
-    const ToolRun noProject = runQrbTool({QStringLiteral("import"),
-                                          sample,
-                                          QStringLiteral("--from"),
-                                          project + QStringLiteral("x")});
+    EXPECT_TRUE(noOutput.err.contains("qrbtool doc: no output file given (-o OUT.html)"_L1));
+    const ToolRun noSource = runQrbTool({u"import"_s, sample});
+    EXPECT_TRUE(noSource.err.contains("qrbtool import: nothing to import from"_L1));
+    const ToolRun noProject = runQrbTool({u"import"_s, sample, u"--from"_s, project + u"x"_s});
     EXPECT_EQ(noProject.exitCode, 2);
-    EXPECT_TRUE(noProject.err.contains(QLatin1String("P.vbpx: No such file")));
-    const ToolRun missing = runQrbTool({QStringLiteral("scripts"),
-                                        dir + QStringLiteral("/None.qrb"),
-                                        QStringLiteral("-o"),
-                                        dir + QStringLiteral("/x.qrs")});
+    EXPECT_TRUE(noProject.err.contains("P.vbpx: No such file"_L1));
+    const ToolRun missing
+        = runQrbTool({u"scripts"_s, dir + u"/None.qrb"_s, u"-o"_s, dir + u"/x.qrs"_s});
     EXPECT_EQ(missing.exitCode, 2);
-    EXPECT_TRUE(missing.err.contains(QLatin1String("None.qrb: No such file")));
+    EXPECT_TRUE(missing.err.contains("None.qrb: No such file"_L1));
 }
 
 TEST(QrbTool, TheConsoleAnswersEveryQuestionNoAndCatchesTheErrorFramesReports)
@@ -100,36 +92,32 @@ TEST(QrbTool, TheConsoleAnswersEveryQuestionNoAndCatchesTheErrorFramesReports)
         ConsoleUserInterface console(&echo);
         EXPECT_EQ(&UserInterface::current(), &console);
         // Nobody to ask: the cautious answer, whatever the box's default.
-        EXPECT_EQ(askYesNo(QStringLiteral("Save?"), MessageResult::Yes), MessageResult::No);
-        EXPECT_EQ(askYesNoCancel(QStringLiteral("Save now?"), MessageResult::Yes),
-                  MessageResult::Cancel);
-        EXPECT_EQ(console.messageBox(QStringLiteral("Go on?"),
+        EXPECT_EQ(askYesNo(u"Save?"_s, MessageResult::Yes), MessageResult::No);
+        EXPECT_EQ(askYesNoCancel(u"Save now?"_s, MessageResult::Yes), MessageResult::Cancel);
+        EXPECT_EQ(console.messageBox(u"Go on?"_s,
                                      MessageButtons::OKCancel,
                                      MessageIcon::Question,
                                      QString(),
                                      MessageResult::OK),
                   MessageResult::Cancel);
-        showWarning(QStringLiteral("Careful."));
+        showWarning(u"Careful."_s);
         FileDialogRequest request;
         EXPECT_FALSE(console.getOpenFilename(request));
         EXPECT_FALSE(console.getSaveFilename(request));
-        EXPECT_FALSE(console.shellOpen(QStringLiteral("x.html")));
+        EXPECT_FALSE(console.shellOpen(u"x.html"_s));
         // Without a log of the process's own, the error frame's reports arrive here as well.
         if (!gobjLogFile)
             ADD_FAILURE() << "the console set up no log";
-        reportError(QuorinError(5, QStringLiteral("Here::There"), QStringLiteral("Broken")),
-                    "There",
-                    "Here");
+        reportError(QuorinError(5, u"Here::There"_s, u"Broken"_s), "There", "Here");
         echo.flush();
         const QStringList messages = console.messages();
         ASSERT_EQ(messages.size(), 5);
-        EXPECT_EQ(messages.at(3), QStringLiteral("Careful."));
-        EXPECT_TRUE(
-            messages.at(4).startsWith(QLatin1String("Quorin Unexpected Error: Error 5 - Broken")));
+        EXPECT_EQ(messages.at(3), u"Careful."_s);
+        EXPECT_TRUE(messages.at(4).startsWith("Quorin Unexpected Error: Error 5 - Broken"_L1));
         EXPECT_EQ(console.takeMessages().size(), 5);
         EXPECT_TRUE(console.messages().isEmpty());
     }
-    EXPECT_TRUE(echoed.contains(QLatin1String("qrbtool: Careful.\n")));
+    EXPECT_TRUE(echoed.contains("qrbtool: Careful.\n"_L1));
     // What was there before comes back, log included.
     EXPECT_EQ(&UserInterface::current(), &scripted);
     EXPECT_FALSE(gobjLogFile);
@@ -154,36 +142,21 @@ TEST(QrbTool, TheBuiltProgramGivesItsExitCodes)
     const QString sample = TestEnvironment::sampleRulebase();
     const QString dir = TestEnvironment::makeTempDir();
     QString out;
-    EXPECT_EQ(
-        exitOf(
-            {QStringLiteral("check"), QStringLiteral("--format"), QStringLiteral("json"), sample},
-            &out),
-        0);
-    EXPECT_TRUE(parseJsonObject(out).value(QStringLiteral("files")).isArray());
-    const QString broken
-        = writeBytes(dir + QStringLiteral("/Broken.qrb"), sampleBytes().left(3000));
-    EXPECT_EQ(exitOf({QStringLiteral("check"), broken}, &out), 1);
+    EXPECT_EQ(exitOf({u"check"_s, u"--format"_s, u"json"_s, sample}, &out), 0);
+    EXPECT_TRUE(parseJsonObject(out).value(u"files"_s).isArray());
+    const QString broken = writeFile(dir + u"/Broken.qrb"_s, sampleBytes().left(3000));
+    EXPECT_EQ(exitOf({u"check"_s, broken}, &out), 1);
     EXPECT_TRUE(out.startsWith(broken + QLatin1Char(':'))) << out.toStdString();
-    EXPECT_EQ(exitOf({QStringLiteral("diff"), sample, broken}), 2);
-    EXPECT_EQ(exitOf({QStringLiteral("check"), dir + QStringLiteral("/None.qrb")}), 2);
+    EXPECT_EQ(exitOf({u"diff"_s, sample, broken}), 2);
+    EXPECT_EQ(exitOf({u"check"_s, dir + u"/None.qrb"_s}), 2);
     EXPECT_EQ(exitOf({}), 2);
-    EXPECT_EQ(exitOf({QStringLiteral("doc"),
-                      sample,
-                      QStringLiteral("-o"),
-                      dir + QStringLiteral("/x.html"),
-                      QStringLiteral("--organisation"),
-                      QStringLiteral("K")}),
+    EXPECT_EQ(exitOf({u"doc"_s, sample, u"-o"_s, dir + u"/x.html"_s, u"--organisation"_s, u"K"_s}),
               0);
-    EXPECT_TRUE(QFileInfo::exists(dir + QStringLiteral("/x.html")));
-    EXPECT_EQ(exitOf({QStringLiteral("doc"),
-                      sample,
-                      QStringLiteral("-o"),
-                      dir + QStringLiteral("/none/x.html"),
-                      QStringLiteral("--organisation"),
-                      QStringLiteral("K")}),
-              2);
+    EXPECT_TRUE(QFileInfo::exists(dir + u"/x.html"_s));
+    EXPECT_EQ(
+        exitOf({u"doc"_s, sample, u"-o"_s, dir + u"/none/x.html"_s, u"--organisation"_s, u"K"_s}),
+        2);
     // The program writes no log beside itself.
-    EXPECT_FALSE(
-        QFileInfo::exists(QFileInfo(program).absolutePath() + QStringLiteral("/Error.log")));
+    EXPECT_FALSE(QFileInfo::exists(QFileInfo(program).absolutePath() + u"/Error.log"_s));
 #endif
 }

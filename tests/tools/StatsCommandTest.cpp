@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 qint64 number(const QJsonObject &object, const char *name)
@@ -22,28 +24,26 @@ const char *const counters[]
 TEST(StatsCommand, AProjectWrittenHereIsCountedAsTheReviewerCountsIt)
 {
     const QString dir = TestEnvironment::makeTempDir();
-    const QString project
-        = writeBytes(dir + QStringLiteral("/Tiny.vbp"),
-                     "Type=Exe\r\nModule=modTiny; modTiny.bas\r\nName=\"Tiny\"\r\n");
-    writeBytes(dir + QStringLiteral("/modTiny.bas"),
-               "Attribute VB_Name = \"modTiny\"\r\n"
-               "Option Explicit\r\n"
-               "\r\n"
-               "' A comment line\r\n"
-               "Private m_count As Long ' with a comment\r\n"
-               "Private Sub Bump()\r\n"
-               "    m_count = m_count + _\r\n"
-               "        1\r\n"
-               "End Sub\r\n");
+    const QString project = writeFile(
+        dir + u"/Tiny.vbp"_s, "Type=Exe\r\nModule=modTiny; modTiny.bas\r\nName=\"Tiny\"\r\n");
+    writeFile(dir + u"/modTiny.bas"_s,
+              "Attribute VB_Name = \"modTiny\"\r\n"
+              "Option Explicit\r\n"
+              "\r\n"
+              "' A comment line\r\n"
+              "Private m_count As Long ' with a comment\r\n"
+              "Private Sub Bump()\r\n"
+              "    m_count = m_count + _\r\n"
+              "        1\r\n"
+              "End Sub\r\n");
 
-    const ToolRun json = runQrbTool(
-        {QStringLiteral("stats"), QStringLiteral("--format"), QStringLiteral("json"), project});
+    const ToolRun json = runQrbTool({u"stats"_s, u"--format"_s, u"json"_s, project});
     ASSERT_EQ(json.exitCode, 0) << json.err.toStdString();
     const QJsonObject root = parseJsonObject(json.out);
-    const QJsonArray projects = root.value(QStringLiteral("projects")).toArray();
+    const QJsonArray projects = root.value(u"projects"_s).toArray();
     ASSERT_EQ(projects.size(), 1);
     const QJsonObject tiny = projects.at(0).toObject();
-    EXPECT_EQ(tiny.value(QStringLiteral("name")).toString(), QStringLiteral("Tiny"));
+    EXPECT_EQ(tiny.value(u"name"_s).toString(), u"Tiny"_s);
     EXPECT_EQ(number(tiny, "files"), 1);
     // Past the header: five code lines (the continued statement is one), one of them with a
     // comment, one comment-only line, one blank line.
@@ -52,98 +52,29 @@ TEST(StatsCommand, AProjectWrittenHereIsCountedAsTheReviewerCountsIt)
     EXPECT_EQ(number(tiny, "commentLines"), 1);
     EXPECT_EQ(number(tiny, "blankLines"), 1);
     EXPECT_EQ(number(tiny, "totalLines"), 7);
-    const QJsonObject file = tiny.value(QStringLiteral("sourceFiles")).toArray().at(0).toObject();
-    EXPECT_EQ(file.value(QStringLiteral("name")).toString(), QStringLiteral("modTiny"));
+    const QJsonObject file = tiny.value(u"sourceFiles"_s).toArray().at(0).toObject();
+    EXPECT_EQ(file.value(u"name"_s).toString(), u"modTiny"_s);
     EXPECT_EQ(number(file, "codeLines"), 5);
 
-    const ToolRun text = runQrbTool({QStringLiteral("stats"), QStringLiteral("--files"), project});
+    const ToolRun text = runQrbTool({u"stats"_s, u"--files"_s, project});
     EXPECT_EQ(text.exitCode, 0);
     const QStringList lines = text.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     ASSERT_EQ(lines.size(), 4) << text.out.toStdString();
-    EXPECT_EQ(lines.at(0).simplified(), QStringLiteral("Files Code Comment Blank Total Project"));
+    EXPECT_EQ(lines.at(0).simplified(), u"Files Code Comment Blank Total Project"_s);
     EXPECT_EQ(lines.at(1).simplified(),
-              QStringLiteral("1 5 1 1 7 Tiny (%1)").arg(QDir::current().relativeFilePath(project)));
-    EXPECT_TRUE(lines.at(2).simplified().endsWith(QLatin1String("modTiny.bas")));
-    EXPECT_EQ(lines.at(3).simplified(), QStringLiteral("1 5 1 1 7 Total"));
+              u"1 5 1 1 7 Tiny (%1)"_s.arg(QDir::current().relativeFilePath(project)));
+    EXPECT_TRUE(lines.at(2).simplified().endsWith("modTiny.bas"_L1));
+    EXPECT_EQ(lines.at(3).simplified(), u"1 5 1 1 7 Total"_s);
 
     // Not a project, or no file at all: exit 2 with the reason; nothing on the output.
-    const QString notProject = writeBytes(dir + QStringLiteral("/notes.txt"), "x");
-    for (const QString &bad : {notProject, dir + QStringLiteral("/Missing.vbp")}) {
-        const ToolRun run
-            = runQrbTool({QStringLiteral("stats"), QStringLiteral("--format=json"), bad});
+    const QString notProject = writeFile(dir + u"/notes.txt"_s, "x");
+    for (const QString &bad : {notProject, dir + u"/Missing.vbp"_s}) {
+        const ToolRun run = runQrbTool({u"stats"_s, u"--format=json"_s, bad});
         EXPECT_EQ(run.exitCode, 2);
         EXPECT_TRUE(run.err.contains(bad)) << run.err.toStdString();
-        EXPECT_EQ(parseJsonObject(run.out).value(QStringLiteral("projects")).toArray().size(), 0);
+        EXPECT_EQ(parseJsonObject(run.out).value(u"projects"_s).toArray().size(), 0);
     }
-    EXPECT_EQ(runQrbTool({QStringLiteral("stats")}).exitCode, 2);
-}
-
-TEST(StatsCommand, TheSharedProjectsAddUpAndAMissingSourceFileIsAFinding)
-{
-    const QString dir = vb6DataDir();
-    if (dir.isEmpty())
-        GTEST_SKIP() << "no shared VB6 test data";
-    const QString group = dir + QStringLiteral("/Suite/Suite.vbg");
-    const QString ledger = dir + QStringLiteral("/Suite/App/Ledger.vbp");
-    const QString builder = dir + QStringLiteral("/Tools/Report Builder/Report Builder.vbp");
-    const QString empty = dir + QStringLiteral("/Tools/Empty.vbp");
-
-    // The group's own project named again counts once.
-    const ToolRun run = runQrbTool({QStringLiteral("stats"),
-                                    QStringLiteral("--format"),
-                                    QStringLiteral("json"),
-                                    group,
-                                    ledger,
-                                    builder,
-                                    empty});
-    EXPECT_EQ(run.exitCode, 1);
-    EXPECT_TRUE(
-        run.err.contains(QLatin1String("modGone.bas: No such file (in project ReportBuilder)")))
-        << run.err.toStdString();
-    const QJsonObject root = parseJsonObject(run.out);
-    const QJsonArray projects = root.value(QStringLiteral("projects")).toArray();
-    QStringList names;
-    QJsonObject sum;
-    qint64 files = 0;
-    for (const QJsonValue &value : projects) {
-        const QJsonObject project = value.toObject();
-        names << project.value(QStringLiteral("name")).toString();
-        files += number(project, "files");
-        const QJsonArray sources = project.value(QStringLiteral("sourceFiles")).toArray();
-        EXPECT_EQ(number(project, "files"), sources.size());
-        for (const char *counter : counters) {
-            qint64 fileSum = 0;
-            for (const QJsonValue &source : sources)
-                fileSum += number(source.toObject(), counter);
-            EXPECT_EQ(number(project, counter), fileSum) << counter;
-            sum.insert(QLatin1String(counter), number(sum, counter) + number(project, counter));
-        }
-        EXPECT_EQ(number(project, "totalLines"),
-                  number(project, "codeLines") + number(project, "commentLines")
-                      + number(project, "blankLines"));
-    }
-    EXPECT_EQ(names.size(), 5) << names.join(QLatin1Char(',')).toStdString();
-    EXPECT_EQ(names.count(QStringLiteral("Ledger")), 1)
-        << names.join(QLatin1Char(',')).toStdString();
-    const QJsonObject total = root.value(QStringLiteral("total")).toObject();
-    EXPECT_EQ(number(total, "projects"), 5);
-    EXPECT_EQ(number(total, "files"), files);
-    for (const char *counter : counters)
-        EXPECT_EQ(number(total, counter), number(sum, counter)) << counter;
-    // Among them the generated module of 20,000 physical lines, continuations joined.
-    EXPECT_GT(number(total, "totalLines"), 15000);
-
-    const QJsonObject reportBuilder = projects.at(3).toObject();
-    EXPECT_EQ(reportBuilder.value(QStringLiteral("name")).toString(),
-              QStringLiteral("ReportBuilder"));
-    const QJsonArray unread = reportBuilder.value(QStringLiteral("unreadFiles")).toArray();
-    ASSERT_EQ(unread.size(), 1);
-    EXPECT_TRUE(unread.at(0)
-                    .toObject()
-                    .value(QStringLiteral("file"))
-                    .toString()
-                    .endsWith(QLatin1String("modGone.bas")));
-    EXPECT_EQ(number(projects.at(4).toObject(), "files"), 0);
+    EXPECT_EQ(runQrbTool({u"stats"_s}).exitCode, 2);
 }
 
 // A group whose member project is missing or unreadable is still read and the rest counted: such
@@ -152,24 +83,21 @@ TEST(StatsCommand, TheSharedProjectsAddUpAndAMissingSourceFileIsAFinding)
 TEST(StatsCommand, AMissingOrUnreadableMemberIsAFindingNamedByItsFile)
 {
     const QString dir = TestEnvironment::makeTempDir();
-    writeBytes(dir + QStringLiteral("/Tiny.vbp"),
-               "Type=Exe\r\nModule=modTiny; modTiny.bas\r\nModule=modDir; modDir.bas\r\n");
-    writeBytes(dir + QStringLiteral("/modTiny.bas"),
-               "Attribute VB_Name = \"modTiny\"\r\nSub A()\r\nEnd Sub\r\n");
-    QDir(dir).mkdir(QStringLiteral("modDir.bas"));
-    QDir(dir).mkdir(QStringLiteral("Folder.vbp"));
-    const QString group = writeBytes(
-        dir + QStringLiteral("/All.vbg"),
+    writeFile(dir + u"/Tiny.vbp"_s,
+              "Type=Exe\r\nModule=modTiny; modTiny.bas\r\nModule=modDir; modDir.bas\r\n");
+    writeFile(dir + u"/modTiny.bas"_s, "Attribute VB_Name = \"modTiny\"\r\nSub A()\r\nEnd Sub\r\n");
+    QDir(dir).mkdir(u"modDir.bas"_s);
+    QDir(dir).mkdir(u"Folder.vbp"_s);
+    const QString group = writeFile(
+        dir + u"/All.vbg"_s,
         "VBGROUP 5.0\r\nStartupProject=Tiny.vbp\r\nProject=Gone.vbp\r\nProject=Folder.vbp\r\n");
 
-    const ToolRun run = runQrbTool(
-        {QStringLiteral("stats"), QStringLiteral("--format"), QStringLiteral("json"), group});
+    const ToolRun run = runQrbTool({u"stats"_s, u"--format"_s, u"json"_s, group});
     EXPECT_EQ(run.exitCode, 1) << run.err.toStdString();
     for (const char *named : {"Gone.vbp: ", "Folder.vbp: ", "modDir.bas: "})
         EXPECT_TRUE(run.err.contains(QLatin1String(named))) << named << run.err.toStdString();
-    EXPECT_FALSE(run.err.contains(QLatin1String(" in function "))) << run.err.toStdString();
-    const QJsonArray projects
-        = parseJsonObject(run.out).value(QStringLiteral("projects")).toArray();
+    EXPECT_FALSE(run.err.contains(" in function "_L1)) << run.err.toStdString();
+    const QJsonArray projects = parseJsonObject(run.out).value(u"projects"_s).toArray();
     ASSERT_EQ(projects.size(), 1);
     EXPECT_EQ(number(projects.at(0).toObject(), "files"), 1);
 }

@@ -13,6 +13,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 ToolRun runQrbTool(const QStringList &arguments)
 {
     ToolRun run;
@@ -37,26 +39,9 @@ QJsonObject parseJsonObject(const QString &text)
     return document.object();
 }
 
-QByteArray readBytes(const QString &filename)
-{
-    QFile file(filename);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return file.readAll();
-}
-
-QString writeBytes(const QString &filename, const QByteArray &bytes)
-{
-    QDir().mkpath(QFileInfo(filename).absolutePath());
-    QFile file(filename);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate)) << filename.toStdString();
-    file.write(bytes);
-    return filename;
-}
-
 QByteArray sampleBytes()
 {
-    return readBytes(TestEnvironment::sampleRulebase());
+    return readFile(TestEnvironment::sampleRulebase());
 }
 
 int lineOf(const QByteArray &text, const QByteArray &marker)
@@ -98,27 +83,26 @@ QByteArray sampleInOldSchema(const QString &version)
     QString text = QString::fromUtf8(sampleBytes());
     const auto drop = [&text](const QString &pattern) { text.remove(QRegularExpression(pattern)); };
     // What the upgrade to 6.2 adds.
-    drop(QStringLiteral(" TagDescription=\"[^\"]*\""));
-    drop(QStringLiteral(" TagExample=\"[^\"]*\""));
-    drop(QStringLiteral(" ExclusionList=\"[^\"]*\""));
-    drop(QStringLiteral(" CaseSensitive=\"[^\"]*\""));
-    drop(QStringLiteral(" ArrayTag=\"[^\"]*\""));
-    if (version == QLatin1String("6.0")) {
+    drop(u" TagDescription=\"[^\"]*\""_s);
+    drop(u" TagExample=\"[^\"]*\""_s);
+    drop(u" ExclusionList=\"[^\"]*\""_s);
+    drop(u" CaseSensitive=\"[^\"]*\""_s);
+    drop(u" ArrayTag=\"[^\"]*\""_s);
+    if (version == "6.0"_L1) {
         // What the upgrade to 6.1 adds.
-        drop(QStringLiteral(" ToleranceCount=\"[^\"]*\""));
-        drop(QStringLiteral(" ToleranceImpact=\"[^\"]*\""));
-        drop(QStringLiteral(" TolerancePercentageComments=\"[^\"]*\""));
-        drop(QStringLiteral(" ToleranceCyclomaticComplexity=\"[^\"]*\""));
-        drop(QStringLiteral("<Report>[\\s\\S]*</Report>\\s*"));
-        drop(QStringLiteral("<Report/>\\s*"));
+        drop(u" ToleranceCount=\"[^\"]*\""_s);
+        drop(u" ToleranceImpact=\"[^\"]*\""_s);
+        drop(u" TolerancePercentageComments=\"[^\"]*\""_s);
+        drop(u" ToleranceCyclomaticComplexity=\"[^\"]*\""_s);
+        drop(u"<Report>[\\s\\S]*</Report>\\s*"_s);
+        drop(u"<Report/>\\s*"_s);
     }
-    text.replace(QStringLiteral("SchemaVersion=\"6.2\""),
-                 QStringLiteral("SchemaVersion=\"%1\"").arg(version));
+    text.replace(u"SchemaVersion=\"6.2\""_s, u"SchemaVersion=\"%1\""_s.arg(version));
     return text.toUtf8();
 }
 
 QString vb6DataDir()
 {
-    const QString dir = TestEnvironment::sharedDataDir() + QStringLiteral("/vb6");
+    const QString dir = TestEnvironment::sharedDataDir() + u"/vb6"_s;
     return QFileInfo(dir).isDir() ? QDir(dir).absolutePath() : QString();
 }

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "support/TestEnvironment.h"
+
 // What one in-process run of qrbtool gave.
 struct ToolRun
 {
@@ -19,8 +21,8 @@ ToolRun runQrbTool(const QStringList &arguments);
 // The JSON object a run printed; a null object (and a test failure) when it is not JSON.
 QJsonObject parseJsonObject(const QString &text);
 
-QByteArray readBytes(const QString &filename);
-QString writeBytes(const QString &filename, const QByteArray &bytes);
+using TestEnvironment::readFile;
+using TestEnvironment::writeFile;
 QByteArray sampleBytes();
 
 // 1-based number of the first line holding `marker`; 0 when none does.

@@ -12,6 +12,8 @@
 #include <random>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // A copy of exactly the data's size, so a sanitizer sees any read past its end.
@@ -22,7 +24,7 @@ std::optional<TypeLibInfo> readExact(const QByteArray &data, int resourceId = 0)
                                               resourceId);
     // Whatever the damage, a result is a whole record.
     static const QRegularExpression guid(
-        QStringLiteral("^\\{[0-9A-F]{8}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{12}\\}$"));
+        u"^\\{[0-9A-F]{8}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{12}\\}$"_s);
     if (info) {
         EXPECT_TRUE(guid.match(info->guid).hasMatch()) << info->guid.toStdString();
     }
@@ -43,7 +45,7 @@ QList<Subject> subjects()
         {"sltg", sltg(3, 1, "help")},
         {"pe32", pe(false, {{1, msft(3, 1, "help", "Lib")}, {2, sltg(3, 1, "help")}})},
     };
-    const QString dir = TestEnvironment::sharedDataDir() + QStringLiteral("/typelib/");
+    const QString dir = TestEnvironment::sharedDataDir() + u"/typelib/"_s;
     for (const char *name : {"ReportLib.tlb", "Reports.dll"}) {
         QFile file(dir + QLatin1String(name));
         if (file.open(QIODevice::ReadOnly))

@@ -32,15 +32,17 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString comctl = QStringLiteral("{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}");
-const QString comct2 = QStringLiteral("{86CF1D34-0C5F-11D2-A9FC-0000F8754DA1}");
-const QString gridGuid = QStringLiteral("{6B1A3F20-5C2D-4E8F-9A10-1B2C3D4E5F60}");
-const QString reportGuid = QStringLiteral("{0F9E8D7C-6B5A-4938-2716-05F4E3D2C1B0}");
-const QString dropMessage = QStringLiteral(
-    "Only Visual Basic project files (*.vbp or *.vbg) or ActiveX component files (*.dll, *.exe, "
-    "*.ocx, *.tlb, *.olb) can be accepted.");
+const QString comctl = u"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}"_s;
+const QString comct2 = u"{86CF1D34-0C5F-11D2-A9FC-0000F8754DA1}"_s;
+const QString gridGuid = u"{6B1A3F20-5C2D-4E8F-9A10-1B2C3D4E5F60}"_s;
+const QString reportGuid = u"{0F9E8D7C-6B5A-4938-2716-05F4E3D2C1B0}"_s;
+const QString dropMessage
+    = u"Only Visual Basic project files (*.vbp or *.vbg) or ActiveX component files (*.dll, *.exe, "
+      u"*.ocx, *.tlb, *.olb) can be accepted."_s;
 
 // The dialogs of this view, run by script: each cancels unless told what to do.
 class ScriptedForms final : public IFormFactory
@@ -111,13 +113,6 @@ struct ShownView
         form.treeControl.click(form.treeControl.find(QLatin1String(key)));
     }
     int row(const QString &key) const { return form.listControl.find(key); }
-    QStringList headers() const
-    {
-        QStringList list;
-        for (int c = 1; c <= form.listControl.columnCount(); ++c)
-            list << form.listControl.columnHeader(c);
-        return list;
-    }
     bool tool(const char *id) const { return form.toolEnabled(QLatin1String(id)); }
 
     ViewTest::AdminDataScope settings;
@@ -130,16 +125,10 @@ struct ShownView
 
 QString typelibFile(const char *name)
 {
-    return TestEnvironment::sharedDataDir() + QStringLiteral("/typelib/") + QLatin1String(name);
+    return TestEnvironment::sharedDataDir() + u"/typelib/"_s + QLatin1String(name);
 }
 
-QString writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-    return path;
-}
+using TestEnvironment::writeFile;
 
 } // namespace
 
@@ -148,34 +137,27 @@ TEST(AuthorisedItemsView, ShowsThreeNodesEachWithAListOfItsOwnShape)
     ShownView s;
     const MemoryTreeControl &tree = s.form.treeControl;
     MemoryListControl &list = s.form.listControl;
-    EXPECT_EQ(s.form.treeTitle, QStringLiteral(" Authority Items"));
     ASSERT_EQ(tree.count(), 3);
-    EXPECT_EQ(tree.text(1), QStringLiteral("Authorised Components (4)"));
-    EXPECT_EQ(tree.text(2), QStringLiteral("Authorised References (4)"));
-    EXPECT_EQ(tree.text(3), QStringLiteral("Unauthorised Keywords (20)"));
-    EXPECT_EQ(tree.image(2), QStringLiteral("Reference"));
+    EXPECT_EQ(tree.text(1), u"Authorised Components (4)"_s);
+    EXPECT_EQ(tree.text(2), u"Authorised References (4)"_s);
+    EXPECT_EQ(tree.text(3), u"Unauthorised Keywords (20)"_s);
+    EXPECT_EQ(tree.image(2), u"Reference"_s);
     EXPECT_TRUE(tree.bold(3));
     EXPECT_EQ(tree.parent(3), 0);
 
     // The components first.
-    EXPECT_EQ(s.view->CurrentNodeKey(), QStringLiteral("AC"));
-    EXPECT_EQ(s.form.listTitle, QStringLiteral(" Authority Items [Authorised Components]"));
-    EXPECT_EQ(s.headers(), (QStringList{"Component", "Version(s)", "GUID"}));
+    EXPECT_EQ(s.view->CurrentNodeKey(), u"AC"_s);
     ASSERT_EQ(list.count(), 4);
-    EXPECT_EQ(list.imageList(), QStringLiteral("ilsImages"));
     const int grid = s.row(comctl);
-    EXPECT_EQ(list.text(grid), QStringLiteral("MSCOMCTL.OCX"));
-    EXPECT_EQ(list.subItemText(grid, 1), QStringLiteral("2.0; 2.1; 2.2"));
+    EXPECT_EQ(list.text(grid), u"MSCOMCTL.OCX"_s);
+    EXPECT_EQ(list.subItemText(grid, 1), u"2.0; 2.1; 2.2"_s);
     EXPECT_EQ(list.subItemText(grid, 2), comctl);
     EXPECT_EQ(list.smallIcon(grid), 1);
-    EXPECT_EQ(list.subItemText(s.row(comct2), 1), QStringLiteral("<All Versions>"));
+    EXPECT_EQ(list.subItemText(s.row(comct2), 1), u"<All Versions>"_s);
     EXPECT_TRUE(s.rulebase->AuthorisedComponents()->Item(comct2)->VersionList().isEmpty());
     EXPECT_EQ(list.selectedItem(), 1);
-    EXPECT_EQ(s.form.statusText, QStringLiteral("4 Items"));
-    EXPECT_EQ(s.form.listHeaderImage, QStringLiteral("Component"));
-    EXPECT_EQ(s.form.documentation,
-              QStringLiteral(
-                  "Add one or more ActiveX components which are authorised for use by projects."));
+    EXPECT_EQ(s.form.statusText, u"4 Items"_s);
+    EXPECT_EQ(s.form.listHeaderImage, u"Component"_s);
     for (const char *enabled : {"tlAddFromProject",
                                 "tlAuthorisedComponent",
                                 "tlAuthorisedReference",
@@ -189,27 +171,22 @@ TEST(AuthorisedItemsView, ShowsThreeNodesEachWithAListOfItsOwnShape)
     EXPECT_FALSE(s.form.noItemsVisible);
     list.click(grid);
     EXPECT_EQ(s.form.documentation,
-              QStringLiteral("Authorised Component:\r\n")
+              u"Authorised Component:\r\n"_s
                   + s.rulebase->AuthorisedComponents()->Item(comctl)->Advice());
 
     s.click("AR");
-    EXPECT_EQ(s.headers(), (QStringList{"Reference", "Version(s)", "Filename", "GUID"}));
-    const QString ole = QStringLiteral("{00020430-0000-0000-C000-000000000046}");
-    EXPECT_EQ(list.text(s.row(ole)), QStringLiteral("OLE Automation"));
-    EXPECT_EQ(list.subItemText(s.row(ole), 2), QStringLiteral("stdole2.tlb"));
+    const QString ole = u"{00020430-0000-0000-C000-000000000046}"_s;
+    EXPECT_EQ(list.text(s.row(ole)), u"OLE Automation"_s);
+    EXPECT_EQ(list.subItemText(s.row(ole), 2), u"stdole2.tlb"_s);
     EXPECT_EQ(list.subItemText(s.row(ole), 3), ole);
     EXPECT_EQ(list.smallIcon(s.row(ole)), 2);
     list.click(s.row(ole));
-    EXPECT_TRUE(s.form.documentation.startsWith(
-        QStringLiteral("Authorised Reference:\r\nReferenced by every")));
+    EXPECT_TRUE(s.form.documentation.startsWith(u"Authorised Reference:\r\nReferenced by every"_s));
 
     s.click("UK");
-    EXPECT_EQ(s.form.listTitle, QStringLiteral(" Authority Items [Unauthorised Keywords]"));
-    EXPECT_EQ(s.headers(), (QStringList{"Rule", "Title", "Category", "Impact"}));
     EXPECT_EQ(list.columnAlignment(4), ColumnAlignment::Right);
-    EXPECT_EQ(list.imageList(), QStringLiteral("ilsSeverity"));
     EXPECT_EQ(list.count(), 20);
-    EXPECT_EQ(s.form.statusText, QStringLiteral("20 Items (1 Inactive)"));
+    EXPECT_EQ(s.form.statusText, u"20 Items (1 Inactive)"_s);
     EXPECT_TRUE(s.tool("tlCloneRule"));
     EXPECT_TRUE(s.tool("tlRuleInactive"));
     EXPECT_EQ(s.view->ItemsActiveState(), 1);
@@ -219,8 +196,8 @@ TEST(AuthorisedItemsView, ShowsThreeNodesEachWithAListOfItsOwnShape)
     ASSERT_NE(inactive, 0);
     list.moveOver(inactive);
     EXPECT_EQ(list.toolTipText(),
-              QStringLiteral("The rule for this unauthorised keyword is not active and "
-                             "therefore will not be enforced."));
+              u"The rule for this unauthorised keyword is not active and "
+              u"therefore will not be enforced."_s);
     list.moveOver(inactive == 1 ? 2 : 1);
     EXPECT_TRUE(list.toolTipText().isEmpty());
     list.click(inactive);
@@ -247,8 +224,7 @@ TEST(AuthorisedItemsView, DeleteAsksThenRemovesFromTheRulebaseAndTheList)
     s.ui.answers = {MessageResult::No};
     s.view->DeleteItems();
     ASSERT_EQ(s.ui.messages.size(), 1u);
-    EXPECT_EQ(s.ui.messages[0].text,
-              QStringLiteral("Are you sure you wish to delete the selected item(s)?"));
+    EXPECT_EQ(s.ui.messages[0].text, u"Are you sure you wish to delete the selected item(s)?"_s);
     EXPECT_EQ(s.ui.messages[0].buttons, MessageButtons::YesNo);
     EXPECT_EQ(s.ui.messages[0].icon, MessageIcon::Question);
     EXPECT_EQ(list.count(), 4);
@@ -260,8 +236,8 @@ TEST(AuthorisedItemsView, DeleteAsksThenRemovesFromTheRulebaseAndTheList)
     EXPECT_EQ(list.find(first), 0);
     EXPECT_FALSE(s.rulebase->AuthorisedComponents()->Contains(first));
     EXPECT_EQ(s.rulebase->AuthorisedComponents()->Count(), 2);
-    EXPECT_EQ(s.form.treeControl.text(1), QStringLiteral("Authorised Components (2)"));
-    EXPECT_EQ(s.form.statusText, QStringLiteral("2 Items"));
+    EXPECT_EQ(s.form.treeControl.text(1), u"Authorised Components (2)"_s);
+    EXPECT_EQ(s.form.statusText, u"2 Items"_s);
     EXPECT_TRUE(s.rulebase->Dirty());
 
     list.click(1);
@@ -269,12 +245,12 @@ TEST(AuthorisedItemsView, DeleteAsksThenRemovesFromTheRulebaseAndTheList)
     s.ui.answers = {MessageResult::Yes};
     s.view->DeleteItems();
     EXPECT_EQ(list.count(), 0);
-    EXPECT_EQ(s.form.treeControl.text(1), QStringLiteral("Authorised Components"));
+    EXPECT_EQ(s.form.treeControl.text(1), u"Authorised Components"_s);
     EXPECT_FALSE(s.form.treeControl.bold(1));
     EXPECT_TRUE(s.form.noItemsVisible);
     EXPECT_FALSE(s.tool("tlDeleteRule"));
     EXPECT_FALSE(s.tool("tlOpenRule"));
-    EXPECT_EQ(s.form.statusText, QStringLiteral("0 Items"));
+    EXPECT_EQ(s.form.statusText, u"0 Items"_s);
     // With no row selected nothing is asked.
     s.view->DeleteItems();
     EXPECT_EQ(s.ui.messages.size(), 3u);
@@ -285,7 +261,7 @@ TEST(AuthorisedItemsView, DeleteAsksThenRemovesFromTheRulebaseAndTheList)
     s.ui.answers = {MessageResult::Yes};
     s.view->DeleteItems();
     EXPECT_FALSE(s.rulebase->RuleLists()->UnauthorisedKeywords()->Contains(keyword));
-    EXPECT_EQ(s.form.treeControl.text(3), QStringLiteral("Unauthorised Keywords (19)"));
+    EXPECT_EQ(s.form.treeControl.text(3), u"Unauthorised Keywords (19)"_s);
 }
 
 TEST(AuthorisedItemsView, OpenEditsTheItemOfTheRowAndCancelLeavesIt)
@@ -296,44 +272,43 @@ TEST(AuthorisedItemsView, OpenEditsTheItemOfTheRowAndCancelLeavesIt)
     list.click(row);
     s.view->OpenItem(); // the script cancels
     EXPECT_EQ(s.forms.componentRuns, 1);
-    EXPECT_EQ(list.subItemText(row, 1), QStringLiteral("2.0; 2.1; 2.2"));
+    EXPECT_EQ(list.subItemText(row, 1), u"2.0; 2.1; 2.2"_s);
     EXPECT_FALSE(s.rulebase->Dirty());
 
     s.forms.component = [](AuthorisedComponentForm &form) {
-        EXPECT_EQ(form.Filename(), QStringLiteral("MSCOMCTL.OCX"));
+        EXPECT_EQ(form.Filename(), u"MSCOMCTL.OCX"_s);
         form.setVersions(QString());
-        form.setFilename(QStringLiteral("MSCOMCTL2.OCX"));
+        form.setFilename(u"MSCOMCTL2.OCX"_s);
         form.OK();
     };
     s.view->OpenItem();
-    EXPECT_EQ(list.text(row), QStringLiteral("MSCOMCTL2.OCX"));
-    EXPECT_EQ(list.subItemText(row, 1), QStringLiteral("<All Versions>"));
+    EXPECT_EQ(list.text(row), u"MSCOMCTL2.OCX"_s);
+    EXPECT_EQ(list.subItemText(row, 1), u"<All Versions>"_s);
     EXPECT_EQ(list.key(row), comctl);
     EXPECT_TRUE(s.rulebase->AuthorisedComponents()->Item(comctl)->Advice().isEmpty());
-    EXPECT_EQ(s.form.documentation, QStringLiteral("Authorised Component:\r\n"));
+    EXPECT_EQ(s.form.documentation, u"Authorised Component:\r\n"_s);
     // The item has no flag of its own, yet the edit must not be lost on closing.
     EXPECT_TRUE(s.rulebase->Dirty());
 
     s.click("AR");
     list.click(1);
     s.forms.reference = [](AuthorisedReferenceForm &form) {
-        form.setDescription(QStringLiteral("Renamed"));
-        form.setAdvice(QStringLiteral("New advice"));
+        form.setDescription(u"Renamed"_s);
+        form.setAdvice(u"New advice"_s);
         form.OK();
     };
     s.view->OpenItem();
-    EXPECT_EQ(list.text(1), QStringLiteral("Renamed"));
-    EXPECT_EQ(s.form.documentation, QStringLiteral("Authorised Reference:\r\nNew advice"));
+    EXPECT_EQ(list.text(1), u"Renamed"_s);
+    EXPECT_EQ(s.form.documentation, u"Authorised Reference:\r\nNew advice"_s);
 
     s.click("UK");
     ScriptedLauncher launcher;
-    launcher.edit = [](IRule &rule) {
-        static_cast<UnauthorisedKeyword &>(rule).setTitle(QStringLiteral("Edited"));
-    };
+    launcher.edit
+        = [](IRule &rule) { static_cast<UnauthorisedKeyword &>(rule).setTitle(u"Edited"_s); };
     list.click(2);
     s.view->OpenItem();
     EXPECT_EQ(launcher.opened, 1);
-    EXPECT_EQ(list.subItemText(2, 1), QStringLiteral("Edited"));
+    EXPECT_EQ(list.subItemText(2, 1), u"Edited"_s);
 }
 
 TEST(AuthorisedItemsView, NewItemsComeThroughTheApplicationOnlyWhileThisViewIsCurrent)
@@ -347,48 +322,47 @@ TEST(AuthorisedItemsView, NewItemsComeThroughTheApplicationOnlyWhileThisViewIsCu
         app.OpenRulebase(Application::OpenMode::CommandLine, TestEnvironment::sampleRulebase()));
     const auto &rulebase = app.rulebase();
     forms.component = [](AuthorisedComponentForm &f) {
-        f.setFilename(QStringLiteral("new.ocx"));
-        f.setGUID(QStringLiteral("{11111111-2222-3333-4444-555555555555}"));
-        f.setVersions(QStringLiteral("1.0"));
+        f.setFilename(u"new.ocx"_s);
+        f.setGUID(u"{11111111-2222-3333-4444-555555555555}"_s);
+        f.setVersions(u"1.0"_s);
         f.OK();
     };
     // Another view: the command does nothing.
-    EXPECT_TRUE(ExecuteTool(app, QStringLiteral("tlAuthorisedComponent")));
+    EXPECT_TRUE(ExecuteTool(app, u"tlAuthorisedComponent"_s));
     EXPECT_EQ(forms.componentRuns, 0);
 
-    app.SwitchView(QStringLiteral("tlAuthorisedItems"));
+    app.SwitchView(u"tlAuthorisedItems"_s);
     ASSERT_NE(dynamic_cast<AuthorisedItemsView *>(app.CurrentView()), nullptr);
     EXPECT_EQ(form.helpContext, 67);
-    EXPECT_TRUE(form.toolEnabled(QStringLiteral("tlAddFromProject")));
-    ExecuteTool(app, QStringLiteral("tlAuthorisedComponent"));
+    EXPECT_TRUE(form.toolEnabled(u"tlAddFromProject"_s));
+    ExecuteTool(app, u"tlAuthorisedComponent"_s);
     EXPECT_EQ(forms.componentRuns, 1);
     EXPECT_EQ(rulebase->AuthorisedComponents()->Count(), 5);
     EXPECT_EQ(form.listControl.count(), 5);
-    EXPECT_EQ(form.treeControl.text(1), QStringLiteral("Authorised Components (5)"));
-    EXPECT_EQ(form.statusText, QStringLiteral("5 Items"));
+    EXPECT_EQ(form.treeControl.text(1), u"Authorised Components (5)"_s);
+    EXPECT_EQ(form.statusText, u"5 Items"_s);
 
     // The same GUID again is refused, and said so.
-    ExecuteTool(app, QStringLiteral("tlAuthorisedComponent"));
+    ExecuteTool(app, u"tlAuthorisedComponent"_s);
     EXPECT_EQ(rulebase->AuthorisedComponents()->Count(), 5);
     ASSERT_FALSE(ui.messages.empty());
-    EXPECT_TRUE(
-        ui.messages.back().text.contains(QStringLiteral("{11111111-2222-3333-4444-555555555555}")));
+    EXPECT_TRUE(ui.messages.back().text.contains(u"{11111111-2222-3333-4444-555555555555}"_s));
 
     // A reference while the components show: stored and counted, the list unchanged.
     forms.reference = [](AuthorisedReferenceForm &f) {
-        f.setDescription(QStringLiteral("New Library"));
-        f.setGUID(QStringLiteral("{99999999-2222-3333-4444-555555555555}"));
+        f.setDescription(u"New Library"_s);
+        f.setGUID(u"{99999999-2222-3333-4444-555555555555}"_s);
         f.OK();
     };
-    ExecuteTool(app, QStringLiteral("tlAuthorisedReference"));
+    ExecuteTool(app, u"tlAuthorisedReference"_s);
     EXPECT_EQ(rulebase->AuthorisedReferences()->Count(), 5);
     EXPECT_EQ(form.listControl.count(), 5);
-    EXPECT_EQ(form.treeControl.text(2), QStringLiteral("Authorised References (5)"));
+    EXPECT_EQ(form.treeControl.text(2), u"Authorised References (5)"_s);
 
     // Import through the dialog: browse to a project, keep its components only.
     const QString dir = TestEnvironment::makeTempDir();
     ui.openAnswers = {writeFile(
-        dir + QStringLiteral("/p.vbp"),
+        dir + u"/p.vbp"_s,
         "Type=Exe\r\nObject={831FDD16-0C5C-11D2-A9FC-0000F8754DA1}#2.5#0; MSCOMCTL.OCX\r\n"
         "Object={ABCDEF00-0000-0000-0000-000000000001}#1.0#0; fresh.ocx\r\nName=\"P\"\r\n")};
     forms.import = [](AddFromProjectForm &f) {
@@ -399,28 +373,27 @@ TEST(AuthorisedItemsView, NewItemsComeThroughTheApplicationOnlyWhileThisViewIsCu
         EXPECT_TRUE(f.OKEnabled());
         f.OK();
     };
-    ExecuteTool(app, QStringLiteral("tlAddFromProject"));
+    ExecuteTool(app, u"tlAddFromProject"_s);
     EXPECT_EQ(forms.importRuns, 1);
     EXPECT_EQ(ui.messages.back().text,
-              QStringLiteral(
-                  "2 new components and 3 new references were found for the project 'p.vbp'."));
+              u"2 new components and 3 new references were found for the project 'p.vbp'."_s);
     EXPECT_EQ(rulebase->AuthorisedComponents()->Item(comctl)->VersionList(),
-              QStringLiteral("2.0; 2.1; 2.2; 2.5"));
+              u"2.0; 2.1; 2.2; 2.5"_s);
     EXPECT_EQ(form.listControl.subItemText(form.listControl.find(comctl), 1),
-              QStringLiteral("2.0; 2.1; 2.2; 2.5"));
-    EXPECT_NE(form.listControl.find(QStringLiteral("{ABCDEF00-0000-0000-0000-000000000001}")), 0);
+              u"2.0; 2.1; 2.2; 2.5"_s);
+    EXPECT_NE(form.listControl.find(u"{ABCDEF00-0000-0000-0000-000000000001}"_s), 0);
     EXPECT_EQ(rulebase->AuthorisedComponents()->Count(), 6);
     EXPECT_EQ(rulebase->AuthorisedReferences()->Count(), 5);
-    EXPECT_EQ(form.treeControl.text(1), QStringLiteral("Authorised Components (6)"));
+    EXPECT_EQ(form.treeControl.text(1), u"Authorised Components (6)"_s);
 
     // A cancelled import changes nothing.
     forms.import = [](AddFromProjectForm &f) { f.Cancel(); };
-    ExecuteTool(app, QStringLiteral("tlAddFromProject"));
+    ExecuteTool(app, u"tlAddFromProject"_s);
     EXPECT_EQ(rulebase->AuthorisedComponents()->Count(), 6);
 
     app.TerminateApplication();
-    EXPECT_FALSE(form.toolEnabled(QStringLiteral("tlAddFromProject")));
-    EXPECT_FALSE(form.toolEnabled(QStringLiteral("tlAuthorisedReference")));
+    EXPECT_FALSE(form.toolEnabled(u"tlAddFromProject"_s));
+    EXPECT_FALSE(form.toolEnabled(u"tlAuthorisedReference"_s));
     EXPECT_TRUE(form.treeTitle.isEmpty());
 }
 
@@ -428,13 +401,13 @@ TEST(AuthorisedItemsView, DroppedFilesAreTakenAsProjectsElseAsActiveXElseRefused
 {
     ShownView s;
     EXPECT_TRUE(AuthorisedItemsView::IsComponentFile(QStringLiteral("C:\\x\\a.Dll")));
-    EXPECT_TRUE(AuthorisedItemsView::IsComponentFile(QStringLiteral("b.olb")));
-    EXPECT_FALSE(AuthorisedItemsView::IsComponentFile(QStringLiteral("c.txt")));
-    EXPECT_FALSE(AuthorisedItemsView::IsComponentFile(QStringLiteral("d.vbp")));
+    EXPECT_TRUE(AuthorisedItemsView::IsComponentFile(u"b.olb"_s));
+    EXPECT_FALSE(AuthorisedItemsView::IsComponentFile(u"c.txt"_s));
+    EXPECT_FALSE(AuthorisedItemsView::IsComponentFile(u"d.vbp"_s));
     EXPECT_FALSE(AuthorisedItemsView::IsComponentFile(QString()));
     EXPECT_TRUE(s.view->AcceptsFileDrops());
 
-    s.view->FilesDropped({QStringLiteral("/tmp/readme.txt"), QStringLiteral("/tmp/x.bas")});
+    s.view->FilesDropped({u"/tmp/readme.txt"_s, u"/tmp/x.bas"_s});
     ASSERT_EQ(s.ui.messages.size(), 1u);
     EXPECT_EQ(s.ui.messages[0].text, dropMessage);
     EXPECT_EQ(s.ui.messages[0].icon, MessageIcon::Information);
@@ -442,16 +415,15 @@ TEST(AuthorisedItemsView, DroppedFilesAreTakenAsProjectsElseAsActiveXElseRefused
     // One project among ActiveX files: the project alone is read.
     const QString dir = TestEnvironment::makeTempDir();
     const QString project
-        = writeFile(dir + QStringLiteral("/p.VBP"),
+        = writeFile(dir + u"/p.VBP"_s,
                     "Type=Exe\r\nObject={ABCDEF00-0000-0000-0000-000000000002}#1.0#0; one.ocx\r\n");
     s.view->FilesDropped({typelibFile("Reports.dll"), project, typelibFile("NoTypeLib.dll")});
     EXPECT_EQ(s.forms.importRuns, 1);
     EXPECT_EQ(s.ui.messages.back().text,
-              QStringLiteral(
-                  "1 new component and 3 new references were found for the selected projects."));
+              u"1 new component and 3 new references were found for the selected projects."_s);
     EXPECT_FALSE(s.rulebase->AuthorisedReferences()->Contains(reportGuid));
     EXPECT_EQ(s.form.listControl.count(), 5);
-    EXPECT_EQ(s.form.treeControl.text(2), QStringLiteral("Authorised References (7)"));
+    EXPECT_EQ(s.form.treeControl.text(2), u"Authorised References (7)"_s);
     EXPECT_EQ(s.ui.unscriptedQuestions, 0);
 
     // Without a rulebase nothing is taken.
@@ -469,7 +441,7 @@ TEST(AuthorisedItemsView, ActiveXFilesBecomeComponentsAndReferencesAndTheRestAre
     DataFolderScope data;
     const QString dir = TestEnvironment::makeTempDir();
     // A control without a library is passed over without a word.
-    const QString badControl = writeFile(dir + QStringLiteral("/Bad.ocx"), "text");
+    const QString badControl = writeFile(dir + u"/Bad.ocx"_s, "text");
     s.ui.answers = {MessageResult::Yes};
     s.view->AddAXComponentsFromFile({typelibFile("GridCtl.ocx"),
                                      typelibFile("ReportLib.tlb"),
@@ -479,104 +451,46 @@ TEST(AuthorisedItemsView, ActiveXFilesBecomeComponentsAndReferencesAndTheRestAre
 
     MemoryListControl &list = s.form.listControl;
     ASSERT_NE(s.row(gridGuid), 0);
-    EXPECT_EQ(list.text(s.row(gridGuid)), QStringLiteral("GridCtl.ocx"));
-    EXPECT_EQ(list.subItemText(s.row(gridGuid), 1), QStringLiteral("1.0"));
+    EXPECT_EQ(list.text(s.row(gridGuid)), u"GridCtl.ocx"_s);
+    EXPECT_EQ(list.subItemText(s.row(gridGuid), 1), u"1.0"_s);
     const auto report = s.rulebase->AuthorisedReferences()->Item(reportGuid);
-    EXPECT_EQ(report->Description(), QStringLiteral("Report Engine 2.5 Type Library"));
-    EXPECT_EQ(report->Filename(), QStringLiteral("ReportLib.tlb"));
-    EXPECT_EQ(report->VersionList(), QStringLiteral("2.5"));
-    EXPECT_EQ(s.form.treeControl.text(1), QStringLiteral("Authorised Components (5)"));
-    EXPECT_EQ(s.form.treeControl.text(2), QStringLiteral("Authorised References (5)"));
-    EXPECT_EQ(s.form.statusText, QStringLiteral("5 Items"));
+    EXPECT_EQ(report->Description(), u"Report Engine 2.5 Type Library"_s);
+    EXPECT_EQ(report->Filename(), u"ReportLib.tlb"_s);
+    EXPECT_EQ(report->VersionList(), u"2.5"_s);
+    EXPECT_EQ(s.form.treeControl.text(1), u"Authorised Components (5)"_s);
+    EXPECT_EQ(s.form.treeControl.text(2), u"Authorised References (5)"_s);
+    EXPECT_EQ(s.form.statusText, u"5 Items"_s);
 
     ASSERT_EQ(s.ui.messages.size(), 1u);
     EXPECT_EQ(s.ui.messages[0].text,
-              QStringLiteral("Of the files selected, 2 are not ActiveX components.  Would you like "
-                             "to see the details?"));
+              u"Of the files selected, 2 are not ActiveX components.  Would you like "
+              u"to see the details?"_s);
     EXPECT_EQ(s.ui.messages[0].icon, MessageIcon::Question);
-    const QString reportFile = data.folder + QStringLiteral("NonActiveXFiles.txt");
+    const QString reportFile = data.folder + u"NonActiveXFiles.txt"_s;
     ASSERT_EQ(s.ui.opened, QStringList{reportFile});
     QFile written(reportFile);
     ASSERT_TRUE(written.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(written.readAll());
-    EXPECT_TRUE(text.contains(QStringLiteral("\r\nTHE FOLLOWING ARE NOT ACTIVEX COMPONENTS:\r\n")));
+    EXPECT_TRUE(text.contains(u"\r\nTHE FOLLOWING ARE NOT ACTIVEX COMPONENTS:\r\n"_s));
     EXPECT_TRUE(text.contains(typelibFile("NoTypeLib.dll")));
     EXPECT_TRUE(text.contains(typelibFile("Text.tlb")));
-    EXPECT_FALSE(text.contains(QStringLiteral("Bad.ocx")));
+    EXPECT_FALSE(text.contains(u"Bad.ocx"_s));
 
     // One file alone is spoken of in the singular; No opens nothing.
     s.ui.answers = {MessageResult::No};
     s.view->AddAXComponentsFromFile({typelibFile("Truncated.tlb")});
     EXPECT_EQ(s.ui.messages.back().text,
-              QStringLiteral("Of the files selected, 1 is not an ActiveX component.  Would you "
-                             "like to see the details?"));
+              u"Of the files selected, 1 is not an ActiveX component.  Would you "
+              u"like to see the details?"_s);
     EXPECT_EQ(s.ui.opened.size(), 1);
 
     // Two versions of one library dropped together: one row, both versions.
     s.click("AR");
-    const QString v1
-        = writeFile(dir + QStringLiteral("/lib1.tlb"), TypeLibSamples::msft(1, 0, "Lib", "Lib"));
-    const QString v2
-        = writeFile(dir + QStringLiteral("/lib2.tlb"), TypeLibSamples::msft(2, 0, "Lib", "Lib"));
+    const QString v1 = writeFile(dir + u"/lib1.tlb"_s, TypeLibSamples::msft(1, 0, "Lib", "Lib"));
+    const QString v2 = writeFile(dir + u"/lib2.tlb"_s, TypeLibSamples::msft(2, 0, "Lib", "Lib"));
     s.view->FilesDropped({v1, v2, v1});
     const QString guid = s.rulebase->AuthorisedReferences()->Item(6)->LibID();
     EXPECT_EQ(s.rulebase->AuthorisedReferences()->Count(), 6);
-    EXPECT_EQ(list.subItemText(s.row(guid), 1), QStringLiteral("1.0; 2.0"));
-    EXPECT_EQ(s.form.statusText, QStringLiteral("6 Items"));
-}
-
-// Sort settings that are out of range, or missing altogether, sort by the first column.
-TEST(AuthorisedItemsView, WideOrMissingSortSettingsSortByTheFirstColumn)
-{
-    {
-        ShownView s;
-        gobjAdminData->setListARSortCol(9);
-        s.click("AR");
-        EXPECT_EQ(s.form.listControl.sortKey(), 0);
-        EXPECT_EQ(s.form.listControl.columnIcon(1), QStringLiteral("SortAscending"));
-    }
-    ASSERT_EQ(gobjAdminData, nullptr);
-    ScriptedUserInterface ui;
-    MemoryMainForm form;
-    AuthorisedItemsView view;
-    view.setRulebase(ViewTest::loadSample());
-    view.setMainForm(&form);
-    view.Customise();
-    view.Populate();
-    EXPECT_EQ(form.listControl.count(), 4);
-    EXPECT_EQ(form.listControl.sortKey(), 0);
-    EXPECT_EQ(form.listControl.columnIcon(1), QStringLiteral("SortAscending"));
-    EXPECT_TRUE(ui.messages.empty());
-}
-
-TEST(AuthorisedItemsView, ReleaseSavesTheColumnsItOwnsAndDisablesItsTools)
-{
-    ShownView s;
-    MemoryListControl &list = s.form.listControl;
-    list.setColumnWidth(1, 3000); // half of the list's width
-    s.click("AR");
-    EXPECT_FLOAT_EQ(gobjAdminData->ListColWidthAC(1), 0.5f);
-    list.setColumnWidth(4, 1500);
-    s.click("UK");
-    EXPECT_FLOAT_EQ(gobjAdminData->ListColWidthAR(4), 0.25f);
-    const float keywordWidth = gobjAdminData->ListColWidthUK(2);
-    list.setColumnWidth(2, 600);
-    list.clickColumn(3);
-    EXPECT_EQ(gobjAdminData->ListUKSortCol(), 2);
-    s.view.reset();
-    // The keyword list's fractions are read, never written.
-    EXPECT_FLOAT_EQ(gobjAdminData->ListColWidthUK(2), keywordWidth);
-    EXPECT_TRUE(s.form.treeTitle.isEmpty());
-    EXPECT_TRUE(s.form.listTitle.isEmpty());
-    for (const char *tool : {"tlAddFromProject",
-                             "tlAuthorisedComponent",
-                             "tlAuthorisedReference",
-                             "tlUnauthorisedKeyword"})
-        EXPECT_FALSE(s.tool(tool)) << tool;
-
-    // Shown again, each list takes its fractions back.
-    s.show();
-    EXPECT_EQ(list.columnWidth(1), 3000);
-    s.click("AR");
-    EXPECT_EQ(list.columnWidth(4), 1500);
+    EXPECT_EQ(list.subItemText(s.row(guid), 1), u"1.0; 2.0"_s);
+    EXPECT_EQ(s.form.statusText, u"6 Items"_s);
 }

@@ -20,6 +20,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // A view of the sample on the in-memory controls, with the hover clock in the test's hands.
@@ -76,9 +78,8 @@ qint32 categoryOf(const Rulebase &rulebase, const QString &key)
 // The payload a list drag carries, and what a drop reads of whatever data arrives.
 TEST(DragDrop, PayloadJoinsKeysAndTheDropReadsUpToTheFirstDoubleBar)
 {
-    EXPECT_EQ(DragDrop::payload({QStringLiteral("5001Key"), QStringLiteral("5002Key")}),
-              QStringLiteral("5001Key|5002Key||"));
-    EXPECT_EQ(DragDrop::payload({}), QStringLiteral("||"));
+    EXPECT_EQ(DragDrop::payload({u"5001Key"_s, u"5002Key"_s}), u"5001Key|5002Key||"_s);
+    EXPECT_EQ(DragDrop::payload({}), u"||"_s);
     const std::pair<const char *, const char *> drops[] = {
         {"5001Key|5002Key||junk", "5001Key|5002Key"},
         {"5001Key", "5001Key"}, // no terminator: all of it
@@ -91,8 +92,8 @@ TEST(DragDrop, PayloadJoinsKeysAndTheDropReadsUpToTheFirstDoubleBar)
     };
     for (const auto &[data, keys] : drops)
         EXPECT_EQ(DragDrop::keyList(QString::fromLatin1(data)), QString::fromLatin1(keys)) << data;
-    for (const QStringList &keys : {QStringList{}, QStringList{QStringLiteral("1Key")},
-                                    QStringList{QStringLiteral("a"), QStringLiteral("b c")}})
+    for (const QStringList &keys :
+         {QStringList{}, QStringList{u"1Key"_s}, QStringList{u"a"_s, u"b c"_s}})
         EXPECT_EQ(DragDrop::keyList(DragDrop::payload(keys)), keys.join(QLatin1Char('|')));
 }
 
@@ -107,10 +108,10 @@ TEST(CategoryDragDrop, RowsDraggedOntoACategoryTakeItAndLeaveTheList)
     const qint32 target = categories.Item(2)->ID();
 
     // From the root nothing can be dragged, and a view that started no drag refuses one.
-    f.showNode(QStringLiteral("Category"), 1);
+    f.showNode(u"Category"_s, 1);
     EXPECT_TRUE(f.list().startDrag().isEmpty());
     EXPECT_EQ(f.tree().dragOver(f.tree().find(targetKey)), DragDrop::EffectNone);
-    EXPECT_EQ(f.tree().drop(QStringLiteral("5001Key||"), f.tree().find(targetKey)), DragDrop::EffectNone);
+    EXPECT_EQ(f.tree().drop(u"5001Key||"_s, f.tree().find(targetKey)), DragDrop::EffectNone);
 
     f.showNode(sourceKey, 2);
     ASSERT_GE(f.list().count(), 2) << "the first category of the sample holds two rules or more";
@@ -123,10 +124,11 @@ TEST(CategoryDragDrop, RowsDraggedOntoACategoryTakeItAndLeaveTheList)
     EXPECT_EQ(f.tree().dragOver(1), DragDrop::EffectNone);
     EXPECT_EQ(f.tree().dragOver(f.tree().find(sourceKey)), DragDrop::EffectNone);
     EXPECT_EQ(f.tree().dragOver(f.tree().count() + 5), DragDrop::EffectNone);
-    EXPECT_EQ(f.tree().dragOver(f.tree().find(targetKey), DragDrop::StateOver, false), DragDrop::EffectNone);
+    EXPECT_EQ(f.tree().dragOver(f.tree().find(targetKey), DragDrop::StateOver, false),
+              DragDrop::EffectNone);
     EXPECT_EQ(f.tree().dragOver(f.tree().find(targetKey)), DragDrop::EffectMove);
     EXPECT_EQ(f.tree().dropHighlight(), f.tree().find(targetKey));
-    EXPECT_EQ(f.tree().dragOver(f.tree().find(QStringLiteral("-1K"))), DragDrop::EffectMove);
+    EXPECT_EQ(f.tree().dragOver(f.tree().find(u"-1K"_s)), DragDrop::EffectMove);
 
     // Dropped on the root or the source nothing moves.
     EXPECT_EQ(f.tree().drop(data, 1), DragDrop::EffectNone);
@@ -147,54 +149,10 @@ TEST(CategoryDragDrop, RowsDraggedOntoACategoryTakeItAndLeaveTheList)
     f.showNode(targetKey, 1);
     const QString one = f.selectedKeys().first();
     const QString again = f.list().startDrag();
-    EXPECT_EQ(f.tree().drop(again, f.tree().find(QStringLiteral("-1K"))), DragDrop::EffectMove);
+    EXPECT_EQ(f.tree().drop(again, f.tree().find(u"-1K"_s)), DragDrop::EffectMove);
     EXPECT_EQ(categoryOf(*f.rulebase, one), -1);
-    EXPECT_TRUE(f.tree().text(f.tree().find(QStringLiteral("-1K"))).startsWith(QStringLiteral("Unallocated (")));
+    EXPECT_TRUE(f.tree().text(f.tree().find(u"-1K"_s)).startsWith(u"Unallocated ("_s));
     EXPECT_TRUE(f.ui.messages.empty());
-}
-
-TEST(CategoryDragDrop, AHoveredNodeOpensAfterTwoSecondsAndTheEdgesScroll)
-{
-    DragFixture<CategoryView> f;
-    const int root = 1;
-    f.showNode(f.rulebase->CategoryList()->Item(1)->Key(), 1);
-    ASSERT_FALSE(f.list().startDrag().isEmpty());
-
-    f.tree().setExpanded(root, false);
-    f.tree().dragOver(root);
-    f.now += 1;
-    f.tree().dragOver(root);
-    EXPECT_FALSE(f.tree().expanded(root)) << "one second is not enough";
-    f.now += 1;
-    f.tree().dragOver(root);
-    EXPECT_TRUE(f.tree().expanded(root));
-
-    // At the bottom edge the hover scrolls to the next node; a move to another node starts
-    // the count again.
-    const int last = f.tree().count();
-    const std::size_t shown = f.tree().madeVisible().size();
-    f.tree().setHeight(last);
-    f.tree().dragOver(last - 1);
-    f.now += 5;
-    f.tree().dragOver(last);
-    EXPECT_EQ(f.tree().madeVisible().size(), shown) << "a new node starts its hover at 0";
-    f.now += 2;
-    f.tree().dragOver(last);
-    ASSERT_EQ(f.tree().madeVisible().size(), shown + 1);
-    // The last child has no next node: its first sibling comes into view.
-    EXPECT_EQ(f.tree().madeVisible().back(), f.tree().firstSibling(last));
-
-    // Across midnight the hover time goes negative and nothing happens.
-    f.tree().setExpanded(root, false);
-    f.tree().setHeight(0);
-    f.tree().dragOver(root + 1);
-    f.tree().dragOver(root);
-    f.now = 0;
-    f.tree().dragOver(root);
-    EXPECT_FALSE(f.tree().expanded(root));
-    // A leave does nothing at all.
-    EXPECT_EQ(f.tree().dragOver(root + 1, DragDrop::StateLeave), DragDrop::EffectNone);
-    EXPECT_EQ(f.tree().dropHighlight(), root);
 }
 
 TEST(SeverityDragDrop, RowsDraggedOntoASeverityTakeItsLevel)
@@ -228,11 +186,12 @@ TEST(CodingConventionDragDrop, PendingConventionsStayAndTheOthersChangeOneEvent)
     const int target = f.tree().find(VBParserEvents::ParserEventKey(to));
     ASSERT_NE(target, 0);
     RuleLists &lists = *f.rulebase->RuleLists();
-    const int toBefore = lists.ParserEventCCList(to, false) ? lists.ParserEventCCList(to, false)->Count() : 0;
+    const int toBefore
+        = lists.ParserEventCCList(to, false) ? lists.ParserEventCCList(to, false)->Count() : 0;
 
     f.showNode(fromKey, 1000);
     const QStringList keys = f.selectedKeys();
-    ASSERT_TRUE(keys.contains(QStringLiteral("5020Key"))) << "the sample's pending convention";
+    ASSERT_TRUE(keys.contains(u"5020Key"_s)) << "the sample's pending convention";
     int pending = 0;
     for (const QString &key : keys)
         pending += lists.CodingConventions()->Item(key)->PendingViolation() ? 1 : 0;
@@ -244,9 +203,10 @@ TEST(CodingConventionDragDrop, PendingConventionsStayAndTheOthersChangeOneEvent)
 
     // One message however many pending conventions were held back.
     ASSERT_EQ(f.ui.messages.size(), 1u);
-    EXPECT_EQ(f.ui.messages.front().text,
-              QStringLiteral("Coding conventions defined to trigger pending violations cannot be "
-                             "re-assigned to a different event by dragging and must instead be moved manually."));
+    EXPECT_EQ(
+        f.ui.messages.front().text,
+        u"Coding conventions defined to trigger pending violations cannot be "
+        u"re-assigned to a different event by dragging and must instead be moved manually."_s);
     EXPECT_EQ(f.ui.messages.front().icon, MessageIcon::Information);
 
     for (const QString &key : keys) {
@@ -262,7 +222,8 @@ TEST(CodingConventionDragDrop, PendingConventionsStayAndTheOthersChangeOneEvent)
     // The per-event lists follow, and the list shows what is left on the source event.
     EXPECT_EQ(lists.ParserEventCCList(to, false)->Count(), toBefore + int(keys.size()) - pending);
     EXPECT_EQ(f.list().count(), pending);
-    EXPECT_TRUE(f.tree().text(target).contains(QString::number(toBefore + int(keys.size()) - pending)));
+    EXPECT_TRUE(
+        f.tree().text(target).contains(QString::number(toBefore + int(keys.size()) - pending)));
 }
 
 TEST(NamingConventionDragDrop, NamingConventionsAreNotDragged)
@@ -273,6 +234,6 @@ TEST(NamingConventionDragDrop, NamingConventionsAreNotDragged)
         f.list().setSelected(row, true);
     EXPECT_TRUE(f.list().startDrag().isEmpty());
     EXPECT_EQ(f.tree().dragOver(3), DragDrop::EffectNone);
-    EXPECT_EQ(f.tree().drop(QStringLiteral("5001Key||"), 3), DragDrop::EffectNone);
+    EXPECT_EQ(f.tree().drop(u"5001Key||"_s, 3), DragDrop::EffectNone);
     EXPECT_EQ(f.tree().dropHighlight(), 0);
 }

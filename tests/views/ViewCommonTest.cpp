@@ -8,17 +8,17 @@
 #include "rulebase/SeverityItem.h"
 #include "rulebase/ViolationDefinition.h"
 #include "controls/ComboControl.h"
-#include "support/MemoryListControl.h"
-#include "support/MemoryTreeControl.h"
 #include "controls/modUIListUtils.h"
+#include "support/MemoryListControl.h"
 #include "views/modViewCommon.h"
-#include "vocabulary/ObjectTreeHelper.h"
 
 #include "support/ScriptedUserInterface.h"
 
 #include <QStringList>
 
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 using namespace modViewCommon;
 
@@ -49,7 +49,7 @@ public:
     {
         entries << text + QLatin1Char('=') + QString::number(itemData);
     }
-    QStringList entries{QStringLiteral("stale")};
+    QStringList entries{u"stale"_s};
 };
 
 } // namespace
@@ -59,62 +59,27 @@ TEST(MemoryControls, ListFindsByKeySortsByColumnTextAndKeepsTheCurrentRowThrough
     MemoryListControl list;
     for (const char *key : {"3Key", "1Key", "2Key"})
         list.add(QLatin1String(key), QLatin1String(key).left(1), 0);
-    list.setSubItemText(1, 2, QStringLiteral("b"));
-    list.setSubItemText(2, 2, QStringLiteral("C"));
-    list.setSubItemText(3, 2, QStringLiteral("a"));
+    list.setSubItemText(1, 2, u"b"_s);
+    list.setSubItemText(2, 2, u"C"_s);
+    list.setSubItemText(3, 2, u"a"_s);
     EXPECT_EQ(list.subItemText(1, 1), QString()); // filled in between
-    EXPECT_THROW(list.add(QStringLiteral("1KEY"), QStringLiteral("x"), 0), QuorinError);
+    EXPECT_THROW(list.add(u"1KEY"_s, u"x"_s, 0), QuorinError);
 
-    list.setSelectedItem(list.find(QStringLiteral("1key")));
+    list.setSelectedItem(list.find(u"1key"_s));
     list.setSortKey(2);
     list.setSorted(true);
-    EXPECT_EQ(list.key(1), QStringLiteral("2Key")); // "a" < "b" < "C", ignoring case
-    EXPECT_EQ(list.key(3), QStringLiteral("1Key"));
+    EXPECT_EQ(list.key(1), u"2Key"_s); // "a" < "b" < "C", ignoring case
+    EXPECT_EQ(list.key(3), u"1Key"_s);
     EXPECT_EQ(list.selectedItem(), 3);
     list.setSortOrder(1);
-    EXPECT_EQ(list.key(1), QStringLiteral("1Key"));
-    EXPECT_EQ(list.find(QStringLiteral("2Key")), 3);
+    EXPECT_EQ(list.key(1), u"1Key"_s);
+    EXPECT_EQ(list.find(u"2Key"_s), 3);
 
-    list.remove(QStringLiteral("3Key"));
+    list.remove(u"3Key"_s);
     EXPECT_EQ(list.count(), 2);
-    EXPECT_EQ(list.find(QStringLiteral("2Key")), 2);
-    EXPECT_THROW(list.remove(QStringLiteral("3Key")), QuorinError);
+    EXPECT_EQ(list.find(u"2Key"_s), 2);
+    EXPECT_THROW(list.remove(u"3Key"_s), QuorinError);
     EXPECT_THROW(list.text(3), QuorinError);
-}
-
-TEST(MemoryControls, HeaderClickReversesTheSameColumnAndStartsAnotherAscending)
-{
-    MemoryListControl list;
-    for (const char *header : {"Rule", "Title", "Category", "Impact"})
-        list.addColumn(QLatin1String(header), ColumnAlignment::Left, 10);
-    list.setColumnAlignment(4, ColumnAlignment::Right);
-    SortListByColumn(list, 1);
-    EXPECT_EQ(list.sortOrder(), 1);
-    EXPECT_EQ(list.columnIcon(1), QStringLiteral("SortDescending"));
-    SortListByColumn(list, 4);
-    EXPECT_EQ(list.sortKey(), 3);
-    EXPECT_EQ(list.sortOrder(), 0);
-    EXPECT_EQ(list.columnIcon(1), QString());
-    EXPECT_EQ(list.columnIcon(4), QStringLiteral("SortAscending"));
-    EXPECT_EQ(list.columnAlignment(4), ColumnAlignment::Right);
-    EXPECT_TRUE(list.sorted());
-}
-
-TEST(MemoryControls, RuleTreesFillATreeControlDirectly)
-{
-    MemoryTreeControl tree;
-    ObjectTreeHelper().PopulateCodingConventionsTree(tree, false);
-    ASSERT_EQ(tree.count(), 38);
-    const int beginProject = tree.find(QStringLiteral("1Key"));
-    const int endProject = tree.find(QStringLiteral("37Key"));
-    EXPECT_EQ(tree.parent(beginProject), 1);
-    EXPECT_EQ(tree.next(beginProject), endProject);
-    EXPECT_EQ(tree.previous(endProject), beginProject);
-    EXPECT_EQ(tree.firstSibling(endProject), beginProject);
-    EXPECT_EQ(tree.next(endProject), 0);
-    const int lineLabel = tree.find(QStringLiteral("32Key"));
-    tree.ensureVisible(lineLabel);
-    EXPECT_TRUE(tree.expanded(tree.parent(lineLabel)));
 }
 
 TEST(ViewCommon, RowsShowIdTitleCategoryAndImpactWithTheSeverityColourAndInactiveInRed)
@@ -162,16 +127,16 @@ TEST(ViewCommon, PendingAndUnknownCategoryShowInTheRowAndUpdateRewritesItInPlace
     rule->ViolationDefinition()->setCategoryID(9999);
     MemoryListControl list;
     AddRuleToList(*rule, list, *sample.rulebase->CategoryList(), *sample.rulebase->SeverityList());
-    EXPECT_EQ(list.key(1), QStringLiteral("12Key"));
-    EXPECT_EQ(list.text(1), QStringLiteral("0012p"));
+    EXPECT_EQ(list.key(1), u"12Key"_s);
+    EXPECT_EQ(list.text(1), u"0012p"_s);
     EXPECT_EQ(list.subItemText(1, 2), QString());
 
     rule->setPendingViolation(false);
     rule->setRuleActive(false);
     UpdateRuleInList(
         *rule, 1, list, *sample.rulebase->CategoryList(), *sample.rulebase->SeverityList());
-    EXPECT_EQ(list.text(1), QStringLiteral("0012"));
-    EXPECT_EQ(list.key(1), QStringLiteral("12Key"));
+    EXPECT_EQ(list.text(1), u"0012"_s);
+    EXPECT_EQ(list.key(1), u"12Key"_s);
     EXPECT_EQ(list.foreColor(1), 255);
 
     // A rule of an unknown severity gets no row, and the failure stays inside.
@@ -223,11 +188,11 @@ TEST(ViewCommon, CloneAndDeleteWorkFromTheSelectedKeys)
         lists, sample.list, *sample.rulebase->CategoryList(), *sample.rulebase->SeverityList());
     EXPECT_EQ(sample.list.count(), before + 2);
     for (qint32 id : {lastID + 1, lastID + 2}) {
-        const QString key = QString::number(id) + QStringLiteral("Key");
+        const QString key = QString::number(id) + u"Key"_s;
         EXPECT_NE(sample.list.find(key), 0);
         ASSERT_TRUE(lists.CodingConventions()->Contains(key));
         const auto clone = lists.CodingConventions()->Item(key);
-        EXPECT_TRUE(clone->Title().startsWith(QStringLiteral("Clone of ")));
+        EXPECT_TRUE(clone->Title().startsWith(u"Clone of "_s));
         for (qint32 e = 0; e < clone->EventCount(); ++e)
             EXPECT_TRUE(
                 lists.ParserEventCCList(clone->ParserEventID(e), false)->ContainsValue(clone));
@@ -254,7 +219,7 @@ TEST(ViewCommon, CategoryAndSeverityChangesReachTheRows)
     const auto gone = categories.Item(1);
     const auto renamed = categories.Item(categories.Count());
     ASSERT_NE(gone, renamed);
-    renamed->setTitle(QStringLiteral("Renamed"));
+    renamed->setTitle(u"Renamed"_s);
     categories.Remove(gone->Key());
 
     UpdateCategories(sample.rules(), sample.list, 3, categories);
@@ -264,7 +229,7 @@ TEST(ViewCommon, CategoryAndSeverityChangesReachTheRows)
         const auto definition = rules(sample.list.key(row))->ViolationDefinition();
         EXPECT_NE(definition->CategoryID(), gone->ID());
         if (definition->CategoryID() == renamed->ID()) {
-            EXPECT_EQ(sample.list.subItemText(row, 2), QStringLiteral("Renamed"));
+            EXPECT_EQ(sample.list.subItemText(row, 2), u"Renamed"_s);
         }
         if (definition->CategoryID() == -1) {
             EXPECT_EQ(sample.list.subItemText(row, 2), QString());
@@ -302,7 +267,7 @@ TEST(UIListUtils, PickersGetTitlesWithIdsAndAMissingListLeavesThemEmpty)
     modUIListUtils::PopulateCategoryListControl(combo, nullptr);
     EXPECT_TRUE(combo.entries.isEmpty());
     CategoryList empty;
-    combo.entries << QStringLiteral("stale");
+    combo.entries << u"stale"_s;
     modUIListUtils::PopulateCategoryListControl(combo, &empty);
     EXPECT_TRUE(combo.entries.isEmpty());
 }

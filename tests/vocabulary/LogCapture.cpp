@@ -6,9 +6,11 @@
 
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 LogCapture::LogCapture()
     : m_previous(gobjLogFile)
-    , m_path(TestEnvironment::makeTempDir() + QStringLiteral("/Error.log"))
+    , m_path(TestEnvironment::makeTempDir() + u"/Error.log"_s)
 {
     auto log = std::make_shared<LogFile>();
     log->setLogFileName(m_path);

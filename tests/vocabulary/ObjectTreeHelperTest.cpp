@@ -6,9 +6,7 @@
 #include "rulebase/NamingConvention.h"
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
-#include "rulebase/RulebaseManager.h"
 #include "rulebase/UnauthorisedKeyword.h"
-#include "support/TestEnvironment.h"
 #include "vocabulary/ObjectCatalogue.h"
 #include "vocabulary/ObjectHelper.h"
 #include "vocabulary/ObjectTreeHelper.h"
@@ -271,39 +269,6 @@ TEST(ObjectTreeHelper, NodesCountTheirRulesAndRootsCountTickedConventions)
     helper.PopulateNamingConventionsTree(tree);
     EXPECT_EQ(tree.node(1).text, u"Objects (1)"_s);
     expectObjectTree(tree, {{12, 1}, {36, 1}, {47, 2}, {43, 1}, {29, 1}}); // own type, not base
-}
-
-TEST(ObjectTreeHelper, SampleRulebaseNodesCountEveryConventionBoundToThem)
-{
-    const auto sample = RulebaseManager().LoadRulebase(TestEnvironment::sampleRulebase());
-    ASSERT_TRUE(sample);
-    const auto coding = sample->RuleLists()->CodingConventions();
-    const auto namingRules = sample->RuleLists()->NamingConventions();
-    Counts perEvent, perObject;
-    for (qint32 i = 1; i <= coding->Count(); ++i) {
-        for (qint32 e = 0; e < coding->Item(i)->EventCount(); ++e) {
-            const qint32 id = coding->Item(i)->ParserEventID(e);
-            if (id != 32 && id != 33)
-                ++perEvent[id];
-        }
-    }
-    for (qint32 i = 1; i <= namingRules->Count(); ++i)
-        ++perObject[namingRules->Item(i)->ObjectType()];
-    ASSERT_GE(perEvent.size(), 5);
-    ASSERT_GE(perObject.size(), 5);
-
-    ObjectTreeHelper helper;
-    helper.setRuleLists(sample->RuleLists());
-    RuleTree tree;
-    helper.PopulateCodingConventionsTree(tree, false);
-    EXPECT_EQ(tree.node(1).text, u"Project"_s); // nothing is ticked after a load
-    expectEventTree(tree, true, perEvent);
-    helper.PopulateNamingConventionsTree(tree);
-    expectObjectTree(tree, perObject);
-    for (qint32 i = 1; i <= coding->Count(); ++i)
-        coding->setSelected(i, true);
-    helper.PopulateCodingConventionsTree(tree, false);
-    EXPECT_EQ(tree.node(1).text, u"Project (%1)"_s.arg(coding->Count()));
 }
 
 TEST(ObjectTreeHelper, AFailingControlIsLoggedAndKeepsTheNodesAddedSoFar)

@@ -100,8 +100,8 @@ TEST_F(DocumentTest, EntityBombsAndExternalEntitiesAreRefused)
         laughs += "<!ENTITY l" + QByteArray::number(i) + " \""
                   + ("&l" + QByteArray::number(i - 1) + ';').repeated(10) + "\">";
     laughs += "]>";
-    writeFile(QStringLiteral("secret.txt"), "top secret");
-    writeFile(QStringLiteral("r.dtd"), "<!ELEMENT R ANY>");
+    writeFile(u"secret.txt"_s, "top secret");
+    writeFile(u"r.dtd"_s, "<!ELEMENT R ANY>");
     const struct
     {
         const char *name;
@@ -128,17 +128,16 @@ TEST_F(DocumentTest, EntityBombsAndExternalEntitiesAreRefused)
         const bool loaded = doc.LoadFromFile(writeFile(QString::fromLatin1(c.name), c.bytes));
         if (c.reason == nullptr) {
             ASSERT_TRUE(loaded);
-            EXPECT_EQ(doc.RootElement().AttributeValueByName(QStringLiteral("a")),
-                      QStringLiteral("xx"));
+            EXPECT_EQ(doc.RootElement().AttributeValueByName(u"a"_s), u"xx"_s);
             continue;
         }
         EXPECT_FALSE(loaded);
-        const QStringList records = logged(QStringLiteral("#TarnXMLDoc::LoadFromFile"));
+        const QStringList records = logged(u"#TarnXMLDoc::LoadFromFile"_s);
         ASSERT_FALSE(records.isEmpty());
         EXPECT_TRUE(records.last().contains(QLatin1String(c.reason)))
             << records.last().toStdString();
     }
-    EXPECT_TRUE(logged(QStringLiteral("top secret")).isEmpty());
+    EXPECT_TRUE(logged(u"top secret"_s).isEmpty());
 }
 
 using SaveTest = XmlTest;

@@ -6,6 +6,8 @@
 
 #include <random>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using WriterTest = XmlTest;
@@ -15,20 +17,20 @@ using WriterTest = XmlTest;
 // ASCII and beyond the 16-bit plane, lone surrogates.
 TEST_F(WriterTest, WritesWhatTheTreeSaves)
 {
-    const QString pieces[] = {QStringLiteral("x"),
-                              QStringLiteral("<"),
-                              QStringLiteral(">"),
-                              QStringLiteral("&"),
-                              QStringLiteral("\""),
-                              QStringLiteral("'"),
-                              QStringLiteral("%"),
-                              QStringLiteral("\r\n"),
-                              QStringLiteral("é"),
-                              QStringLiteral("東"),
-                              QStringLiteral("😀"),
+    const QString pieces[] = {u"x"_s,
+                              u"<"_s,
+                              u">"_s,
+                              u"&"_s,
+                              u"\""_s,
+                              u"'"_s,
+                              u"%"_s,
+                              u"\r\n"_s,
+                              u"é"_s,
+                              u"東"_s,
+                              u"😀"_s,
                               QString(QChar(0xD800)),
                               QString(QChar(0xFFFE)),
-                              QStringLiteral("]]>")};
+                              u"]]>"_s};
     std::mt19937 random(5);
     auto text = [&] {
         QString value;
@@ -42,27 +44,27 @@ TEST_F(WriterTest, WritesWhatTheTreeSaves)
     };
     for (int n = 0; n < 200; ++n) {
         TarnXMLDoc doc;
-        doc.NewDoc(QStringLiteral("Root"));
+        doc.NewDoc(u"Root"_s);
         TarnXMLElement treeRoot = doc.RootElement();
         TarnXMLWriter writer;
         {
-            TarnXMLWriter::Element root = writer.RootElement(QLatin1String("Root"));
+            TarnXMLWriter::Element root = writer.RootElement("Root"_L1);
             for (int child = int(random() % 3); child > 0; --child) {
-                TarnXMLElement treeChild = treeRoot.AddElement(QStringLiteral("Child"));
-                TarnXMLWriter::Element element = root.AddElement(QLatin1String("Child"));
+                TarnXMLElement treeChild = treeRoot.AddElement(u"Child"_s);
+                TarnXMLWriter::Element element = root.AddElement("Child"_L1);
                 const QString a = text();
                 const QString b = text();
-                treeChild.setAttributeValueByName(QLatin1String("A"), a);
-                element.setAttribute(QLatin1String("A"), a);
-                treeChild.setAttributeValueByName(QLatin1String("B"), b);
-                element.setAttribute(QLatin1String("B"), b);
+                treeChild.setAttributeValueByName("A"_L1, a);
+                element.setAttribute("A"_L1, a);
+                treeChild.setAttributeValueByName("B"_L1, b);
+                element.setAttribute("B"_L1, b);
                 if (random() % 2) {
-                    treeChild.AddElement(QStringLiteral("Leaf"));
-                    const TarnXMLWriter::Element leaf = element.AddElement(QLatin1String("Leaf"));
+                    treeChild.AddElement(u"Leaf"_s);
+                    const TarnXMLWriter::Element leaf = element.AddElement("Leaf"_L1);
                 }
             }
         }
-        const QString file = path(QStringLiteral("tree.xml"));
+        const QString file = path(u"tree.xml"_s);
         ASSERT_TRUE(doc.SaveToFile(file));
         ASSERT_EQ(readFile(file), writer.bytes().toByteArray()) << n;
     }
@@ -72,22 +74,21 @@ TEST_F(WriterTest, RefusesOutOfOrderWritesAndFailsToSaveAsTheTreeDoes)
 {
     TarnXMLWriter writer;
     {
-        TarnXMLWriter::Element root = writer.RootElement(QLatin1String("R"));
+        TarnXMLWriter::Element root = writer.RootElement("R"_L1);
         {
-            const TarnXMLWriter::Element child = root.AddElement(QLatin1String("A"));
-            EXPECT_THROW(root.AddElement(QLatin1String("B")), std::logic_error);
+            const TarnXMLWriter::Element child = root.AddElement("A"_L1);
+            EXPECT_THROW(root.AddElement("B"_L1), std::logic_error);
         }
-        EXPECT_THROW(root.setAttribute(QLatin1String("late"), QStringLiteral("1")),
-                     std::logic_error);
+        EXPECT_THROW(root.setAttribute("late"_L1, u"1"_s), std::logic_error);
     }
     EXPECT_EQ(writer.bytes(), QByteArrayView("<R><A/></R>"));
 
-    EXPECT_FALSE(writer.SaveToFile(path(QStringLiteral("no/such/folder/r.qrb"))));
+    EXPECT_FALSE(writer.SaveToFile(path(u"no/such/folder/r.qrb"_s)));
     TarnXMLDoc doc;
-    doc.NewDoc(QStringLiteral("R"));
-    EXPECT_FALSE(doc.SaveToFile(path(QStringLiteral("no/such/folder/r.qrb"))));
+    doc.NewDoc(u"R"_s);
+    EXPECT_FALSE(doc.SaveToFile(path(u"no/such/folder/r.qrb"_s)));
     EXPECT_EQ(writer.LastError(), doc.LastError());
-    const QStringList records = logged(QStringLiteral("#TarnXMLDoc::SaveToFile"));
+    const QStringList records = logged(u"#TarnXMLDoc::SaveToFile"_s);
     ASSERT_EQ(records.size(), 2);
     EXPECT_EQ(records[0].section(QLatin1Char('#'), 1), records[1].section(QLatin1Char('#'), 1));
 }

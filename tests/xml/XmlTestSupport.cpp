@@ -6,11 +6,13 @@
 
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 void XmlTest::SetUp()
 {
     m_dir = TestEnvironment::makeTempDir();
     auto log = std::make_shared<LogFile>();
-    log->setLogFileName(path(QStringLiteral("Error.log")));
+    log->setLogFileName(path(u"Error.log"_s));
     log->setQuiet(true);
     gobjLogFile = log;
 }
@@ -22,20 +24,11 @@ void XmlTest::TearDown()
 
 QString XmlTest::writeFile(const QString &name, const QByteArray &bytes) const
 {
-    QFile file(path(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-    return file.fileName();
-}
-
-QByteArray XmlTest::readFile(const QString &filename)
-{
-    QFile file(filename);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return TestEnvironment::writeFile(path(name), bytes);
 }
 
 QStringList XmlTest::logRecords() const
 {
-    return QString::fromUtf8(readFile(path(QStringLiteral("Error.log"))))
+    return QString::fromUtf8(readFile(path(u"Error.log"_s)))
         .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }

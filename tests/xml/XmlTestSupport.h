@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "support/TestEnvironment.h"
+
 #include <gtest/gtest.h>
 
 #include <ostream>
@@ -22,7 +24,10 @@ protected:
 
     QString path(const QString &name) const { return m_dir + QLatin1Char('/') + name; }
     QString writeFile(const QString &name, const QByteArray &bytes) const;
-    static QByteArray readFile(const QString &filename);
+    static QByteArray readFile(const QString &filename)
+    {
+        return TestEnvironment::readFile(filename);
+    }
     QStringList logRecords() const;
     // The records whose message and place contain `fragment`.
     QStringList logged(const QString &fragment) const { return logRecords().filter(fragment); }
