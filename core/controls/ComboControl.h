@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 class QString;
 
 // What the category and severity pickers need of a combo or list box: entries with a number
