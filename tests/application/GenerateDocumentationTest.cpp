@@ -1,11 +1,11 @@
 #include "application/Application.h"
-#include "views/IMainForm.h"
 #include "editors/IFormFactory.h"
 #include "editors/RulebaseDocCreatorForm.h"
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
 #include "rulebase/Report.h"
 #include "rulebase/Rulebase.h"
+#include "views/IMainForm.h"
 
 #include "support/MemoryMainForm.h"
 #include "support/ScriptedUserInterface.h"
@@ -69,57 +69,44 @@ protected:
 
 } // namespace
 
-TEST_F(GenerateDocumentationTest, AfterOKTheQuestionDecidesWhetherTheDocumentIsWritten)
+TEST_F(GenerateDocumentationTest, TheQuestionAfterOKDecidesAndCancelOrNoDialogWritesNothing)
 {
+    // The sample's plan gains categories on opening, so Cancel asks before dropping them.
+    factory.script = [](RulebaseDocCreatorForm &form) { return !form.Cancel(); };
+    ui.answers = {MessageResult::Yes};
+    app.GenerateDocumentation();
+    EXPECT_GT(factory.sectionsSeen, 6);
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_NE(ui.messages[0].text, question);
+
     factory.script = [](RulebaseDocCreatorForm &form) {
         form.OK();
         return true;
     };
-    ui.answers.push_back(MessageResult::No);
+    ui.answers = {MessageResult::No, MessageResult::Yes};
     app.GenerateDocumentation();
-    EXPECT_EQ(factory.runs, 1);
-    EXPECT_GT(factory.sectionsSeen, 6);
-    EXPECT_EQ(ui.messageTexts(), QStringList{question});
-    EXPECT_EQ(ui.messages[0].buttons, MessageButtons::YesNo);
+    EXPECT_EQ(ui.messages.back().buttons, MessageButtons::YesNo);
     EXPECT_FALSE(QFile::exists(document));
     EXPECT_TRUE(ui.opened.isEmpty());
-    EXPECT_EQ(window.busyCalls, std::vector<bool>{false});
-
-    ui.answers.push_back(MessageResult::Yes);
     app.GenerateDocumentation();
-    EXPECT_EQ(ui.messageTexts(), (QStringList{question, question}));
+    EXPECT_EQ(ui.messageTexts().mid(1), (QStringList{question, question}));
     ASSERT_TRUE(QFile::exists(document));
     EXPECT_EQ(ui.opened, QStringList{document});
-    // The hourglass while writing, and the default pointer after every run.
-    EXPECT_EQ(window.busyCalls, (std::vector<bool>{false, true, false}));
+    // The hourglass only while writing, and the default pointer after every run.
+    EXPECT_EQ(window.busyCalls, (std::vector<bool>{false, false, true, false}));
     EXPECT_TRUE(TestEnvironment::readFile(document).contains("<h2>Harbour Lines</h2>"));
-    EXPECT_EQ(ui.unscriptedQuestions, 0);
-}
 
-TEST_F(GenerateDocumentationTest, CancelledAlreadyGeneratedOrWithoutADialogAsksNothing)
-{
-    factory.script = [](RulebaseDocCreatorForm &form) {
-        EXPECT_TRUE(form.Cancel());
-        return false;
-    };
-    // The sample's plan gains categories on opening, so Cancel asks first.
-    ui.answers.push_back(MessageResult::Yes);
-    app.GenerateDocumentation();
-    EXPECT_EQ(factory.runs, 1);
-    EXPECT_EQ(ui.messageTexts(),
-              QStringList{u"Document content has changed. Continue without saving changes?"_s});
-    EXPECT_FALSE(QFile::exists(document));
-
+    // Generated inside the dialog: no second question, the document just opens.
+    QFile::remove(document);
     factory.script = [](RulebaseDocCreatorForm &form) {
         EXPECT_TRUE(form.Generate());
         form.OK();
         return true;
     };
     app.GenerateDocumentation();
-    EXPECT_FALSE(ui.messageTexts().contains(question));
+    EXPECT_EQ(ui.messages.size(), 3u);
     EXPECT_TRUE(QFile::exists(document));
-    EXPECT_EQ(ui.opened, QStringList{document});
-    EXPECT_EQ(window.busyCalls, (std::vector<bool>{false, false}));
+    EXPECT_EQ(ui.opened.size(), 2);
 
     // Without a dialog the plan stays as it was found.
     app.rulebase()->setDirty(false);
@@ -127,6 +114,8 @@ TEST_F(GenerateDocumentationTest, CancelledAlreadyGeneratedOrWithoutADialogAsksN
     IFormFactory::install(nullptr);
     app.GenerateDocumentation();
     IFormFactory::install(&factory);
+    EXPECT_EQ(factory.runs, 4);
     EXPECT_EQ(app.rulebase()->Report()->Sections()->Count(), count);
     EXPECT_FALSE(app.rulebase()->Dirty());
+    EXPECT_EQ(ui.unscriptedQuestions, 0);
 }

@@ -1,4 +1,5 @@
 #include "application/Application.h"
+#include "application/ToolDispatcher.h"
 #include "editors/IConventionForm.h"
 #include "editors/IFormFactory.h"
 #include "platform/GlobalObjects.h"
@@ -10,7 +11,6 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/ViolationDefinition.h"
 #include "views/IViewController.h"
-#include "application/ToolDispatcher.h"
 #include "views/ViewFactory.h"
 
 #include "support/MemoryMainForm.h"

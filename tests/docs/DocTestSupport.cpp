@@ -76,6 +76,19 @@ table(qint32 type, const QString &key, const QString &title, const QString &text
     return item;
 }
 
+// A category of the plan: a copy of the rulebase's category with its rules in plan order.
+std::shared_ptr<CategoryItem> page(const CategoryItem &category,
+                                   std::initializer_list<std::shared_ptr<IRule>> rules)
+{
+    auto item = std::make_shared<CategoryItem>();
+    item->setTitle(category.Title());
+    item->setDescription(category.Description());
+    item->setID(category.ID());
+    for (const auto &rule : rules)
+        item->CategoryRules()->Add(rule);
+    return item;
+}
+
 } // namespace
 
 std::shared_ptr<Rulebase> smallRulebase(const QString &folder)
@@ -128,24 +141,10 @@ std::shared_ptr<Rulebase> smallRulebase(const QString &folder)
         u"{C-GUID}"_s, u"ADO 2.8"_s, u"msado15.dll"_s, QString(), QString());
 
     auto &sections = *rulebase->Report()->Sections();
-    const auto errorsPage = std::make_shared<CategoryItem>();
-    errorsPage->setTitle(errors->Title());
-    errorsPage->setDescription(errors->Description());
-    errorsPage->setID(errors->ID());
     // The plan's order, not the rules' ids.
-    errorsPage->CategoryRules()->Add(resume);
-    errorsPage->CategoryRules()->Add(handler);
-    sections.Add(errorsPage);
-    const auto namingPage = std::make_shared<CategoryItem>();
-    namingPage->setTitle(naming->Title());
-    namingPage->setDescription(naming->Description());
-    namingPage->setID(naming->ID());
-    namingPage->CategoryRules()->Add(prefix);
-    sections.Add(namingPage);
-    const auto emptyPage = std::make_shared<CategoryItem>();
-    emptyPage->setTitle(empty->Title());
-    emptyPage->setID(empty->ID());
-    sections.Add(emptyPage);
+    sections.Add(page(*errors, {resume, handler}));
+    sections.Add(page(*naming, {prefix}));
+    sections.Add(page(*empty, {}));
     sections.Add(table(0, u"1T"_s, u"Control Tags"_s, u"Control tags."_s));
     sections.Add(table(1, u"2T"_s, u"Data Type Tags"_s, u"Data tags."_s));
     sections.Add(table(2, u"3T"_s, u"Scope Tags"_s, u"Scope tags."_s));

@@ -79,21 +79,27 @@ TEST_F(RulebaseDocCreatorTest, WritesTheSmallRulebaseLineForLine)
         ASSERT_EQ(actual.at(i), expected.at(i)) << "line " << i + 1;
     EXPECT_EQ(actual.size(), expected.size());
     EXPECT_TRUE(ui.messages.empty());
+
+    // The tag sets are sorted in place; the authorised items keep their order.
+    EXPECT_EQ(rulebase->ControlTags()->Key(1), u"VB.CommandButton"_s);
+    EXPECT_EQ(rulebase->DataTypeTags()->Key(1), u"Long"_s);
+    EXPECT_EQ(rulebase->ScopeTags()->Key(1), u"Module"_s);
+    EXPECT_EQ(rulebase->AuthorisedComponents()->Item(1)->Filename(), u"mscomctl.ocx"_s);
 }
 
 TEST(RulebaseDocCreatorName, NamesTheDocumentAfterTheRulebase)
 {
-    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(u"/data/Team.qrb"_s), u"/data/Team.html"_s);
-    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(u"/data/Team.v2.qrb"_s),
-              u"/data/Team.v2.html"_s);
-    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(u"/data/Team."_s), u"/data/Team.html"_s);
-    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(u"/data/Team"_s), u"/data/Team"_s);
-    EXPECT_EQ(RulebaseDocCreator::DocumentFilename(QString()), QString());
+    const std::pair<QString, QString> cases[] = {{u"/data/Team.qrb"_s, u"/data/Team.html"_s},
+                                                 {u"/data/Team.v2.qrb"_s, u"/data/Team.v2.html"_s},
+                                                 {u"/data/Team."_s, u"/data/Team.html"_s},
+                                                 {u"/data/Team"_s, u"/data/Team"_s},
+                                                 {QString(), QString()}};
+    for (const auto &[rulebaseFile, document] : cases)
+        EXPECT_EQ(RulebaseDocCreator::DocumentFilename(rulebaseFile), document);
 }
 
 TEST_F(RulebaseDocCreatorTest, NeverWritesOverTheRulebaseItselfNorWithoutAFile)
 {
-
     // A rulebase file without a point would be its own document.
     const QString bare = folder + u"/Standards"_s;
     TestEnvironment::writeFile(bare, "<Quorin_Rulebase/>");
@@ -122,8 +128,15 @@ TEST_F(RulebaseDocCreatorTest, AnEmptyPlanGivesTitleContentsAndFooter)
     EXPECT_TRUE(text.endsWith(u"<!-- End Of Footer Table -->\r\n\r\n\r\n</body>\r\n</html>\r\n"_s));
 }
 
-TEST_F(RulebaseDocCreatorTest, CopiesTextsAsTheyStandAndEncodesWhatTheCodePageLacks)
+TEST_F(RulebaseDocCreatorTest, CopiesTextsAndRepeatsAsTheyStandAndEncodesWhatTheCodePageLacks)
 {
+    auto &sections = *rulebase->Report()->Sections();
+    // The scope table twice, and a category whose title differs from another only by blanks.
+    sections.Add(sections.Item(6));
+    const auto twin = std::make_shared<CategoryItem>();
+    twin->setTitle(u"Naming_&_Style"_s);
+    twin->setID(40);
+    sections.Add(twin);
     const auto page
         = std::dynamic_pointer_cast<CategoryItem>(rulebase->Report()->Sections()->Item(1));
     page->setTitle(u"Z\u00FCrich & <Co>"_s);
@@ -146,29 +159,8 @@ TEST_F(RulebaseDocCreatorTest, CopiesTextsAsTheyStandAndEncodesWhatTheCodePageLa
     EXPECT_TRUE(bytes.contains("<span class=\"rule_id\">[0007]</span>"));
     EXPECT_TRUE(bytes.contains("<a href=\"#rule_page_12345\">"));
     EXPECT_TRUE(bytes.contains("<span class=\"rule_id\">[12345]</span>"));
-}
-
-TEST_F(RulebaseDocCreatorTest, SortsTheTagSetsInPlaceButNotTheAuthorisedItems)
-{
-    ASSERT_FALSE(writeDocument(*rulebase).isEmpty());
-    EXPECT_EQ(rulebase->ControlTags()->Key(1), u"VB.CommandButton"_s);
-    EXPECT_EQ(rulebase->DataTypeTags()->Key(1), u"Long"_s);
-    EXPECT_EQ(rulebase->ScopeTags()->Key(1), u"Module"_s);
-    EXPECT_EQ(rulebase->AuthorisedComponents()->Item(1)->Filename(), u"mscomctl.ocx"_s);
-}
-
-TEST_F(RulebaseDocCreatorTest, RepeatedSectionsAndAnchorsAreWrittenAsTheyCome)
-{
-    auto &sections = *rulebase->Report()->Sections();
-    // The scope table twice, and a category whose title differs from another only by blanks.
-    sections.Add(sections.Item(6));
-    const auto twin = std::make_shared<CategoryItem>();
-    twin->setTitle(u"Error_Handling"_s);
-    twin->setID(40);
-    sections.Add(twin);
-    const QString text = readDocument(writeDocument(*rulebase));
-    EXPECT_EQ(text.count(u"id=\"scope_tags_page\""_s), 2);
-    EXPECT_EQ(text.count(u"id=\"category_Error_Handling\""_s), 2);
+    EXPECT_EQ(bytes.count("id=\"scope_tags_page\""), 2);
+    EXPECT_EQ(bytes.count("id=\"category_Naming_&_Style\""), 2);
 }
 
 TEST_F(RulebaseDocCreatorTest, AFolderThatCannotBeWrittenLeavesTheOldDocument)
@@ -190,7 +182,6 @@ TEST_F(RulebaseDocCreatorTest, AFolderThatCannotBeWrittenLeavesTheOldDocument)
     EXPECT_EQ(second, filename);
     EXPECT_EQ(readFile(filename), before);
     ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_EQ(ui.messages[0].title, u"Quorin Unexpected Error"_s);
     EXPECT_TRUE(ui.messages[0].text.contains(u"Can't write the document '"_s + filename));
     EXPECT_TRUE(ui.messages[0].text.contains(u"module clsStandardsDocCreator"_s));
 }

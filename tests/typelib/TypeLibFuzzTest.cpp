@@ -56,8 +56,10 @@ QList<Subject> subjects()
 
 } // namespace
 
-TEST(TypeLibFuzz, TruncatedAtEveryLength)
+TEST(TypeLibFuzz, TruncatedAtEveryLengthAndFlippedBytes)
 {
+    const TestSeed seed(20240611u);
+    std::mt19937 random(seed.value());
     for (const Subject &s : subjects()) {
         SCOPED_TRACE(s.name);
         const auto whole = readExact(s.data);
@@ -74,30 +76,17 @@ TEST(TypeLibFuzz, TruncatedAtEveryLength)
         }
         // Only prefixes that keep everything the reader needs still give the library.
         EXPECT_LT(found, s.data.size() / 2);
-    }
-}
 
-TEST(TypeLibFuzz, FlippedBytes)
-{
-    const TestSeed seed(20240611u);
-    std::mt19937 random(seed.value());
-    for (const Subject &s : subjects()) {
-        SCOPED_TRACE(s.name);
-        const auto whole = readExact(s.data);
-        ASSERT_TRUE(whole.has_value());
         std::uniform_int_distribution<qsizetype> position(0, s.data.size() - 1);
-        std::uniform_int_distribution<int> byte(0, 255);
         int unchanged = 0;
         constexpr int Rounds = 3000;
         for (int round = 0; round < Rounds; ++round) {
             QByteArray damaged = s.data;
             // Mostly one byte, sometimes a run of several, to break offsets and counts alike.
-            const int count = round % 4 == 0 ? 8 : 1;
-            for (int i = 0; i < count; ++i)
-                damaged[position(random)] = char(byte(random));
+            for (int i = 0; i < (round % 4 == 0 ? 8 : 1); ++i)
+                damaged[position(random)] = char(random() & 0xFF);
             const auto info = readExact(damaged, round % 3);
-            if (info && info->guid == whole->guid)
-                ++unchanged;
+            unchanged += info && info->guid == whole->guid ? 1 : 0;
         }
         // Most bytes are not read at all, so most damage leaves the library readable.
         EXPECT_GT(unchanged, Rounds / 10);
