@@ -3,8 +3,6 @@
 #include "rulebase/AuthorisedComponents.h"
 #include "rulebase/AuthorisedReferences.h"
 #include "rulebase/Rulebase.h"
-#include "rulebase/RulebaseManager.h"
-#include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
 #include <QFileInfo>
@@ -23,15 +21,6 @@ QString typelibDir()
 {
     const QString dir = TestEnvironment::sharedDataDir() + u"/typelib"_s;
     return QFileInfo::exists(dir + u"/GridCtl.ocx"_s) ? dir : QString();
-}
-
-std::shared_ptr<Rulebase> loadQuietly(const QString &filename)
-{
-    ScriptedUserInterface ui;
-    RulebaseManager::setAdministratorOverride(true);
-    auto rulebase = RulebaseManager().LoadRulebase(filename);
-    EXPECT_TRUE(ui.messages.empty());
-    return rulebase;
 }
 
 QStringList importArguments(const QString &rulebase, const QStringList &sources)

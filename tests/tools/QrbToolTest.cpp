@@ -11,6 +11,7 @@
 #include "tools/ToolCommand.h"
 #include "tools/ToolContext.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 #include <QTextStream>
@@ -19,29 +20,19 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(QrbTool, OverviewVersionHelpAndUnknownCommands)
+TEST(QrbTool, OverviewVersionAndEveryCommandsHelp)
 {
-    const ToolRun none = runQrbTool({});
-    EXPECT_EQ(none.exitCode, 2);
-    EXPECT_TRUE(none.out.isEmpty());
-    EXPECT_TRUE(none.err.startsWith("Usage: qrbtool COMMAND"_L1));
-
     const ToolRun help = runQrbTool({u"--help"_s});
     EXPECT_EQ(help.exitCode, 0);
-    for (const char *command : {"check", "upgrade", "diff", "stats", "doc", "scripts", "import"})
-        EXPECT_TRUE(help.out.contains(u"\n  %1 "_s.arg(QLatin1String(command)))) << command;
-
     const ToolRun version = runQrbTool({u"--version"_s});
     EXPECT_EQ(version.exitCode, 0);
     EXPECT_EQ(version.out, QrbTool::versionText() + QLatin1Char('\n'));
 
-    const ToolRun unknown = runQrbTool({u"lint"_s});
-    EXPECT_EQ(unknown.exitCode, 2);
-    EXPECT_TRUE(unknown.err.contains("unknown command 'lint'"_L1));
-
-    // Every command answers --help and "help COMMAND" alike, on the output, with exit 0.
+    // Every command is in the overview and answers --help and "help COMMAND" alike, on the
+    // output, with exit 0.
     QrbTool tool;
     for (const char *name : {"check", "upgrade", "diff", "stats", "doc", "scripts", "import"}) {
+        EXPECT_TRUE(help.out.contains(u"\n  %1 "_s.arg(QLatin1String(name)))) << name;
         const ToolCommand *command = tool.command(QLatin1String(name));
         ASSERT_NE(command, nullptr) << name;
         const ToolRun commandHelp = runQrbTool({QLatin1String(name), u"--help"_s});
@@ -50,13 +41,6 @@ TEST(QrbTool, OverviewVersionHelpAndUnknownCommands)
         EXPECT_TRUE(commandHelp.out.contains("Exit codes: 0 success"_L1));
         EXPECT_EQ(runQrbTool({u"help"_s, QLatin1String(name)}).out, commandHelp.out) << name;
     }
-}
-
-TEST(QrbTool, CommandsOfFeaturesCheckTheirArgumentsFirst)
-{
-    const QString sample = TestEnvironment::sampleRulebase();
-    const QString dir = TestEnvironment::makeTempDir();
-    const QString project = writeFile(dir + u"/P.vbp"_s, "Type=Exe\r\n");
 
     // What a build without a feature says of its command.
     QString said;
@@ -67,20 +51,43 @@ TEST(QrbTool, CommandsOfFeaturesCheckTheirArgumentsFirst)
         EXPECT_EQ(ToolBackends::notAvailable(u"scripts"_s, context), 2);
     }
     EXPECT_EQ(said, u"qrbtool: 'scripts' is not available in this build\n"_s);
+}
 
-    // Usage comes first: a missing -o or --from is said as such.
-    const ToolRun noOutput = runQrbTool({u"doc"_s, sample});
-    EXPECT_EQ(noOutput.exitCode, 2);
-    EXPECT_TRUE(noOutput.err.contains("qrbtool doc: no output file given (-o OUT.html)"_L1));
-    const ToolRun noSource = runQrbTool({u"import"_s, sample});
-    EXPECT_TRUE(noSource.err.contains("qrbtool import: nothing to import from"_L1));
-    const ToolRun noProject = runQrbTool({u"import"_s, sample, u"--from"_s, project + u"x"_s});
-    EXPECT_EQ(noProject.exitCode, 2);
-    EXPECT_TRUE(noProject.err.contains("P.vbpx: No such file"_L1));
-    const ToolRun missing
-        = runQrbTool({u"scripts"_s, dir + u"/None.qrb"_s, u"-o"_s, dir + u"/x.qrs"_s});
-    EXPECT_EQ(missing.exitCode, 2);
-    EXPECT_TRUE(missing.err.contains("None.qrb: No such file"_L1));
+// Usage comes before any file is read: each of these exits 2 with its reason on the error
+// stream and nothing on the output.
+TEST(QrbTool, UsageAndMissingInputsExitTwoWithTheReason)
+{
+    const QString sample = TestEnvironment::sampleRulebase();
+    const QString dir = TestEnvironment::makeTempDir();
+    const QString project = writeFile(dir + u"/P.vbp"_s, "Type=Exe\r\n");
+    const struct
+    {
+        QStringList arguments;
+        QString reason;
+    } refused[] = {
+        {{}, u"Usage: qrbtool COMMAND"_s},
+        {{u"lint"_s}, u"unknown command 'lint'"_s},
+        {{u"check"_s}, QString()},
+        {{u"check"_s, u"--format"_s, u"xml"_s, sample}, u"unknown format 'xml'"_s},
+        {{u"check"_s, u"--frobnicate"_s, sample}, u"qrbtool check: Unknown option 'frobnicate'"_s},
+        {{u"diff"_s, sample}, QString()},
+        {{u"stats"_s}, QString()},
+        {{u"upgrade"_s, sample}, QString()},
+        {{u"upgrade"_s, sample, u"--in-place"_s, u"-o"_s, dir + u"/x.qrb"_s}, QString()},
+        {{u"doc"_s, sample}, u"qrbtool doc: no output file given (-o OUT.html)"_s},
+        {{u"import"_s, sample}, u"qrbtool import: nothing to import from"_s},
+        {{u"import"_s, sample, u"--from"_s, project + u"x"_s}, u"P.vbpx: No such file"_s},
+        {{u"scripts"_s, dir + u"/None.qrb"_s, u"-o"_s, dir + u"/x.qrs"_s},
+         u"None.qrb: No such file"_s},
+    };
+    for (const auto &row : refused) {
+        const QString call = row.arguments.join(QLatin1Char(' '));
+        const ToolRun run = runQrbTool(row.arguments);
+        EXPECT_EQ(run.exitCode, 2) << call.toStdString();
+        EXPECT_TRUE(run.err.contains(row.reason)) << call.toStdString() << run.err.toStdString();
+        EXPECT_TRUE(run.out.isEmpty()) << call.toStdString() << "\n" << run.out.toStdString();
+    }
+    EXPECT_EQ(QDir(dir).entryList(QDir::Files, QDir::Name), QStringList{u"P.vbp"_s});
 }
 
 TEST(QrbTool, TheConsoleAnswersEveryQuestionNoAndCatchesTheErrorFramesReports)

@@ -1,5 +1,8 @@
 #include "ToolTestSupport.h"
 
+#include "rulebase/Rulebase.h"
+#include "rulebase/RulebaseManager.h"
+#include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 #include "tools/QrbTool.h"
 #include "tools/ToolContext.h"
@@ -99,6 +102,15 @@ QByteArray sampleInOldSchema(const QString &version)
     }
     text.replace(u"SchemaVersion=\"6.2\""_s, u"SchemaVersion=\"%1\""_s.arg(version));
     return text.toUtf8();
+}
+
+std::shared_ptr<Rulebase> loadQuietly(const QString &filename)
+{
+    ScriptedUserInterface ui;
+    RulebaseManager::setAdministratorOverride(true);
+    auto rulebase = RulebaseManager().LoadRulebase(filename);
+    EXPECT_TRUE(ui.messages.empty()) << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
+    return rulebase;
 }
 
 QString vb6DataDir()

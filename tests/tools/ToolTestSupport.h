@@ -5,7 +5,11 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
 #include "support/TestEnvironment.h"
+
+class Rulebase;
 
 // What one in-process run of qrbtool gave.
 struct ToolRun
@@ -38,6 +42,9 @@ int replaceOnLine(QByteArray &text,
 // The sample rulebase as an older schema would have stored it: the attributes and elements
 // the upgrades add are taken out. "6.0" or "6.1".
 QByteArray sampleInOldSchema(const QString &version);
+
+// Loads as the administrator; a message shown while loading fails the test.
+std::shared_ptr<Rulebase> loadQuietly(const QString &filename);
 
 // The shared VB6 projects, or empty when they are not there.
 QString vb6DataDir();

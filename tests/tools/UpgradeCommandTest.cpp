@@ -2,9 +2,7 @@
 
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
-#include "rulebase/RulebaseManager.h"
 #include "support/RulebaseDump.h"
-#include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
 #include <QDir>
@@ -13,19 +11,6 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-std::shared_ptr<Rulebase> loadQuietly(const QString &filename)
-{
-    ScriptedUserInterface ui;
-    RulebaseManager::setAdministratorOverride(true);
-    auto rulebase = RulebaseManager().LoadRulebase(filename);
-    EXPECT_TRUE(ui.messages.empty()) << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
-    return rulebase;
-}
-
-} // namespace
 
 TEST(UpgradeCommand, OldSchemasComeUpTo62WithTheirContentAndVersionKept)
 {
@@ -55,18 +40,12 @@ TEST(UpgradeCommand, OldSchemasComeUpTo62WithTheirContentAndVersionKept)
         const ToolRun check = runQrbTool({u"check"_s, out});
         EXPECT_FALSE(check.out.contains("old-schema"_L1)) << check.out.toStdString();
     }
-}
 
-TEST(UpgradeCommand, ACurrentRulebaseIsCopiedAsItReads)
-{
-    const QString out = TestEnvironment::makeTempDir() + u"/Copy.qrb"_s;
-    const ToolRun run = runQrbTool({u"upgrade"_s, TestEnvironment::sampleRulebase(), u"-o"_s, out});
-    ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
-    const auto sample = loadQuietly(TestEnvironment::sampleRulebase());
-    const auto copy = loadQuietly(out);
-    ASSERT_TRUE(sample && copy);
-    EXPECT_EQ(dumpRulebase(*copy).toStdString(), dumpRulebase(*sample).toStdString());
-    EXPECT_EQ(runQrbTool({u"diff"_s, TestEnvironment::sampleRulebase(), out}).exitCode, 0);
+    // A current rulebase is copied as it reads.
+    const QString copy = dir + u"/Copy.qrb"_s;
+    ASSERT_EQ(runQrbTool({u"upgrade"_s, TestEnvironment::sampleRulebase(), u"-o"_s, copy}).exitCode,
+              0);
+    EXPECT_EQ(runQrbTool({u"diff"_s, TestEnvironment::sampleRulebase(), copy}).exitCode, 0);
 }
 
 TEST(UpgradeCommand, NeverOverwritesUnlessInPlaceAndNeverWritesAPartialFile)
@@ -80,12 +59,6 @@ TEST(UpgradeCommand, NeverOverwritesUnlessInPlaceAndNeverWritesAPartialFile)
     EXPECT_EQ(refused.exitCode, 2);
     EXPECT_TRUE(refused.err.contains(taken + u": already exists"_s)) << refused.err.toStdString();
     EXPECT_EQ(readFile(taken), QByteArray("keep me"));
-
-    // Neither or both of -o and --in-place is a usage error.
-    EXPECT_EQ(runQrbTool({u"upgrade"_s, in}).exitCode, 2);
-    EXPECT_EQ(runQrbTool({u"upgrade"_s, in, u"--in-place"_s, u"-o"_s, dir + u"/x.qrb"_s}).exitCode,
-              2);
-    EXPECT_FALSE(QFileInfo::exists(dir + u"/x.qrb"_s));
 
     // Input that can't be upgraded leaves no output behind, whatever the reason.
     const QByteArray sample = sampleBytes();
