@@ -1,6 +1,7 @@
 #include "editors/CodingConventionForm.h"
 #include "editors/NamingConventionForm.h"
 #include "editors/RuleEditorModel.h"
+#include "platform/TextUtils.h"
 #include "rulebase/CodingConvention.h"
 #include "rulebase/NamingConvention.h"
 #include "rulebase/ViolationDefinition.h"
@@ -38,31 +39,19 @@ struct Opened
 
 } // namespace
 
-TEST(CodingConventionForm, NewRuleOpensWithFirstSeverityAndNoCategoryOrEvent)
-{
-    Opened o;
-    o.open();
-    const auto &screen = o.form.screen();
-    EXPECT_EQ(screen.cboCategory.count(), 2);
-    EXPECT_FALSE(screen.cboCategory.hasSelection());
-    EXPECT_EQ(screen.cboSeverity.currentItemData(), 1);
-    EXPECT_EQ(screen.txtVImpact, u"900"_s);
-    EXPECT_EQ(screen.imgIcon, 14);
-    EXPECT_TRUE(screen.tvwEventVisible);
-    EXPECT_FALSE(screen.imgcboPendingEnabled);
-    EXPECT_FALSE(screen.imgcboPending.hasSelection());
-    // No event: the first node is selected and its help shown.
-    ASSERT_NE(screen.tvwEvent.selected(), 0);
-    EXPECT_EQ(screen.lblEventHelp,
-              VBParserEvents::ParserEventHelp(screen.tvwEvent.value(screen.tvwEvent.selected())));
-}
-
-TEST(CodingConventionForm, ValidationWalksTheFaultsInOrder)
+TEST(CodingConventionForm, ANewRuleOpensEmptyAndValidationWalksTheFaultsInOrder)
 {
     ScriptedUserInterface ui;
     Opened o;
     o.open();
     auto &screen = o.form.screen();
+    EXPECT_FALSE(screen.cboCategory.hasSelection());
+    EXPECT_EQ(screen.txtVImpact, u"900"_s);
+    EXPECT_FALSE(screen.imgcboPendingEnabled);
+    // No event: the first node is selected and its help shown.
+    ASSERT_NE(screen.tvwEvent.selected(), 0);
+    EXPECT_EQ(screen.lblEventHelp,
+              VBParserEvents::ParserEventHelp(screen.tvwEvent.value(screen.tvwEvent.selected())));
     std::vector<FormFault> moved;
     const auto mover = [&](const FormFault &f) { moved.push_back(f); };
 
@@ -141,75 +130,76 @@ TEST(CodingConventionForm, OkWritesEveryFieldInTreeOrder)
     EXPECT_EQ(def->Advice(), u"Advice"_s);
 }
 
+// Whatever the rule held, the pending face ends with one start and one end event, and turning
+// it off again shows the rule's events, not the ticks of a moment ago.
 TEST(CodingConventionForm, PendingFaceHasOneStartAndOneEndEvent)
 {
-    ScriptedUserInterface ui;
-    Opened o;
-    o.rule->setTitle(u"T"_s);
-    o.rule->ViolationDefinition()->setTitle(u"V"_s);
-    o.rule->AddParserEventID(12);
-    o.rule->AddParserEventID(30);
-    o.open();
-    auto &screen = o.form.screen();
-    screen.chkPending = true;
-    o.form.chkPending_Click();
-    EXPECT_FALSE(screen.tvwEventVisible);
-    EXPECT_TRUE(screen.imgcboPendingEnabled);
-    // Two events on the rule: the combo starts at event 1, not either of them.
-    EXPECT_EQ(screen.imgcboEvent.currentKey(), u"1Key"_s);
-    EXPECT_EQ(screen.lblEventHelp, VBParserEvents::ParserEventHelp(1));
-    EXPECT_EQ(screen.imgcboPending.currentIndex(), 0);
-    screen.imgcboEvent.setCurrentIndex(screen.imgcboEvent.findKey(u"28Key"_s));
-    o.form.imgcboEvent_Click();
-    EXPECT_EQ(screen.lblEventHelp, VBParserEvents::ParserEventHelp(28));
-    screen.imgcboPending.setCurrentIndex(screen.imgcboPending.findKey(u"34Key"_s));
-    ASSERT_TRUE(o.form.cmdOK_Click());
-    EXPECT_TRUE(o.rule->PendingViolation());
-    EXPECT_EQ(o.rule->EventCount(), 1);
-    EXPECT_EQ(o.rule->ParserEventID(0), 28);
-    EXPECT_EQ(o.rule->EndEventID(), 34);
-}
+    struct Case
+    {
+        std::vector<qint32> events;
+        bool pending;
+        qint32 endEvent;
+        QString startKey; // where the start combo opens
+        QString endKey;   // where the end combo opens; empty for its first entry
+    };
+    const Case cases[] = {
+        {{12, 30}, false, -1, u"1Key"_s, {}}, // two events: neither of them
+        {{28}, true, 34, u"28Key"_s, u"34Key"_s},
+        {{4}, true, -1, u"4Key"_s, {}}, // made by hand without an end event
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.startKey.toStdString());
+        ScriptedUserInterface ui;
+        Opened o;
+        o.rule->setTitle(u"T"_s);
+        o.rule->ViolationDefinition()->setTitle(u"V"_s);
+        o.rule->setPendingViolation(c.pending);
+        for (const qint32 id : c.events)
+            o.rule->AddParserEventID(id);
+        o.rule->setEndEventID(c.endEvent);
+        o.open();
+        auto &screen = o.form.screen();
+        if (!c.pending) {
+            screen.chkPending = true;
+            o.form.chkPending_Click();
+        }
+        EXPECT_FALSE(screen.tvwEventVisible);
+        EXPECT_TRUE(screen.imgcboPendingEnabled);
+        EXPECT_EQ(screen.imgcboEvent.currentKey(), c.startKey);
+        EXPECT_EQ(screen.lblEventHelp, VBParserEvents::ParserEventHelp(Text::valLong(c.startKey)));
+        if (c.endKey.isEmpty())
+            EXPECT_EQ(screen.imgcboPending.currentIndex(), 0);
+        else
+            EXPECT_EQ(screen.imgcboPending.currentKey(), c.endKey);
+        screen.imgcboEvent.setCurrentIndex(screen.imgcboEvent.findKey(u"28Key"_s));
+        o.form.imgcboEvent_Click();
+        EXPECT_EQ(screen.lblEventHelp, VBParserEvents::ParserEventHelp(28));
+        screen.imgcboPending.setCurrentIndex(screen.imgcboPending.findKey(u"34Key"_s));
+        ASSERT_TRUE(o.form.cmdOK_Click());
+        EXPECT_TRUE(o.rule->PendingViolation());
+        EXPECT_EQ(o.rule->ParserEventList(), u"28"_s);
+        EXPECT_EQ(o.rule->EndEventID(), 34);
 
-TEST(CodingConventionForm, SwitchingPendingBackShowsWhatTheRuleHoldsAndResetsTheEndEvent)
-{
-    ScriptedUserInterface ui;
-    Opened o;
-    o.rule->setTitle(u"T"_s);
-    o.rule->ViolationDefinition()->setTitle(u"V"_s);
-    o.rule->setPendingViolation(true);
-    o.rule->AddParserEventID(28);
-    o.rule->setEndEventID(34);
-    o.open();
-    auto &screen = o.form.screen();
-    EXPECT_EQ(screen.imgcboEvent.currentKey(), u"28Key"_s);
-    EXPECT_EQ(screen.imgcboPending.currentKey(), u"34Key"_s);
-
-    screen.chkPending = false;
-    o.form.chkPending_Click();
-    EXPECT_FALSE(screen.imgcboPending.hasSelection());
-    EXPECT_TRUE(screen.tvwEvent.isChecked(o.nodeOf(28)));
-    EXPECT_EQ(screen.tvwEvent.selected(), o.nodeOf(28));
-    o.tick(28, false);
-    o.tick(10);
-    // Off and on again: the tree is rebuilt from the rule, not from the ticks of a moment ago.
-    screen.chkPending = true;
-    o.form.chkPending_Click();
-    screen.chkPending = false;
-    o.form.chkPending_Click();
-    EXPECT_TRUE(screen.tvwEvent.isChecked(o.nodeOf(28)));
-    EXPECT_FALSE(screen.tvwEvent.isChecked(o.nodeOf(10)));
-    ASSERT_TRUE(o.form.cmdOK_Click());
-    EXPECT_FALSE(o.rule->PendingViolation());
-    EXPECT_EQ(o.rule->EndEventID(), -1);
-    EXPECT_EQ(o.rule->ParserEventList(), u"28"_s);
-
-    // A hand-made pending rule without an end event starts at the first end event.
-    Opened bare;
-    bare.rule->setPendingViolation(true);
-    bare.rule->AddParserEventID(4);
-    bare.open();
-    EXPECT_EQ(bare.form.screen().imgcboPending.currentIndex(), 0);
-    EXPECT_EQ(bare.form.screen().imgcboEvent.currentKey(), u"4Key"_s);
+        o.open(); // again, on what OK wrote
+        for (const bool pending : {false, true, false}) {
+            screen.chkPending = pending;
+            o.form.chkPending_Click();
+            if (pending)
+                continue;
+            EXPECT_FALSE(screen.imgcboPending.hasSelection());
+            EXPECT_TRUE(screen.tvwEvent.isChecked(o.nodeOf(28)));
+            EXPECT_FALSE(screen.tvwEvent.isChecked(o.nodeOf(10)));
+            EXPECT_EQ(screen.tvwEvent.selected(), o.nodeOf(28));
+            o.tick(28, false);
+            o.tick(10);
+        }
+        o.tick(28);
+        o.tick(10, false);
+        ASSERT_TRUE(o.form.cmdOK_Click());
+        EXPECT_FALSE(o.rule->PendingViolation());
+        EXPECT_EQ(o.rule->EndEventID(), -1);
+        EXPECT_EQ(o.rule->ParserEventList(), u"28"_s);
+    }
 }
 
 TEST(ConventionForms, OKRefusesAConditionTheConditionEditorWouldRefuseInItsWords)
@@ -238,17 +228,13 @@ TEST(ConventionForms, OKRefusesAConditionTheConditionEditorWouldRefuseInItsWords
         NamingConventionForm naming;
         const bool isCoding = c.ruleType == RuleTypes::CodingConvention;
         ConventionFormBase &form = isCoding ? static_cast<ConventionFormBase &>(coding) : naming;
-        if (isCoding) {
-            coding.setConvention(std::make_shared<CodingConvention>());
-        } else {
-            auto rule = std::make_shared<NamingConvention>();
-            rule->setObjectType(17);
-            naming.setConvention(rule);
-        }
+        auto rule = std::make_shared<NamingConvention>();
+        rule->setObjectType(17);
+        naming.setConvention(rule);
+        coding.setConvention(std::make_shared<CodingConvention>());
         form.setRulebase(EditorsTest::rulebaseWithCategories());
         form.Load();
-        if (isCoding)
-            coding.screen().tvwEvent.setChecked(1, true);
+        coding.screen().tvwEvent.setChecked(1, true);
         form.common().txtTitle = u"T"_s;
         form.common().txtVTitle = u"V"_s;
         QString &condition = isCoding ? coding.screen().txtCondition : naming.screen().txtCondition;

@@ -46,33 +46,42 @@ struct Opened
 
 TEST(NamingConventionForm, ANewRuleStartsWithEveryPartOffAndPassesWithItsTitles)
 {
+    ScriptedUserInterface ui;
     Opened o;
     o.open();
     auto &s = o.screen();
-    ASSERT_EQ(s.imgcboObject.count(), 41);
-    EXPECT_EQ(s.imgcboObject.key(0), u"1Key"_s);
-    EXPECT_EQ(s.imgcboObject.entry(1).indentation, 1);
-    EXPECT_EQ(s.imgcboObject.key(17), u"47Key"_s);
-    EXPECT_EQ(s.imgcboObject.entry(17).indentation, 2);
-    EXPECT_EQ(s.imgcboObject.key(40), u"35Key"_s);
     EXPECT_FALSE(s.imgcboObject.hasSelection());
-    EXPECT_EQ(s.prefix.rows[0].kind.count(), 7);
-    // A new rule: first severity with its impact, no category, every part off.
-    EXPECT_EQ(s.cboSeverity.currentItemData(), 1);
-    EXPECT_EQ(s.txtVImpact, u"900"_s);
-    EXPECT_FALSE(s.cboCategory.hasSelection());
     EXPECT_FALSE(s.prefix.enabled);
     EXPECT_FALSE(s.prefix.rows[0].kindEnabled);
     EXPECT_FALSE(s.bodyEnabled);
     EXPECT_FALSE(o.form.cmdDeleteEnabled());
 
     // With every part off, an object, a title and a violation title are all OK needs.
-    ScriptedUserInterface ui;
     o.selectObject(17);
     s.txtTitle = "T";
     s.txtVTitle = "V";
     EXPECT_TRUE(o.form.cmdOK_Click());
     EXPECT_TRUE(ui.messages.empty());
+
+    // A severity chosen overwrites the impact; a number field holds what its value can.
+    s.cboSeverity.setCurrentIndex(s.cboSeverity.FindItemWithItemData(3));
+    o.form.cboSeverity_Click();
+    EXPECT_EQ(s.txtVImpact, u"500"_s);
+    EXPECT_EQ(Form::NumberFromField(""), 0);
+    EXPECT_EQ(Form::NumberFromField("99999"), 32767);
+
+    // A placeholder picked for a box lands there without its percent signs.
+    const std::pair<int, const char *> targets[] = {{0, "txtVDescription"},
+                                                    {1, "txtPrefixAdvice"},
+                                                    {2, "txtBody_0"},
+                                                    {3, "txtBodyAdvice"},
+                                                    {4, "txtSuffixAdvice"},
+                                                    {5, "txtVDescription"}};
+    for (const auto &[index, field] : targets)
+        EXPECT_EQ(Form::ObjectPropertyTarget(index), QLatin1String(field)) << index;
+    EXPECT_EQ(Form::StripPercent(u"%Variable.Name%"_s), u"Variable.Name"_s);
+    EXPECT_EQ(Form::StripPercent(u"%%"_s), QString());
+    EXPECT_EQ(Form::StripPercent(u"%"_s), QString());
 }
 
 TEST(NamingConventionForm, RowsOpenTopDownByKind)
@@ -268,27 +277,4 @@ TEST(NamingConventionForm, OkWritesTheRuleAndCancelWritesNothing)
     EXPECT_FALSE(again.screen().prefix.rows[3].kindEnabled);
     EXPECT_EQ(again.screen().txtBody[1], u"3"_s);
     EXPECT_EQ(again.screen().txtVImpact, u"12"_s);
-}
-
-TEST(NamingConventionForm, SeverityChangeOverwritesImpactAndHelpersBehave)
-{
-    Opened o;
-    o.rule->ViolationDefinition()->setSeverity(2);
-    o.rule->ViolationDefinition()->setImpact(5);
-    o.open();
-    auto &s = o.screen();
-    EXPECT_EQ(s.txtVImpact, u"5"_s);
-    EXPECT_EQ(s.imgIcon, 16);
-    s.cboSeverity.setCurrentIndex(s.cboSeverity.FindItemWithItemData(3));
-    o.form.cboSeverity_Click();
-    EXPECT_EQ(s.txtVImpact, u"500"_s);
-    EXPECT_EQ(Form::StripPercent("%Variable.WF.Scope%"), u"Variable.WF.Scope"_s);
-    EXPECT_EQ(Form::ObjectPropertyTarget(2), u"txtBody_0"_s);
-    EXPECT_EQ(Form::InsertText("abcd", 2, "XY"), u"abXYcd"_s);
-    EXPECT_EQ(Form::InsertText("abcd", 99, "XY"), u"abcdXY"_s);
-    EXPECT_TRUE(Form::CheckNumericKey(QLatin1Char('7')));
-    EXPECT_TRUE(Form::CheckNumericKey(QChar(8)));
-    EXPECT_FALSE(Form::CheckNumericKey(QLatin1Char('-')));
-    EXPECT_EQ(Form::NumberFromField(""), 0);
-    EXPECT_EQ(Form::NumberFromField("99999"), 32767);
 }

@@ -1,7 +1,7 @@
 #include "LogCapture.h"
 
-#include "platform/TextUtils.h"
 #include "controls/ImageComboControl.h"
+#include "platform/TextUtils.h"
 #include "vocabulary/ObjectHelper.h"
 #include "vocabulary/ParserEventCatalogue.h"
 #include "vocabulary/VBParserEvents.h"
@@ -96,10 +96,9 @@ TEST(ParserEventCatalogue, IsConsistentWithItselfAndTheObjectCatalogue)
     EXPECT_EQ(ParserEventCatalogue::findEvent(26)->helpScope, u"In scope: Reference, Project.");
 }
 
-TEST(VBParserEvents, KeysTextsIconsAndHelpWithFallbacksForUnknownIds)
+TEST(VBParserEvents, UnknownIdsFallBackQuietlyAndArgumentsNameTheirOwner)
 {
     LogCapture log;
-    EXPECT_EQ(VBParserEvents::ParserEventKey(26), u"26Key"_s);
     EXPECT_EQ(VBParserEvents::ParserEventKey(-1), u"-1Key"_s);
     for (qint32 id : {0, 38, -1}) {
         EXPECT_EQ(VBParserEvents::ParserEventText(id), u"Unknown Event"_s);
@@ -107,11 +106,7 @@ TEST(VBParserEvents, KeysTextsIconsAndHelpWithFallbacksForUnknownIds)
         EXPECT_EQ(VBParserEvents::ParserEventIcon(id), u"Event"_s);
     }
     EXPECT_TRUE(log.records().isEmpty());
-    EXPECT_EQ(VBParserEvents::ParserEventHelp(1),
-              u"The parser fires this event when the next project review begins.\r\n\r\n"
-              "In scope: Project."_s);
-    EXPECT_EQ(VBParserEvents::ParserEventText(15), u"Enum <body>"_s);
-    EXPECT_EQ(VBParserEvents::ParserEventIcon(15), u"Enum"_s);
+    EXPECT_TRUE(VBParserEvents::ParserEventHelp(1).endsWith(u"\r\n\r\nIn scope: Project."_s));
     const std::pair<qint32, const char *> arguments[]
         = {{13, "Declare"}, {19, "Event"}, {29, "Procedure"}};
     for (const auto &[id, owner] : arguments) {
@@ -171,7 +166,6 @@ TEST(VBParserEvents, CombosFollowTheCatalogue)
         EXPECT_TRUE(parentShown) << id;
         shown.insert(id);
     }
-    EXPECT_EQ(ends.items.at(3).text, u"end Layout"_s);
 }
 
 TEST(VBParserEvents, AFailingComboIsReportedAndKeepsWhatItHolds)
