@@ -221,18 +221,6 @@ TEST(BasicParser, ContinuationsAndColonsMakeLogicalLines)
               (QStringList{"2:14 Expected: expression", "3:9 Expected: end of statement"}));
 }
 
-TEST(BasicParser, ChecksLargeScriptsInOnePass)
-{
-    QStringList lines{"Sub Main", "  Dim total As Long"};
-    for (int i = 0; i < 2000; ++i)
-        lines << u"  If total Mod %1 = 0 Then total = total + Len(\"x\") Else "
-                 u"total = total - 1"_s.arg(i + 1);
-    lines << u"End Sub"_s;
-    BasicSyntaxChecker checker;
-    EXPECT_TRUE(checker.check(script(lines)));
-    EXPECT_GT(checker.tokens().size(), 40000u);
-}
-
 // Whole modules in the styles administrators paste from: each must pass without an error.
 // Every construct of the dialect, a module of them per file, and real modules of each kind.
 TEST(BasicParser, AcceptsEveryModuleOfTheCorpus)

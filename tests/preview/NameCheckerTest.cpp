@@ -71,134 +71,116 @@ TEST(NameChecker, AppliesEveryPartOfAConventionAndNeverGuessesWhatOnlyItsConditi
     PatternCache patterns;
     TagLookup tags(rulebase);
     tags.learn(DeclaredObject{.objectType = CO::ClassFile, .name = u"cInvoice"_s});
-    // The outcome and its message; a compiler's words after the message may vary, so they go.
-    const auto check = [&](qint32 type,
-                           Items prefix,
-                           Items suffix,
-                           const DeclaredObject &object,
-                           const std::function<void(NamingConvention &)> &adjust = {}) {
-        auto convention = namingConvention(type, prefix, suffix);
-        if (adjust)
-            adjust(*convention);
-        const NameChecker::Result result = NameChecker(convention, patterns).check(object, tags);
-        const char *const outcomes[] = {"Pass", "Excluded", "NoValue", "Violation", "NotPreviewed"};
-        const QString message = result.message.section(u": "_s, 0, 0);
-        return (QLatin1String(outcomes[int(result.outcome)]) + u' ' + message).trimmed()
-               + (result.unknownControl ? u" [unknown control]"_s : QString());
+    const auto property = [](int type, const char *name) {
+        return [=](NamingConvention &c) {
+            c.setPropertyType(type);
+            c.setPropertyName(QLatin1String(name));
+        };
     };
-    EXPECT_EQ(check(CO::Variable, {{Literal, "m_"}}, {}, variable("m_count", "Long")), u"Pass"_s);
-    EXPECT_EQ(check(CO::Variable, {{Literal, "m_"}}, {}, variable("count", "Long")),
-              u"Violation expected prefix 'm_'"_s);
-    EXPECT_EQ(check(CO::Variable, {{Literal, "g[A-Z]"}}, {}, variable("gCount", "Long")),
-              u"Pass"_s);
-    EXPECT_EQ(check(CO::Variable, {{Literal, "g[A-Z]"}}, {}, variable("gcount", "Long")),
-              u"Violation expected prefix matching 'g[A-Z]'"_s);
-    EXPECT_EQ(check(CO::Variable, {{DataTypeTag, ""}}, {}, variable("sName", "String")),
-              u"Violation expected prefix 'str' for a String"_s);
-    EXPECT_EQ(check(CO::Variable, {{DataTypeTag, ""}}, {}, variable("invoice", "Core.cInvoice")),
-              u"Violation expected prefix 'o' for a Core.cInvoice (Classes)"_s);
-    EXPECT_EQ(check(CO::Variable, {{DataTypeTag, ""}}, {}, variable("ctlName", "TextBox")),
-              u"Pass"_s);
-    EXPECT_EQ(check(CO::Variable,
-                    {{DataTypeTag, ""}, {Literal, "x"}},
-                    {},
-                    variable("xThing", "ADODB.Recordset")),
-              u"Pass"_s);
-    EXPECT_EQ(check(CO::Variable,
-                    {{ScopeTag, ""}, {DataTypeTag, ""}},
-                    {},
-                    variable("strmName", "String", S::Private)),
-              u"Violation expected prefix 'mstr' for scope Private (Module level), a String"_s);
-    EXPECT_EQ(check(CO::Variable,
-                    {{ArrayTag, ""}, {DataTypeTag, ""}},
-                    {},
-                    variable("alngItems", "Long", S::Local, true)),
-              u"Pass"_s);
-    EXPECT_EQ(
-        check(CO::Variable, {{ArrayTag, ""}, {DataTypeTag, ""}}, {}, variable("alngItem", "Long")),
-        u"Violation expected prefix 'lng' for a Long"_s);
-    EXPECT_EQ(check(CO::Control, {{ControlTag, ""}}, {}, control("Name1", "VB.TextBox")),
-              u"Violation expected prefix 'txt' for a VB.TextBox"_s);
-    EXPECT_EQ(check(CO::Control, {{ControlTag, ""}}, {}, control("ctlGizmo", "Acme.Gizmo")),
-              u"Pass [unknown control]"_s);
-    EXPECT_EQ(check(CO::Variable, {{Workfield, "Prefix"}}, {}, variable("x", "Long")),
-              u"NotPreviewed not previewed (needs its condition)"_s);
-    EXPECT_EQ(check(CO::Variable,
-                    {{Literal, "m"}},
-                    {},
-                    variable("x", "Long"),
-                    [](NamingConvention &c) { c.setCondition(u"Sub Main\nEnd Sub"_s); }),
-              u"NotPreviewed not previewed (needs its condition)"_s);
-    EXPECT_EQ(check(CO::Variable,
-                    {},
-                    {{Literal, "Col"}, {Literal, "s"}},
-                    variable("itemsCol", "Collection")),
-              u"Pass"_s);
-    EXPECT_EQ(check(CO::Variable,
-                    {},
-                    {{Literal, "Col"}, {Literal, "s"}},
-                    variable("itemCol", "Collection")),
-              u"Violation expected suffix 'sCol'"_s);
-    EXPECT_EQ(check(CO::Variable,
-                    {{Literal, "M_"}},
-                    {},
-                    variable("m_count", "Long"),
-                    body("^[A-Z]", 0, 0, false)),
-              u"Pass"_s);
-    EXPECT_EQ(
-        check(CO::Variable, {{Literal, "m_"}}, {}, variable("m_count", "Long"), body("^[A-Z]")),
-        u"Violation body 'count' does not match the pattern '^[A-Z]'"_s);
-    EXPECT_EQ(check(CO::Variable, {{Literal, "m_"}}, {}, variable("m_Ab", "Long"), body("", 3, 5)),
-              u"Violation body 'Ab' is shorter than 3 characters"_s);
-    EXPECT_EQ(
-        check(CO::Variable, {{Literal, "m_"}}, {}, variable("m_Abcdef", "Long"), body("", 3, 5)),
-        u"Violation body 'Abcdef' is longer than 5 characters"_s);
-    EXPECT_EQ(check(CO::Variable,
-                    {{Literal, "m_"}},
-                    {},
-                    variable("I", "Long"),
-                    [](NamingConvention &c) { c.setExclusionList(u"hWnd; i"_s); }),
-              u"Excluded"_s);
-    EXPECT_EQ(check(CO::File,
-                    {{Literal, "frm"}},
-                    {},
-                    DeclaredObject{.objectType = CO::NonMDIFormFile,
-                                   .name = u"frmMain"_s,
-                                   .properties = properties({{u"filename"_s, u"Main.frm"_s}})},
-                    [](NamingConvention &c) {
-                        c.setPropertyType(16);
-                        c.setPropertyName(u"Filename"_s);
-                    }),
-              u"Violation expected prefix 'frm'"_s);
-    EXPECT_EQ(check(CO::Project,
-                    {{Literal, "KV"}},
-                    {},
-                    DeclaredObject{.objectType = CO::Project,
-                                   .name = u"Kinds"_s,
-                                   .properties = properties({})},
-                    [](NamingConvention &c) {
-                        c.setPropertyType(13);
-                        c.setPropertyName(u"Description"_s);
-                    }),
-              u"NoValue"_s);
-    EXPECT_EQ(check(CO::Variable,
-                    {{Literal, "x"}},
-                    {},
-                    variable("x", "Long"),
-                    [](NamingConvention &c) {
-                        c.setPropertyType(9);
-                        c.setPropertyName(u"DataType"_s);
-                    }),
-              u"NotPreviewed not previewed (the preview does not read the property 'DataType')"_s);
-    EXPECT_EQ(check(CO::Const,
-                    {{DataTypeTag, ""}},
-                    {},
-                    DeclaredObject{.objectType = CO::PrivateConst,
-                                   .name = u"lngX"_s,
-                                   .dataTypeUnknown = true}),
-              u"NotPreviewed not previewed (the constant's data type depends on its expression)"_s);
-    EXPECT_EQ(check(CO::Variable, {{Literal, "m("}}, {}, variable("m_x", "Long")),
-              u"NotPreviewed not previewed (the prefix pattern does not compile"_s);
+    const auto condition = [](NamingConvention &c) { c.setCondition(u"Sub Main\nEnd Sub"_s); };
+    const auto exclusions = [](NamingConvention &c) { c.setExclusionList(u"hWnd; i"_s); };
+    const DeclaredObject form{.objectType = CO::NonMDIFormFile,
+                              .name = u"frmMain"_s,
+                              .properties = properties({{u"filename"_s, u"Main.frm"_s}})};
+    const DeclaredObject project{
+        .objectType = CO::Project, .name = u"Kinds"_s, .properties = properties({})};
+    const DeclaredObject constant{
+        .objectType = CO::PrivateConst, .name = u"lngX"_s, .dataTypeUnknown = true};
+
+    // The outcome and its message; a compiler's words after the message may vary, so they go.
+    struct Case
+    {
+        const char *expected;
+        struct
+        {
+            qint32 type;
+            Items prefix, suffix;
+            DeclaredObject object;
+        } given;
+        std::function<void(NamingConvention &)> adjust = {};
+    };
+    const Case cases[] = {
+        {"Pass", {CO::Variable, {{Literal, "m_"}}, {}, variable("m_count", "Long")}},
+        {"Violation expected prefix 'm_'",
+         {CO::Variable, {{Literal, "m_"}}, {}, variable("count", "Long")}},
+        {"Pass", {CO::Variable, {{Literal, "g[A-Z]"}}, {}, variable("gCount", "Long")}},
+        {"Violation expected prefix matching 'g[A-Z]'",
+         {CO::Variable, {{Literal, "g[A-Z]"}}, {}, variable("gcount", "Long")}},
+        {"Violation expected prefix 'str' for a String",
+         {CO::Variable, {{DataTypeTag, ""}}, {}, variable("sName", "String")}},
+        {"Violation expected prefix 'o' for a Core.cInvoice (Classes)",
+         {CO::Variable, {{DataTypeTag, ""}}, {}, variable("invoice", "Core.cInvoice")}},
+        {"Pass", {CO::Variable, {{DataTypeTag, ""}}, {}, variable("ctlName", "TextBox")}},
+        {"Pass",
+         {CO::Variable,
+          {{DataTypeTag, ""}, {Literal, "x"}},
+          {},
+          variable("xThing", "ADODB.Recordset")}},
+        {"Violation expected prefix 'mstr' for scope Private (Module level), a String",
+         {CO::Variable,
+          {{ScopeTag, ""}, {DataTypeTag, ""}},
+          {},
+          variable("strmName", "String", S::Private)}},
+        {"Pass",
+         {CO::Variable,
+          {{ArrayTag, ""}, {DataTypeTag, ""}},
+          {},
+          variable("alngItems", "Long", S::Local, true)}},
+        {"Violation expected prefix 'lng' for a Long",
+         {CO::Variable, {{ArrayTag, ""}, {DataTypeTag, ""}}, {}, variable("alngItem", "Long")}},
+        {"Violation expected prefix 'txt' for a VB.TextBox",
+         {CO::Control, {{ControlTag, ""}}, {}, control("Name1", "VB.TextBox")}},
+        {"Pass [unknown control]",
+         {CO::Control, {{ControlTag, ""}}, {}, control("ctlGizmo", "Acme.Gizmo")}},
+        {"NotPreviewed not previewed (needs its condition)",
+         {CO::Variable, {{Workfield, "Prefix"}}, {}, variable("x", "Long")}},
+        {"NotPreviewed not previewed (needs its condition)",
+         {CO::Variable, {{Literal, "m"}}, {}, variable("x", "Long")},
+         condition},
+        {"Pass",
+         {CO::Variable,
+          {},
+          {{Literal, "Col"}, {Literal, "s"}},
+          variable("itemsCol", "Collection")}},
+        {"Violation expected suffix 'sCol'",
+         {CO::Variable, {}, {{Literal, "Col"}, {Literal, "s"}}, variable("itemCol", "Collection")}},
+        {"Pass",
+         {CO::Variable, {{Literal, "M_"}}, {}, variable("m_count", "Long")},
+         body("^[A-Z]", 0, 0, false)},
+        {"Violation body 'count' does not match the pattern '^[A-Z]'",
+         {CO::Variable, {{Literal, "m_"}}, {}, variable("m_count", "Long")},
+         body("^[A-Z]")},
+        {"Violation body 'Ab' is shorter than 3 characters",
+         {CO::Variable, {{Literal, "m_"}}, {}, variable("m_Ab", "Long")},
+         body("", 3, 5)},
+        {"Violation body 'Abcdef' is longer than 5 characters",
+         {CO::Variable, {{Literal, "m_"}}, {}, variable("m_Abcdef", "Long")},
+         body("", 3, 5)},
+        {"Excluded", {CO::Variable, {{Literal, "m_"}}, {}, variable("I", "Long")}, exclusions},
+        {"Violation expected prefix 'frm'",
+         {CO::File, {{Literal, "frm"}}, {}, form},
+         property(16, "Filename")},
+        {"NoValue", {CO::Project, {{Literal, "KV"}}, {}, project}, property(13, "Description")},
+        {"NotPreviewed not previewed (the preview does not read the property 'DataType')",
+         {CO::Variable, {{Literal, "x"}}, {}, variable("x", "Long")},
+         property(9, "DataType")},
+        {"NotPreviewed not previewed (the constant's data type depends on its expression)",
+         {CO::Const, {{DataTypeTag, ""}}, {}, constant}},
+        {"NotPreviewed not previewed (the prefix pattern does not compile",
+         {CO::Variable, {{Literal, "m("}}, {}, variable("m_x", "Long")}},
+    };
+    const char *const outcomes[] = {"Pass", "Excluded", "NoValue", "Violation", "NotPreviewed"};
+    for (const Case &c : cases) {
+        auto convention = namingConvention(c.given.type, c.given.prefix, c.given.suffix);
+        if (c.adjust)
+            c.adjust(*convention);
+        const auto result = NameChecker(convention, patterns).check(c.given.object, tags);
+        const QString message = result.message.section(u": "_s, 0, 0);
+        EXPECT_EQ((QLatin1String(outcomes[int(result.outcome)]) + u' ' + message).trimmed()
+                      + (result.unknownControl ? u" [unknown control]"_s : QString()),
+                  QString::fromUtf8(c.expected))
+            << c.given.object.name.toStdString();
+    }
 
     // With control tags as data type tags, a variable of a control class takes the control's.
     rulebase.setUseCTagsAsDTTags(true);

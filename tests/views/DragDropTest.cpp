@@ -1,8 +1,6 @@
 #include "ViewTestSupport.h"
 
 #include "platform/TextUtils.h"
-#include "rulebase/CategoryItem.h"
-#include "rulebase/CategoryList.h"
 #include "rulebase/CodingConvention.h"
 #include "rulebase/IRule.h"
 #include "rulebase/RuleLists.h"
@@ -68,9 +66,12 @@ struct DragFixture
     std::unique_ptr<View> view;
 };
 
-qint32 categoryOf(const Rulebase &rulebase, const QString &key)
+// The number of the node a rule shows under: its category or its severity.
+template<typename View>
+qint32 placeOf(const DragFixture<View> &f, const QString &key)
 {
-    return rulebase.RuleLists()->AllConventions()->Item(key)->ViolationDefinition()->CategoryID();
+    const auto rule = f.rulebase->RuleLists()->AllConventions()->Item(key)->ViolationDefinition();
+    return std::is_same_v<View, CategoryView> ? rule->CategoryID() : rule->Severity();
 }
 
 } // namespace
@@ -97,24 +98,33 @@ TEST(DragDrop, PayloadJoinsKeysAndTheDropReadsUpToTheFirstDoubleBar)
         EXPECT_EQ(DragDrop::keyList(DragDrop::payload(keys)), keys.join(QLatin1Char('|')));
 }
 
-TEST(CategoryDragDrop, RowsDraggedOntoACategoryTakeItAndLeaveTheList)
+template<typename View>
+class RuleDragDrop : public ::testing::Test
 {
-    DragFixture<CategoryView> f;
-    const CategoryList &categories = *f.rulebase->CategoryList();
-    ASSERT_GE(categories.Count(), 2);
-    const QString sourceKey = categories.Item(1)->Key();
-    const QString targetKey = categories.Item(2)->Key();
-    const qint32 source = categories.Item(1)->ID();
-    const qint32 target = categories.Item(2)->ID();
+};
+using RuleMovingViews = ::testing::Types<CategoryView, SeverityView>;
+TYPED_TEST_SUITE(RuleDragDrop, RuleMovingViews);
 
+TYPED_TEST(RuleDragDrop, RowsDraggedOntoAnotherNodeTakeItsNumberAndLeaveTheList)
+{
+    DragFixture<TypeParam> f;
     // From the root nothing can be dragged, and a view that started no drag refuses one.
-    f.showNode(u"Category"_s, 1);
+    f.showNode(f.tree().key(1), 1);
     EXPECT_TRUE(f.list().startDrag().isEmpty());
-    EXPECT_EQ(f.tree().dragOver(f.tree().find(targetKey)), DragDrop::EffectNone);
-    EXPECT_EQ(f.tree().drop(u"5001Key||"_s, f.tree().find(targetKey)), DragDrop::EffectNone);
+    EXPECT_EQ(f.tree().dragOver(2), DragDrop::EffectNone);
+    EXPECT_EQ(f.tree().drop(u"5001Key||"_s, 2), DragDrop::EffectNone);
 
-    f.showNode(sourceKey, 2);
-    ASSERT_GE(f.list().count(), 2) << "the first category of the sample holds two rules or more";
+    // The first node with two rules or more is the source; another is the target.
+    int source = 0;
+    for (int node = 2; node <= f.tree().count() && source == 0; ++node) {
+        f.tree().click(node);
+        if (f.list().count() >= 2)
+            source = node;
+    }
+    ASSERT_NE(source, 0);
+    const int target = source == 2 ? 3 : 2;
+    const qint32 sourcePlace = Text::valLong(f.tree().key(source));
+    f.showNode(f.tree().key(source), 2);
     const QStringList dragged = f.selectedKeys();
     const int rowsBefore = f.list().count();
     const QString data = f.list().startDrag();
@@ -122,59 +132,40 @@ TEST(CategoryDragDrop, RowsDraggedOntoACategoryTakeItAndLeaveTheList)
 
     // Over the tree: none on the root, on the source and off the nodes, or without the format.
     EXPECT_EQ(f.tree().dragOver(1), DragDrop::EffectNone);
-    EXPECT_EQ(f.tree().dragOver(f.tree().find(sourceKey)), DragDrop::EffectNone);
+    EXPECT_EQ(f.tree().dragOver(source), DragDrop::EffectNone);
     EXPECT_EQ(f.tree().dragOver(f.tree().count() + 5), DragDrop::EffectNone);
-    EXPECT_EQ(f.tree().dragOver(f.tree().find(targetKey), DragDrop::StateOver, false),
-              DragDrop::EffectNone);
-    EXPECT_EQ(f.tree().dragOver(f.tree().find(targetKey)), DragDrop::EffectMove);
-    EXPECT_EQ(f.tree().dropHighlight(), f.tree().find(targetKey));
-    EXPECT_EQ(f.tree().dragOver(f.tree().find(u"-1K"_s)), DragDrop::EffectMove);
+    EXPECT_EQ(f.tree().dragOver(target, DragDrop::StateOver, false), DragDrop::EffectNone);
+    EXPECT_EQ(f.tree().dragOver(target), DragDrop::EffectMove);
+    EXPECT_EQ(f.tree().dropHighlight(), target);
 
     // Dropped on the root or the source nothing moves.
     EXPECT_EQ(f.tree().drop(data, 1), DragDrop::EffectNone);
-    EXPECT_EQ(f.tree().drop(data, f.tree().find(sourceKey)), DragDrop::EffectNone);
-    EXPECT_EQ(categoryOf(*f.rulebase, dragged.first()), source);
+    EXPECT_EQ(f.tree().drop(data, source), DragDrop::EffectNone);
+    EXPECT_EQ(placeOf(f, dragged.first()), sourcePlace);
 
-    EXPECT_EQ(f.tree().drop(data, f.tree().find(targetKey)), DragDrop::EffectMove);
+    EXPECT_EQ(f.tree().drop(data, target), DragDrop::EffectMove);
     for (const QString &key : dragged) {
-        EXPECT_EQ(categoryOf(*f.rulebase, key), target) << key.toStdString();
+        EXPECT_EQ(placeOf(f, key), Text::valLong(f.tree().key(target))) << key.toStdString();
         EXPECT_EQ(f.list().find(key), 0);
     }
     EXPECT_EQ(f.list().count(), rowsBefore - 2);
     EXPECT_TRUE(f.rulebase->Dirty());
     f.list().completeDrag();
     EXPECT_EQ(f.tree().dropHighlight(), 0);
-
-    // A drop on "Unallocated" takes the category away.
-    f.showNode(targetKey, 1);
-    const QString one = f.selectedKeys().first();
-    const QString again = f.list().startDrag();
-    EXPECT_EQ(f.tree().drop(again, f.tree().find(u"-1K"_s)), DragDrop::EffectMove);
-    EXPECT_EQ(categoryOf(*f.rulebase, one), -1);
-    EXPECT_TRUE(f.tree().text(f.tree().find(u"-1K"_s)).startsWith(u"Unallocated ("_s));
     EXPECT_TRUE(f.ui.messages.empty());
 }
 
-TEST(SeverityDragDrop, RowsDraggedOntoASeverityTakeItsLevel)
+TEST(CategoryDragDrop, ADropOnUnallocatedTakesTheCategoryAway)
 {
-    DragFixture<SeverityView> f;
-    // The first severity node with rules is the source; another is the target.
-    int source = 0;
-    for (int node = 2; node <= f.tree().count() && source == 0; ++node) {
-        f.tree().click(node);
-        if (f.list().count() > 0)
-            source = node;
-    }
-    ASSERT_NE(source, 0);
-    const int target = source == 2 ? 3 : 2;
-    f.showNode(f.tree().key(source), 1);
+    DragFixture<CategoryView> f;
+    const int unallocated = f.tree().find(u"-1K"_s);
+    f.showNode(f.tree().key(2), 1);
     const QString key = f.selectedKeys().first();
     const QString data = f.list().startDrag();
-    EXPECT_EQ(f.tree().dragOver(target), DragDrop::EffectMove);
-    EXPECT_EQ(f.tree().drop(data, target), DragDrop::EffectMove);
-    const auto rule = f.rulebase->RuleLists()->AllConventions()->Item(key);
-    EXPECT_EQ(rule->ViolationDefinition()->Severity(), Text::valLong(f.tree().key(target)));
-    EXPECT_EQ(f.list().find(key), 0);
+    EXPECT_EQ(f.tree().dragOver(unallocated), DragDrop::EffectMove);
+    EXPECT_EQ(f.tree().drop(data, unallocated), DragDrop::EffectMove);
+    EXPECT_EQ(placeOf(f, key), -1);
+    EXPECT_TRUE(f.tree().text(unallocated).startsWith(u"Unallocated ("_s));
 }
 
 TEST(CodingConventionDragDrop, PendingConventionsStayAndTheOthersChangeOneEvent)

@@ -48,6 +48,20 @@ struct Shown
         view->SetEnabledState();
     }
     RuleLists &lists() const { return *rulebase->RuleLists(); }
+    // Clicks the node of the event with the most coding conventions, one worth looking at.
+    qint32 showBusiestEvent()
+    {
+        qint32 best = 1;
+        for (qint32 id = 1, most = 0; id <= 37; ++id) {
+            const auto list = lists().ParserEventCCList(id, false);
+            if (list && list->Count() > most) {
+                most = list->Count();
+                best = id;
+            }
+        }
+        form.treeControl.click(form.treeControl.find(VBParserEvents::ParserEventKey(best)));
+        return best;
+    }
     int inactiveRows() const
     {
         int n = 0;
@@ -78,21 +92,6 @@ int inactiveIn(const RuleLists &lists)
     for (qint32 i = 1; i <= all->Count(); ++i)
         n += all->Item(i)->RuleActive() ? 0 : 1;
     return n;
-}
-
-// The event with the most coding conventions: a node whose list is worth looking at.
-qint32 busiestEvent(RuleLists &lists)
-{
-    qint32 best = 1;
-    int most = 0;
-    for (qint32 id = 1; id <= 37; ++id) {
-        const auto list = lists.ParserEventCCList(id, false);
-        if (list && list->Count() > most) {
-            most = list->Count();
-            best = id;
-        }
-    }
-    return best;
 }
 
 QString withCount(const QString &text, int count)
@@ -126,15 +125,13 @@ TEST(CodingConventionsView, ShowsEveryConventionAtTheRootWithTitlesCountsAndTool
 TEST(CodingConventionsView, AnEventNodeShowsItsOwnConventionsAndHelp)
 {
     Shown<CodingConventionsView> s;
-    const qint32 event = busiestEvent(s.lists());
+    const qint32 event = s.showBusiestEvent();
     const auto list = s.lists().ParserEventCCList(event, false);
     ASSERT_TRUE(list && list->Count() > 0);
-    const int node = s.form.treeControl.find(VBParserEvents::ParserEventKey(event));
+    const int node = s.form.treeControl.selectedItem();
     EXPECT_EQ(s.form.treeControl.text(node),
               VBParserEvents::ParserEventText(event) + " (" + QString::number(list->Count()) + ")");
     EXPECT_TRUE(s.form.treeControl.bold(node));
-
-    s.form.treeControl.click(node);
     EXPECT_EQ(s.form.listControl.count(), list->Count());
     EXPECT_EQ(s.form.listTitle, " Parser Event [" + VBParserEvents::ParserEventText(event) + "]");
     EXPECT_EQ(s.form.listHeaderImage, s.form.treeControl.image(node));
@@ -156,8 +153,7 @@ TEST(CodingConventionsView, AnEventNodeShowsItsOwnConventionsAndHelp)
 TEST(CodingConventionsView, DeleteAsksAndOnYesRemovesFromListAndRuleLists)
 {
     Shown<CodingConventionsView> s;
-    const qint32 event = busiestEvent(s.lists());
-    s.form.treeControl.click(s.form.treeControl.find(VBParserEvents::ParserEventKey(event)));
+    const qint32 event = s.showBusiestEvent();
     const int rows = s.form.listControl.count();
     const QString key = s.form.listControl.key(1);
     const auto doomed = s.lists().CodingConventions()->Item(key);
@@ -194,9 +190,8 @@ TEST(CodingConventionsView, DeleteAsksAndOnYesRemovesFromListAndRuleLists)
 TEST(CodingConventionsView, EditingInTheDialogUpdatesTheRowOrMovesItOut)
 {
     Shown<CodingConventionsView> s;
-    const qint32 event = busiestEvent(s.lists());
-    const int node = s.form.treeControl.find(VBParserEvents::ParserEventKey(event));
-    s.form.treeControl.click(node);
+    const qint32 event = s.showBusiestEvent();
+    const int node = s.form.treeControl.selectedItem();
     const int rows = s.form.listControl.count();
     const QString key = s.form.listControl.key(1);
 
@@ -231,9 +226,7 @@ TEST(CodingConventionsView, EditingInTheDialogUpdatesTheRowOrMovesItOut)
 TEST(CodingConventionsView, AddItemShowsANewConventionOnItsEventAndTheSortSurvives)
 {
     Shown<CodingConventionsView> s;
-    const qint32 event = busiestEvent(s.lists());
-    const int node = s.form.treeControl.find(VBParserEvents::ParserEventKey(event));
-    s.form.treeControl.click(node);
+    const qint32 event = s.showBusiestEvent();
     const int rows = s.form.listControl.count();
 
     auto rule = std::make_shared<CodingConvention>();
