@@ -1,5 +1,7 @@
 #include "application/Application.h"
 #include "application/Startup.h"
+#include "controls/ListControl.h"
+#include "controls/TreeControl.h"
 #include "gui/QtListControl.h"
 #include "gui/QtTreeControl.h"
 #include "gui/frmMain.h"
@@ -13,8 +15,6 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/ViolationDefinition.h"
 #include "views/IViewController.h"
-#include "controls/ListControl.h"
-#include "controls/TreeControl.h"
 #include "views/ViewFactory.h"
 
 #include "support/ScriptedUserInterface.h"

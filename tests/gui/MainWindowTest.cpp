@@ -1,6 +1,7 @@
 #include "application/Application.h"
 #include "application/HelpTopics.h"
 #include "application/Startup.h"
+#include "controls/TreeControl.h"
 #include "gui/frmMain.h"
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
@@ -12,7 +13,6 @@
 #include "rulebase/ViolationDefinition.h"
 #include "views/CommandTable.h"
 #include "views/IViewController.h"
-#include "controls/TreeControl.h"
 #include "views/ViewFactory.h"
 
 #include "StartedMainWindow.h"

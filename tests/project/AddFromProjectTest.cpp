@@ -1,10 +1,10 @@
 #include "ProjectTestSupport.h"
 
+#include "editors/AddFromProject.h"
 #include "editors/AddFromProjectForm.h"
 #include "editors/IFormFactory.h"
 #include "platform/GlobalObjects.h"
 #include "platform/LogFile.h"
-#include "editors/AddFromProject.h"
 #include "project/VirtualComponent.h"
 #include "project/VirtualReference.h"
 #include "project/modTypelib.h"

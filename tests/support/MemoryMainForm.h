@@ -1,8 +1,8 @@
 #pragma once
 
-#include "views/IMainForm.h"
 #include "support/MemoryListControl.h"
 #include "support/MemoryTreeControl.h"
+#include "views/IMainForm.h"
 
 #include <QHash>
 #include <QStringList>

@@ -1,11 +1,11 @@
 #include "views/CommandTable.h"
 #include "application/Application.h"
-#include "views/IMainForm.h"
+#include "application/ToolDispatcher.h"
 #include "platform/UserInterface.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseManager.h"
+#include "views/IMainForm.h"
 #include "views/IViewController.h"
-#include "application/ToolDispatcher.h"
 #include "views/ViewFactory.h"
 
 #include "support/MemoryMainForm.h"
