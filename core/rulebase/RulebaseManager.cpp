@@ -127,11 +127,20 @@ public:
             if (!m_ended[before])
                 return false;
         }
-        static constexpr RuleLoader loaders[] = {&RulebaseManager::LoadUnauthorisedKeyword,
-                                                 &RulebaseManager::LoadCodingConvention,
-                                                 &RulebaseManager::LoadNamingConvention};
         try {
-            (m_manager.*loaders[list])(child, m_criteria, m_rules);
+            switch (list) {
+            case Keywords:
+                m_manager.LoadUnauthorisedKeyword(child, m_criteria, m_rules);
+                break;
+            case Coding:
+                m_manager.LoadCodingConvention(child, m_criteria, m_rules);
+                break;
+            case Naming:
+                m_manager.LoadNamingConvention(child, m_criteria, m_rules);
+                break;
+            default:
+                return false;
+            }
         } catch (const std::exception &) {
             return false;
         }
