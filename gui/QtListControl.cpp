@@ -127,8 +127,7 @@ void QtListControl::clear()
 
 int QtListControl::add(const QString &key, const QString &text, int smallIcon)
 {
-    if (find(key) != 0)
-        return m_rows.add(key, text, smallIcon); // raises the duplicate key
+    m_rows.requireNewKey(key);
     beginInsertRows(QModelIndex(), count(), count());
     const int row = m_rows.add(key, text, smallIcon);
     endInsertRows();
@@ -137,11 +136,7 @@ int QtListControl::add(const QString &key, const QString &text, int smallIcon)
 
 void QtListControl::remove(const QString &key)
 {
-    const int row = find(key);
-    if (row == 0) {
-        m_rows.remove(key); // raises "No such item."
-        return;
-    }
+    const int row = m_rows.rowOf(key);
     m_quiet = true;
     beginRemoveRows(QModelIndex(), row - 1, row - 1);
     m_rows.remove(key);

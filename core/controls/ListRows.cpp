@@ -30,23 +30,33 @@ void ListRows::clear()
     m_positions.clear();
 }
 
-int ListRows::add(const QString &key, const QString &text, int smallIcon)
+void ListRows::requireNewKey(const QString &key) const
 {
-    const QString folded = key.toCaseFolded();
-    if (m_positions.contains(folded))
+    if (find(key) != 0)
         throw QuorinError(ErrorNumber::DuplicateKey,
                           sourceOf("add"),
                           QStringLiteral("Key is not unique in collection"));
+}
+
+int ListRows::rowOf(const QString &key) const
+{
+    const int row = find(key);
+    if (row == 0)
+        KeyedListErrors::raiseNoSuchItem("Remove");
+    return row;
+}
+
+int ListRows::add(const QString &key, const QString &text, int smallIcon)
+{
+    requireNewKey(key);
     m_rows.push_back(Row{key, text, smallIcon, m_foreColor, {}});
-    m_positions.insert(folded, count());
+    m_positions.insert(key.toCaseFolded(), count());
     return count();
 }
 
 int ListRows::remove(const QString &key)
 {
-    const int row = find(key);
-    if (row == 0)
-        KeyedListErrors::raiseNoSuchItem("Remove");
+    const int row = rowOf(key);
     m_rows.erase(m_rows.begin() + (row - 1));
     m_positions.remove(key.toCaseFolded());
     rehash(row);

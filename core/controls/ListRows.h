@@ -43,6 +43,10 @@ public:
     int remove(const QString &key);
     // 0 when there is none.
     int find(const QString &key) const { return m_positions.value(key.toCaseFolded(), 0); }
+    // The checks of add and remove on their own, for a model that announces a change before
+    // making it: they raise what add and remove would.
+    void requireNewKey(const QString &key) const;
+    int rowOf(const QString &key) const;
 
     const Row &at(int row) const;
     Row &at(int row);
