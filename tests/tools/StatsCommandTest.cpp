@@ -16,9 +16,6 @@ qint64 number(const QJsonObject &object, const char *name)
     return object.value(QLatin1String(name)).toInteger();
 }
 
-const char *const counters[]
-    = {"codeLines", "commentLines", "inLineCommentLines", "blankLines", "totalLines"};
-
 } // namespace
 
 TEST(StatsCommand, AProjectWrittenHereIsCountedAsTheReviewerCountsIt)
