@@ -1,29 +1,12 @@
-#include "application/Application.h"
-#include "application/Startup.h"
 #include "controls/ListControl.h"
 #include "controls/TreeControl.h"
 #include "gui/QtListControl.h"
 #include "gui/QtTreeControl.h"
-#include "gui/frmMain.h"
-#include "platform/GlobalObjects.h"
-#include "platform/QuorinAdminData.h"
 #include "platform/QuorinError.h"
-#include "platform/TextUtils.h"
-#include "rulebase/CategoryList.h"
-#include "rulebase/IRule.h"
-#include "rulebase/RuleLists.h"
-#include "rulebase/Rulebase.h"
-#include "rulebase/ViolationDefinition.h"
-#include "views/IViewController.h"
-#include "views/ViewFactory.h"
-
-#include "support/ScriptedUserInterface.h"
-#include "support/TestEnvironment.h"
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
 #include <QHeaderView>
-#include <QLabel>
 #include <QMouseEvent>
 #include <QTreeView>
 

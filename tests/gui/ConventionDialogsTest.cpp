@@ -1,62 +1,31 @@
 #include "application/Application.h"
-#include "application/Startup.h"
 #include "controls/ListControl.h"
 #include "controls/TreeControl.h"
-#include "gui/factory/GuiFormFactory.h"
 #include "gui/frmMain.h"
-#include "platform/GlobalObjects.h"
-#include "platform/QuorinAdminData.h"
 #include "rulebase/CodingConvention.h"
-#include "rulebase/NamingConvention.h"
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/ViolationDefinition.h"
-#include "views/IViewController.h"
-#include "views/ViewFactory.h"
 
-#include "support/ScriptedUserInterface.h"
-#include "support/TestEnvironment.h"
+#include "GuiTestSupport.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QFile>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTabWidget>
-#include <QTimer>
 #include <QTreeView>
 #include <QTreeWidget>
 
-#include "GuiTestSupport.h"
-
 #include <gtest/gtest.h>
-
-#include <functional>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-class ConventionDialogs : public GuiSample
-{
-protected:
-    std::shared_ptr<IRule> findByTitle(const QString &title)
-    {
-        const auto all = app->rulebase()->RuleLists()->AllConventions();
-        for (qint32 i = 1; i <= all->Count(); ++i) {
-            if (all->Item(i)->Title() == title)
-                return all->Item(i);
-        }
-        return nullptr;
-    }
-};
-
-} // namespace
+using ConventionDialogs = GuiSample;
 
 TEST_F(ConventionDialogs, CreatesACodingConventionFromTheMainWindowAndSavesIt)
 {
@@ -100,17 +69,17 @@ TEST_F(ConventionDialogs, CreatesACodingConventionFromTheMainWindowAndSavesIt)
     window->tool(u"tlCodingConvention"_s)->trigger();
     ASSERT_TRUE(seen);
 
-    const auto rule
-        = std::dynamic_pointer_cast<CodingConvention>(findByTitle(u"No Stop statements"_s));
+    const auto rule = std::dynamic_pointer_cast<CodingConvention>(
+        firstRule([](const IRule &r) { return r.Title() == "No Stop statements"_L1; }));
     ASSERT_TRUE(rule);
     EXPECT_EQ(rule->ParserEventList(), u"30"_s);
     EXPECT_EQ(rule->ViolationDefinition()->Severity(), 3);
     EXPECT_EQ(rule->ViolationDefinition()->Impact(), 500);
     EXPECT_NE(window->list()->find(rule->RuleKey()), 0);
-    EXPECT_TRUE(app->rulebase()->Dirty());
+    EXPECT_TRUE(rulebase->Dirty());
 
     window->tool(u"tlSaveRulebase"_s)->trigger();
-    EXPECT_FALSE(app->rulebase()->Dirty());
+    EXPECT_FALSE(rulebase->Dirty());
     QFile saved(file);
     ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(saved.readAll());
@@ -124,11 +93,11 @@ TEST_F(ConventionDialogs, OpensARowWithEnterAndCancelWritesNothing)
     ListControl *list = window->list();
     ASSERT_GT(list->count(), 0);
     const QString key = list->key(1);
-    const auto rule = app->rulebase()->RuleLists()->AllConventions()->Item(key);
+    const auto rule = rulebase->RuleLists()->AllConventions()->Item(key);
     const QString title = rule->Title();
     list->setSelectedItem(1);
     window->lvwMain()->setCurrentIndex(window->lvwMain()->model()->index(0, 0));
-    app->rulebase()->setDirty(false);
+    rulebase->setDirty(false);
 
     // Changed, then closed with Escape: the rule stays as it was.
     whenModal(u"frmCodingConvention"_s, [&](QDialog &dialog) {
@@ -139,7 +108,7 @@ TEST_F(ConventionDialogs, OpensARowWithEnterAndCancelWritesNothing)
     QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
     QApplication::sendEvent(window->lvwMain(), &enter);
     EXPECT_EQ(rule->Title(), title);
-    EXPECT_FALSE(app->rulebase()->Dirty());
+    EXPECT_FALSE(rulebase->Dirty());
 
     // Renamed through OK: the row follows.
     whenModal(u"frmCodingConvention"_s, [&](QDialog &dialog) {

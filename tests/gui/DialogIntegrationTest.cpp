@@ -1,6 +1,6 @@
 #include "application/Application.h"
 #include "application/HelpTopics.h"
-#include "application/Startup.h"
+#include "collections/ObjectKeyedListAdapter.h"
 #include "editors/AddFromProject.h"
 #include "editors/AddFromProjectForm.h"
 #include "editors/AuthorisedComponentForm.h"
@@ -32,53 +32,32 @@
 #include "gui/dialogs/frmTagList.h"
 #include "gui/dialogs/frmUnauthorisedKeyword.h"
 #include "gui/editor/frmRuleEditor.h"
-#include "gui/factory/GuiFormFactory.h"
 #include "gui/frmMain.h"
-#include "gui/window/Images.h"
 #include "gui/window/frmAbout.h"
 #include "gui/window/frmTip.h"
-#include "platform/GlobalObjects.h"
-#include "platform/QuorinAdminData.h"
 #include "rulebase/AuthorisedComponent.h"
-#include "rulebase/AuthorisedComponents.h"
 #include "rulebase/AuthorisedReference.h"
-#include "rulebase/CategoryItem.h"
 #include "rulebase/CategoryList.h"
 #include "rulebase/DefaultViolations.h"
 #include "rulebase/IRule.h"
-#include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/SeverityItem.h"
 #include "rulebase/ViolationDefinition.h"
-#include "views/IViewController.h"
-#include "views/ViewFactory.h"
-#include "vocabulary/ObjectListType.h"
 
-#include "collections/ObjectKeyedListAdapter.h"
-#include "support/ScriptedUserInterface.h"
-#include "support/TestEnvironment.h"
+#include "GuiTestSupport.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
-#include <QHeaderView>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSet>
-#include <QTabBar>
 #include <QTabWidget>
-#include <QTimer>
-#include <QTreeWidget>
-
-#include "GuiTestSupport.h"
 
 #include <gtest/gtest.h>
 
@@ -88,11 +67,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-std::string joined(const QStringList &texts)
-{
-    return texts.join(u", "_s).toStdString();
-}
 
 // The page a help request lands on, "" when it names none.
 QString pageOf(const HelpRequest &request)
@@ -116,36 +90,44 @@ void pressF1(QDialog &dialog)
 class DialogIntegration : public GuiSample
 {
 protected:
-    std::shared_ptr<IRule> firstRuleOfType(qint32 ruleType) const
+    void SetUp() override
     {
-        const auto all = rulebase->RuleLists()->AllConventions();
-        for (qint32 i = 1; i <= all->Count(); ++i) {
-            if (all->Item(i)->RuleType() == ruleType)
-                return all->Item(i);
-        }
-        return nullptr;
+        GuiSample::SetUp();
+        severityEditor.setSeverityItem(rulebase->SeverityList()->Item(1));
+        severityEditor.Load();
+        violations.setDefaultViolations(rulebase->DefaultViolations());
+        violations.setCategoryList(rulebase->CategoryList());
+        violations.setSeverityList(rulebase->SeverityList());
+        violations.Load();
+        properties.setRulebase(rulebase);
+        properties.Load();
     }
 
-    // Opens the rule in its dialog from the factory and runs `act` on it.
-    void openRule(qint32 ruleType, const char *dialogName, std::function<void(QDialog &)> act)
+    // Opens the first coding convention in its dialog from the factory and runs `act` on it.
+    void openCodingConvention(std::function<void(QDialog &)> act)
     {
-        const std::shared_ptr<IRule> rule = firstRuleOfType(ruleType);
-        ASSERT_NE(rule, nullptr) << ruleType;
+        const std::shared_ptr<IRule> rule
+            = firstRule([](const IRule &r) { return r.RuleType() == RuleTypes::CodingConvention; });
+        ASSERT_NE(rule, nullptr);
         std::unique_ptr<IConventionForm> form
-            = IFormFactory::current().createConventionForm(ruleType);
+            = IFormFactory::current().createConventionForm(RuleTypes::CodingConvention);
         ASSERT_NE(form, nullptr);
         form->setConvention(rule);
         form->setContext(app->ruleDialogContext());
         bool seen = false;
-        whenModal(QLatin1String(dialogName), [&](QDialog &dialog) {
+        whenModal(u"frmCodingConvention"_s, [&](QDialog &dialog) {
             seen = true;
             act(dialog);
             click(dialog, "cmdCancel");
         });
         form->Show();
-        EXPECT_TRUE(seen) << dialogName;
+        EXPECT_TRUE(seen);
         EXPECT_TRUE(form->Cancelled());
     }
+
+    SeverityEditorForm severityEditor;
+    DefaultViolationsForm violations;
+    RulebasePropertiesForm properties;
 };
 
 } // namespace
@@ -201,8 +183,7 @@ TEST_F(DialogIntegration, DefaultViolationsInsertThePickedPropertyAtTheCaretOfTh
 TEST_F(DialogIntegration, EveryDialogsHelpButtonAndF1OpenItsOwnPage)
 {
     const auto category = rulebase->CategoryList()->Item(1);
-    const auto severity = rulebase->SeverityList()->Item(1);
-    ASSERT_TRUE(category && severity);
+    ASSERT_TRUE(category);
 
     CategorySeverityForm categories;
     categories.setDialogType(CategorySeverityForm::Categories);
@@ -216,17 +197,6 @@ TEST_F(DialogIntegration, EveryDialogsHelpButtonAndF1OpenItsOwnPage)
     CategoryEditorForm categoryEditor;
     categoryEditor.setCategoryItem(category);
     categoryEditor.Load();
-    SeverityEditorForm severityEditor;
-    severityEditor.setSeverityItem(severity);
-    severityEditor.Load();
-    DefaultViolationsForm violations;
-    violations.setDefaultViolations(rulebase->DefaultViolations());
-    violations.setCategoryList(rulebase->CategoryList());
-    violations.setSeverityList(rulebase->SeverityList());
-    violations.Load();
-    RulebasePropertiesForm properties;
-    properties.setRulebase(rulebase);
-    properties.Load();
     TagListForm tags;
     tags.Initialise(rulebase->ControlTags(), TagListForm::ControlTags);
     AddFromProject importer;
@@ -315,18 +285,6 @@ TEST_F(DialogIntegration, EveryDialogsHelpButtonAndF1OpenItsOwnPage)
 
 TEST_F(DialogIntegration, NumberBoxesRefuseANumberTheirValueCannotHold)
 {
-    SeverityEditorForm severityEditor;
-    severityEditor.setSeverityItem(rulebase->SeverityList()->Item(1));
-    severityEditor.Load();
-    DefaultViolationsForm violations;
-    violations.setDefaultViolations(rulebase->DefaultViolations());
-    violations.setCategoryList(rulebase->CategoryList());
-    violations.setSeverityList(rulebase->SeverityList());
-    violations.Load();
-    RulebasePropertiesForm properties;
-    properties.setRulebase(rulebase);
-    properties.Load();
-
     struct Case
     {
         const char *box;
@@ -375,12 +333,12 @@ TEST_F(DialogIntegration, NumberBoxesRefuseANumberTheirValueCannotHold)
         typeKeys(box, u"1x2"_s);
         EXPECT_EQ(box->text(), u"12"_s);
     }
-    EXPECT_TRUE(ui.messages.empty()) << joined(ui.messageTexts());
+    EXPECT_TRUE(ui.messages.empty()) << ui.messageTexts().join(u", "_s).toStdString();
 }
 
 TEST_F(DialogIntegration, APickedPlaceholderGoesInAtTheCaretWhileTabStillSelectsAll)
 {
-    openRule(RuleTypes::CodingConvention, "frmCodingConvention", [&](QDialog &dialog) {
+    openCodingConvention([&](QDialog &dialog) {
         QApplication::setActiveWindow(&dialog); // focus comes and goes as on a desktop
         child<QTabWidget>(dialog, "tbsConvention")->setCurrentIndex(3);
         auto *advice = child<QPlainTextEdit>(dialog, "txtVAdvice");
@@ -419,7 +377,7 @@ TEST_F(DialogIntegration, APickedPlaceholderGoesInAtTheCaretWhileTabStillSelects
 
 TEST_F(DialogIntegration, OKRefusesABrokenConditionTypedIntoTheBoxAndShowsWhere)
 {
-    openRule(RuleTypes::CodingConvention, "frmCodingConvention", [&](QDialog &dialog) {
+    openCodingConvention([&](QDialog &dialog) {
         auto *condition = child<QPlainTextEdit>(dialog, "txtCondition");
         condition->setPlainText(u"Sub Main\n  x = 1\n  If x Then\nEnd Sub"_s);
         ui.messages.clear();

@@ -5,20 +5,19 @@
 #include "gui/dialogs/frmDefaultViolations.h"
 #include "gui/factory/GuiFormFactory.h"
 #include "gui/frmMain.h"
-#include "gui/window/Images.h"
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
+#include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
 #include "support/TestEnvironment.h"
 #include "views/IViewController.h"
 #include "views/ViewFactory.h"
 
 #include <QAction>
-#include <QFile>
-
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QTimer>
@@ -90,7 +89,6 @@ void GuiSample::SetUp()
     ASSERT_EQ(CreateGlobalObjects(), 0);
     gobjAdminData->setFirstUse(false);
     gobjAdminData->setDisplayTips(false);
-    Images::initialise();
     file = TestEnvironment::makeTempDir() + u"/Sample.qrb"_s;
     ASSERT_TRUE(QFile::copy(TestEnvironment::sampleRulebase(), file));
     QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner);
@@ -125,4 +123,14 @@ void GuiSample::trigger(const char *tool)
     ASSERT_NE(action, nullptr) << tool;
     ASSERT_TRUE(action->isEnabled()) << tool;
     action->trigger();
+}
+
+std::shared_ptr<IRule> GuiSample::firstRule(const std::function<bool(const IRule &)> &match) const
+{
+    const auto all = rulebase->RuleLists()->AllConventions();
+    for (qint32 i = 1; i <= all->Count(); ++i) {
+        if (match(*all->Item(i)))
+            return all->Item(i);
+    }
+    return nullptr;
 }

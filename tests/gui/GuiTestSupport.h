@@ -36,6 +36,7 @@ bool waitFor(const std::function<bool()> &done);
 
 class Application;
 class GuiFormFactory;
+class IRule;
 class Rulebase;
 class frmMain;
 
@@ -50,6 +51,8 @@ protected:
     void TearDown() override;
     // Triggers the main window's tool of this name, which must be enabled.
     void trigger(const char *tool);
+    // The first convention of the rulebase that `match` takes, or null.
+    std::shared_ptr<IRule> firstRule(const std::function<bool(const IRule &)> &match) const;
 
     ScriptedUserInterface ui;
     QString file;

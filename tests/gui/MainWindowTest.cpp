@@ -5,31 +5,26 @@
 #include "gui/frmMain.h"
 #include "platform/GlobalObjects.h"
 #include "platform/QuorinAdminData.h"
-#include "rulebase/CategoryItem.h"
-#include "rulebase/CategoryList.h"
-#include "rulebase/IRule.h"
-#include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
-#include "rulebase/ViolationDefinition.h"
 #include "views/CommandTable.h"
 #include "views/IViewController.h"
 #include "views/ViewFactory.h"
 
-#include "StartedMainWindow.h"
-#include "support/ScriptedUserInterface.h"
+#include "GuiTestSupport.h"
 #include "support/TestEnvironment.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
 #include <QMenuBar>
-#include <QStatusBar>
 #include <QToolBar>
 #include <QTreeView>
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+
+using SampleWindow = GuiSample;
 
 TEST(MainWindow, OpensTheSampleWithItsMenusAndClosesWithoutAsking)
 {
@@ -76,16 +71,13 @@ TEST(MainWindow, OpensTheSampleWithItsMenusAndClosesWithoutAsking)
     DestroyGlobalObjects();
 }
 
-TEST(MainWindow, EveryViewCanBeShownAndF1OpensItsPage)
+TEST_F(SampleWindow, EveryViewCanBeShownAndF1OpensItsPage)
 {
-    ScriptedUserInterface ui;
-    StartedMainWindow w(TestEnvironment::sampleRulebase());
-    ASSERT_TRUE(w.started);
-    w.window.resize(900, 600);
+    window->resize(900, 600);
     QApplication::processEvents();
 
     for (const QString &id : CommandTable::viewTools()) {
-        QAction *tool = w.window.tool(id);
+        QAction *tool = window->tool(id);
         const bool built = createView(id) != nullptr;
         // A view that is not built yet is disabled and says so; the others switch.
         EXPECT_EQ(tool->isEnabled(), built) << id.toStdString();
@@ -94,61 +86,58 @@ TEST(MainWindow, EveryViewCanBeShownAndF1OpensItsPage)
             continue;
         }
         tool->trigger();
-        EXPECT_EQ(w.app.CurrentViewName(), id);
+        EXPECT_EQ(app->CurrentViewName(), id);
         EXPECT_TRUE(tool->isChecked());
-        EXPECT_GT(w.window.tree()->count(), 0) << id.toStdString();
-        EXPECT_FALSE(w.window.findChild<QLabel *>(u"lblTreeViewTitle"_s)->text().isEmpty());
+        EXPECT_GT(window->tree()->count(), 0) << id.toStdString();
+        EXPECT_FALSE(window->findChild<QLabel *>(u"lblTreeViewTitle"_s)->text().isEmpty());
 
-        w.window.showContextHelp();
+        window->showContextHelp();
         ASSERT_FALSE(ui.helpRequests.empty());
         const HelpRequest &help = ui.helpRequests.back();
         EXPECT_EQ(help.command, HelpCommand::Context);
         EXPECT_FALSE(HelpTopics::pageForContext(help.context).isEmpty()) << help.context;
     }
-    w.window.tool(u"tlCategoryView"_s)->trigger();
-    w.window.showContextHelp();
+    window->tool(u"tlCategoryView"_s)->trigger();
+    window->showContextHelp();
     EXPECT_EQ(ui.helpRequests.back().context, 68);
     EXPECT_EQ(HelpTopics::pageForContext(68), u"CategoryView.htm"_s);
 
     // Rows carry their severity's picture, and the list header the selected node's.
-    const QModelIndex first = w.window.lvwMain()->model()->index(0, 0);
+    const QModelIndex first = window->lvwMain()->model()->index(0, 0);
     EXPECT_FALSE(first.data(Qt::DecorationRole).value<QIcon>().isNull());
-    EXPECT_FALSE(w.window.findChild<QLabel *>(u"imgListHeader"_s)->pixmap().isNull());
-    EXPECT_FALSE(w.window.tool(u"tlSaveRulebase"_s)->icon().isNull());
+    EXPECT_FALSE(window->findChild<QLabel *>(u"imgListHeader"_s)->pixmap().isNull());
+    EXPECT_FALSE(window->tool(u"tlSaveRulebase"_s)->icon().isNull());
 }
 
-TEST(MainWindow, AFailedOpenLeavesTheWindowLiveAndAPartLoadSaysSoUntilSaved)
+TEST_F(SampleWindow, AFailedOpenLeavesTheWindowLiveAndAPartLoadSaysSoUntilSaved)
 {
     const QString dir = TestEnvironment::makeTempDir() + QLatin1Char('/');
     const QString bad = dir + u"bad.qrb"_s;
     const QString part = dir + u"part.qrb"_s;
-    const QByteArray bytes = TestEnvironment::readFile(TestEnvironment::sampleRulebase());
+    const QByteArray bytes = TestEnvironment::readFile(file);
     TestEnvironment::writeFile(bad, bytes.left(400));
     TestEnvironment::writeFile(
         part,
         QByteArray(bytes).replace("<CategoryList LastID=\"14\">", "<CategoryList LastID=\"x\">"));
-    ScriptedUserInterface ui;
-    StartedMainWindow w(TestEnvironment::sampleRulebase());
-    ASSERT_TRUE(w.started);
-    const QString title = w.window.windowTitle();
+    const QString title = window->windowTitle();
 
     // Not saved first, and the open fails: the edit is still there to save, and closing asks.
-    w.app.rulebase()->setTitle(u"Edited"_s);
+    rulebase->setTitle(u"Edited"_s);
     ui.answers = {MessageResult::No};
-    EXPECT_FALSE(w.app.OpenRulebase(Application::OpenMode::CommandLine, bad));
-    EXPECT_EQ(w.window.windowTitle(), title);
-    EXPECT_TRUE(w.window.tool(u"tlSaveRulebase"_s)->isEnabled());
-    EXPECT_EQ(w.app.rulebase()->Title(), u"Edited"_s);
+    EXPECT_FALSE(app->OpenRulebase(Application::OpenMode::CommandLine, bad));
+    EXPECT_EQ(window->windowTitle(), title);
+    EXPECT_TRUE(window->tool(u"tlSaveRulebase"_s)->isEnabled());
+    EXPECT_EQ(app->rulebase()->Title(), u"Edited"_s);
     ui.answers = {MessageResult::Cancel};
-    EXPECT_FALSE(w.window.close());
+    EXPECT_FALSE(window->close());
     EXPECT_EQ(ui.messages.back().text,
               u"The current rulebase has changed, do you wish to save the changes?"_s);
 
     ui.answers = {MessageResult::No};
-    ASSERT_TRUE(w.app.OpenRulebase(Application::OpenMode::CommandLine, part));
-    EXPECT_EQ(w.window.windowTitle(), u"part.qrb (loaded in part) - Quorin Administrator"_s);
+    ASSERT_TRUE(app->OpenRulebase(Application::OpenMode::CommandLine, part));
+    EXPECT_EQ(window->windowTitle(), u"part.qrb (loaded in part) - Quorin Administrator"_s);
     ui.answers = {MessageResult::Yes};
-    w.window.tool(u"tlSaveRulebase"_s)->trigger();
-    EXPECT_EQ(w.window.windowTitle(), u"part.qrb - Quorin Administrator"_s);
+    window->tool(u"tlSaveRulebase"_s)->trigger();
+    EXPECT_EQ(window->windowTitle(), u"part.qrb - Quorin Administrator"_s);
     EXPECT_EQ(ui.unscriptedQuestions, 0);
 }

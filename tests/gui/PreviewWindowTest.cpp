@@ -8,26 +8,17 @@
 #include "rulebase/UnauthorisedKeyword.h"
 #include "rulebase/ViolationDefinition.h"
 
+#include "GuiTestSupport.h"
 #include "support/PreviewRules.h"
-#include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
-#include <QAction>
+#include <QAbstractItemModelTester>
 #include <QComboBox>
 #include <QDialog>
-#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTreeView>
-
-#if __has_include(<QAbstractItemModelTester>)
-#include <QAbstractItemModelTester>
-#endif
-
-#include "GuiTestSupport.h"
-#include "StartedMainWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -66,82 +57,61 @@ QStringList groups(const QAbstractItemModel &model)
 
 } // namespace
 
+using PreviewWindow = GuiSample;
+
 // Tools > Preview on Project: the findings by rule and by file, a filter, the source of a
 // finding, and a rule edited from its row, after which the results are those of the edit.
-TEST(PreviewWindow, ShowsFindingsByRuleAndFileAndRefreshesAfterARuleIsEdited)
+TEST_F(PreviewWindow, ShowsFindingsByRuleAndFileAndRefreshesAfterARuleIsEdited)
 {
-    ScriptedUserInterface ui;
-    {
-        StartedMainWindow session(writeRulebase());
-        ASSERT_TRUE(session.started);
-        frmMain &window = session.window;
-        Application &app = session.app;
+    ASSERT_TRUE(app->OpenRulebase(Application::OpenMode::CommandLine, writeRulebase()));
+    ui.openAnswers = {TestEnvironment::sourceDir() + u"/tests/preview/data/Kinds/Kinds.vbp"_s};
+    trigger("tlPreviewProject");
+    auto *preview = window->findChild<frmPreview *>(u"frmPreview"_s);
+    ASSERT_NE(preview, nullptr);
+    EXPECT_TRUE(preview->isVisible());
+    auto *findings = child<QTreeView>(*preview, "tvwFindings");
+    QAbstractItemModel &model = *findings->model();
+    QAbstractItemModelTester tester(&model,
+                                    QAbstractItemModelTester::FailureReportingMode::Warning);
+    auto *counts = child<QLabel>(*preview, "lblCounts");
+    // Two references and two components the rulebase does not authorise, two names, GoTo.
+    EXPECT_EQ(counts->text(), u"7 violations, 1 not previewed, 1 file not read"_s);
+    EXPECT_EQ(groups(model),
+              QStringList({"5000 Private variables (2)",
+                           "5001 GoTo (1)",
+                           "5002 Controls (1)",
+                           "Unauthorised Reference (2)",
+                           "Unauthorised Component (2)",
+                           "Files that could not be read (1)"}));
+    EXPECT_EQ(model.index(0, PreviewResultsModel::NameColumn, model.index(0, 0)).data().toString(),
+              u"m_colItems"_s);
 
-        QAction *tool = window.tool(u"tlPreviewProject"_s);
-        ASSERT_NE(tool, nullptr);
-        EXPECT_TRUE(tool->isEnabled());
-        ui.openAnswers = {TestEnvironment::sourceDir() + u"/tests/preview/data/Kinds/Kinds.vbp"_s};
-        tool->trigger();
-        auto *preview = window.findChild<frmPreview *>(u"frmPreview"_s);
-        ASSERT_NE(preview, nullptr);
-        EXPECT_TRUE(preview->isVisible());
-        auto *findings = child<QTreeView>(*preview, "tvwFindings");
-        QAbstractItemModel &model = *findings->model();
-#if __has_include(<QAbstractItemModelTester>)
-        QAbstractItemModelTester tester(&model,
-                                        QAbstractItemModelTester::FailureReportingMode::Warning);
-#endif
-        auto *counts = child<QLabel>(*preview, "lblCounts");
-        // Two references and two components the rulebase does not authorise, two names, GoTo.
-        EXPECT_EQ(counts->text(), u"7 violations, 1 not previewed, 1 file not read"_s);
-        EXPECT_EQ(groups(model),
-                  QStringList({"5000 Private variables (2)",
-                               "5001 GoTo (1)",
-                               "5002 Controls (1)",
-                               "Unauthorised Reference (2)",
-                               "Unauthorised Component (2)",
-                               "Files that could not be read (1)"}));
-        EXPECT_EQ(
-            model.index(0, PreviewResultsModel::NameColumn, model.index(0, 0)).data().toString(),
-            u"m_colItems"_s);
+    child<QComboBox>(*preview, "cboGroupBy")->setCurrentIndex(1);
+    EXPECT_EQ(groups(model),
+              QStringList({"Kinds.vbp (5)", "modKinds.bas (3)", "modMissing.bas (1)"}));
 
-        child<QComboBox>(*preview, "cboGroupBy")->setCurrentIndex(1);
-        EXPECT_EQ(groups(model),
-                  QStringList({"Kinds.vbp (5)", "modKinds.bas (3)", "modMissing.bas (1)"}));
+    // The filter narrows the list and says how much it shows.
+    child<QLineEdit>(*preview, "txtFilter")->setText(u"iindex"_s);
+    EXPECT_EQ(groups(model), QStringList({"modKinds.bas (1)"}));
+    EXPECT_TRUE(counts->text().endsWith("; 1 shown"_L1)) << counts->text().toStdString();
 
-        // The filter narrows the list and says how much it shows.
-        child<QLineEdit>(*preview, "txtFilter")->setText(u"iindex"_s);
-        EXPECT_EQ(groups(model), QStringList({"modKinds.bas (1)"}));
-        EXPECT_TRUE(counts->text().endsWith("; 1 shown"_L1)) << counts->text().toStdString();
+    // A double click on a finding shows its line among its neighbours.
+    const QModelIndex found = model.index(0, 0, model.index(0, 0));
+    emit findings->doubleClicked(found);
+    auto *source = child<QPlainTextEdit>(*preview, "txtSource");
+    EXPECT_TRUE(child<QLabel>(*preview, "lblSource")->text().endsWith("modKinds.bas:21"_L1));
+    EXPECT_EQ(source->textCursor().selectedText(), u"    21  Dim iIndex"_s);
+    EXPECT_TRUE(source->toPlainText().startsWith("    13  "_L1));
 
-        // A double click on a finding shows its line among its neighbours.
-        const QModelIndex found = model.index(0, 0, model.index(0, 0));
-        emit findings->doubleClicked(found);
-        auto *source = child<QPlainTextEdit>(*preview, "txtSource");
-        EXPECT_TRUE(child<QLabel>(*preview, "lblSource")->text().endsWith("modKinds.bas:21"_L1));
-        EXPECT_EQ(source->textCursor().selectedText(), u"    21  Dim iIndex"_s);
-        EXPECT_TRUE(source->toPlainText().startsWith("    13  "_L1));
-
-        // A rule's row opens its dialog; what is saved there is previewed at once.
-        child<QLineEdit>(*preview, "txtFilter")->clear();
-        child<QComboBox>(*preview, "cboGroupBy")->setCurrentIndex(0);
-        whenModal(u"frmNamingConvention"_s, [](QDialog &dialog) {
-            child<QLineEdit>(dialog, "txtTitle")->setText(u"Module variables"_s);
-            click(dialog, "cmdOK");
-        });
-        emit findings->doubleClicked(model.index(0, 0));
-        EXPECT_EQ(groups(model).value(0), u"5000 Module variables (2)"_s)
-            << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
-        EXPECT_TRUE(app.rulebase()->Dirty());
-
-        if (const QString folder = qEnvironmentVariable("QUORIN_SCREENSHOT_DIR");
-            !folder.isEmpty()) {
-            preview->resize(1100, 560);
-            findings->setCurrentIndex(model.index(0, 0, model.index(0, 0)));
-            emit findings->doubleClicked(model.index(1, 0, model.index(0, 0)));
-            EXPECT_TRUE(preview->grab().save(folder + u"/preview-window.png"_s));
-        }
-        ui.answers = {MessageResult::No};
-        window.close();
-    }
+    // A rule's row opens its dialog; what is saved there is previewed at once.
+    child<QLineEdit>(*preview, "txtFilter")->clear();
+    child<QComboBox>(*preview, "cboGroupBy")->setCurrentIndex(0);
+    whenModal(u"frmNamingConvention"_s, [](QDialog &dialog) {
+        child<QLineEdit>(dialog, "txtTitle")->setText(u"Module variables"_s);
+        click(dialog, "cmdOK");
+    });
+    emit findings->doubleClicked(model.index(0, 0));
+    EXPECT_EQ(groups(model).value(0), u"5000 Module variables (2)"_s)
+        << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
+    EXPECT_TRUE(app->rulebase()->Dirty());
 }

@@ -1,36 +1,19 @@
 #include "GuiTestSupport.h"
 
-#include "basic/ScriptEditing.h"
-#include "gui/GuiUserInterface.h"
 #include "gui/editor/BasicEditor.h"
 #include "gui/editor/RuleEditorPickers.h"
 #include "gui/editor/frmRuleEditor.h"
-#include "gui/window/HelpWindow.h"
-#include "platform/GlobalObjects.h"
-#include "platform/QuorinAdminData.h"
 #include "rulebase/IRule.h"
-#include "vocabulary/ObjectListType.h"
-
-#include "support/ScriptedUserInterface.h"
-#include "support/TestEnvironment.h"
 
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QCompleter>
-#include <QElapsedTimer>
-#include <QInputDialog>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QTextBlock>
 #include <QTimer>
 #include <QToolBar>
-#include <QToolButton>
-#include <QToolTip>
-#include <QTreeWidget>
 
 #include <gtest/gtest.h>
 

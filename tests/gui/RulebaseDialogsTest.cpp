@@ -1,56 +1,25 @@
-#include "application/Application.h"
-#include "application/Startup.h"
 #include "editors/TagGridModel.h"
 #include "editors/TagListForm.h"
-#include "gui/factory/GuiFormFactory.h"
 #include "gui/frmMain.h"
-#include "platform/GlobalObjects.h"
-#include "platform/QuorinAdminData.h"
-#include "rulebase/CategoryItem.h"
-#include "rulebase/CategoryList.h"
 #include "rulebase/Rulebase.h"
-#include "rulebase/TagItem.h"
-#include "views/IViewController.h"
-#include "views/ViewFactory.h"
-
-#include "support/ScriptedUserInterface.h"
-#include "support/TestEnvironment.h"
-
-#include <QAbstractItemModel>
-#include <QAction>
-#include <QApplication>
-#include <QCheckBox>
-#include <QDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTabBar>
-#include <QTableView>
-#include <QTimer>
-#include <QToolBar>
-#include <QTreeWidget>
-
-#include <functional>
-
-// The grid's model goes through Qt's model tester when QtTest is installed.
-#if __has_include(<QAbstractItemModelTester>)
-#include <QAbstractItemModelTester>
-#define QUORIN_HAVE_MODEL_TESTER 1
-#else
-#define QUORIN_HAVE_MODEL_TESTER 0
-#endif
 
 #include "GuiTestSupport.h"
+
+#include <QAbstractItemModelTester>
+#include <QDialog>
+#include <QFile>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTreeWidget>
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
 using RulebaseDialogs = GuiSample;
-
-} // namespace
 
 TEST_F(RulebaseDialogs, RulebasePropertiesOpenFromTheFileMenuAndWriteOnOK)
 {
@@ -76,7 +45,6 @@ TEST_F(RulebaseDialogs, RulebasePropertiesOpenFromTheFileMenuAndWriteOnOK)
     EXPECT_EQ(rulebase->Title(), u"From the dialog"_s);
 }
 
-#if QUORIN_HAVE_MODEL_TESTER
 TEST(TagGridModel, PassesTheModelTesterThroughInsertsDeletesTabsAndTheOption)
 {
     ScriptedUserInterface ui;
@@ -101,4 +69,35 @@ TEST(TagGridModel, PassesTheModelTesterThroughInsertsDeletesTabsAndTheOption)
     EXPECT_EQ(controls.grid()->rowCount(), 23);
     EXPECT_TRUE(ui.messages.empty());
 }
-#endif
+
+TEST_F(RulebaseDialogs, TheDocumentationWizardOpensFromTheMainWindowAndHandsThePlanBack)
+{
+    whenModal(u"frmRulebaseDocCreator"_s, [](QDialog &wizard) {
+        EXPECT_EQ(wizard.windowTitle(), u"Documentation Wizard"_s);
+        auto *sections = child<QTreeWidget>(wizard, "lvwSections");
+        auto *rules = child<QTreeWidget>(wizard, "lvwRules");
+        auto *tables = child<QListWidget>(wizard, "lvwTables");
+        ASSERT_TRUE(sections && rules && tables);
+        EXPECT_EQ(sections->topLevelItemCount(), 17);
+        EXPECT_GT(rules->topLevelItemCount(), 0);
+        int checked = 0;
+        for (int i = 0; i < tables->count(); ++i)
+            checked += tables->item(i)->checkState() == Qt::Checked ? 1 : 0;
+        EXPECT_EQ(checked, 6);
+        EXPECT_EQ(sections->topLevelItem(0)->text(0), u"Naming"_s);
+        EXPECT_FALSE(child<QPushButton>(wizard, "cmdMoveSectionUp")->isEnabled());
+        click(wizard, "cmdMoveSectionDown");
+        EXPECT_EQ(sections->topLevelItem(1)->text(0), u"Naming"_s);
+        EXPECT_EQ(child<QLineEdit>(wizard, "txtTitle")->text(), u"Control Tags"_s);
+        click(wizard, "cmdOK");
+    });
+    ui.answers.push_back(MessageResult::No); // not now
+    trigger("tlGenerateDocumentation");
+
+    EXPECT_EQ(ui.messageTexts(),
+              QStringList{u"Do you wish to generate the Rulebase documentation?"_s});
+    EXPECT_FALSE(QFile::exists(QFileInfo(file).absolutePath() + u"/Sample.html"_s));
+    // The plan the dialog left is the rulebase's now, moved section and all.
+    EXPECT_TRUE(rulebase->Dirty());
+    rulebase->setDirty(false);
+}

@@ -7,22 +7,16 @@
 #include "editors/AuthorisedReferenceForm.h"
 #include "editors/IFormFactory.h"
 #include "platform/GlobalObjects.h"
-#include "platform/QuorinAdminData.h"
 #include "platform/QuorinData.h"
-#include "rulebase/AuthorisedComponent.h"
 #include "rulebase/AuthorisedComponents.h"
-#include "rulebase/AuthorisedReference.h"
 #include "rulebase/AuthorisedReferences.h"
 #include "rulebase/RuleLists.h"
-#include "rulebase/Rulebase.h"
 #include "rulebase/UnauthorisedKeyword.h"
 #include "views/AuthorisedItemsView.h"
 #include "views/ViewFactory.h"
 #include "views/modViewCommon.h"
 
 #include "../typelib/TypeLibSamples.h"
-#include "support/MemoryMainForm.h"
-#include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
 #include <QFile>
@@ -92,35 +86,13 @@ public:
     QString folder;
 };
 
-struct ShownView
+struct ShownItems : ShownView<AuthorisedItemsView>
 {
-    ShownView()
-        : rulebase(ViewTest::loadSample())
-    {
-        show();
-    }
-    void show()
-    {
-        view = std::make_unique<AuthorisedItemsView>();
-        view->setRulebase(rulebase);
-        view->setMainForm(&form);
-        view->Customise();
-        view->Populate();
-        view->SetEnabledState();
-    }
-    void click(const char *key)
-    {
-        form.treeControl.click(form.treeControl.find(QLatin1String(key)));
-    }
-    int row(const QString &key) const { return form.listControl.find(key); }
+    void click(const char *key) { tree().click(tree().find(QLatin1String(key))); }
+    int row(const QString &key) { return list().find(key); }
     bool tool(const char *id) const { return form.toolEnabled(QLatin1String(id)); }
 
-    ViewTest::AdminDataScope settings;
-    ScriptedUserInterface ui;
     ScriptedForms forms;
-    MemoryMainForm form;
-    std::shared_ptr<Rulebase> rulebase;
-    std::unique_ptr<AuthorisedItemsView> view;
 };
 
 QString typelibFile(const char *name)
@@ -134,9 +106,9 @@ using TestEnvironment::writeFile;
 
 TEST(AuthorisedItemsView, ShowsThreeNodesEachWithAListOfItsOwnShape)
 {
-    ShownView s;
-    const MemoryTreeControl &tree = s.form.treeControl;
-    MemoryListControl &list = s.form.listControl;
+    ShownItems s;
+    const MemoryTreeControl &tree = s.tree();
+    MemoryListControl &list = s.list();
     ASSERT_EQ(tree.count(), 3);
     EXPECT_EQ(tree.text(1), u"Authorised Components (4)"_s);
     EXPECT_EQ(tree.text(2), u"Authorised References (4)"_s);
@@ -209,8 +181,8 @@ TEST(AuthorisedItemsView, ShowsThreeNodesEachWithAListOfItsOwnShape)
 
 TEST(AuthorisedItemsView, DeleteAsksThenRemovesFromTheRulebaseAndTheList)
 {
-    ShownView s;
-    MemoryListControl &list = s.form.listControl;
+    ShownItems s;
+    MemoryListControl &list = s.list();
     list.click(1);
     list.select(2, true);
     const QString first = list.key(1);
@@ -229,7 +201,7 @@ TEST(AuthorisedItemsView, DeleteAsksThenRemovesFromTheRulebaseAndTheList)
     EXPECT_EQ(list.find(first), 0);
     EXPECT_FALSE(s.rulebase->AuthorisedComponents()->Contains(first));
     EXPECT_EQ(s.rulebase->AuthorisedComponents()->Count(), 2);
-    EXPECT_EQ(s.form.treeControl.text(1), u"Authorised Components (2)"_s);
+    EXPECT_EQ(s.tree().text(1), u"Authorised Components (2)"_s);
     EXPECT_TRUE(s.rulebase->Dirty());
 
     list.click(1);
@@ -237,8 +209,8 @@ TEST(AuthorisedItemsView, DeleteAsksThenRemovesFromTheRulebaseAndTheList)
     s.ui.answers = {MessageResult::Yes};
     s.view->DeleteItems();
     EXPECT_EQ(list.count(), 0);
-    EXPECT_EQ(s.form.treeControl.text(1), u"Authorised Components"_s);
-    EXPECT_FALSE(s.form.treeControl.bold(1));
+    EXPECT_EQ(s.tree().text(1), u"Authorised Components"_s);
+    EXPECT_FALSE(s.tree().bold(1));
     EXPECT_TRUE(s.form.noItemsVisible);
     EXPECT_FALSE(s.tool("tlDeleteRule"));
     EXPECT_FALSE(s.tool("tlOpenRule"));
@@ -252,13 +224,13 @@ TEST(AuthorisedItemsView, DeleteAsksThenRemovesFromTheRulebaseAndTheList)
     s.ui.answers = {MessageResult::Yes};
     s.view->DeleteItems();
     EXPECT_FALSE(s.rulebase->RuleLists()->UnauthorisedKeywords()->Contains(keyword));
-    EXPECT_EQ(s.form.treeControl.text(3), u"Unauthorised Keywords (19)"_s);
+    EXPECT_EQ(s.tree().text(3), u"Unauthorised Keywords (19)"_s);
 }
 
 TEST(AuthorisedItemsView, OpenEditsTheItemOfTheRowAndCancelLeavesIt)
 {
-    ShownView s;
-    MemoryListControl &list = s.form.listControl;
+    ShownItems s;
+    MemoryListControl &list = s.list();
     const int row = s.row(comctl);
     list.click(row);
     s.view->OpenItem(); // the script cancels
@@ -293,12 +265,11 @@ TEST(AuthorisedItemsView, OpenEditsTheItemOfTheRowAndCancelLeavesIt)
     EXPECT_EQ(s.form.documentation, u"Authorised Reference:\r\nNew advice"_s);
 
     s.click("UK");
-    ScriptedLauncher launcher;
-    launcher.edit
+    s.launcher.edit
         = [](IRule &rule) { static_cast<UnauthorisedKeyword &>(rule).setTitle(u"Edited"_s); };
     list.click(2);
     s.view->OpenItem();
-    EXPECT_EQ(launcher.opened, 1);
+    EXPECT_EQ(s.launcher.opened, 1);
     EXPECT_EQ(list.subItemText(2, 1), u"Edited"_s);
 }
 
@@ -389,7 +360,7 @@ TEST(AuthorisedItemsView, NewItemsComeThroughTheApplicationOnlyWhileThisViewIsCu
 
 TEST(AuthorisedItemsView, DroppedFilesAreTakenAsProjectsElseAsActiveXElseRefused)
 {
-    ShownView s;
+    ShownItems s;
     EXPECT_TRUE(AuthorisedItemsView::IsComponentFile(QStringLiteral("C:\\x\\a.Dll")));
     EXPECT_TRUE(AuthorisedItemsView::IsComponentFile(u"b.olb"_s));
     EXPECT_FALSE(AuthorisedItemsView::IsComponentFile(u"c.txt"_s));
@@ -412,8 +383,8 @@ TEST(AuthorisedItemsView, DroppedFilesAreTakenAsProjectsElseAsActiveXElseRefused
     EXPECT_EQ(s.ui.messages.back().text,
               u"1 new component and 3 new references were found for the selected projects."_s);
     EXPECT_FALSE(s.rulebase->AuthorisedReferences()->Contains(reportGuid));
-    EXPECT_EQ(s.form.listControl.count(), 5);
-    EXPECT_EQ(s.form.treeControl.text(2), u"Authorised References (7)"_s);
+    EXPECT_EQ(s.list().count(), 5);
+    EXPECT_EQ(s.tree().text(2), u"Authorised References (7)"_s);
     EXPECT_EQ(s.ui.unscriptedQuestions, 0);
 
     // Without a rulebase nothing is taken.
@@ -427,7 +398,7 @@ TEST(AuthorisedItemsView, ActiveXFilesBecomeComponentsAndReferencesAndTheRestAre
 {
     if (!QFileInfo::exists(typelibFile("GridCtl.ocx")))
         GTEST_SKIP() << "no shared type library data";
-    ShownView s;
+    ShownItems s;
     DataFolderScope data;
     const QString dir = TestEnvironment::makeTempDir();
     // A control without a library is passed over without a word.
@@ -439,7 +410,7 @@ TEST(AuthorisedItemsView, ActiveXFilesBecomeComponentsAndReferencesAndTheRestAre
                                      typelibFile("NoTypeLib.dll"),
                                      typelibFile("Text.tlb")});
 
-    MemoryListControl &list = s.form.listControl;
+    MemoryListControl &list = s.list();
     ASSERT_NE(s.row(gridGuid), 0);
     EXPECT_EQ(list.text(s.row(gridGuid)), u"GridCtl.ocx"_s);
     EXPECT_EQ(list.subItemText(s.row(gridGuid), 1), u"1.0"_s);
@@ -447,8 +418,8 @@ TEST(AuthorisedItemsView, ActiveXFilesBecomeComponentsAndReferencesAndTheRestAre
     EXPECT_EQ(report->Description(), u"Report Engine 2.5 Type Library"_s);
     EXPECT_EQ(report->Filename(), u"ReportLib.tlb"_s);
     EXPECT_EQ(report->VersionList(), u"2.5"_s);
-    EXPECT_EQ(s.form.treeControl.text(1), u"Authorised Components (5)"_s);
-    EXPECT_EQ(s.form.treeControl.text(2), u"Authorised References (5)"_s);
+    EXPECT_EQ(s.tree().text(1), u"Authorised Components (5)"_s);
+    EXPECT_EQ(s.tree().text(2), u"Authorised References (5)"_s);
 
     ASSERT_EQ(s.ui.messages.size(), 1u);
     EXPECT_EQ(s.ui.messages[0].text,

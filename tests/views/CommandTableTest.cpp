@@ -1,10 +1,8 @@
 #include "views/CommandTable.h"
 #include "application/Application.h"
 #include "application/ToolDispatcher.h"
-#include "platform/UserInterface.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseManager.h"
-#include "views/IMainForm.h"
 #include "views/IViewController.h"
 #include "views/ViewFactory.h"
 

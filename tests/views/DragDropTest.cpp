@@ -2,9 +2,7 @@
 
 #include "platform/TextUtils.h"
 #include "rulebase/CodingConvention.h"
-#include "rulebase/IRule.h"
 #include "rulebase/RuleLists.h"
-#include "rulebase/Rulebase.h"
 #include "rulebase/ViolationDefinition.h"
 #include "views/CategoryView.h"
 #include "views/CodingConventionsView.h"
@@ -13,57 +11,40 @@
 #include "views/SeverityView.h"
 #include "vocabulary/VBParserEvents.h"
 
-#include "support/MemoryMainForm.h"
-#include "support/ScriptedUserInterface.h"
-
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// A view of the sample on the in-memory controls, with the hover clock in the test's hands.
+// A shown view with the hover clock in the test's hands.
 template<typename View>
-struct DragFixture
+struct DragFixture : ShownView<View>
 {
     DragFixture()
-        : rulebase(ViewTest::loadSample())
-        , view(std::make_unique<View>())
     {
         DragDrop::setClock([this] { return now; });
-        view->setRulebase(rulebase);
-        view->setMainForm(&form);
-        view->Customise();
-        view->Populate();
     }
     ~DragFixture() { DragDrop::setClock({}); }
 
-    MemoryTreeControl &tree() { return form.treeControl; }
-    MemoryListControl &list() { return form.listControl; }
     // Clicks the node of `key` and selects the first `rows` rows of its list.
     void showNode(const QString &key, int rows)
     {
-        tree().click(tree().find(key));
-        for (int row = 1; row <= list().count(); ++row)
-            list().setSelected(row, row <= rows);
+        this->tree().click(this->tree().find(key));
+        for (int row = 1; row <= this->list().count(); ++row)
+            this->list().setSelected(row, row <= rows);
     }
-    QStringList selectedKeys() const
+    QStringList selectedKeys()
     {
         QStringList keys;
-        for (int row = 1; row <= form.listControl.count(); ++row) {
-            if (form.listControl.selected(row))
-                keys << form.listControl.key(row);
+        for (int row = 1; row <= this->list().count(); ++row) {
+            if (this->list().selected(row))
+                keys << this->list().key(row);
         }
         return keys;
     }
 
     int now = 1000;
-    ViewTest::AdminDataScope settings;
-    ScriptedUserInterface ui;
-    ScriptedLauncher launcher;
-    MemoryMainForm form;
-    std::shared_ptr<Rulebase> rulebase;
-    std::unique_ptr<View> view;
 };
 
 // The number of the node a rule shows under: its category or its severity.

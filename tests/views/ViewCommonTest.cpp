@@ -4,7 +4,6 @@
 #include "rulebase/CategoryList.h"
 #include "rulebase/CodingConvention.h"
 #include "rulebase/RuleLists.h"
-#include "rulebase/Rulebase.h"
 #include "rulebase/SeverityItem.h"
 #include "rulebase/ViolationDefinition.h"
 #include "support/MemoryListControl.h"
@@ -12,8 +11,6 @@
 
 #include "controls/ComboControl.h"
 #include "controls/modUIListUtils.h"
-
-#include "support/ScriptedUserInterface.h"
 
 #include <QStringList>
 

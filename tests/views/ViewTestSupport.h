@@ -1,11 +1,13 @@
 #pragma once
 
 #include "editors/IRuleEditorLauncher.h"
+#include "rulebase/Rulebase.h"
+
+#include "support/MemoryMainForm.h"
+#include "support/ScriptedUserInterface.h"
 
 #include <functional>
 #include <memory>
-
-class Rulebase;
 
 namespace ViewTest {
 
@@ -38,4 +40,31 @@ public:
     std::function<void(CategoryItem &)> editCategory;
     std::function<void(SeverityItem &)> editSeverity;
     int opened = 0;
+};
+
+// A view of the sample on the in-memory controls, shown as SwitchView shows it, with a
+// scripted person and rule editor.
+template<typename View>
+struct ShownView
+{
+    ShownView()
+        : rulebase(ViewTest::loadSample())
+        , view(std::make_unique<View>())
+    {
+        view->setRulebase(rulebase);
+        view->setMainForm(&form);
+        view->Customise();
+        view->Populate();
+        view->SetEnabledState();
+    }
+    MemoryTreeControl &tree() { return form.treeControl; }
+    MemoryListControl &list() { return form.listControl; }
+    RuleLists &lists() const { return *rulebase->RuleLists(); }
+
+    ViewTest::AdminDataScope settings;
+    ScriptedUserInterface ui;
+    ScriptedLauncher launcher;
+    MemoryMainForm form;
+    std::shared_ptr<Rulebase> rulebase;
+    std::unique_ptr<View> view;
 };
