@@ -85,29 +85,6 @@ TEST(ArrayList, StaleSlotsUpToCapacityAreReachableAndOnlyIndexesOutsideFail)
     EXPECT_EQ(list.Item(1), u"x"_s);
 }
 
-TEST(ArrayList, RemovingTheLastEntryClearsItsSlotByElementType)
-{
-    LongArrayList numbers;
-    numbers.Add(7);
-    numbers.Add(8);
-    numbers.Remove(2);
-    EXPECT_EQ(numbers.Item(2), 8); // numbers are not cleared
-
-    ObjectArrayList<int> objects;
-    objects.Add(std::make_shared<int>(1));
-    objects.Remove(1);
-    EXPECT_EQ(objects.Item(1), nullptr);
-
-    ArrayList values;
-    values.Add(u"x"_s);
-    values.Add(VariantObject::wrap(std::make_shared<int>(2)));
-    values.Remove(2);
-    EXPECT_TRUE(VariantObject::holdsObject(values.Item(2)));
-    EXPECT_EQ(VariantObject::identity(values.Item(2)), nullptr);
-    values.Remove(1);
-    EXPECT_FALSE(values.Item(1).isValid());
-}
-
 TEST(ArrayList, MoveItemShiftsTheEntriesBetweenWithTheirFlags)
 {
     const struct
@@ -125,7 +102,8 @@ TEST(ArrayList, MoveItemShiftsTheEntriesBetweenWithTheirFlags)
     }
 }
 
-TEST(ArrayList, IndexOfValueMatchesByTheRulesOfEachElementType)
+// Each element type finds a value by its own equality and clears an emptied last slot its own way.
+TEST(ArrayList, EachElementTypeMatchesAndClearsByItsOwnRules)
 {
     StringArrayList texts = strings(u"x ABC"_s);
     EXPECT_EQ(texts.IndexOfValue(u"abc"_s), 2);
@@ -144,6 +122,12 @@ TEST(ArrayList, IndexOfValueMatchesByTheRulesOfEachElementType)
     EXPECT_EQ(values.IndexOfValue(VariantObject::wrap(twin)), -1); // identity, not equality
     EXPECT_EQ(VariantObject::unwrap<int>(values.Item(3)), shared);
     EXPECT_EQ(VariantObject::unwrap<double>(values.Item(3)), nullptr);
+    values.Remove(3);
+    EXPECT_TRUE(VariantObject::holdsObject(values.Item(3)));
+    EXPECT_EQ(VariantObject::identity(values.Item(3)), nullptr);
+    values.Remove(2);
+    values.Remove(1);
+    EXPECT_FALSE(values.Item(1).isValid());
 
     ObjectArrayList<int> objects;
     objects.Add(twin);
@@ -151,12 +135,16 @@ TEST(ArrayList, IndexOfValueMatchesByTheRulesOfEachElementType)
     EXPECT_EQ(objects.IndexOfValue(shared), 2);
     objects.RemoveByValue(twin);
     EXPECT_EQ(objects.Item(1), shared);
+    objects.Remove(1);
+    EXPECT_EQ(objects.Item(1), nullptr);
 
     LongArrayList numbers;
     numbers.Add(-1);
     numbers.Add(5000);
     EXPECT_EQ(numbers.IndexOfValue(5000), 2);
     EXPECT_EQ(numbers.IndexOfValue(5001), -1);
+    numbers.Remove(2);
+    EXPECT_EQ(numbers.Item(2), 5000); // numbers are not cleared
 }
 
 TEST(ArrayList, SortIsCaseInsensitiveLaterEqualsFirstAndLeavesFlagsAndDirty)

@@ -16,10 +16,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class Named final : public IListItem
+// An item keyed by the list; items of another Kind are another type.
+template<int Kind>
+class Item final : public IListItem
 {
 public:
-    explicit Named(QString key = {})
+    explicit Item(QString key = {})
         : m_key(std::move(key))
     {
     }
@@ -32,18 +34,7 @@ private:
     void setListKey(const QString &key) override { m_key = key; }
     QString m_key;
 };
-
-class Other final : public IListItem
-{
-public:
-    QString Key() const override { return u"other"_s; }
-    QString Title() const override { return {}; }
-    QString Description() const override { return {}; }
-    qint32 ID() const override { return 0; }
-
-private:
-    void setListKey(const QString &) override {}
-};
+using Named = Item<0>;
 
 // "number source: description" of what the call raised, or empty.
 QString raised(const std::function<void()> &call)
@@ -129,7 +120,7 @@ TEST(KeyedArrayList, NewUniqueKeyCountsPerListAndTheFaceUsesIt)
                     face->Add(std::make_shared<Named>(u"OWN"_s), false);
                 }).startsWith(QString::number(ErrorNumber::DuplicateKey)));
     EXPECT_TRUE(raised([&] {
-                    face->Add(std::make_shared<Other>(), false);
+                    face->Add(std::make_shared<Item<1>>(), false);
                 }).startsWith(QString::number(ErrorNumber::TypeMismatch)));
     face->Remove(u"ITEM1"_s);
     EXPECT_EQ(named->Count(), 1);

@@ -71,13 +71,12 @@ TEST(CategoryList, AllocatesIdsThatTheKeysFollow)
     EXPECT_EQ(list.Item(u"1K"_s), first);
 }
 
-TEST(CategoryList, SortsByTitleLaterEqualsFirstWithKeysAlongAndMarksTheListDirty)
+// Sorted by title, later equals first, keys along; an empty list sorts without a change.
+TEST(CategoryList, SortMovesKeysAlongAndMarksTheListDirty)
 {
-    CategoryList empty;
-    empty.Sort();
-    EXPECT_FALSE(empty.Dirty());
-
     CategoryList list;
+    list.Sort();
+    EXPECT_FALSE(list.Dirty());
     list.Add(category(u"b"_s), true);
     list.Add(category(u"A"_s), true);
     list.Add(category(u"a"_s), true);
@@ -92,7 +91,7 @@ TEST(CategoryList, SortsByTitleLaterEqualsFirstWithKeysAlongAndMarksTheListDirty
     EXPECT_TRUE(list.Dirty());
 }
 
-TEST(AuthorisedItems, AddOfAKnownLibIdGivesADetachedBlankItem)
+TEST(AuthorisedItems, AddOfAKnownLibIdGivesADetachedBlankItemAndBadKeysRaiseUnderTheListsName)
 {
     AuthorisedComponents components;
     const auto grid = components.Add(u"{GUID-1}"_s, u"Grid.ocx"_s, u"1.0"_s, QString());
@@ -122,10 +121,8 @@ TEST(AuthorisedItems, AddOfAKnownLibIdGivesADetachedBlankItem)
     const IAuthorisedItem &face = *grid;
     EXPECT_EQ(face.Title(), u"Grid.ocx"_s);
     EXPECT_EQ(face.TypeLibGuid(), u"{GUID-1}"_s);
-}
 
-TEST(AuthorisedItems, BadPositionsAndKeysRaiseUnderTheListsOwnName)
-{
+    // Bad positions and keys raise under the list's own name.
     AuthorisedReferences references;
     references.Add(u"{R}"_s, u"Scripting Runtime"_s, u"scrrun.dll"_s, QString(), QString());
     EXPECT_EQ(references.Item(1)->Title(), u"Scripting Runtime"_s);
@@ -141,7 +138,6 @@ TEST(AuthorisedItems, BadPositionsAndKeysRaiseUnderTheListsOwnName)
     EXPECT_TRUE(references.Dirty());
     EXPECT_EQ(references.Count(), 0);
 
-    AuthorisedComponents components;
     EXPECT_EQ(raisedSource([&] { components.Remove(0); }), u"AuthorisedComponents::Remove"_s);
 }
 

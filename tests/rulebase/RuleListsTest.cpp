@@ -1,5 +1,6 @@
 #include "rulebase/RuleLists.h"
 #include "rulebase/CodingConvention.h"
+#include "rulebase/CommonRuleFields.h"
 #include "rulebase/NamingConvention.h"
 #include "rulebase/UnauthorisedKeyword.h"
 #include "rulebase/ViolationDefinition.h"
@@ -72,7 +73,7 @@ TEST(RuleLists, NumbersNewRulesFrom5000AndNeverReusesAnId)
     EXPECT_EQ(lists.ParserEventCCList(3, false), nullptr);
 }
 
-TEST(RuleLists, IndexesEveryRuleByTypeEventAndObject)
+TEST(RuleLists, IndexesEveryRuleByTypeEventAndObjectAndACloneApart)
 {
     RuleLists lists;
     const auto onThree = coding({12, 15, 3});
@@ -119,6 +120,17 @@ TEST(RuleLists, IndexesEveryRuleByTypeEventAndObject)
     EXPECT_TRUE(idsOf(lists.PendingViolations(20)).empty());
     lists.RemoveRule(u"777Key"_s); // unknown: reported, nothing changes
     EXPECT_EQ(lists.AllConventions()->Count(), 1);
+
+    // A clone is indexed apart from its source.
+    const auto source = coding({6, 9});
+    lists.AddConvention(source, true);
+    const auto clone = source->Clone();
+    lists.AddConvention(clone, true);
+    EXPECT_EQ(idsOf(lists.ParserEventCCList(9, false)), (std::vector<qint32>{5003, 5004}));
+    lists.RemoveRule(source->RuleKey());
+    EXPECT_EQ(idsOf(lists.ParserEventCCList(6, false)), std::vector<qint32>{5004});
+    EXPECT_EQ(lists.AllConventions()->FindIndexByKey(u"5004Key"_s), 2);
+    EXPECT_EQ(lists.CodingConventions()->Item(1), clone);
 }
 
 TEST(RuleLists, MovesBetweenEventAndObjectListsWithoutDuplicates)
@@ -182,16 +194,13 @@ TEST(RuleLists, ConventionsByCategoryAreSortedByTitleLaterEqualsFirst)
     const auto b = coding({1}, u"b"_s);
     const auto upperA = coding({1}, u"A"_s);
     const auto other = coding({1}, u"0 other category"_s);
-    const auto lowerA = std::make_shared<NamingConvention>();
+    const std::shared_ptr<CommonRuleFields> lowerA = std::make_shared<NamingConvention>();
     lowerA->setTitle(u"a"_s);
-    for (const auto &rule : {b, upperA, other})
-        rule->setCategoryID(2);
-    other->setCategoryID(3);
-    lowerA->setCategoryID(2);
-    lists.AddConvention(b, true);
-    lists.AddConvention(upperA, true);
-    lists.AddConvention(other, true);
-    lists.AddConvention(lowerA, true);
+    for (const auto &rule :
+         std::initializer_list<std::shared_ptr<CommonRuleFields>>{b, upperA, other, lowerA}) {
+        rule->setCategoryID(rule == other ? 3 : 2);
+        lists.AddConvention(rule, true);
+    }
 
     const auto byCategory = lists.ConventionsListByCatID(2);
     ASSERT_TRUE(byCategory);
@@ -203,20 +212,4 @@ TEST(RuleLists, ConventionsByCategoryAreSortedByTitleLaterEqualsFirst)
     const auto none = lists.ConventionsListByCatID(99);
     ASSERT_TRUE(none);
     EXPECT_EQ(none->Count(), 0);
-}
-
-TEST(RuleLists, ClonedRulesAreIndexedApartFromTheirSource)
-{
-    RuleLists lists;
-    const auto source = coding({6, 9}, u"Source"_s);
-    lists.AddConvention(source, true);
-    const auto clone = source->Clone();
-    lists.AddConvention(clone, true);
-    EXPECT_EQ(clone->RuleID(), 5001);
-    EXPECT_EQ(idsOf(lists.ParserEventCCList(9, false)), (std::vector<qint32>{5000, 5001}));
-
-    lists.RemoveRule(source->RuleKey());
-    EXPECT_EQ(idsOf(lists.ParserEventCCList(6, false)), std::vector<qint32>{5001});
-    EXPECT_EQ(lists.AllConventions()->FindIndexByKey(u"5001Key"_s), 1);
-    EXPECT_EQ(lists.CodingConventions()->Item(1), clone);
 }

@@ -16,7 +16,7 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(ViolationDefinition, OnlyTheReportedFieldsMarkItDirty)
+TEST(ViolationDefinition, OnlyTheReportedFieldsMarkItDirtyAndTheFiveDefaultsAreReachedByType)
 {
     ViolationDefinition definition;
     EXPECT_EQ(definition.CategoryID(), -1);
@@ -30,10 +30,8 @@ TEST(ViolationDefinition, OnlyTheReportedFieldsMarkItDirty)
     EXPECT_NE(copy.get(), &definition);
     EXPECT_EQ(copy->ViolationDescription(), u"for the author"_s);
     EXPECT_EQ(copy->CategoryID(), -1);
-}
 
-TEST(DefaultViolations, FiveDefinitionsReachedByType)
-{
+    // The five defaults, reached by type.
     DefaultViolations defaults;
     EXPECT_EQ(defaults.Count(), 5);
     EXPECT_TRUE(defaults.Dirty()); // built through the setters

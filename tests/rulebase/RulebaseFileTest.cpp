@@ -31,7 +31,7 @@
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QFile>
+#include <QRegularExpression>
 
 #include <random>
 
@@ -48,67 +48,49 @@ using TestEnvironment::readFile;
 using TestEnvironment::writeFile;
 
 // A small file of the current schema; the rule sections are the caller's.
-QByteArray smallFile(const QByteArray &keywords,
-                     const QByteArray &coding,
+QByteArray smallFile(const QByteArray &coding,
                      const QByteArray &naming,
                      const QByteArray &report = "<Report/>")
 {
-    return "<Quorin_Rulebase SchemaVersion=\"6.2\">"
-           "<RulebaseProperties Name=\"Small\" Version=\"1.2.0003\" AutoIncrementVersion=\"False\" "
-           "Description=\"\""
-           " UnknownControlViolation=\"0\" UseCTagsAsDTTags=\"-1\" ToleranceCount=\"1|2|3\" "
-           "ToleranceImpact=\"-1|-1|-1|-1|-1|9\""
-           " TolerancePercentageComments=\"10\" ToleranceCyclomaticComplexity=\"15\" "
-           "ArrayTag=\"a\"/>"
-           "<ControlTags><ControlTag TagName=\"vb.checkbox\" TagValue=\"ck\" TagDescription=\"d\" "
-           "TagExample=\"ckA\"/></ControlTags>"
-           "<DataTypeTags/><ScopeTags/><DefaultViolations/>"
-           "<CategoryList LastID=\"4\"><CategoryItem ID=\"2\" Title=\"Naming\" Description=\"\" "
-           "Hidden=\"False\"/>"
-           "<CategoryItem ID=\"4\" Title=\"Hidden one\" Description=\"\" "
-           "Hidden=\"True\"/></CategoryList>"
-           "<SeverityList><SeverityItem Colour=\"3\" Description=\"extra\" Impact=\"5\" "
-           "SeverityLevel=\"9\""
-           " SeverityLevelText=\"Nine\" Title=\"Ninth\"/></SeverityList>"
-           "<AuthorisedComponents/><AuthorisedReferences/>"
-           "<UnauthorisedKeywords>"
-           + keywords
-           + "</UnauthorisedKeywords>"
-             "<Rules LastRuleID=\"5010\"><CodingConventions>"
-           + coding
-           + "</CodingConventions>"
-             "<NamingConventions>"
-           + naming + "</NamingConventions></Rules>" + report + "</Quorin_Rulebase>";
+    return "<Quorin_Rulebase SchemaVersion=\"6.2\"><RulebaseProperties Name=\"Small\" "
+           "Version=\"1.2.0003\" AutoIncrementVersion=\"False\" Description=\"\" "
+           "UnknownControlViolation=\"0\" UseCTagsAsDTTags=\"-1\" ToleranceCount=\"1|2|3\" "
+           "ToleranceImpact=\"-1|-1|-1|-1|-1|9\" TolerancePercentageComments=\"10\" "
+           "ToleranceCyclomaticComplexity=\"15\" ArrayTag=\"a\"/><ControlTags><ControlTag "
+           "TagName=\"vb.checkbox\" TagValue=\"ck\" TagDescription=\"d\" TagExample=\"ckA\"/>"
+           "</ControlTags><DataTypeTags><DataTypeTag TagName=\"Long\" TagValue=\"l\" "
+           "TagExample=\"\"/></DataTypeTags><ScopeTags><ScopeTag TagName=\"Local\" TagValue=\"\" "
+           "TagExample=\"\"/></ScopeTags><DefaultViolations/><CategoryList LastID=\"4\">"
+           "<CategoryItem ID=\"2\" Title=\"Naming\" Description=\"\" Hidden=\"False\"/>"
+           "<CategoryItem ID=\"4\" Title=\"Hidden one\" Description=\"\" Hidden=\"True\"/>"
+           "</CategoryList><SeverityList><SeverityItem Colour=\"3\" Description=\"extra\" "
+           "Impact=\"5\" SeverityLevel=\"9\" SeverityLevelText=\"Nine\" Title=\"Ninth\"/>"
+           "</SeverityList><AuthorisedComponents/><AuthorisedReferences/><UnauthorisedKeywords/>"
+           "<Rules LastRuleID=\"5010\"><CodingConventions>"
+           + coding + "</CodingConventions><NamingConventions>" + naming
+           + "</NamingConventions></Rules>" + report + "</Quorin_Rulebase>";
 }
 
-QByteArray codingRule(const char *id,
-                      const char *extra = "",
-                      const char *severity = "1",
-                      const char *category = "2",
-                      const char *active = "True")
+QByteArray codingRule(const char *id, const char *active = "True")
 {
     return QByteArray("<CodingConvention RuleID=\"") + id + "\" RuleActive=\"" + active
            + "\" Title=\"T\" Description=\"\" PendingViolation=\"False\" EndEventID=\"-1\" "
-             "Condition=\"\""
-             " ParserEventID=\"12|15\" "
-           + extra + "><ViolationDefinition Name=\"\" Description=\"\" SeverityLevel=\"" + severity
-           + "\" Impact=\"1\" CategoryID=\"" + category + "\" Advice=\"\"/></CodingConvention>";
+             "Condition=\"\" ParserEventID=\"12|15\"><ViolationDefinition Name=\"\" "
+             "Description=\"\" SeverityLevel=\"1\" Impact=\"1\" CategoryID=\"2\" Advice=\"\"/>"
+             "</CodingConvention>";
 }
 
 QByteArray namingRule(const char *id, const char *prefixItems)
 {
     return QByteArray("<NamingConvention RuleID=\"") + id
            + "\" RuleActive=\"True\" CaseSensitive=\"False\" Title=\"N\" Description=\"\" "
-             "ObjectType=\"4\" PropertyType=\"37\""
-             " PropertyName=\"Name\" Condition=\"\" ExclusionList=\" x;y \" PrefixActive=\"True\" "
-             "PrefixAdvice=\"\""
-             " BodyActive=\"False\" BodyPattern=\"\" BodyMaxLength=\"0\" BodyMinLength=\"0\" "
-             "BodyAdvice=\"\""
-             " SuffixActive=\"False\" SuffixAdvice=\"\"><PrefixItems>"
+             "ObjectType=\"4\" PropertyType=\"37\" PropertyName=\"Name\" Condition=\"\" "
+             "ExclusionList=\" x;y \" PrefixActive=\"True\" PrefixAdvice=\"\" BodyActive=\"False\" "
+             "BodyPattern=\"\" BodyMaxLength=\"0\" BodyMinLength=\"0\" BodyAdvice=\"\" "
+             "SuffixActive=\"False\" SuffixAdvice=\"\"><PrefixItems>"
            + prefixItems
            + "</PrefixItems><ViolationDefinition Name=\"\" Description=\"\" SeverityLevel=\"2\" "
-             "Impact=\"1\" CategoryID=\"4\""
-             " Advice=\"\"/></NamingConvention>";
+             "Impact=\"1\" CategoryID=\"4\" Advice=\"\"/></NamingConvention>";
 }
 
 class RulebaseFileTest : public ::testing::Test
@@ -139,6 +121,12 @@ protected:
         return load(dir + name);
     }
     QString logText() const { return QString::fromUtf8(readFile(dir + u"Error.log"_s)); }
+    static std::string sha256(const QString &path)
+    {
+        return QCryptographicHash::hash(readFile(path), QCryptographicHash::Sha256)
+            .toHex()
+            .toStdString();
+    }
 
     QString dir;
     ScriptedUserInterface ui;
@@ -155,10 +143,6 @@ TEST_F(RulebaseFileTest, SampleLoadsWithoutAFaultAndRoundTripsExactly)
     EXPECT_GE(sample->CategoryList()->Count(), 8);
     EXPECT_EQ(sample->SeverityList()->Count(), 5);
     EXPECT_GE(sample->RuleLists()->AllConventions()->Count(), 60);
-    EXPECT_GT(sample->RuleLists()->UnauthorisedKeywords()->Count(), 0);
-    EXPECT_GT(sample->RuleLists()->CodingConventions()->Count(), 0);
-    EXPECT_GT(sample->RuleLists()->NamingConventions()->Count(), 0);
-    EXPECT_GT(sample->Report()->Sections()->Count(), 0);
 
     // Without the version's increment, save -> load -> save gives the same bytes.
     sample->setAutoIncrementVersion(false);
@@ -171,11 +155,9 @@ TEST_F(RulebaseFileTest, SampleLoadsWithoutAFaultAndRoundTripsExactly)
     EXPECT_EQ(readFile(dir + u"a.qrb"_s), readFile(dir + u"b.qrb"_s));
     EXPECT_TRUE(ui.messages.empty());
 
-    // The written form: no declaration, no white space between elements, every section present.
-    const QByteArray bytes = readFile(dir + u"a.qrb"_s);
-    EXPECT_TRUE(bytes.startsWith("<Quorin_Rulebase SchemaVersion=\"6.2\"><RulebaseProperties "));
-    EXPECT_FALSE(bytes.contains(">\n<"));
-    EXPECT_FALSE(bytes.contains("> <"));
+    // The bytes as the writer that built a tree of the whole file wrote them.
+    EXPECT_EQ(sha256(dir + u"a.qrb"_s),
+              "9e01f2cbd330f5461672265c7772c38078627194f8169690cebc86214421e949");
 }
 
 TEST_F(RulebaseFileTest, EveryFieldSurvivesIncludingTextThatNeedsEscaping)
@@ -316,70 +298,49 @@ std::shared_ptr<Rulebase> awkwardRulebase(int rules, unsigned seed)
 
 } // namespace
 
-// The bytes a save writes, as the writer that built a tree of the whole file wrote them.
+// The bytes a save writes of texts the file escapes, as the writer that built a tree of the
+// whole file wrote them.
 TEST_F(RulebaseFileTest, SavedBytesAreThoseOfTheTreeWriter)
 {
-    const auto sample = load(TestEnvironment::sampleRulebase());
-    ASSERT_TRUE(sample);
-    sample->setAutoIncrementVersion(false);
-    const std::pair<std::shared_ptr<Rulebase>, const char *> cases[] = {
-        {sample, "9e01f2cbd330f5461672265c7772c38078627194f8169690cebc86214421e949"},
-        {awkwardRulebase(300, 11),
-         "4ea7f195b8304afcf38361410a6edf1d852c0f67d280d56bfae96770c198cf94"},
-    };
-    for (const auto &[rulebase, sha256] : cases) {
-        const QString file = dir + u"saved.qrb"_s;
-        ASSERT_TRUE(RulebaseManager().Save(*rulebase, file));
-        EXPECT_EQ(QCryptographicHash::hash(readFile(file), QCryptographicHash::Sha256)
-                      .toHex()
-                      .toStdString(),
-                  sha256);
-    }
-}
-
-TEST_F(RulebaseFileTest, LoadingKeepsFileQuirks)
-{
-    const auto rulebase = loadBytes(
-        smallFile("",
-                  codingRule("5001") + codingRule("5002", "", "1", "2", "False"),
-                  namingRule("5003",
-                             "<PrefixItem PSType=\"1\" PSValue=\"%lt%x%TAB%\"/><PrefixItem "
-                             "PSType=\"2\" PSValue=\"\"/>")));
-    ASSERT_TRUE(rulebase);
-    EXPECT_TRUE(ui.messages.empty()) << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
-    // Tolerance parts fill entries from 1; the rest keep -1.
-    EXPECT_EQ(rulebase->ToleranceCount(3), 3);
-    EXPECT_EQ(rulebase->ToleranceCount(4), -1);
-    EXPECT_TRUE(rulebase->UseCTagsAsDTTags()); // "-1" is a Boolean too
-    // A file's tag that differs from a default in case only updates the default.
-    EXPECT_EQ(rulebase->ControlTags()->Count(), 23);
-    EXPECT_EQ(rulebase->ControlTags()->Item(u"VB.CheckBox"_s)->TagValue(), u"ck"_s);
-    // A ninth severity joins the five defaults.
-    EXPECT_EQ(rulebase->SeverityList()->Count(), 6);
-    EXPECT_TRUE(rulebase->SeverityList()->Contains(u"9Key"_s));
-    // Rules stand in the lists of each of their events, in order; ids are kept.
-    const auto &rules = *rulebase->RuleLists();
-    EXPECT_EQ(rules.LastID(), 5010);
-    EXPECT_EQ(const_cast<RuleLists &>(rules).ParserEventCCList(12, false)->Count(), 2);
-    EXPECT_EQ(const_cast<RuleLists &>(rules).ParserEventCCList(15, false)->Count(), 2);
-    // Escapes restore whatever their case; edit loads keep the exclusion list as typed.
-    const auto naming = rules.NamingConventions()->Item(1);
-    EXPECT_EQ(naming->PrefixItems()->Item(1)->Value(), u"<x\t"_s);
-    EXPECT_EQ(naming->ExclusionList(), u" x;y "_s);
-    EXPECT_FALSE(naming->CaseSensitive());
-    EXPECT_FALSE(rulebase->Dirty());
-    EXPECT_FALSE(rulebase->LoadedInPart());
+    ASSERT_TRUE(RulebaseManager().Save(*awkwardRulebase(300, 11), dir + u"saved.qrb"_s));
+    EXPECT_EQ(sha256(dir + u"saved.qrb"_s),
+              "4ea7f195b8304afcf38361410a6edf1d852c0f67d280d56bfae96770c198cf94");
 }
 
 // Rules are read as the parse reaches each one; indentation, comments and sections out of order
 // must still give what the whole tree gives, rules in the same order.
-TEST_F(RulebaseFileTest, HandEditedLayoutsLoadAsTheWrittenFile)
+TEST_F(RulebaseFileTest, LoadingKeepsFileQuirksWhateverTheLayout)
 {
-    const QByteArray item = "<PrefixItem PSType=\"1\" PSValue=\"a\"/>";
-    const QByteArray coding = codingRule("5001") + codingRule("5002");
-    const QByteArray naming = namingRule("5003", item) + namingRule("5004", item);
-    const auto written = loadBytes(smallFile("", coding, naming));
+    const QByteArray items = "<PrefixItem PSType=\"1\" PSValue=\"%lt%x%TAB%\"/><PrefixItem "
+                             "PSType=\"2\" PSValue=\"\"/>";
+    const QByteArray coding = codingRule("5001") + codingRule("5002", "False");
+    const QByteArray naming = namingRule("5003", items) + namingRule("5004", items);
+    const auto written = loadBytes(smallFile(coding, naming));
     ASSERT_TRUE(written);
+    EXPECT_TRUE(ui.messages.empty()) << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
+    // Tolerance parts fill entries from 1; the rest keep -1.
+    EXPECT_EQ(written->ToleranceCount(3), 3);
+    EXPECT_EQ(written->ToleranceCount(4), -1);
+    EXPECT_TRUE(written->UseCTagsAsDTTags()); // "-1" is a Boolean too
+    // A file's tag that differs from a default in case only updates the default.
+    EXPECT_EQ(written->ControlTags()->Count(), 23);
+    EXPECT_EQ(written->ControlTags()->Item(u"VB.CheckBox"_s)->TagValue(), u"ck"_s);
+    // A ninth severity joins the five defaults.
+    EXPECT_EQ(written->SeverityList()->Count(), 6);
+    EXPECT_TRUE(written->SeverityList()->Contains(u"9Key"_s));
+    // Rules stand in the lists of each of their events, in order; ids are kept.
+    const auto rules = written->RuleLists();
+    EXPECT_EQ(rules->LastID(), 5010);
+    EXPECT_EQ(rules->ParserEventCCList(12, false)->Count(), 2);
+    EXPECT_EQ(rules->ParserEventCCList(15, false)->Count(), 2);
+    // Escapes restore whatever their case; edit loads keep the exclusion list as typed.
+    const auto first = rules->NamingConventions()->Item(1);
+    EXPECT_EQ(first->PrefixItems()->Item(1)->Value(), u"<x\t"_s);
+    EXPECT_EQ(first->ExclusionList(), u" x;y "_s);
+    EXPECT_FALSE(first->CaseSensitive());
+    EXPECT_FALSE(written->Dirty());
+    EXPECT_FALSE(written->LoadedInPart());
+
     auto order = [](const Rulebase &rulebase) {
         QStringList keys;
         const auto &all = *rulebase.RuleLists()->AllConventions();
@@ -387,12 +348,11 @@ TEST_F(RulebaseFileTest, HandEditedLayoutsLoadAsTheWrittenFile)
             keys << all.Item(i)->RuleKey();
         return keys;
     };
-
-    QByteArray indented = smallFile("", coding, naming);
+    QByteArray indented = smallFile(coding, naming);
     for (const char *tag :
          {"<CodingConvention ", "<NamingConvention ", "<PrefixItem ", "<ViolationDefinition "})
         indented.replace(tag, QByteArray("\n  <!-- c --><?pi x?>\n  ") + tag);
-    QByteArray swapped = smallFile("", coding, naming);
+    QByteArray swapped = smallFile(coding, naming);
     swapped.replace("<CodingConventions>" + coding + "</CodingConventions>", "")
         .replace("</NamingConventions>",
                  "</NamingConventions><CodingConventions>" + coding + "</CodingConventions>");
@@ -408,8 +368,7 @@ TEST_F(RulebaseFileTest, HandEditedLayoutsLoadAsTheWrittenFile)
 TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
 {
     const auto rulebase
-        = loadBytes(smallFile("",
-                              codingRule("5001") + codingRule("12x") + codingRule("5003"),
+        = loadBytes(smallFile(codingRule("5001") + codingRule("12x") + codingRule("5003"),
                               namingRule("5004", "<PrefixItem PSType=\"1\" PSValue=\"a\"/>")));
     ASSERT_TRUE(rulebase); // a section's fault is its own; the load goes on
     EXPECT_TRUE(rulebase->LoadedInPart());
@@ -427,14 +386,9 @@ TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
                            u"'CodingConvention')#RulebaseManager::LoadCodingConventions"_s));
 
     ui.messages.clear();
-    const auto overflow = loadBytes(smallFile(
-        "",
-        codingRule("5001", "", "1", "2", "Yes"),
-        namingRule(
-            "5004",
-            "<PrefixItem PSType=\"1\" PSValue=\"a\"/>"
-            "<PrefixItem PSType=\"1\" PSValue=\"a\"/><PrefixItem PSType=\"1\" PSValue=\"a\"/>"
-            "<PrefixItem PSType=\"1\" PSValue=\"a\"/><PrefixItem PSType=\"1\" PSValue=\"a\"/>")));
+    const QByteArray fiveItems = QByteArray("<PrefixItem PSType=\"1\" PSValue=\"a\"/>").repeated(5);
+    const auto overflow
+        = loadBytes(smallFile(codingRule("5001", "Yes"), namingRule("5004", fiveItems)));
     ASSERT_TRUE(overflow);
     EXPECT_TRUE(overflow->LoadedInPart());
     EXPECT_EQ(overflow->RuleLists()->AllConventions()->Count(), 0);
@@ -445,14 +399,14 @@ TEST_F(RulebaseFileTest, ABadValueStopsItsSectionAndIsReportedWithItsAttribute)
 
     // A rule refused on its own, as a second one of an id is, leaves the file loaded in part too.
     ui.messages.clear();
-    const auto twice = loadBytes(smallFile("", codingRule("5001") + codingRule("5001"), ""));
+    const auto twice = loadBytes(smallFile(codingRule("5001") + codingRule("5001"), ""));
     ASSERT_TRUE(twice);
     EXPECT_EQ(twice->RuleLists()->CodingConventions()->Count(), 1);
     EXPECT_TRUE(twice->LoadedInPart());
     EXPECT_FALSE(ui.messages.empty());
 
     ui.messages.clear();
-    QByteArray big = smallFile("", codingRule("5001"), "");
+    QByteArray big = smallFile(codingRule("5001"), "");
     big.replace("Impact=\"5\"", "Impact=\"40000\"");
     ASSERT_TRUE(loadBytes(big));
     ASSERT_EQ(ui.messages.size(), 1u);
@@ -467,44 +421,36 @@ TEST_F(RulebaseFileTest, FilesThatAreNotRulebasesAreRefusedWithTheirWarnings)
         = u"Unable to load the rulebase because of an unexpected error during parsing."_s;
     const QString schema
         = u"Unable to load the rulebase because it has an incorrect schema version."_s;
-    struct Case
-    {
-        QByteArray bytes;
-        QString warning;
+    auto withSchema = [](const char *attribute) {
+        return smallFile("", "").replace("SchemaVersion=\"6.2\"", attribute);
     };
-    QByteArray future = smallFile("", "", "");
-    future.replace("SchemaVersion=\"6.2\"", "SchemaVersion=\"6.3\"");
-    QByteArray ancient = future;
-    ancient.replace("\"6.3\"", "\"5.0\"");
-    QByteArray unversioned = future;
-    unversioned.replace("SchemaVersion=\"6.3\"", "");
-    const Case cases[] = {
+    const std::pair<QByteArray, QString> cases[] = {
         {QByteArray(), parsing},
         {"this is not XML", parsing},
-        {smallFile("", "", "").left(300), parsing},
+        {smallFile("", "").left(300), parsing},
         {"\xff\xfe<\x00Q\x00", parsing},
-        {future, schema},
-        {ancient, schema},
-        {unversioned, schema},
+        {withSchema("SchemaVersion=\"6.3\""), schema},
+        {withSchema("SchemaVersion=\"5.0\""), schema},
+        {withSchema(""), schema},
     };
-    for (const Case &c : cases) {
+    for (const auto &[bytes, warning] : cases) {
         ui.messages.clear();
-        EXPECT_FALSE(loadBytes(c.bytes));
+        EXPECT_FALSE(loadBytes(bytes));
         ASSERT_FALSE(ui.messages.empty());
-        EXPECT_EQ(ui.messages.back().text, c.warning) << c.bytes.left(40).toStdString();
+        EXPECT_EQ(ui.messages.back().text, warning) << bytes.left(40).toStdString();
     }
     EXPECT_TRUE(logText().contains(u"XML Parser Error"_s));
 
     // Without "Rules" the frame itself fails; without "Report" only that section does.
     ui.messages.clear();
-    QByteArray noRules = smallFile("", "", "");
+    QByteArray noRules = smallFile("", "");
     noRules.replace(
         noRules.indexOf("<Rules"), noRules.indexOf("</Rules>") + 8 - noRules.indexOf("<Rules"), "");
     EXPECT_FALSE(loadBytes(noRules));
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_TRUE(ui.messages[0].text.endsWith(u"in function LoadRulebase module RulebaseManager"_s));
     ui.messages.clear();
-    const auto noReport = loadBytes(smallFile("", "", "", ""));
+    const auto noReport = loadBytes(smallFile("", "", ""));
     ASSERT_TRUE(noReport);
     EXPECT_TRUE(noReport->LoadedInPart());
     EXPECT_EQ(noReport->Report()->Sections()->Count(), 0);
@@ -522,30 +468,16 @@ TEST_F(RulebaseFileTest, FilesThatAreNotRulebasesAreRefusedWithTheirWarnings)
 
 TEST_F(RulebaseFileTest, OlderSchemasComeUpToDateInMemoryOnly)
 {
-    // 6.0: no tolerances, no report, no tag descriptions or examples, no exclusion list, no
-    // case sensitivity and no array tag.
-    const QByteArray v60
-        = "<Quorin_Rulebase SchemaVersion=\"6.0\">"
-          "<RulebaseProperties Name=\"Old\" Version=\"2.0.0001\" AutoIncrementVersion=\"True\" "
-          "Description=\"d\""
-          " UnknownControlViolation=\"False\" UseCTagsAsDTTags=\"False\"/>"
-          "<ControlTags><ControlTag TagName=\"VB.Label\" TagValue=\"lb\"/></ControlTags>"
-          "<DataTypeTags><DataTypeTag TagName=\"Long\" TagValue=\"l\"/></DataTypeTags>"
-          "<ScopeTags><ScopeTag TagName=\"Local\" TagValue=\"\"/></ScopeTags><DefaultViolations/>"
-          "<CategoryList "
-          "LastID=\"0\"/><SeverityList/><AuthorisedComponents/><AuthorisedReferences/"
-          "><UnauthorisedKeywords/>"
-          "<Rules LastRuleID=\"5000\"><CodingConventions/><NamingConventions>"
-          "<NamingConvention RuleID=\"5000\" RuleActive=\"True\" Title=\"N\" Description=\"\" "
-          "ObjectType=\"4\""
-          " PropertyType=\"37\" PropertyName=\"Name\" Condition=\"\" PrefixActive=\"False\" "
-          "PrefixAdvice=\"\""
-          " BodyActive=\"False\" BodyPattern=\"\" BodyMaxLength=\"0\" BodyMinLength=\"0\" "
-          "BodyAdvice=\"\""
-          " SuffixActive=\"False\" SuffixAdvice=\"\"><ViolationDefinition Name=\"\" "
-          "Description=\"\" SeverityLevel=\"3\""
-          " Impact=\"1\" CategoryID=\"-1\" "
-          "Advice=\"\"/></NamingConvention></NamingConventions></Rules></Quorin_Rulebase>";
+    // The small file without the attributes and sections its schema came without.
+    auto older = [](const char *version, const QString &missing, const QByteArray &report) {
+        QByteArray bytes = smallFile("", namingRule("5003", ""), report);
+        bytes.replace("\"6.2\"", QByteArray("\"") + version + '"')
+            .replace("AutoIncrementVersion=\"False\"", "AutoIncrementVersion=\"True\"");
+        const QRegularExpression attributes(u" (%1)=\"[^\"]*\""_s.arg(missing));
+        return QString::fromUtf8(bytes).remove(attributes).toUtf8();
+    };
+    const QString since62 = u"TagDescription|TagExample|ExclusionList|CaseSensitive|ArrayTag"_s;
+    const QByteArray v60 = older("6.0", since62 + u"|Tolerance\\w+"_s, "");
     const auto old = loadBytes(v60, u"old.qrb"_s);
     ASSERT_TRUE(old);
     EXPECT_TRUE(ui.messages.empty()) << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
@@ -556,7 +488,7 @@ TEST_F(RulebaseFileTest, OlderSchemasComeUpToDateInMemoryOnly)
     }
     EXPECT_EQ(old->TolerancePercentageComments(), -1);
     EXPECT_EQ(old->Report()->Sections()->Count(), 0);
-    EXPECT_EQ(old->ControlTags()->Item(u"VB.Label"_s)->TagValue(), u"lb"_s);
+    EXPECT_EQ(old->ControlTags()->Item(u"VB.CheckBox"_s)->TagValue(), u"ck"_s);
     const auto naming = old->RuleLists()->NamingConventions()->Item(1);
     EXPECT_TRUE(naming->CaseSensitive());
     EXPECT_TRUE(naming->ExclusionList().isEmpty());
@@ -566,23 +498,19 @@ TEST_F(RulebaseFileTest, OlderSchemasComeUpToDateInMemoryOnly)
     EXPECT_TRUE(readFile(dir + u"old.qrb"_s).startsWith("<Quorin_Rulebase SchemaVersion=\"6.2\">"));
     const auto saved = load(dir + u"old.qrb"_s);
     ASSERT_TRUE(saved);
-    EXPECT_EQ(saved->Version(), u"2.0.0002"_s);
+    EXPECT_EQ(saved->Version(), u"1.2.0004"_s);
     EXPECT_EQ(dumpRulebase(*saved).toStdString(), dumpRulebase(*old).toStdString());
 
     // 6.1 had tolerances and a report, and keeps them.
-    QByteArray v61 = v60;
-    v61.replace("\"6.0\"", "\"6.1\"");
-    v61.replace("UseCTagsAsDTTags=\"False\"",
-                "UseCTagsAsDTTags=\"False\" ToleranceCount=\"5|-1|-1|-1|-1|-1\""
-                " ToleranceImpact=\"-1|-1|-1|-1|-1|-1\" TolerancePercentageComments=\"7\""
-                " ToleranceCyclomaticComplexity=\"-1\"");
-    v61.replace("</Rules>",
-                "</Rules><Report><Section SectionType=\"Table\" TableKey=\"6T\" TableText=\"\""
-                " TableTitle=\"Severity Details\" TableType=\"5\"/></Report>");
-    const auto newer = loadBytes(v61, u"v61.qrb"_s);
+    const auto newer
+        = loadBytes(older("6.1",
+                          since62,
+                          "<Report><Section SectionType=\"Table\" TableKey=\"6T\" "
+                          "TableText=\"\" TableTitle=\"t\" TableType=\"5\"/></Report>"),
+                    u"v61.qrb"_s);
     ASSERT_TRUE(newer);
-    EXPECT_EQ(newer->ToleranceCount(1), 5);
-    EXPECT_EQ(newer->TolerancePercentageComments(), 7);
+    EXPECT_EQ(newer->ToleranceCount(2), 2);
+    EXPECT_EQ(newer->TolerancePercentageComments(), 10);
     EXPECT_EQ(newer->Report()->Sections()->Count(), 1);
     EXPECT_TRUE(newer->RuleLists()->NamingConventions()->Item(1)->CaseSensitive());
     EXPECT_TRUE(ui.messages.empty());
@@ -667,7 +595,7 @@ TEST_F(RulebaseFileTest, AFailedSaveLeavesTheOldFileAndTheDirtyFlag)
 // rulebase keeps what it had.
 TEST_F(RulebaseFileTest, AddingPastTheLastIdIsRefusedAndChangesNothing)
 {
-    QByteArray bytes = smallFile("", codingRule("5001"), "");
+    QByteArray bytes = smallFile(codingRule("5001"), "");
     bytes.replace("LastRuleID=\"5010\"", "LastRuleID=\"2147483646\"");
     bytes.replace("<CategoryList LastID=\"4\"", "<CategoryList LastID=\"2147483646\"");
     const auto rulebase = loadBytes(bytes);
@@ -711,42 +639,10 @@ TEST_F(RulebaseFileTest, AddingPastTheLastIdIsRefusedAndChangesNothing)
 // with its attribute, is what the general conversion of the restored text gives.
 TEST(RulebaseFileValuesTest, ReadsInPlaceAgreeWithTheGeneralConversions)
 {
-    const QStringList texts = {
-        u"0"_s,
-        u"-0"_s,
-        u"7"_s,
-        u"-7"_s,
-        u"007"_s,
-        u"2147483647"_s,
-        u"2147483648"_s,
-        u"-2147483648"_s,
-        u"-2147483649"_s,
-        u"32767"_s,
-        u"32768"_s,
-        u"-32768"_s,
-        u"-32769"_s,
-        u"999999999999999999"_s,
-        u"9999999999999999999"_s,
-        u""_s,
-        u"-"_s,
-        u" 5"_s,
-        u"5 "_s,
-        u"+5"_s,
-        u"4.5"_s,
-        u"5.5"_s,
-        u"1e3"_s,
-        u"0x10"_s,
-        u"１２"_s,
-        u"True"_s,
-        u"False"_s,
-        u"true"_s,
-        u"FALSE"_s,
-        u" True"_s,
-        u"Yes"_s,
-        u"%TAB%1"_s,
-        u"1%TAB%"_s,
-        u"%"_s,
-    };
+    const QStringList texts
+        = u"0|-0|7|-7|007|2147483647|2147483648|-2147483648|-2147483649|32767|32768|-32768|-32769|"
+          u"999999999999999999|9999999999999999999||-| 5|5 |+5|4.5|5.5|1e3|0x10|１２|True|False|"
+          u"true|FALSE| True|Yes|%TAB%1|1%TAB%|%"_s.split(u'|');
     QString xml = u"<Root>"_s;
     for (const QString &text : texts)
         xml += u"<Item V=\""_s + text + u"\"/>"_s;

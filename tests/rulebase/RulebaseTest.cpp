@@ -16,19 +16,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QStringList tagNames(const ObjectKeyedArrayList<TagItem> &tags)
-{
-    QStringList names;
-    for (qint32 i = 1; i <= tags.Count(); ++i)
-        names << tags.Item(i)->TagName();
-    return names;
-}
-
-} // namespace
 
 // The default texts are pinned by the document test, which writes them all.
 TEST(Rulebase, NewRulebaseHasItsDefaultsAndIsClean)
@@ -50,9 +40,9 @@ TEST(Rulebase, NewRulebaseHasItsDefaultsAndIsClean)
             EXPECT_EQ(tags->Key(i), tags->Item(i)->TagName());
         }
     }
-    const QStringList dataTypes = tagNames(*rulebase.DataTypeTags());
-    EXPECT_LT(dataTypes.indexOf(u"Single"_s), dataTypes.indexOf(u"Object"_s));
-    EXPECT_LT(dataTypes.indexOf(u"Byte"_s), dataTypes.indexOf(u"Boolean"_s));
+    const auto dataTypes = rulebase.DataTypeTags();
+    EXPECT_LT(dataTypes->FindIndexByKey(u"Single"_s), dataTypes->FindIndexByKey(u"Object"_s));
+    EXPECT_LT(dataTypes->FindIndexByKey(u"Byte"_s), dataTypes->FindIndexByKey(u"Boolean"_s));
     EXPECT_EQ(rulebase.ControlTags()->Item(u"(unknown progid)"_s)->TagValue(), u"ctl"_s);
 
     // Severities by level, keyed "<level>Key", all selected.
@@ -64,72 +54,43 @@ TEST(Rulebase, NewRulebaseHasItsDefaultsAndIsClean)
     }
 }
 
-TEST(Rulebase, DirtyIsComputedFromItsParts)
-{
-    Rulebase rulebase;
-    EXPECT_FALSE(rulebase.Dirty());
-    rulebase.setTitle(rulebase.Title()); // an unchanged value still counts
-    EXPECT_TRUE(rulebase.Dirty());
-    rulebase.setDirty(false);
-    rulebase.setFilename(u"C:\\a\\b.qrb"_s);
-    EXPECT_FALSE(rulebase.Dirty());
-
-    // Only the default violations changed: that too is a change to save.
-    rulebase.DefaultViolations()->ItemByType(2)->setAdvice(u"Upgrade."_s);
-    EXPECT_TRUE(rulebase.Dirty());
-    rulebase.setDirty(false);
-    EXPECT_FALSE(rulebase.DefaultViolations()->Dirty());
-
-    // Tag sets count through their items, not through their own flags.
-    rulebase.ControlTags()->setDirty(true);
-    EXPECT_FALSE(rulebase.Dirty());
-    rulebase.ScopeTags()->Item(7)->setTagValue(u"r"_s);
-    EXPECT_TRUE(rulebase.Dirty());
-    rulebase.setDirty(false);
-    EXPECT_FALSE(rulebase.ScopeTags()->Item(7)->Dirty());
-    rulebase.ScopeTags()->Item(7)->setLocked(false);
-    EXPECT_FALSE(rulebase.Dirty());
-
-    rulebase.setToleranceImpact(3, 100);
-    EXPECT_TRUE(rulebase.Dirty());
-    rulebase.setDirty(false);
-    EXPECT_THROW(rulebase.ToleranceCount(11), QuorinError);
-
-    // Every other part counts, and setDirty(false) reaches into it.
-    const auto rule = std::make_shared<CodingConvention>();
-    rulebase.RuleLists()->AddConvention(rule, true);
-    EXPECT_TRUE(rulebase.Dirty());
-    rulebase.setDirty(false);
-    EXPECT_FALSE(rule->Dirty());
-    rule->ViolationDefinition()->setSeverity(2);
-    EXPECT_TRUE(rulebase.Dirty());
-    rulebase.setDirty(false);
-
-    auto table = std::make_shared<TableItem>();
-    rulebase.Report()->Sections()->Add(table);
-    rulebase.setDirty(false);
-    table->setTableTitle(u"Scope Tags"_s);
-    EXPECT_TRUE(rulebase.Dirty());
-    rulebase.setDirty(false);
-    EXPECT_FALSE(table->Dirty());
-
-    rulebase.AuthorisedComponents()->Add(u"{G}"_s, u"x.ocx"_s, {}, {});
-    EXPECT_TRUE(rulebase.Dirty());
-    EXPECT_EQ(rulebase.RuleCount(), 2);
-    rulebase.setDirty(false);
-    rulebase.SeverityList()->setItem(1, rulebase.SeverityList()->Item(1));
-    EXPECT_TRUE(rulebase.Dirty());
-    rulebase.setDirty(false);
-    auto item = std::make_shared<CategoryItem>();
-    rulebase.CategoryList()->Add(item, true);
-    EXPECT_TRUE(rulebase.Dirty());
-}
-
-TEST(Rulebase, FileTitleIsTheNameAfterTheLastSeparator)
+// A change counts whether or not it changes the value; tag sets count through their items, not
+// their own flags; setDirty(false) reaches into every part.
+TEST(Rulebase, DirtyIsComputedFromItsPartsAndFileTitleFromTheName)
 {
     Rulebase rulebase;
     EXPECT_EQ(rulebase.FileTitle(), u"[Untitled]"_s);
-    rulebase.setFilename(u"C:\\a\\b.qrb"_s);
+    const auto rule = std::make_shared<CodingConvention>();
+    const auto table = std::make_shared<TableItem>();
+    const std::pair<std::function<void()>, bool> changes[] = {
+        {[&] { rulebase.setTitle(rulebase.Title()); }, true},
+        {[&] { rulebase.setFilename(u"C:\\a\\b.qrb"_s); }, false},
+        {[&] { rulebase.DefaultViolations()->ItemByType(2)->setAdvice(u"Upgrade."_s); }, true},
+        {[&] { rulebase.ControlTags()->setDirty(true); }, false},
+        {[&] { rulebase.ScopeTags()->Item(7)->setTagValue(u"r"_s); }, true},
+        {[&] { rulebase.ScopeTags()->Item(7)->setLocked(false); }, false},
+        {[&] { rulebase.setToleranceImpact(3, 100); }, true},
+        {[&] { rulebase.RuleLists()->AddConvention(rule, true); }, true},
+        {[&] { rule->ViolationDefinition()->setSeverity(2); }, true},
+        {[&] { rulebase.Report()->Sections()->Add(table); }, true},
+        {[&] { table->setTableTitle(u"Scope Tags"_s); }, true},
+        {[&] { rulebase.AuthorisedComponents()->Add(u"{G}"_s, u"x.ocx"_s, {}, {}); }, true},
+        {[&] { rulebase.SeverityList()->setItem(1, rulebase.SeverityList()->Item(1)); }, true},
+        {[&] { rulebase.CategoryList()->Add(std::make_shared<CategoryItem>(), true); }, true},
+    };
+    for (size_t i = 0; i < std::size(changes); ++i) {
+        EXPECT_FALSE(rulebase.Dirty()) << i;
+        changes[i].first();
+        EXPECT_EQ(rulebase.Dirty(), changes[i].second) << i;
+        rulebase.setDirty(false);
+    }
+    EXPECT_FALSE(rulebase.DefaultViolations()->Dirty());
+    EXPECT_FALSE(rulebase.ScopeTags()->Item(7)->Dirty());
+    EXPECT_FALSE(rule->Dirty());
+    EXPECT_FALSE(table->Dirty());
+    EXPECT_EQ(rulebase.RuleCount(), 2);
+    EXPECT_THROW(rulebase.ToleranceCount(11), QuorinError);
+
     EXPECT_EQ(rulebase.FileTitle(), u"b.qrb"_s);
     rulebase.setFilename(u"C:\\a\\b"_s);
     EXPECT_EQ(rulebase.FileTitle(), QString());

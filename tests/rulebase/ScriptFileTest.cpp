@@ -1,10 +1,6 @@
 #include "rulebase/ScriptFile.h"
 #include "platform/GlobalObjects.h"
 #include "platform/LogFile.h"
-#include "rulebase/CodingConvention.h"
-#include "rulebase/NamingConvention.h"
-#include "rulebase/RuleLists.h"
-#include "rulebase/UnauthorisedKeyword.h"
 
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
@@ -18,13 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString readText(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return u"<missing>"_s;
-    return QString::fromUtf8(file.readAll());
-}
+using TestEnvironment::readFile;
 
 // Lines joined with CR LF, each one ended.
 QString lines(std::initializer_list<const char *> texts)
@@ -35,32 +25,26 @@ QString lines(std::initializer_list<const char *> texts)
     return text;
 }
 
-// Points the temporary folder somewhere fresh for as long as it lives.
-class TemporaryFolder
-{
-public:
-    TemporaryFolder()
-        : m_saved(qgetenv("TMPDIR"))
-        , m_folder(TestEnvironment::makeTempDir())
-    {
-        qputenv("TMPDIR", m_folder.toLocal8Bit());
-    }
-    ~TemporaryFolder() { qputenv("TMPDIR", m_saved); }
-    QString path() const { return m_folder; }
-
-private:
-    QByteArray m_saved;
-    QString m_folder;
-};
-
 } // namespace
 
+// With no conditions the dispatcher is empty; an old file, even a read-only one, is replaced.
 TEST(ScriptFile, GathersTheConditionsBehindAGeneratedDispatcher)
 {
     const QString folder = TestEnvironment::makeTempDir();
     ScriptFile file(folder);
     EXPECT_EQ(file.FullFilename(), QDir::toNativeSeparators(folder + u"/QuorinScripts.qrs"_s));
     EXPECT_EQ(ScriptFile::ScriptPrototype(), u"Public Sub RunScript(ByVal v_lRuleID As Long)"_s);
+    TestEnvironment::writeFile(file.FullFilename(), QByteArray("old text ").repeated(30));
+    QFile::setPermissions(file.FullFilename(), QFileDevice::ReadOwner);
+    ASSERT_TRUE(file.CreateScriptFile());
+    EXPECT_EQ(QString::fromUtf8(readFile(file.FullFilename())),
+              lines({"Attribute VB_Name = \"QuorinScripts\"",
+                     "",
+                     "Public Sub RunScript(ByVal v_lRuleID As Long)",
+                     "",
+                     "End Sub",
+                     "",
+                     ""}));
 
     file.AddScript(5000, u"sub main\r\n  Call Quorin.RaiseViolation()\r\nEnd Sub\r\n"_s);
     file.AddScript(5001, QString());                // nothing to run: no Case
@@ -98,29 +82,7 @@ TEST(ScriptFile, GathersTheConditionsBehindAGeneratedDispatcher)
                                     "x = 1",
                                     ""});
     EXPECT_EQ(file.ScriptText(), expected);
-    EXPECT_EQ(readText(file.FullFilename()), expected);
-}
-
-TEST(ScriptFile, WithoutConditionsTheDispatcherIsEmptyAndAnOldFileIsReplaced)
-{
-    const QString folder = TestEnvironment::makeTempDir();
-    ScriptFile file(folder);
-    {
-        QFile old(file.FullFilename());
-        ASSERT_TRUE(old.open(QIODevice::WriteOnly));
-        old.write("old text that is longer than the new one, by far, to see it truncated");
-        old.close();
-        QFile::setPermissions(file.FullFilename(), QFileDevice::ReadOwner);
-    }
-    ASSERT_TRUE(file.CreateScriptFile());
-    EXPECT_EQ(readText(file.FullFilename()),
-              lines({"Attribute VB_Name = \"QuorinScripts\"",
-                     "",
-                     "Public Sub RunScript(ByVal v_lRuleID As Long)",
-                     "",
-                     "End Sub",
-                     "",
-                     ""}));
+    EXPECT_EQ(QString::fromUtf8(readFile(file.FullFilename())), expected);
 }
 
 TEST(ScriptFile, AFailedWriteIsReportedAndLeavesNoPartFile)

@@ -55,9 +55,12 @@ QStringList randomTexts(unsigned seed, int count, const QStringList &pieces)
 
 } // namespace
 
-using EscapingTest = XmlTest;
+using AttributeTest = XmlTest;
 
-TEST_F(EscapingTest, ReplacesTheFourSequencesAndRestoresThemInOrderIgnoringCase)
+// The four escapes restore in order, whatever their case. Whatever the stored text, every way
+// of reading it gives what the four restores in turn give, and the in-place view is the same
+// text, or null when there is anything to restore.
+TEST_F(AttributeTest, EscapesRestoreInOrderAndEveryReadingOfAStoredValueAgrees)
 {
     const QString value = u"a<b>c\td"_s + CRLF + u"e\rf\ng\r\r\n"_s;
     EXPECT_EQ(TarnXMLElement::ReplaceIllegalChars(value),
@@ -68,14 +71,7 @@ TEST_F(EscapingTest, ReplacesTheFourSequencesAndRestoresThemInOrderIgnoringCase)
     // The "%CRLF%" is found first and takes the "%" that "%TAB%" would need.
     EXPECT_EQ(TarnXMLElement::RestoreIllegalChars(u"%TAB%CRLF%"_s), u"%TAB"_s + CRLF);
     EXPECT_EQ(TarnXMLElement::RestoreIllegalChars(u"100% sure"_s), u"100% sure"_s);
-}
 
-using AttributeTest = XmlTest;
-
-// Whatever the stored text, every way of reading it gives what the four restores in turn give,
-// and the in-place view is the same text, or null when there is anything to restore.
-TEST_F(AttributeTest, EveryReadingOfAStoredValueAgrees)
-{
     const QStringList stored = randomTexts(
         7u,
         2000,
@@ -107,17 +103,18 @@ TEST_F(AttributeTest, EveryReadingOfAStoredValueAgrees)
     EXPECT_TRUE(TarnXMLElement().AttributeUtf8ByName(QLatin1StringView("A")).isNull());
 }
 
-// Every way of writing a value drops the characters XML forbids, so the save succeeds and the
-// file loads again with the rest of the text, blanks and escapes as written.
-TEST_F(AttributeTest, CharactersXmlForbidsAreDroppedSoTheFileLoadsAgain)
+// Every way of writing a value stores the same text, escaped as the file holds it; characters
+// XML forbids are dropped on the way in, so the file loads again with the rest of the text.
+TEST_F(AttributeTest, EveryWayOfWritingAValueStoresTheSameLoadableText)
 {
     using namespace std::string_literals;
-    const struct
+    struct Case
     {
-        std::u16string value;
-        std::u16string kept;
-        bool viaUtf8; // the UTF-8 writer takes bytes, in which a lone surrogate can't be
-    } cases[] = {
+        QString value, kept;
+        bool viaUtf8; // UTF-8 can't carry a lone surrogate
+    };
+    std::vector<Case> cases;
+    const std::tuple<std::u16string, std::u16string, bool> forbidden[] = {
         {u"a\u0001b\x1F\x0B\x0C\x7F"s, u"ab\x7F"s, true},
         {u"nul\0end"s, u"nulend"s, true},
         {u"tab\t, CR LF\r\n, LF\n, CR\r"s, u"tab\t, CR LF\r\n, LF\n, CR\r"s, true},
@@ -126,94 +123,55 @@ TEST_F(AttributeTest, CharactersXmlForbidsAreDroppedSoTheFileLoadsAgain)
         {u"\xDC00\xD800"s, u""s, false},
         {u"  blanks & \"quotes\" kept  "s, u"  blanks & \"quotes\" kept  "s, true},
     };
-    using Writer = void (*)(TarnXMLElement &, const QString &);
-    const Writer writers[] = {
-        [](TarnXMLElement &e, const QString &v) { e.setAttributeValueByName(u"V"_s, v); },
-        [](TarnXMLElement &e, const QString &v) {
-            e.setAttributeValueByName(QLatin1StringView("V"), v);
-        },
-        [](TarnXMLElement &e, const QString &v) { e.AddAttribute(u"V"_s, v); },
-        [](TarnXMLElement &e, const QString &v) {
-            e.AddAttribute(u"V"_s, QString());
-            e.setAttributeValue(0, v);
-        },
-        [](TarnXMLElement &e, const QString &v) {
-            const QByteArray utf8 = v.toUtf8();
-            e.setAttributeValueByName(QLatin1StringView("V"), QUtf8StringView(utf8));
-        },
-    };
-    TarnXMLDoc doc;
-    TarnXMLElement root = rootWith(doc, {});
-    QStringList expected;
-    for (const auto &c : cases) {
-        for (qsizetype w = 0; w < qsizetype(std::size(writers)); ++w) {
-            if (w == qsizetype(std::size(writers)) - 1 && !c.viaUtf8)
-                continue;
-            TarnXMLElement item = root.AddElement(u"Item"_s);
-            writers[w](item, units(c.value));
-            expected << units(c.kept);
-        }
-    }
-    const QString file = path(u"forbidden.qrb"_s);
-    ASSERT_TRUE(doc.SaveToFile(file));
-    TarnXMLDoc loaded;
-    ASSERT_TRUE(loaded.LoadFromFile(file)) << readFile(file).toStdString();
-    ASSERT_EQ(loaded.RootElement().ElementCount(), expected.size());
-    for (qint32 i = 0; i < expected.size(); ++i)
-        EXPECT_EQ(loaded.RootElement().ElementAtPosition(i).AttributeValue(0), expected[i]) << i;
-    // A look-up finds what the value became.
-    EXPECT_EQ(root.ElementByAttributeValue(u"V"_s, units(cases[0].value)).XMLNode(),
-              root.ElementAtPosition(0).XMLNode());
-}
+    for (const auto &[value, kept, viaUtf8] : forbidden)
+        cases.push_back({units(value), units(kept), viaUtf8});
+    for (const QString &value :
+         randomTexts(11u, 500, u"\r\n|\r|\n|\t|<|>|%|&|\"|é|日本|\U0001F600|x|42"_s.split(u'|')))
+        cases.push_back({value, value, true});
 
-TEST_F(AttributeTest, EveryWayOfWritingAValueStoresTheSameText)
-{
     TarnXMLDoc doc;
     TarnXMLElement root = rootWith(doc, {});
-    const QStringList values
-        = randomTexts(11u, 500, u"\r\n|\r|\n|\t|<|>|%|&|\"|é|日本|\U0001F600|x|42"_s.split(u'|'));
-    for (qint32 i = 0; i < values.size(); ++i) {
-        const QString &value = values[i];
-        const QByteArray utf8 = value.toUtf8();
-        std::vector<TarnXMLElement> written;
-        for (int way = 0; way < 6; ++way) {
-            TarnXMLElement e = root.AddElement(u"E"_s);
-            if (way >= 4)
-                e.AddAttribute(u"V"_s, u"old"_s);
-            switch (way) {
-            case 0:
-                e.setAttributeValueByName(u"V"_s, value);
-                break;
-            case 1:
-                e.setAttributeValueByName(QLatin1StringView("V"), value);
-                break;
-            case 2:
-            case 4:
-                e.setAttributeValueByName(QLatin1StringView("V"), QUtf8StringView(utf8));
-                break;
-            case 3:
-                e.AddAttribute(u"V"_s, value);
-                break;
-            case 5:
-                e.setAttributeValue(0, value);
-                break;
-            }
-            written.push_back(e);
-        }
-        const QString stored = TarnXMLElement::ReplaceIllegalChars(value);
+    for (size_t i = 0; i < cases.size(); ++i) {
+        const Case &c = cases[i];
+        const QString stored = TarnXMLElement::ReplaceIllegalChars(c.kept);
         QString xml = stored;
         xml.replace(u'&', u"&amp;"_s)
             .replace(u'"', u"&quot;"_s)
             .replace(u'\r', u"&#13;"_s)
             .replace(u'\n', u"&#10;"_s);
-        for (const TarnXMLElement &element : written) {
+        TarnXMLElement group = root.AddElement(u"Case"_s);
+        const QByteArray utf8 = c.value.toUtf8();
+        // By either kind of name, as text or as UTF-8, added, or over a value already there.
+        for (int way = 0; way < 6; ++way) {
+            if (!c.viaUtf8 && (way == 2 || way == 4))
+                continue;
+            TarnXMLElement element = group.AddElement(u"E"_s);
+            if (way >= 4)
+                element.AddAttribute(u"V"_s, u"old"_s);
+            if (way == 0)
+                element.setAttributeValueByName(u"V"_s, c.value);
+            else if (way == 1)
+                element.setAttributeValueByName(QLatin1StringView("V"), c.value);
+            else if (way == 2 || way == 4)
+                element.setAttributeValueByName(QLatin1StringView("V"), QUtf8StringView(utf8));
+            else if (way == 3)
+                element.AddAttribute(u"V"_s, c.value);
+            else
+                element.setAttributeValue(0, c.value);
             ASSERT_EQ(element.AttributeCount(), 1) << i;
             ASSERT_EQ(element.XMLString(), u"<E V=\""_s + xml + u"\"/>"_s) << i;
             ASSERT_EQ(element.AttributeValue(0), TarnXMLElement::RestoreIllegalChars(stored)) << i;
         }
-        ASSERT_EQ(root.ElementByAttributeValue(u"V"_s, value).XMLNode(), written[0].XMLNode()) << i;
-        root.RemoveAllElements();
+        // A look-up finds what the value became.
+        ASSERT_EQ(group.ElementByAttributeValue(u"V"_s, c.value).XMLNode(),
+                  group.ElementAtPosition(0).XMLNode())
+            << i;
     }
+    const QString file = path(u"written.qrb"_s);
+    ASSERT_TRUE(doc.SaveToFile(file));
+    TarnXMLDoc loaded;
+    ASSERT_TRUE(loaded.LoadFromFile(file)) << readFile(file).toStdString();
+    EXPECT_EQ(loaded.XMLString(), doc.XMLString());
 }
 
 TEST_F(AttributeTest, NamesKeepTheirCaseAndOrderAndBadOnesAreRefused)
@@ -246,10 +204,10 @@ TEST_F(AttributeTest, NamesKeepTheirCaseAndOrderAndBadOnesAreRefused)
 
 using SearchTest = XmlTest;
 
-TEST_F(SearchTest, ElementByNameIgnoresCaseAndGivesThePosition)
+TEST_F(SearchTest, ElementByNameOrAttributeValueIgnoresCaseAndListByNameFindsDescendants)
 {
     TarnXMLDoc doc;
-    const TarnXMLElement root = rootWith(doc, {u"A"_s, u"Rules"_s, u"B"_s, u"RULES"_s});
+    TarnXMLElement root = rootWith(doc, {u"A"_s, u"Rules"_s, u"B"_s, u"RULES"_s});
     // StartAt past a match finds the next one; outside the children searches from the start.
     const std::tuple<QString, qint32, const char *, qint32> cases[] = {{u"rules"_s, 0, "Rules", 1},
                                                                        {u"rules"_s, 2, "RULES", 3},
@@ -266,13 +224,8 @@ TEST_F(SearchTest, ElementByNameIgnoresCaseAndGivesThePosition)
     }
     EXPECT_EQ(
         timesLogged("#Event #An element name must be specified.#TarnXMLElement::ElementByName"), 1);
-}
 
-TEST_F(SearchTest, ElementByAttributeValueAndListByName)
-{
-    TarnXMLDoc doc;
-    TarnXMLElement root = rootWith(doc, {u"A"_s, u"B"_s});
-    root.ElementAtPosition(1).setAttributeValueByName(u"Title"_s, u"If <x> then"_s);
+    root.ElementAtPosition(2).setAttributeValueByName(u"Title"_s, u"If <x> then"_s);
     EXPECT_EQ(root.ElementByAttributeValue(u"Title"_s, u"IF <X> THEN"_s).ElementName(), u"B"_s);
     EXPECT_TRUE(root.ElementByAttributeValue(u"Title"_s, u"If"_s).isNull());
     EXPECT_TRUE(root.ElementByAttributeValue(QString(), u"A"_s).isNull());
@@ -293,7 +246,7 @@ TEST_F(SearchTest, ElementByAttributeValueAndListByName)
 
 using ChildListTest = XmlTest;
 
-TEST_F(ChildListTest, AddsRemovesAndLogsBadPositions)
+TEST_F(ChildListTest, AddsRemovesLogsBadPositionsAndWalksStayCorrectAcrossChanges)
 {
     TarnXMLDoc doc;
     TarnXMLElement root = rootWith(doc, {u"A"_s, u"B"_s});
@@ -320,12 +273,7 @@ TEST_F(ChildListTest, AddsRemovesAndLogsBadPositions)
     EXPECT_EQ(timesLogged("#Event #No element at position 2#TarnXMLElement::ElementAtPosition"), 1);
     root.RemoveAllElements();
     EXPECT_EQ(root.ElementCount(), 0);
-}
 
-TEST_F(ChildListTest, WalksByPositionStayCorrectAcrossChanges)
-{
-    TarnXMLDoc doc;
-    TarnXMLElement root = rootWith(doc, {});
     constexpr qint32 Count = 10000;
     for (qint32 i = 0; i < Count; ++i) {
         TarnXMLElement rule = root.AddElement(u"Rule"_s);
