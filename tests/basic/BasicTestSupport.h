@@ -1,6 +1,7 @@
 #pragma once
 
 #include "basic/BasicSyntaxChecker.h"
+#include "support/QtPrinters.h"
 
 #include <QString>
 #include <QStringList>
@@ -8,11 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <ostream>
-
-inline void PrintTo(const QString &text, std::ostream *os)
-{
-    *os << '"' << text.toStdString() << '"';
-}
 
 // Lines joined as the editor hands them over, with CR LF.
 inline QString script(const QStringList &lines)

@@ -1,4 +1,5 @@
 #include "PreviewTestSupport.h"
+#include "support/QtPrinters.h"
 
 #include "preview/CatalogueObject.h"
 #include "preview/ParserEvent.h"
@@ -19,11 +20,6 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-
-inline void PrintTo(const QString &text, std::ostream *os)
-{
-    *os << '"' << text.toStdString() << '"';
-}
 
 namespace {
 

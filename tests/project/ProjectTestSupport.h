@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/QtPrinters.h"
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -10,11 +11,6 @@
 #include <ostream>
 
 class LogFile;
-
-inline void PrintTo(const QString &text, std::ostream *os)
-{
-    *os << '"' << text.toStdString() << '"';
-}
 
 // A fresh folder and a quiet log of its own for each test, so a test can write project files
 // and read what was logged.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/QtPrinters.h"
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -11,11 +12,6 @@
 #include <gtest/gtest.h>
 
 #include <ostream>
-
-inline void PrintTo(const QString &text, std::ostream *os)
-{
-    *os << '"' << text.toStdString() << '"';
-}
 
 // Installs a quiet log in a fresh folder for each test, so tests can read what was logged.
 class XmlTest : public ::testing::Test
