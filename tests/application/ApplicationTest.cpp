@@ -1,23 +1,17 @@
 #include "application/Application.h"
 #include "application/Startup.h"
-#include "collections/ObjectKeyedListAdapter.h"
-#include "editors/CategorySeverityForm.h"
-#include "editors/NamingConventionForm.h"
-#include "editors/RuleEditorModel.h"
-#include "editors/RulebaseDocCreatorForm.h"
 #include "platform/GlobalObjects.h"
 #include "platform/LogFile.h"
 #include "platform/MRUUtils.h"
 #include "platform/QuorinAdminData.h"
 #include "platform/QuorinData.h"
-#include "rulebase/CategoryList.h"
-#include "rulebase/NamingConvention.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/RulebaseManager.h"
 #include "views/IMainForm.h"
 #include "views/IViewController.h"
 #include "views/ViewFactory.h"
 
+#include "../editors/RulebaseFormScripts.h"
 #include "support/MemoryMainForm.h"
 #include "support/RecordingView.h"
 #include "support/ScriptedUserInterface.h"
@@ -26,8 +20,6 @@
 #include <QFile>
 
 #include <gtest/gtest.h>
-
-#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -64,16 +56,6 @@ protected:
 
     Application::ViewFactory countingViews() { return RecordingView::factory(&viewCalls); }
     qsizetype populates() const { return viewCalls.count(u"Populate"_s); }
-    // The sample with one bad value, which loads in part; gives its bytes.
-    QByteArray writePartFile(const QString &path)
-    {
-        QByteArray bytes = TestEnvironment::readFile(TestEnvironment::sampleRulebase());
-        EXPECT_TRUE(bytes.contains("<CategoryList LastID=\"14\">"));
-        bytes.replace("<CategoryList LastID=\"14\">", "<CategoryList LastID=\"fourteen\">");
-        TestEnvironment::writeFile(path, bytes);
-        return bytes;
-    }
-
     QString dir;
     ScriptedUserInterface ui;
     MemoryMainForm form;
@@ -99,7 +81,6 @@ TEST_F(ApplicationTest, StartUpOpensTheNewestRecentFileElseTheSampleElseNothing)
         Application app(&form, countingViews());
         EXPECT_TRUE(RunStartup(app, QString()));
         EXPECT_EQ(app.rulebase()->Filename(), newest);
-        EXPECT_EQ(app.CurrentViewName(), u"tlCategoryView"_s);
         EXPECT_EQ(form.calls.mid(0, 4),
                   (QStringList{u"Splash"_s, u"Window"_s, u"Tip"_s, u"View tlCategoryView"_s}));
         EXPECT_EQ(gobjAdminData->LastTip(), 5);
@@ -120,7 +101,8 @@ TEST_F(ApplicationTest, StartUpOpensTheNewestRecentFileElseTheSampleElseNothing)
         EXPECT_EQ(mru.Item(1), sample);
     }
 
-    // With nothing to open the window stands with no rulebase and no view.
+    // With nothing to open the window stands with no rulebase and no view, and no rulebase
+    // dialog runs.
     TestEnvironment::clearSettings();
     QFile::remove(sample);
     MemoryMainForm bare;
@@ -128,20 +110,23 @@ TEST_F(ApplicationTest, StartUpOpensTheNewestRecentFileElseTheSampleElseNothing)
     EXPECT_FALSE(RunStartup(empty, QString()));
     EXPECT_FALSE(empty.RulebaseOpen());
     EXPECT_EQ(empty.CurrentView(), nullptr);
+    RulebaseFormScripts scripts;
+    empty.ShowCategoryList();
+    empty.ShowSeverityList();
+    empty.ShowDefaultViolations();
+    empty.ShowRulebasePropertiesDialog();
+    empty.ShowTagList(1);
+    EXPECT_EQ(scripts.runs, 0);
     EXPECT_TRUE(ui.messages.empty());
 }
 
 TEST_F(ApplicationTest, CommandLineNamesAreTakenWholeAndNeverTouchTheRecentList)
 {
     const QString spaced = writeRulebase(u"My Standards.qrb"_s);
-    {
+    // Quoted, or unquoted spaces and all.
+    for (const QString &argument : {QLatin1Char('"') + spaced + QLatin1Char('"'), spaced}) {
         Application app(&form, countingViews());
-        EXPECT_TRUE(RunStartup(app, QLatin1Char('"') + spaced + QLatin1Char('"')));
-        EXPECT_EQ(app.rulebase()->Filename(), spaced);
-    }
-    {
-        Application app(&form, countingViews());
-        EXPECT_TRUE(RunStartup(app, spaced)); // unquoted, spaces and all
+        EXPECT_TRUE(RunStartup(app, argument));
         EXPECT_EQ(app.rulebase()->Filename(), spaced);
     }
     EXPECT_FALSE(form.calls.join(QLatin1Char('|')).contains(u"MRU"_s));
@@ -159,11 +144,12 @@ TEST_F(ApplicationTest, CommandLineNamesAreTakenWholeAndNeverTouchTheRecentList)
     EXPECT_FALSE(app.OpenRulebase(Application::OpenMode::RecentList, dir + u"gone.qrb"_s));
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_EQ(ui.messages[0].buttons, MessageButtons::YesNo);
+    EXPECT_EQ(ui.messages[0].defaultButton, MessageResult::No);
     EXPECT_EQ(form.calls.filter(u"MRU"_s),
               QStringList{u"RemoveFromMRUList "_s + dir + u"gone.qrb"_s});
 }
 
-TEST_F(ApplicationTest, AFailedOpenKeepsTheRulebaseBeforeItWholeAndSavable)
+TEST_F(ApplicationTest, AFailedOrPartOpenNeverCostsTheWorkNorTheFile)
 {
     const QString good = writeRulebase(u"good.qrb"_s);
     const QString bad = dir + u"bad.qrb"_s;
@@ -185,28 +171,25 @@ TEST_F(ApplicationTest, AFailedOpenKeepsTheRulebaseBeforeItWholeAndSavable)
     ui.answers = {MessageResult::Cancel};
     EXPECT_FALSE(app.CheckForSave());
     EXPECT_TRUE(app.SaveRulebase());
-    EXPECT_EQ(RulebaseManager().LoadRulebase(good)->Title(), u"Edited"_s);
-}
-
-TEST_F(ApplicationTest, AFileThatLoadedInPartSaysSoAndAsksBeforeItIsWrittenOver)
-{
-    const QString path = dir + u"part.qrb"_s;
-    const QByteArray bytes = writePartFile(path);
-
-    Application app(&form, countingViews());
-    ASSERT_TRUE(
-        app.OpenRulebase(Application::OpenMode::CommandLine, TestEnvironment::sampleRulebase()));
     EXPECT_FALSE(app.rulebase()->LoadedInPart());
+    EXPECT_EQ(RulebaseManager().LoadRulebase(good)->Title(), u"Edited"_s);
+
+    // A file that loaded in part (the sample with one bad value) says so and asks before it is
+    // written over; No keeps it.
+    const QString path = dir + u"part.qrb"_s;
+    QByteArray bytes = TestEnvironment::readFile(TestEnvironment::sampleRulebase());
+    ASSERT_TRUE(bytes.contains("<CategoryList LastID=\"14\">"));
+    bytes.replace("<CategoryList LastID=\"14\">", "<CategoryList LastID=\"fourteen\">");
+    TestEnvironment::writeFile(path, bytes);
     ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, path));
     EXPECT_TRUE(app.rulebase()->LoadedInPart());
     EXPECT_FALSE(app.rulebase()->Dirty());
     ui.messages.clear();
-
-    // No keeps the file as it is.
     ui.answers = {MessageResult::No};
     EXPECT_FALSE(app.SaveRulebase());
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_TRUE(ui.messages[0].text.contains(u"loaded only in part"_s));
+    EXPECT_EQ(ui.messages[0].defaultButton, MessageResult::No);
     EXPECT_EQ(TestEnvironment::readFile(path), bytes);
 
     // Save As to another file asks nothing; Yes over the file itself writes it.
@@ -259,7 +242,7 @@ TEST_F(ApplicationTest, UnsavedChangesAreAskedAboutAndCancelStopsEverything)
     EXPECT_TRUE(app.rulebase()->Dirty());
 }
 
-TEST_F(ApplicationTest, NewStaysInTheCurrentViewWhileOpenGoesToTheCategoryView)
+TEST_F(ApplicationTest, NewStaysInTheViewSaveAsNamesOnlyOnSuccessAndOpenGoesToCategories)
 {
     const QString file = writeRulebase(u"file.qrb"_s);
     Application app(&form, countingViews());
@@ -272,26 +255,8 @@ TEST_F(ApplicationTest, NewStaysInTheCurrentViewWhileOpenGoesToTheCategoryView)
     EXPECT_EQ(populates(), before + 1);
     EXPECT_FALSE(app.rulebase()->Dirty());
 
-    ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, file));
-    EXPECT_EQ(app.CurrentViewName(), u"tlCategoryView"_s);
-
-    // Switching to the current view, in any case, does nothing at all.
-    const qsizetype populated = populates();
-    const qsizetype calls = form.calls.size();
-    app.SwitchView(u"TLCATEGORYVIEW"_s);
-    EXPECT_EQ(populates(), populated);
-    EXPECT_EQ(form.calls.size(), calls);
-    // An unknown name leaves the view as it is.
-    app.SwitchView(u"tlNoSuchView"_s);
-    EXPECT_EQ(app.CurrentViewName(), u"tlCategoryView"_s);
-}
-
-TEST_F(ApplicationTest, SaveAsProposesTheTitleAndSetsTheNameOnlyAfterSuccess)
-{
-    Application app(&form, countingViews());
-    app.NewRulebase();
+    // Save As proposes the title, and takes the name only once the file is written.
     app.rulebase()->setTitle(u"Team Standards"_s);
-
     ui.saveAnswers = {std::nullopt};
     EXPECT_FALSE(app.SaveRulebase()); // no name yet: Save As, cancelled
     EXPECT_EQ(ui.fileRequests.back().fileTitle, u"Team Standards.qrb"_s);
@@ -313,94 +278,40 @@ TEST_F(ApplicationTest, SaveAsProposesTheTitleAndSetsTheNameOnlyAfterSuccess)
     EXPECT_FALSE(app.rulebase()->Dirty());
     EXPECT_EQ(form.calls.filter(u"AddToMRUList"_s), QStringList{u"AddToMRUList "_s + target});
     EXPECT_TRUE(app.CheckForSave());
+
+    ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine, file));
+    EXPECT_EQ(app.CurrentViewName(), u"tlCategoryView"_s);
+
+    // Switching to the current view, in any case, does nothing at all.
+    const qsizetype populated = populates();
+    const qsizetype calls = form.calls.size();
+    app.SwitchView(u"TLCATEGORYVIEW"_s);
+    EXPECT_EQ(populates(), populated);
+    EXPECT_EQ(form.calls.size(), calls);
+    // An unknown name leaves the view as it is.
+    app.SwitchView(u"tlNoSuchView"_s);
+    EXPECT_EQ(app.CurrentViewName(), u"tlCategoryView"_s);
 }
 
-TEST_F(ApplicationTest, EveryQuestionThatDeletesOrDiscardsDefaultsToTheSafeAnswer)
+// Enter on a view's delete question must not delete anything.
+TEST_F(ApplicationTest, EveryViewsDeleteQuestionDefaultsToNo)
 {
-    // Each case leaves its question last; Enter must not destroy anything.
-    struct Case
-    {
-        const char *question;
-        std::function<void(Application &, MemoryMainForm &)> ask;
-        MessageResult safe;
-    };
-    const auto deleteInView = [](const QString &view) {
-        return [view](Application &app, MemoryMainForm &window) {
-            app.SwitchView(view);
-            window.listControl.click(1);
-            app.CurrentView()->DeleteItems();
-        };
-    };
-    const QString gone = dir + u"gone.qrb"_s;
-    const QString part = dir + u"part.qrb"_s;
-    writePartFile(part);
-    std::vector<Case> cases = {
-        {"delete a category",
-         [](Application &app, MemoryMainForm &) {
-             CategorySeverityForm form;
-             form.setDialogType(CategorySeverityForm::Categories);
-             form.setItemList(asKeyedList(app.rulebase()->CategoryList()));
-             form.setRulebase(app.rulebase());
-             form.Load();
-             form.Delete();
-         },
-         MessageResult::No},
-        {"delete a naming convention's condition",
-         [](Application &app, MemoryMainForm &) {
-             NamingConventionForm form;
-             form.setConvention(std::make_shared<NamingConvention>());
-             form.setRulebase(app.rulebase());
-             form.Load();
-             form.screen().txtCondition = u"Quorin.ApplyConvention"_s;
-             form.cmdDelete_Click();
-         },
-         MessageResult::No},
-        {"drop the document designer's changes",
-         [](Application &app, MemoryMainForm &) {
-             RulebaseDocCreatorForm form;
-             form.setRulebase(app.rulebase());
-             form.Load();
-             form.clickSection(2);
-             form.moveSectionUp();
-             form.Cancel();
-         },
-         MessageResult::No},
-        {"close the condition editor with changes",
-         [](Application &, MemoryMainForm &) {
-             RuleEditorModel editor;
-             editor.setRuleCode(u"Sub Main\r\nEnd Sub"_s);
-             editor.CloseTool(u"Sub Main\r\n  x = 1\r\nEnd Sub"_s);
-         },
-         MessageResult::Cancel},
-        {"remove a missing file from the recent list",
-         [&](Application &app, MemoryMainForm &) {
-             app.OpenRulebase(Application::OpenMode::RecentList, gone);
-         },
-         MessageResult::No},
-        {"write over a file that loaded in part",
-         [&](Application &app, MemoryMainForm &) {
-             app.OpenRulebase(Application::OpenMode::CommandLine, part);
-             app.SaveRulebase();
-         },
-         MessageResult::No},
-    };
     for (const char *view : {"tlCodingConventions",
                              "tlNamingConventions",
                              "tlCategoryView",
                              "tlSeverityView",
-                             "tlAuthorisedItems"})
-        cases.push_back({view, deleteInView(QLatin1String(view)), MessageResult::No});
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.question);
+                             "tlAuthorisedItems"}) {
+        SCOPED_TRACE(view);
         MemoryMainForm window;
         Application app(&window, createView);
         ASSERT_TRUE(app.OpenRulebase(Application::OpenMode::CommandLine,
                                      TestEnvironment::sampleRulebase()));
+        app.SwitchView(QLatin1String(view));
+        window.listControl.click(1);
         ui.messages.clear();
-        c.ask(app, window);
-        ASSERT_FALSE(ui.messages.empty());
-        EXPECT_NE(ui.messages.back().buttons, MessageButtons::OK)
-            << ui.messages.back().text.toStdString();
-        EXPECT_EQ(ui.messages.back().defaultButton, c.safe);
+        app.CurrentView()->DeleteItems();
+        ASSERT_EQ(ui.messages.size(), 1u);
+        EXPECT_EQ(ui.messages[0].buttons, MessageButtons::YesNo);
+        EXPECT_EQ(ui.messages[0].defaultButton, MessageResult::No);
     }
 }

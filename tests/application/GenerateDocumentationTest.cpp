@@ -7,6 +7,7 @@
 #include "rulebase/Rulebase.h"
 #include "views/IMainForm.h"
 
+#include "../editors/RulebaseFormScripts.h"
 #include "support/MemoryMainForm.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
@@ -15,31 +16,9 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Runs the wizard as a person would, through the form's own buttons.
-class ScriptedDocFactory final : public IFormFactory
-{
-public:
-    ScriptedDocFactory() { IFormFactory::install(this); }
-    ~ScriptedDocFactory() override { IFormFactory::install(nullptr); }
-
-    bool runDocCreator(RulebaseDocCreatorForm &form) override
-    {
-        ++runs;
-        form.Load();
-        sectionsSeen = int(form.sectionRows().size());
-        return script ? script(form) : false;
-    }
-
-    std::function<bool(RulebaseDocCreatorForm &)> script;
-    int runs = 0;
-    int sectionsSeen = 0;
-};
 
 class GenerateDocumentationTest : public ::testing::Test
 {
@@ -60,7 +39,7 @@ protected:
 
     const QString question = u"Do you wish to generate the Rulebase documentation?"_s;
     ScriptedUserInterface ui;
-    ScriptedDocFactory factory;
+    RulebaseFormScripts scripts;
     MemoryMainForm window;
     Application app{&window};
     QString folder;
@@ -72,14 +51,18 @@ protected:
 TEST_F(GenerateDocumentationTest, TheQuestionAfterOKDecidesAndCancelOrNoDialogWritesNothing)
 {
     // The sample's plan gains categories on opening, so Cancel asks before dropping them.
-    factory.script = [](RulebaseDocCreatorForm &form) { return !form.Cancel(); };
+    scripts.docCreator = [](RulebaseDocCreatorForm &form) {
+        form.Load();
+        EXPECT_GT(form.sectionRows().size(), 6u);
+        return !form.Cancel();
+    };
     ui.answers = {MessageResult::Yes};
     app.GenerateDocumentation();
-    EXPECT_GT(factory.sectionsSeen, 6);
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_NE(ui.messages[0].text, question);
 
-    factory.script = [](RulebaseDocCreatorForm &form) {
+    scripts.docCreator = [](RulebaseDocCreatorForm &form) {
+        form.Load();
         form.OK();
         return true;
     };
@@ -98,7 +81,8 @@ TEST_F(GenerateDocumentationTest, TheQuestionAfterOKDecidesAndCancelOrNoDialogWr
 
     // Generated inside the dialog: no second question, the document just opens.
     QFile::remove(document);
-    factory.script = [](RulebaseDocCreatorForm &form) {
+    scripts.docCreator = [](RulebaseDocCreatorForm &form) {
+        form.Load();
         EXPECT_TRUE(form.Generate());
         form.OK();
         return true;
@@ -113,8 +97,8 @@ TEST_F(GenerateDocumentationTest, TheQuestionAfterOKDecidesAndCancelOrNoDialogWr
     const qint32 count = app.rulebase()->Report()->Sections()->Count();
     IFormFactory::install(nullptr);
     app.GenerateDocumentation();
-    IFormFactory::install(&factory);
-    EXPECT_EQ(factory.runs, 4);
+    IFormFactory::install(&scripts);
+    EXPECT_EQ(scripts.runs, 4);
     EXPECT_EQ(app.rulebase()->Report()->Sections()->Count(), count);
     EXPECT_FALSE(app.rulebase()->Dirty());
     EXPECT_EQ(ui.unscriptedQuestions, 0);

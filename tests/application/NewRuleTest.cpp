@@ -19,13 +19,12 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// Rule dialogs that run a script on the rule instead of a person, and record what they were told.
+// Rule dialogs that keep the rule they are handed instead of a person, and record what they
+// were told.
 class ScriptedForms final : public IFormFactory
 {
 public:
@@ -34,15 +33,19 @@ public:
 
     std::unique_ptr<IConventionForm> createConventionForm(qint32 ruleType) override;
 
+    // The rule as the last dialog showed it, with the application's preselection.
+    qint32 category() const { return shown->ViolationDefinition()->CategoryID(); }
+    qint32 severity() const { return shown->ViolationDefinition()->Severity(); }
+    template<class Rule>
+    std::shared_ptr<Rule> shownAs() const
+    {
+        return std::dynamic_pointer_cast<Rule>(shown);
+    }
+
     bool confirm = false;
     QList<qint32> created;
     RuleDialogContext lastContext;
-    // What the rule looked like when the dialog opened, for the preselection.
-    QString eventsAtShow;
-    qint32 categoryAtShow = 0;
-    qint32 severityAtShow = 0;
-    qint32 objectAtShow = 0;
-    qint32 propertyAtShow = 0;
+    std::shared_ptr<IRule> shown;
 };
 
 class ScriptedForm final : public IConventionForm
@@ -52,30 +55,18 @@ public:
         : m_forms(forms)
     {
     }
-    void setConvention(const std::shared_ptr<IRule> &rule) override { m_rule = rule; }
+    void setConvention(const std::shared_ptr<IRule> &rule) override { m_forms.shown = rule; }
     void setContext(const RuleDialogContext &context) override { m_forms.lastContext = context; }
-    bool Cancelled() const override { return m_cancelled; }
+    bool Cancelled() const override { return !m_forms.confirm; }
     void Show() override
     {
-        const auto def = m_rule->ViolationDefinition();
-        m_forms.categoryAtShow = def->CategoryID();
-        m_forms.severityAtShow = def->Severity();
-        if (auto cc = std::dynamic_pointer_cast<CodingConvention>(m_rule))
-            m_forms.eventsAtShow = cc->ParserEventList();
-        if (auto nc = std::dynamic_pointer_cast<NamingConvention>(m_rule)) {
-            m_forms.objectAtShow = nc->ObjectType();
-            m_forms.propertyAtShow = nc->PropertyType();
-        }
         // The real dialogs always leave a severity chosen.
-        if (m_forms.confirm && def->Severity() == 0)
-            def->setSeverity(1);
-        m_cancelled = !m_forms.confirm;
+        if (m_forms.confirm && m_forms.severity() == 0)
+            m_forms.shown->ViolationDefinition()->setSeverity(1);
     }
 
 private:
     ScriptedForms &m_forms;
-    std::shared_ptr<IRule> m_rule;
-    bool m_cancelled = true;
 };
 
 std::unique_ptr<IConventionForm> ScriptedForms::createConventionForm(qint32 ruleType)
@@ -125,43 +116,43 @@ TEST_F(NewRuleTest, PreselectsFromTheSelectedNodeOfEachView)
     clickNode("30Key");
     EXPECT_EQ(app->NewCodingConvention(cancelled), nullptr);
     EXPECT_TRUE(cancelled);
-    EXPECT_EQ(forms.eventsAtShow, u"30"_s);
-    EXPECT_EQ(forms.categoryAtShow, -1);
+    EXPECT_EQ(forms.shownAs<CodingConvention>()->ParserEventList(), u"30"_s);
+    EXPECT_EQ(forms.category(), -1);
     EXPECT_EQ(forms.lastContext.rulebase, app->rulebase());
     EXPECT_TRUE(forms.lastContext.editCategories);
     app->NewNamingConvention(cancelled);
-    EXPECT_EQ(forms.objectAtShow, 0);
+    EXPECT_EQ(forms.shownAs<NamingConvention>()->ObjectType(), 0);
 
     app->SwitchView("tlNamingConventions");
     clickNode("28Key");
     app->NewNamingConvention(cancelled);
-    EXPECT_EQ(forms.objectAtShow, 28);
-    EXPECT_EQ(forms.propertyAtShow, 37);
+    EXPECT_EQ(forms.shownAs<NamingConvention>()->ObjectType(), 28);
+    EXPECT_EQ(forms.shownAs<NamingConvention>()->PropertyType(), 37);
     app->NewCodingConvention(cancelled);
-    EXPECT_TRUE(forms.eventsAtShow.isEmpty());
+    EXPECT_TRUE(forms.shownAs<CodingConvention>()->ParserEventList().isEmpty());
 
     app->SwitchView("tlSeverityView");
     clickNode("2Key");
     app->NewCodingConvention(cancelled);
-    EXPECT_EQ(forms.severityAtShow, 2);
+    EXPECT_EQ(forms.severity(), 2);
     app->NewNamingConvention(cancelled);
-    EXPECT_EQ(forms.severityAtShow, 2);
-    EXPECT_EQ(forms.categoryAtShow, -1);
+    EXPECT_EQ(forms.severity(), 2);
+    EXPECT_EQ(forms.category(), -1);
     // No preselection for an unauthorised keyword.
     app->NewUnauthorisedKeyword(cancelled);
-    EXPECT_EQ(forms.severityAtShow, 0);
+    EXPECT_EQ(forms.severity(), 0);
 
     app->SwitchView("tlCategoryView");
     const QString categoryKey = form.treeControl.key(2);
     clickNode(categoryKey);
     app->NewNamingConvention(cancelled);
     ASSERT_NE(Text::valLong(categoryKey), 0);
-    EXPECT_EQ(forms.categoryAtShow, Text::valLong(categoryKey));
-    EXPECT_EQ(forms.severityAtShow, 0);
+    EXPECT_EQ(forms.category(), Text::valLong(categoryKey));
+    EXPECT_EQ(forms.severity(), 0);
     // The root reads 0: nothing is preselected.
     clickNode("Category");
     app->NewCodingConvention(cancelled);
-    EXPECT_EQ(forms.categoryAtShow, -1);
+    EXPECT_EQ(forms.category(), -1);
 
     EXPECT_EQ(forms.created, (QList<qint32>{4, 5, 5, 4, 4, 5, 3, 5, 4}));
     // Cancel adds nothing, and leaves the rulebase as it was read.

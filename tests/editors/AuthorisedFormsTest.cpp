@@ -49,7 +49,7 @@ QByteArray projectUsing(const char *guid, const char *version, const char *file)
 
 } // namespace
 
-TEST(AuthorisedComponentForm, ANewItemStartsEmptyWithOKAndAdviceDisabled)
+TEST(AuthorisedItemForms, OKNeedsGuidAndFileOrDescriptionAndTheAdviceNeedsVersions)
 {
     auto item = std::make_shared<AuthorisedComponent>();
     AuthorisedComponentForm form(item);
@@ -68,27 +68,31 @@ TEST(AuthorisedComponentForm, ANewItemStartsEmptyWithOKAndAdviceDisabled)
     EXPECT_TRUE(form.OKEnabled());
     form.setFilename(QString());
     EXPECT_FALSE(form.OKEnabled());
-}
+    // A reference needs a description instead of the file name.
+    AuthorisedReferenceForm reference(std::make_shared<AuthorisedReference>());
+    reference.setFilename(u"x.dll"_s);
+    reference.setGUID(u"{G}"_s);
+    EXPECT_FALSE(reference.OKEnabled());
+    reference.setDescription(u"X Library"_s);
+    EXPECT_TRUE(reference.OKEnabled());
+    reference.setFilename(QString());
+    EXPECT_TRUE(reference.OKEnabled());
 
-TEST(AuthorisedComponentForm, AKnownItemFillsTheFieldsAndOKWritesThemBack)
-{
-    auto item = std::make_shared<AuthorisedComponent>();
+    // A known item fills the fields; a property macro goes in at the caret, over the selection.
     item->setFilename(u"MSCOMCTL.OCX"_s);
     item->setLibID(u"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}"_s);
     item->setVersionList(u"2.0; 2.1"_s);
     item->setAdvice(u"Use 2.1."_s);
-    AuthorisedComponentForm form(item);
-    EXPECT_TRUE(form.OKEnabled());
-    EXPECT_TRUE(form.AdviceEnabled());
-    EXPECT_TRUE(form.ObjectPropertyEnabled());
-
-    // A property macro goes in at the caret, over the selection.
-    const int caret = form.InsertIntoAdvice(form.ObjectPropertyMacro(u"Filename"_s), 4, 3);
-    EXPECT_EQ(form.Advice(), u"Use %Component.Filename%."_s);
+    AuthorisedComponentForm known(item);
+    EXPECT_TRUE(known.OKEnabled());
+    EXPECT_TRUE(known.AdviceEnabled());
+    EXPECT_TRUE(known.ObjectPropertyEnabled());
+    const int caret = known.InsertIntoAdvice(known.ObjectPropertyMacro(u"Filename"_s), 4, 3);
+    EXPECT_EQ(known.Advice(), u"Use %Component.Filename%."_s);
     EXPECT_EQ(caret, 24);
-    form.setVersions(u"2.2"_s);
-    ASSERT_TRUE(form.OK());
-    EXPECT_FALSE(form.Cancelled());
+    known.setVersions(u"2.2"_s);
+    ASSERT_TRUE(known.OK());
+    EXPECT_FALSE(known.Cancelled());
     EXPECT_EQ(item->VersionList(), u"2.2"_s);
     EXPECT_EQ(item->Advice(), u"Use %Component.Filename%."_s);
     EXPECT_EQ(item->LibID(), u"{831FDD16-0C5C-11D2-A9FC-0000F8754DA1}"_s);
@@ -108,7 +112,7 @@ TEST(AuthorisedComponentForm, AKnownItemFillsTheFieldsAndOKWritesThemBack)
     EXPECT_FALSE(item->Advice().isEmpty());
 }
 
-TEST(AuthorisedComponentForm, BrowseReadsTheLibraryOrWarnsAndKeepsThePath)
+TEST(AuthorisedItemForms, BrowseReadsTheLibraryOrWarnsAndKeepsThePath)
 {
     if (!QFileInfo::exists(typelibFile("GridCtl.ocx")))
         GTEST_SKIP() << "no shared type library data";
@@ -148,37 +152,23 @@ TEST(AuthorisedComponentForm, BrowseReadsTheLibraryOrWarnsAndKeepsThePath)
     form.Cancel();
     EXPECT_TRUE(item->Filename().isEmpty());
     EXPECT_TRUE(item->LibID().isEmpty());
-}
 
-TEST(AuthorisedReferenceForm, DescriptionAndGuidEnableOKAndBrowseTakesTheHelpString)
-{
-    auto item = std::make_shared<AuthorisedReference>();
-    AuthorisedReferenceForm form(item);
-    // The file name is not what a reference needs.
-    form.setFilename(u"x.dll"_s);
-    form.setGUID(u"{G}"_s);
-    EXPECT_FALSE(form.OKEnabled());
-    form.setDescription(u"X Library"_s);
-    EXPECT_TRUE(form.OKEnabled());
-    form.setFilename(QString());
-    EXPECT_TRUE(form.OKEnabled());
-
-    if (!QFileInfo::exists(typelibFile("ReportLib.tlb")))
-        GTEST_SKIP() << "no shared type library data";
-    ScriptedUserInterface ui;
+    // A reference takes the library's help string as its description.
+    auto reference = std::make_shared<AuthorisedReference>();
+    AuthorisedReferenceForm referenceForm(reference);
     ui.openAnswers = {typelibFile("ReportLib.tlb")};
-    ASSERT_TRUE(form.Browse());
-    EXPECT_EQ(ui.fileRequests[0].fileType, 7);
-    EXPECT_EQ(form.Description(), u"Report Engine 2.5 Type Library"_s);
-    EXPECT_EQ(form.GUID(), u"{0F9E8D7C-6B5A-4938-2716-05F4E3D2C1B0}"_s);
-    EXPECT_EQ(form.Versions(), u"2.5"_s);
-    ASSERT_TRUE(form.OK());
-    EXPECT_EQ(item->Description(), u"Report Engine 2.5 Type Library"_s);
-    EXPECT_EQ(item->Filename(), typelibFile("ReportLib.tlb"));
-    EXPECT_EQ(item->VersionList(), u"2.5"_s);
+    ASSERT_TRUE(referenceForm.Browse());
+    EXPECT_EQ(ui.fileRequests.back().fileType, 7);
+    EXPECT_EQ(referenceForm.Description(), u"Report Engine 2.5 Type Library"_s);
+    EXPECT_EQ(referenceForm.GUID(), u"{0F9E8D7C-6B5A-4938-2716-05F4E3D2C1B0}"_s);
+    EXPECT_EQ(referenceForm.Versions(), u"2.5"_s);
+    ASSERT_TRUE(referenceForm.OK());
+    EXPECT_EQ(reference->Description(), u"Report Engine 2.5 Type Library"_s);
+    EXPECT_EQ(reference->Filename(), typelibFile("ReportLib.tlb"));
+    EXPECT_EQ(reference->VersionList(), u"2.5"_s);
 
     // A truncated library: the warning, and the description stays as it was.
-    AuthorisedReferenceForm second(item);
+    AuthorisedReferenceForm second(reference);
     ui.openAnswers = {typelibFile("Truncated.tlb")};
     ASSERT_TRUE(second.Browse());
     EXPECT_EQ(ui.messages.back().text, noLibraryWarning);

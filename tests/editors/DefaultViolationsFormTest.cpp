@@ -1,11 +1,12 @@
 #include "editors/DefaultViolationsForm.h"
 
-#include "rulebase/CategoryItem.h"
 #include "rulebase/CategoryList.h"
 #include "rulebase/DefaultViolations.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/SeverityItem.h"
 #include "rulebase/ViolationDefinition.h"
+
+#include "EditorsTestSupport.h"
 
 #include <gtest/gtest.h>
 
@@ -17,11 +18,6 @@ struct Opened
 {
     Opened()
     {
-        for (const char *title : {"Style", "Safety"}) {
-            auto category = std::make_shared<CategoryItem>();
-            category->setTitle(QLatin1String(title));
-            rulebase->CategoryList()->Add(category, true);
-        }
         rulebase->setDirty(false);
         rulebase->DefaultViolations()->setDirty(false);
         form.setDefaultViolations(rulebase->DefaultViolations());
@@ -34,7 +30,7 @@ struct Opened
         return rulebase->DefaultViolations()->ItemByType(type);
     }
 
-    std::shared_ptr<Rulebase> rulebase = std::make_shared<Rulebase>();
+    std::shared_ptr<Rulebase> rulebase = EditorsTest::rulebaseWithCategories();
     DefaultViolationsForm form;
 };
 

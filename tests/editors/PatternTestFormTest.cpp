@@ -7,7 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(ScriptPattern, KeepsTheAuthorsMeaning)
+TEST(ScriptPattern, KeepsTheAuthorsMeaningAndTellsTheFiveFaultsWithTheirPosition)
 {
     // Case is ignored unless asked for.
     EXPECT_TRUE(ScriptPattern("GOTO", false).test("x = 1: goto Fail"));
@@ -22,10 +22,8 @@ TEST(ScriptPattern, KeepsTheAuthorsMeaning)
     // An empty text is a normal test.
     EXPECT_FALSE(ScriptPattern("x", false).test(QString()));
     EXPECT_TRUE(ScriptPattern("x*", false).test(QString()));
-}
 
-TEST(ScriptPattern, TellsTheFiveFaultsWithTheirPosition)
-{
+    // The five faults, told with their position.
     const struct
     {
         const char *pattern;

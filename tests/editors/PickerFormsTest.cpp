@@ -23,7 +23,7 @@ int rowOf(const std::vector<ObjectPropertyForm::ListEntry> &list, qint32 id)
 
 } // namespace
 
-TEST(ObjectPropertyForm, PropertyModePicksAPropertyOrANameByHand)
+TEST(ObjectPropertyForm, PropertyModePicksAPropertyOrANameByHandAndObjectModeTheObject)
 {
     ObjectPropertyForm form;
     form.setSelectionMode(ObjectPropertyForm::PropertyMode);
@@ -58,6 +58,16 @@ TEST(ObjectPropertyForm, PropertyModePicksAPropertyOrANameByHand)
 
     form.cmdCancel_Click();
     EXPECT_TRUE(form.UserSelection().isEmpty());
+
+    // The object mode needs the object alone.
+    ObjectPropertyForm objects;
+    objects.setSelectionMode(ObjectPropertyForm::ObjectMode);
+    objects.setObjectListType(ObjectListType::CodingConvention);
+    objects.Load();
+    EXPECT_FALSE(objects.screen().lvwPropertyVisible);
+    EXPECT_TRUE(objects.cmdOKEnabled());
+    objects.cmdOK_Click();
+    EXPECT_EQ(objects.UserSelection(), "%" + objects.screen().lvwObject[0].text + "%");
 }
 
 TEST(ObjectPropertyForm, WorkfieldModesExtendTheCallersList)
@@ -105,18 +115,6 @@ TEST(ObjectPropertyForm, WorkfieldModesExtendTheCallersList)
     ASSERT_GE(source, 0);
     form.lvwObject_Click(source);
     EXPECT_EQ(rowOf(s.lvwProperty, ObjectPropertyForm::workfieldsProperty), -1);
-}
-
-TEST(ObjectPropertyForm, ObjectModeNeedsTheObjectAlone)
-{
-    ObjectPropertyForm form;
-    form.setSelectionMode(ObjectPropertyForm::ObjectMode);
-    form.setObjectListType(ObjectListType::CodingConvention);
-    form.Load();
-    EXPECT_FALSE(form.screen().lvwPropertyVisible);
-    EXPECT_TRUE(form.cmdOKEnabled());
-    form.cmdOK_Click();
-    EXPECT_EQ(form.UserSelection(), "%" + form.screen().lvwObject[0].text + "%");
 }
 
 TEST(ParserEventForm, PicksANodeOfTheRuleTree)

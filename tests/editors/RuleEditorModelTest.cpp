@@ -101,6 +101,7 @@ TEST(RuleEditorModel, ClosingAsksOnlyAboutRealChangesAndFollowsTheEditorsState)
     EXPECT_FALSE(m.SaveOnClose());
     ASSERT_EQ(ui.messages.size(), 2u);
     EXPECT_EQ(ui.messages[0].buttons, MessageButtons::YesNoCancel);
+    EXPECT_EQ(ui.messages[0].defaultButton, MessageResult::Cancel);
     EXPECT_EQ(ui.messages[1].title, syntaxTitle);
     ui.answers = {MessageResult::Yes};
     EXPECT_EQ(m.QueryUnload(faulty, true, 0), U::Stay);

@@ -28,7 +28,6 @@ addCategory(Rulebase &rulebase, const QString &title, bool hidden = false)
 {
     auto item = std::make_shared<CategoryItem>();
     item->setTitle(title);
-    item->setDescription(title + u" rules."_s);
     item->setHidden(hidden);
     rulebase.CategoryList()->Add(item, true);
     return item;
@@ -40,7 +39,6 @@ addRule(Rulebase &rulebase, const QString &title, qint32 categoryID, bool active
 {
     auto rule = std::make_shared<Rule>();
     rule->setTitle(title);
-    rule->setDescription(u"About "_s + title);
     rule->setCategoryID(categoryID);
     rule->setRuleActive(active);
     rulebase.RuleLists()->AddConvention(rule, true);
@@ -146,21 +144,35 @@ TEST_F(DocCreatorForm, AStoredPlanFollowsTheRulebaseAcrossRuns)
         RulebaseDocCreatorForm first;
         first.setRulebase(rulebase);
         first.Load();
-        // Beta logging to the top of Errors, Naming above Errors, and the scope table out.
+        // Naming above Errors, Zeta handler to the bottom of Errors, and the scope table out;
+        // rows and selection follow each move, and a move past an end does nothing.
         first.clickSection(0);
-        first.clickRule(2);
-        first.moveRuleUp();
-        first.moveRuleUp();
+        EXPECT_FALSE(first.moveSectionUpEnabled());
+        first.moveSectionUp();
         first.moveSectionDown();
+        EXPECT_EQ(sectionKeys(*first.Sections()).left(8), u"2K 1K 1T"_s);
+        EXPECT_EQ(rowKeys(first.sectionRows()), sectionKeys(*first.Sections()));
+        EXPECT_EQ(first.selectedSection(), 1);
+        first.clickRule(0);
+        EXPECT_FALSE(first.moveRuleUpEnabled());
+        first.moveRuleUp();
+        first.moveRuleDown();
+        EXPECT_EQ(rowKeys(first.ruleRows()), u"5002R 5000R 5007R"_s);
+        EXPECT_EQ(first.selectedRule(), 1);
+        EXPECT_TRUE(first.moveRuleUpEnabled());
+        EXPECT_TRUE(first.moveRuleDownEnabled());
+        first.moveRuleDown();
+        EXPECT_FALSE(first.moveRuleDownEnabled());
         first.checkTable(2, false);
+        EXPECT_TRUE(first.DocHasChanged());
         first.OK();
     }
-    EXPECT_EQ(ruleIDs(*sectionOf(*rulebase, 1)), u"5007 5000 5002"_s);
+    EXPECT_EQ(ruleIDs(*sectionOf(*rulebase, 1)), u"5002 5007 5000"_s);
 
     // Between runs: a new rule, a rule switched off, Errors' partner category hidden, the
     // hidden one shown again, and the dormant category woken up.
     addRule(*rulebase, u"Aardvark check"_s, errors->ID()); // 5008
-    rulebase->RuleLists()->AllConventions()->Item(u"5000Key"_s)->setRuleActive(false);
+    rulebase->RuleLists()->AllConventions()->Item(u"5002Key"_s)->setRuleActive(false);
     naming->setHidden(true);
     secret->setHidden(false);
     rulebase->RuleLists()->AllConventions()->Item(u"5003Key"_s)->setRuleActive(true);
@@ -170,7 +182,7 @@ TEST_F(DocCreatorForm, AStoredPlanFollowsTheRulebaseAcrossRuns)
     second.setRulebase(rulebase);
     const auto &sections = *rulebase->Report()->Sections();
     EXPECT_EQ(sectionKeys(sections), u"1K 1T 2T 4T 5T 6T 3K 4K"_s);
-    EXPECT_EQ(ruleIDs(*sectionOf(*rulebase, 1)), u"5007 5002 5008"_s);
+    EXPECT_EQ(ruleIDs(*sectionOf(*rulebase, 1)), u"5007 5000 5008"_s);
     EXPECT_EQ(sectionOf(*rulebase, 1)->Title(), u"Error Handling"_s);
     EXPECT_EQ(ruleIDs(*sectionOf(*rulebase, 3)), u"5003"_s);
     EXPECT_EQ(ruleIDs(*sectionOf(*rulebase, 4)), u"5004"_s);
@@ -191,36 +203,6 @@ TEST_F(DocCreatorForm, AStoredPlanFollowsTheRulebaseAcrossRuns)
     for (const DocCreatorRow &row : third.tableRows())
         checks.push_back(row.checked);
     EXPECT_EQ(checks, (std::vector<bool>{true, true, false, true, true, true}));
-}
-
-TEST_F(DocCreatorForm, MovesChangeThePlanAndTheRowsTogether)
-{
-    RulebaseDocCreatorForm form;
-    form.setRulebase(rulebase);
-    form.Load();
-    form.clickSection(1);
-    form.moveSectionUp();
-    EXPECT_EQ(sectionKeys(*form.Sections()).left(8), u"2K 1K 1T"_s);
-    EXPECT_EQ(rowKeys(form.sectionRows()), sectionKeys(*form.Sections()));
-    EXPECT_EQ(form.selectedSection(), 0);
-    EXPECT_FALSE(form.moveSectionUpEnabled());
-    // Up at the top does nothing.
-    form.moveSectionUp();
-    EXPECT_EQ(form.sectionRows()[0].key, u"2K"_s);
-
-    form.clickSection(1);
-    form.clickRule(0);
-    form.moveRuleDown();
-    EXPECT_EQ(ruleIDs(*sectionOf(*rulebase, 1)), u"5002 5000 5007"_s);
-    EXPECT_EQ(rowKeys(form.ruleRows()), u"5002R 5000R 5007R"_s);
-    EXPECT_EQ(form.selectedRule(), 1);
-    EXPECT_TRUE(form.moveRuleUpEnabled());
-    EXPECT_TRUE(form.moveRuleDownEnabled());
-    form.moveRuleDown();
-    EXPECT_FALSE(form.moveRuleDownEnabled());
-    form.moveRuleDown();
-    EXPECT_EQ(ruleIDs(*sectionOf(*rulebase, 1)), u"5002 5007 5000"_s);
-    EXPECT_TRUE(form.DocHasChanged());
 }
 
 TEST_F(DocCreatorForm, AnUncheckedTableComesBackLastWithItsText)
@@ -292,10 +274,12 @@ TEST_F(DocCreatorForm, CancelPutsBackThePlanAsItWasFound)
     ui.answers.push_back(MessageResult::No);
     EXPECT_FALSE(form.Cancel());
     EXPECT_FALSE(form.Cancelled());
+    EXPECT_EQ(sectionKeys(*form.Sections()).left(5), u"2K 1K"_s);
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_EQ(ui.messages[0].text,
               u"Document content has changed. Continue without saving changes?"_s);
     EXPECT_EQ(ui.messages[0].buttons, MessageButtons::YesNo);
+    EXPECT_EQ(ui.messages[0].defaultButton, MessageResult::No);
     EXPECT_EQ(rulebase->Report()->Sections(), form.Sections());
 
     ui.answers.push_back(MessageResult::Yes);

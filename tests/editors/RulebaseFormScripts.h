@@ -27,6 +27,7 @@ public:
         return run(rulebaseProperties, form);
     }
     bool runTagList(TagListForm &form) override { return run(tagList, form); }
+    bool runDocCreator(RulebaseDocCreatorForm &form) override { return run(docCreator, form); }
 
     std::function<bool(CategorySeverityForm &)> categorySeverity;
     std::function<bool(CategoryEditorForm &)> categoryEditor;
@@ -34,6 +35,7 @@ public:
     std::function<bool(DefaultViolationsForm &)> defaultViolations;
     std::function<bool(RulebasePropertiesForm &)> rulebaseProperties;
     std::function<bool(TagListForm &)> tagList;
+    std::function<bool(RulebaseDocCreatorForm &)> docCreator;
     int runs = 0;
 
 private:

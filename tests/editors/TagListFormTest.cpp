@@ -22,19 +22,11 @@ QStringList names(const TagList &list)
     return out;
 }
 
-qint32 rowNamed(const TagList &list, const QString &name)
-{
-    for (qint32 i = 1; i <= list.Count(); ++i) {
-        if (list.Item(i)->TagName() == name)
-            return i;
-    }
-    return 0;
-}
-
 } // namespace
 
-TEST(TagListForm, DataTypesKeepTheirStereotypesOnTheSecondTab)
+TEST(TagListForm, DataTypesKeepTheirStereotypesAndCancelOrARepeatedNameKeepTheSet)
 {
+    ScriptedUserInterface ui;
     Rulebase rulebase;
     TagListForm form;
     form.setUseCTagsAsDTTags(true);
@@ -60,6 +52,31 @@ TEST(TagListForm, DataTypesKeepTheirStereotypesOnTheSecondTab)
     EXPECT_EQ(names(*rulebase.DataTypeTags()).first(), u"Any"_s);
     EXPECT_EQ(names(*rulebase.DataTypeTags()).last(), u"(User Documents)"_s);
     EXPECT_FALSE(rulebase.Dirty());
+
+    // Cancel, and a name repeated on OK, leave the set as it was.
+    const QStringList before = names(*rulebase.ControlTags());
+    TagListForm controls;
+    controls.setUnknownControlViolation(false);
+    controls.Initialise(rulebase.ControlTags(), TagListForm::ControlTags);
+    const qint32 added = controls.Insert();
+    controls.Delete(added);
+    controls.Insert();
+    controls.setOption(true);
+    controls.Cancel();
+    EXPECT_TRUE(controls.Cancelled());
+    EXPECT_FALSE(controls.UnknownControlViolation());
+    EXPECT_EQ(names(*rulebase.ControlTags()), before);
+    EXPECT_FALSE(rulebase.Dirty());
+
+    // A name repeated on OK is refused, and the set stays whole. "Friend" is unlocked to rename.
+    const QStringList scopes = names(*rulebase.ScopeTags());
+    TagListForm scopeForm;
+    scopeForm.Initialise(rulebase.ScopeTags(), TagListForm::ScopeTags);
+    scopeForm.currentList()->Item(2)->setLocked(false);
+    ASSERT_TRUE(scopeForm.grid()->setData(scopeForm.grid()->index(1, 0), u"LOCAL"_s));
+    EXPECT_FALSE(scopeForm.OK());
+    EXPECT_TRUE(scopeForm.Cancelled());
+    EXPECT_EQ(names(*rulebase.ScopeTags()), scopes);
 }
 
 TEST(TagListForm, EditsGoThroughTheSettersAndEmptyNamesAreRefused)
@@ -71,7 +88,7 @@ TEST(TagListForm, EditsGoThroughTheSettersAndEmptyNamesAreRefused)
     TagGridModel &grid = *form.grid();
 
     // A locked row: read-only name, no delete, but its value can be edited.
-    const qint32 label = rowNamed(*form.currentList(), u"VB.Label"_s);
+    const qint32 label = qint32(names(*form.currentList()).indexOf(u"VB.Label"_s)) + 1;
     ASSERT_GT(label, 0);
     EXPECT_FALSE(form.CanDelete(label));
     EXPECT_FALSE(form.NameEditable(label));
@@ -107,33 +124,4 @@ TEST(TagListForm, EditsGoThroughTheSettersAndEmptyNamesAreRefused)
     data.Initialise(rulebase.DataTypeTags(), TagListForm::DataTypeTags);
     EXPECT_FALSE(data.GridIsValid(QString()));
     EXPECT_EQ(ui.messages.back().text, u"A data type must be entered."_s);
-}
-
-TEST(TagListForm, CancelAndARepeatedNameLeaveTheSetAsItWas)
-{
-    Rulebase rulebase;
-    const QStringList before = names(*rulebase.ControlTags());
-    TagListForm form;
-    form.setUnknownControlViolation(false);
-    form.Initialise(rulebase.ControlTags(), TagListForm::ControlTags);
-    const qint32 added = form.Insert();
-    form.Delete(added);
-    form.Insert();
-    form.setOption(true);
-    form.Cancel();
-    EXPECT_TRUE(form.Cancelled());
-    EXPECT_FALSE(form.UnknownControlViolation());
-    EXPECT_EQ(names(*rulebase.ControlTags()), before);
-    EXPECT_FALSE(rulebase.Dirty());
-
-    // A name repeated on OK is refused, and the set stays whole. "Friend" is unlocked to rename.
-    ScriptedUserInterface ui;
-    const QStringList scopes = names(*rulebase.ScopeTags());
-    TagListForm scopeForm;
-    scopeForm.Initialise(rulebase.ScopeTags(), TagListForm::ScopeTags);
-    scopeForm.currentList()->Item(2)->setLocked(false);
-    ASSERT_TRUE(scopeForm.grid()->setData(scopeForm.grid()->index(1, 0), u"LOCAL"_s));
-    EXPECT_FALSE(scopeForm.OK());
-    EXPECT_TRUE(scopeForm.Cancelled());
-    EXPECT_EQ(names(*rulebase.ScopeTags()), scopes);
 }
