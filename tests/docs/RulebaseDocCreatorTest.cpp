@@ -10,6 +10,7 @@
 #include "rulebase/Report.h"
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
+#include "rulebase/RulebaseManager.h"
 #include "rulebase/TagItem.h"
 #include "rulebase/ViolationDefinition.h"
 
@@ -18,6 +19,8 @@
 
 #include <QFile>
 #include <QLocale>
+#include <QRegularExpression>
+#include <QSet>
 
 #include <gtest/gtest.h>
 
@@ -207,4 +210,27 @@ TEST_F(RulebaseDocCreatorTest, TakesTheRememberedOrganisationOrAsksOnce)
     EXPECT_TRUE(readDocument(filename).contains(
         u"\u00A9 %1 Harbour Lines. All rights reserved."_s.arg(QDate::currentDate().year())));
     EXPECT_TRUE(ui.messages.empty());
+}
+
+// A reader clicks through the contents and the category pages: every internal link must land
+// on exactly one anchor of the same document.
+TEST_F(RulebaseDocCreatorTest, EveryInternalLinkOfTheSampleDocumentHasOneAnchor)
+{
+    const auto sample = RulebaseManager().LoadRulebase(TestEnvironment::sampleRulebase());
+    ASSERT_NE(sample, nullptr);
+    sample->setFilename(folder + u"/Sample.qrb"_s);
+    const QString text = readDocument(writeDocument(*sample));
+    QSet<QString> ids;
+    for (const auto &match : QRegularExpression(u" id=\"([^\"]*)\""_s).globalMatch(text)) {
+        EXPECT_FALSE(ids.contains(match.captured(1)))
+            << "twice: " << match.captured(1).toStdString();
+        ids.insert(match.captured(1));
+    }
+    int links = 0;
+    for (const auto &match : QRegularExpression(u"<a href=\"#([^\"]*)\""_s).globalMatch(text)) {
+        ++links;
+        EXPECT_TRUE(ids.contains(match.captured(1)))
+            << "broken: " << match.captured(1).toStdString();
+    }
+    EXPECT_GT(links, 50);
 }
