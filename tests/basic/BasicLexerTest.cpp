@@ -2,11 +2,6 @@
 
 #include "basic/BasicLexer.h"
 
-#include <QString>
-#include <QStringList>
-
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -59,6 +54,7 @@ TEST(BasicLexer, SortsEveryKindOfToken)
          u"Id:Remark|Op:=|Num:1|Rem:' note|EOL|Rem:REM all of it|EOL|Id:x|Op:=|Num:1|Punct::|"
          u"Rem:Rem tail"_s},
         {u"If a Then Rem why"_s, u"Kw:If|Id:a|Kw:Then|Rem:Rem why"_s},
+        {u"elseif WITHEVENTS Quorin"_s, u"Kw:elseif|Kw:WITHEVENTS|Id:Quorin"_s},
         {u"10 Rem numbered\nRem = 1 + Rem"_s, u"Num:10|Rem:Rem numbered|EOL|Rem:Rem = 1 + Rem"_s},
     };
     for (const auto &[text, tokens] : rows)
@@ -98,11 +94,4 @@ TEST(BasicLexer, FlagsUnterminatedStringsAndStrayCharacters)
     EXPECT_EQ(tokens[2].length, 5);
     EXPECT_EQ(tokens[5].kind, T::Invalid);
     EXPECT_EQ(tokens[5].column, 3);
-}
-
-TEST(BasicLexer, KeywordsIgnoreCase)
-{
-    EXPECT_EQ(BasicLexer::keywordFor(u"elseif"), BasicKeyword::ElseIf);
-    EXPECT_EQ(BasicLexer::keywordFor(u"WITHEVENTS"), BasicKeyword::WithEvents);
-    EXPECT_EQ(BasicLexer::keywordFor(u"Quorin"), BasicKeyword::None);
 }

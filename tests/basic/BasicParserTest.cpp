@@ -9,10 +9,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString firstError(const QStringList &lines)
+QString firstError(const char *text)
 {
     BasicSyntaxChecker checker;
-    if (checker.check(script(lines)))
+    if (checker.check(code(text)))
         return u"OK"_s;
     return u"%1:%2 %3"_s.arg(checker.errorLine())
         .arg(checker.errorColumn())
@@ -40,128 +40,103 @@ TEST(BasicParser, OperatorsBindByPrecedence)
 
 TEST(BasicParser, PlacesEachErrorWhereABasicIdeWould)
 {
-    struct Case
-    {
-        QStringList lines;
-        const char *expected;
-    };
-    const Case cases[] = {
-        {{"Sub Main", "  If a Then", "  x = 1", "End Sub"}, "2:3 Block If without End If"},
-        {{"Sub Main", "  For i = 1 To 2", "    If a Then", "  Next", "End Sub"},
-         "4:3 Expected: End If"},
-        {{"Sub Main", "  x = ", "End Sub"}, "2:7 Expected: expression"},
-        {{"Sub Main", "  x = (a + b", "End Sub"}, "2:13 Expected: )"},
-        {{"Sub Main", "  x = Foo(a b)", "End Sub"}, "2:13 Expected: list separator or )"},
-        {{"x = 1"}, "1:1 Invalid outside procedure"},
-        {{"Sub Main", "  Next", "End Sub"}, "2:3 Next without For"},
-        {{"Sub Main", "  Loop", "End Sub"}, "2:3 Loop without Do"},
-        {{"Sub Main", "  Wend", "End Sub"}, "2:3 Wend without While"},
-        {{"Sub Main", "  End If", "End Sub"}, "2:3 End If without block If"},
-        {{"Sub Main", "  Else", "End Sub"}, "2:3 Else without If"},
-        {{"Sub Main", "  Case 1", "End Sub"}, "2:3 Case without Select Case"},
-        {{"Sub Main", "  End Select", "End Sub"}, "2:3 End Select without Select Case"},
-        {{"Sub Main", "  End With", "End Sub"}, "2:3 End With without With"},
-        {{"Sub Main", "  Do", "End Sub"}, "2:3 Do without Loop"},
-        {{"Sub Main", "  For i = 1 To 2", "End Sub"}, "2:3 For without Next"},
-        {{"Sub Main", "  While a", "End Sub"}, "2:3 While without Wend"},
-        {{"Sub Main", "  With a", "End Sub"}, "2:3 With without End With"},
-        {{"Sub Main", "  Select Case a", "End Sub"}, "2:3 Select Case without End Select"},
-        {{"Sub Main", "  Select Case a", "    x = 1", "  Case 1", "  End Select", "End Sub"},
+    const std::pair<const char *, const char *> cases[] = {
+        {"  If a Then|  x = 1", "2:3 Block If without End If"},
+        {"  For i = 1 To 2|    If a Then|  Next", "4:3 Expected: End If"},
+        {"  x = ", "2:7 Expected: expression"},
+        {"  x = (a + b", "2:13 Expected: )"},
+        {"  x = Foo(a b)", "2:13 Expected: list separator or )"},
+        {"x = 1", "1:1 Invalid outside procedure"},
+        {"  Next", "2:3 Next without For"},
+        {"  Loop", "2:3 Loop without Do"},
+        {"  Wend", "2:3 Wend without While"},
+        {"  End If", "2:3 End If without block If"},
+        {"  Else", "2:3 Else without If"},
+        {"  Case 1", "2:3 Case without Select Case"},
+        {"  End Select", "2:3 End Select without Select Case"},
+        {"  End With", "2:3 End With without With"},
+        {"  Do", "2:3 Do without Loop"},
+        {"  For i = 1 To 2", "2:3 For without Next"},
+        {"  While a", "2:3 While without Wend"},
+        {"  With a", "2:3 With without End With"},
+        {"  Select Case a", "2:3 Select Case without End Select"},
+        {"  Select Case a|    x = 1|  Case 1|  End Select",
          "3:5 Statements and labels invalid between Select Case and first Case"},
-        {{"Sub Main", "  If a Then", "  Else", "  Else", "  End If", "End Sub"},
-         "4:3 Else without If"},
-        {{"Sub Main", "  If a x = 1", "End Sub"}, "2:8 Expected: Then or GoTo"},
-        {{"Sub Main", "  x = 1 2", "End Sub"}, "2:9 Expected: end of statement"},
-        {{"Sub Main", "  x = 1 ' why", "  y = 1 2 ' the comment is not the fault", "End Sub"},
+        {"  If a Then|  Else|  Else|  End If", "4:3 Else without If"},
+        {"  If a x = 1", "2:8 Expected: Then or GoTo"},
+        {"  x = 1 2", "2:9 Expected: end of statement"},
+        {"  x = 1 ' why|  y = 1 2 ' the comment is not the fault",
          "3:9 Expected: end of statement"},
-        {{"Sub Main", "  x = ' cut short", "End Sub"}, "2:7 Expected: expression"},
-        {{"Sub Main", "  For i 1 To 2", "  Next", "End Sub"}, "2:9 Expected: ="},
-        {{"Sub Main", "  For i = 1 2", "  Next", "End Sub"}, "2:13 Expected: To"},
-        {{"Sub Main", "  For Each v items", "  Next", "End Sub"}, "2:14 Expected: In"},
-        {{"Sub Main", "  For i = 1 To 2", "  Next j", "End Sub"},
-         "3:8 Invalid Next control variable reference"},
-        {{"Sub Main", "  Select a", "  End Select", "End Sub"}, "2:10 Expected: Case"},
-        {{"Sub Main", "  Exit For", "End Sub"}, "2:3 Exit For not within For...Next"},
-        {{"Sub Main", "  Exit Do", "End Sub"}, "2:3 Exit Do not within Do...Loop"},
-        {{"Sub Main", "  Exit Function", "End Sub"},
-         "2:3 Exit Function not allowed in Sub or Property"},
-        {{"Function F", "  Exit Sub", "End Function"},
-         "2:3 Exit Sub not allowed in Function or Property"},
-        {{"Sub Main", "  Exit", "End Sub"},
-         "2:7 Expected: Do or For or Function or Property or Sub"},
-        {{"Sub Main", "  GoTo Nowhere", "End Sub"}, "2:8 Label not defined"},
-        {{"Sub Main", "L1: x = 1", "L1: x = 2", "End Sub"}, "3:1 Duplicate label"},
-        {{"Sub Main", "  Dim a", "  Dim A As Long", "End Sub"},
-         "3:7 Duplicate declaration in current scope"},
-        {{"Sub Main", "  Foo(1, 2)", "End Sub"}, "2:12 Expected: ="},
-        {{"Sub Main", "  x * 2", "End Sub"}, "2:5 Expected: ="},
-        {{"Sub Main", "  .Value = 1", "End Sub"}, "2:3 Invalid or unqualified reference"},
-        {{"Sub Main", "  Public x", "End Sub"}, "2:3 Invalid inside procedure"},
-        {{"Sub Main", "  x = 1", "Sub Other", "End Sub"}, "3:1 Expected: End Sub"},
-        {{"Function F", "End Sub"}, "2:1 Expected: End Function"},
-        {{"Sub Main", "End Sub", "Sub main", "End Sub"}, "3:5 Ambiguous name detected: main"},
-        {{"Sub Main", "  x = 1"}, "2:8 Expected: End Sub"},
-        {{"End Sub"}, "1:1 End Sub without Sub"},
-        {{"Sub Main", "  End Foo", "End Sub"},
+        {"  x = ' cut short", "2:7 Expected: expression"},
+        {"  For i 1 To 2|  Next", "2:9 Expected: ="},
+        {"  For i = 1 2|  Next", "2:13 Expected: To"},
+        {"  For Each v items|  Next", "2:14 Expected: In"},
+        {"  For i = 1 To 2|  Next j", "3:8 Invalid Next control variable reference"},
+        {"  Select a|  End Select", "2:10 Expected: Case"},
+        {"  Exit For", "2:3 Exit For not within For...Next"},
+        {"  Exit Do", "2:3 Exit Do not within Do...Loop"},
+        {"  Exit Function", "2:3 Exit Function not allowed in Sub or Property"},
+        {"Function F|  Exit Sub|End Function", "2:3 Exit Sub not allowed in Function or Property"},
+        {"  Exit", "2:7 Expected: Do or For or Function or Property or Sub"},
+        {"  GoTo Nowhere", "2:8 Label not defined"},
+        {"Sub Main|L1: x = 1|L1: x = 2|End Sub", "3:1 Duplicate label"},
+        {"  Dim a|  Dim A As Long", "3:7 Duplicate declaration in current scope"},
+        {"  Foo(1, 2)", "2:12 Expected: ="},
+        {"  x * 2", "2:5 Expected: ="},
+        {"  .Value = 1", "2:3 Invalid or unqualified reference"},
+        {"  Public x", "2:3 Invalid inside procedure"},
+        {"Sub Main|  x = 1|Sub Other|End Sub", "3:1 Expected: End Sub"},
+        {"Function F|End Sub", "2:1 Expected: End Function"},
+        {"Sub Main|End Sub|Sub main|End Sub", "3:5 Ambiguous name detected: main"},
+        {"Sub Main|  x = 1", "2:8 Expected: End Sub"},
+        {"End Sub", "1:1 End Sub without Sub"},
+        {"  End Foo",
          "2:7 Expected: If or Select or Sub or Function or Property or Type or With or Enum or end "
          "of statement"},
-        {{"Sub Main", "  s = \"open", "End Sub"}, "2:7 Unterminated string constant"},
-        {{"Sub Main", "  x = 1 ? 2", "End Sub"}, "2:9 Invalid character"},
-        {{"Sub Main", "  Set = 1", "End Sub"}, "2:7 Expected: identifier"},
-        {{"Sub Main", "  Const C", "End Sub"}, "2:10 Expected: ="},
-        {{"Sub Main", "  On Error x", "End Sub"}, "2:12 Expected: GoTo or Resume"},
-        {{"Sub Main", "  Then", "End Sub"}, "2:3 Syntax error"},
-        {{"Option Fast"}, "1:8 Expected: Base or Compare or Explicit or Private"},
-        {{"Sub Main", "  If a Then For i = 1 To 2: x = i", "End Sub"}, "2:13 For without Next"},
-        {{"Sub Main", "  x = Quorin.RaiseViolation(1)", "End Sub"},
+        {"  s = \"open", "2:7 Unterminated string constant"},
+        {"  x = 1 ? 2", "2:9 Invalid character"},
+        {"  Set = 1", "2:7 Expected: identifier"},
+        {"  Const C", "2:10 Expected: ="},
+        {"  On Error x", "2:12 Expected: GoTo or Resume"},
+        {"  Then", "2:3 Syntax error"},
+        {"Option Fast", "1:8 Expected: Base or Compare or Explicit or Private"},
+        {"  If a Then For i = 1 To 2: x = i", "2:13 For without Next"},
+        {"  x = Quorin.RaiseViolation(1)",
          "2:14 Wrong number of arguments or invalid property assignment"},
-        {{"Sub Main", "  Select Case a", "  Case Else", "  Case 1", "  End Select", "End Sub"},
-         "4:3 Case after Case Else"},
-        {{"Sub Main", "  Do While a", "  Loop Until b", "End Sub"},
+        {"  Select Case a|  Case Else|  Case 1|  End Select", "4:3 Case after Case Else"},
+        {"  Do While a|  Loop Until b",
          "3:8 Do While or Do Until cannot end in Loop While or Loop Until"},
-        {{"Sub Main", "  If d > #1/1/2000 Then Stop", "End Sub"}, "2:10 Unterminated date literal"},
-        {{"Sub Main", "  Open f For Inptu As #1", "End Sub"},
+        {"  If d > #1/1/2000 Then Stop", "2:10 Unterminated date literal"},
+        {"  Open f For Inptu As #1",
          "2:14 Expected: Input or Output or Append or Binary or Random"},
-        {{"Sub Main", "  Open f For Input #1", "End Sub"}, "2:20 Expected: As"},
-        {{"Sub Main", "  Line Input 1, s", "End Sub"}, "2:14 Expected: #"},
-        {{"Sub Main", "  Name a b", "End Sub"}, "2:10 Expected: end of statement"},
-        {{"Sub Main", "  pic.Line (1, 2)-", "End Sub"}, "2:19 Expected: ("},
-        {{"Sub Main", "  Erase", "End Sub"}, "2:8 Expected: identifier"},
-        {{"Sub Main", "  ReDim x.y", "End Sub"}, "2:12 Expected: ("},
-        {{"DefInt 1"}, "1:8 Expected: letter"},
-        {{"#If A Then", "Sub Main", "End Sub"}, "1:1 #If without #End If"},
-        {{"#Else"}, "1:1 #Else without #If"},
-        {{"#If Len(x) Then", "#End If"}, "1:5 Constant expression required"},
+        {"  Open f For Input #1", "2:20 Expected: As"},
+        {"  Line Input 1, s", "2:14 Expected: #"},
+        {"  Name a b", "2:10 Expected: end of statement"},
+        {"  pic.Line (1, 2)-", "2:19 Expected: ("},
+        {"  Erase", "2:8 Expected: identifier"},
+        {"  ReDim x.y", "2:12 Expected: ("},
+        {"DefInt 1", "1:8 Expected: letter"},
+        {"#If A Then|Sub Main|End Sub", "1:1 #If without #End If"},
+        {"#Else", "1:1 #Else without #If"},
+        {"#If Len(x) Then|#End If", "1:5 Constant expression required"},
     };
-    for (const Case &c : cases)
-        EXPECT_EQ(firstError(c.lines), QString::fromLatin1(c.expected))
-            << script(c.lines).toStdString();
+    for (const auto &[text, expected] : cases)
+        EXPECT_EQ(firstError(text), QString::fromLatin1(expected)) << text;
 }
 
 TEST(BasicParser, GoesOnAtTheNextLineAndReportsEveryError)
 {
-    const QString text
-        = script({"Sub Main", "  x = ", "  y = 1", "  z = (1", "  If a Then", "  Next", "End Sub"});
-    EXPECT_EQ(errorsOf(text),
+    EXPECT_EQ(errorsOf(code("  x = |  y = 1|  z = (1|  If a Then|  Next")),
               (QStringList{"2:7 Expected: expression",
                            "4:9 Expected: )",
                            "5:3 Block If without End If",
                            "6:3 Next without For"}));
-
     // A faulty condition keeps its block, so that End If does not fault as well.
-    EXPECT_EQ(errorsOf(script({"Sub Main", "  If a = Then", "  End If", "End Sub"})),
-              QStringList{"2:10 Expected: expression"});
+    EXPECT_EQ(errorsOf(code("  If a = Then|  End If")), QStringList{"2:10 Expected: expression"});
     // A mismatched closer closes what it matches and the rest reads on undisturbed.
-    EXPECT_EQ(errorsOf(script({"Sub Main",
-                               "  Do",
-                               "    For i = 1 To 2",
-                               "  Loop",
-                               "  If a Then",
-                               "  End If",
-                               "End Sub"})),
+    EXPECT_EQ(errorsOf(code("  Do|    For i = 1 To 2|  Loop|  If a Then|  End If")),
               QStringList{"4:3 Expected: Next"});
-    EXPECT_EQ(errorsOf(script(
-                  {"Sub Main", "  For i = 1 To 2", "    For j = 1 To 2", "  Next i", "End Sub"})),
+    EXPECT_EQ(errorsOf(code("  For i = 1 To 2|    For j = 1 To 2|  Next i")),
               QStringList{"4:8 Invalid Next control variable reference"});
 }
 
@@ -169,30 +144,13 @@ TEST(BasicParser, GoesOnAtTheNextLineAndReportsEveryError)
 // in the others are only warnings: the compiler never reads them.
 TEST(BasicParser, ConditionalCompilationFollowsTheConstants)
 {
-    const QString text = script({"#Const B = 2",
-                                 "#Const C = B * 2 + 1",
-                                 "Sub Main",
-                                 "#If C = 5 And Not Mac Then",
-                                 "  a = (",
-                                 "#ElseIf True Then",
-                                 "  b = (",
-                                 "#End If",
-                                 "#If Undefined Or Win64 Then",
-                                 "  c = (",
-                                 "#ElseIf \"1\" + 1 = 2 And &H10 = 16 Then",
-                                 "  d = (",
-                                 "#End If",
-                                 "#If VBA6 Xor Win32 Then",
-                                 "  For i = 1 To 2",
-                                 "#Else",
-                                 "  Do",
-                                 "#End If",
-                                 "#If VBA6 Xor Win32 Then",
-                                 "  Next",
-                                 "#Else",
-                                 "  Loop",
-                                 "#End If",
-                                 "End Sub"});
+    const QString text
+        = code("#Const B = 2|#Const C = B * 2 + 1|Sub Main|"
+               "#If C = 5 And Not Mac Then|  a = (|#ElseIf True Then|  b = (|#End If|"
+               "#If Undefined Or Win64 Then|  c = (|"
+               "#ElseIf \"1\" + 1 = 2 And &H10 = 16 Then|  d = (|#End If|"
+               "#If VBA6 Xor Win32 Then|  For i = 1 To 2|#Else|  Do|#End If|"
+               "#If VBA6 Xor Win32 Then|  Next|#Else|  Loop|#End If|End Sub");
     EXPECT_EQ(errorsOf(text),
               (QStringList{"5:8 Expected: expression", "12:8 Expected: expression"}));
     const QString leftOut = u" (in code that #If leaves out)"_s;
@@ -205,19 +163,16 @@ TEST(BasicParser, ConditionalCompilationFollowsTheConstants)
 TEST(BasicParser, ContinuationsAndColonsMakeLogicalLines)
 {
     // A continued line is one statement; an error behind it is placed on its physical line.
-    EXPECT_EQ(errorsOf(script({"Sub Main", "  x = 1 + _", "      2 +", "End Sub"})),
-              QStringList{"3:10 Expected: expression"});
-    EXPECT_EQ(
-        errorsOf(script({"Sub Main", "  If a _", "  Then x = 1 _", "  Else x = 2", "End Sub"})),
-        QStringList());
+    EXPECT_EQ(errorsOf(code("  x = 1 + _|      2 +")), QStringList{"3:10 Expected: expression"});
+    EXPECT_EQ(errorsOf(code("  If a _|  Then x = 1 _|  Else x = 2")), QStringList());
     // Without the continuation the statement ends at the line end.
-    EXPECT_EQ(errorsOf(script({"Sub Main", "  x = 1 +", "      & 2", "End Sub"})),
+    EXPECT_EQ(errorsOf(code("  x = 1 +|      & 2")),
               (QStringList{"2:10 Expected: expression", "3:7 Syntax error"}));
     // Colons separate statements, a block opened and closed on one line included; a fault
     // skips only the rest of its own line.
-    EXPECT_EQ(errorsOf(script({"Sub Main: Dim i: For i = 1 To 2: x = i: Next: End Sub"})),
+    EXPECT_EQ(errorsOf(code("Sub Main: Dim i: For i = 1 To 2: x = i: Next: End Sub")),
               QStringList());
-    EXPECT_EQ(errorsOf(script({"Sub Main", "  a = 1: b = : c = 3", "  d = 4 5", "End Sub"})),
+    EXPECT_EQ(errorsOf(code("  a = 1: b = : c = 3|  d = 4 5")),
               (QStringList{"2:14 Expected: expression", "3:9 Expected: end of statement"}));
 }
 

@@ -218,14 +218,9 @@ TEST(BasicRobustness, MutatedScriptsNeverBreakTheChecker)
         if (text.size() < 8 * 1024 && !name.contains(QLatin1Char(' ')))
             seeds.push_back(text);
     }
-    seeds.push_back(script({"Sub Main",
-                            "  Select Case Quorin.ParserEvent()",
-                            "    Case \"begin File\"",
-                            "      If Quorin.GetObjectWorkField(\"File\", \"Lines\") > 2 Then",
-                            "        Call Quorin.RaiseViolation()",
-                            "      End If",
-                            "  End Select",
-                            "End Sub"}));
+    seeds.push_back(code("  Select Case Quorin.ParserEvent()|    Case \"begin File\"|"
+                         "      If Quorin.GetObjectWorkField(\"File\", \"Lines\") > 2 Then|"
+                         "        Call Quorin.RaiseViolation()|      End If|  End Select"));
     ASSERT_FALSE(seeds.empty());
 
     int runs = 0;

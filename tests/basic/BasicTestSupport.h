@@ -16,6 +16,19 @@ inline QString script(const QStringList &lines)
     return lines.join(QLatin1String("\r\n"));
 }
 
+// Lines written as one string, "|" between them.
+inline QStringList lines(const char *text)
+{
+    return QString::fromUtf8(text).split(QLatin1Char('|'));
+}
+
+// A script from lines(); one that starts with a blank is the body of a Sub Main.
+inline QString code(const char *text)
+{
+    const QStringList body = lines(text);
+    return script(text[0] == ' ' ? QStringList{"Sub Main"} + body + QStringList{"End Sub"} : body);
+}
+
 inline QStringList describe(const std::vector<BasicDiagnostic> &diagnostics)
 {
     QStringList result;

@@ -7,21 +7,17 @@ using namespace Qt::StringLiterals;
 
 using namespace ConditionRules;
 
-namespace {
-
 const qint32 Coding = RuleTypes::CodingConvention;
 const qint32 Naming = RuleTypes::NamingConvention;
-
-} // namespace
 
 TEST(ConditionRules, OnlyTheBareSubMainLineMayStartAProcedure)
 {
     EXPECT_FALSE(ContainsMethods(QString()));
-    EXPECT_FALSE(ContainsMethods(script({"Sub Main", "End Sub"})));
-    EXPECT_FALSE(ContainsMethods(script({"SUB MAIN", "End Sub"})));
-    EXPECT_TRUE(ContainsMethods(script({"Sub Main()", "End Sub"})));
-    EXPECT_TRUE(ContainsMethods(script({"Sub Main ", "End Sub"})));
-    EXPECT_TRUE(ContainsMethods(script({"Sub Main", "End Sub", "Function Foo", "End Function"})));
+    EXPECT_FALSE(ContainsMethods(code("Sub Main|End Sub")));
+    EXPECT_FALSE(ContainsMethods(code("SUB MAIN|End Sub")));
+    EXPECT_TRUE(ContainsMethods(code("Sub Main()|End Sub")));
+    EXPECT_TRUE(ContainsMethods(code("Sub Main |End Sub")));
+    EXPECT_TRUE(ContainsMethods(code("Sub Main|End Sub|Function Foo|End Function")));
     EXPECT_TRUE(ContainsMethods(u"Private Sub Foo"_s));
     EXPECT_TRUE(ContainsMethods(u"Public Property Get X"_s));
     EXPECT_TRUE(ContainsMethods(u"Friend Function F"_s));
@@ -38,22 +34,21 @@ TEST(ConditionRules, OnlyTheBareSubMainLineMayStartAProcedure)
 TEST(ConditionRules, CheckConditionAppliesTheRulesInOrder)
 {
     // Procedures are refused before anything else, syntax errors included.
-    auto verdict = CheckCondition(script({"Function Foo(", "End Function"}), Naming);
+    auto verdict = CheckCondition(code("Function Foo(|End Function"), Naming);
     EXPECT_FALSE(verdict.passed);
     EXPECT_FALSE(verdict.syntaxError);
     EXPECT_EQ(verdict.message,
               u"Quorin rule conditions do not support the use of Subs, Functions or "
               u"Property procedures other than the required Sub Main."_s);
 
-    verdict = CheckCondition(script({"Sub Main", "  If x Then", "End Sub"}), Naming);
+    verdict = CheckCondition(code("  If x Then"), Naming);
     EXPECT_FALSE(verdict.passed);
     EXPECT_EQ(verdict.message,
               u"A naming convention condition, if set, must contain the line "
               u"Quorin.ApplyConvention to notify the parser that the convention must "
               u"be applied."_s);
 
-    verdict = CheckCondition(
-        script({"Sub Main", "  If x Then", "  Quorin.ApplyConvention", "End Sub"}), Naming);
+    verdict = CheckCondition(code("  If x Then|  Quorin.ApplyConvention"), Naming);
     EXPECT_FALSE(verdict.passed);
     EXPECT_TRUE(verdict.syntaxError);
     EXPECT_EQ(verdict.message,
@@ -63,17 +58,11 @@ TEST(ConditionRules, CheckConditionAppliesTheRulesInOrder)
     EXPECT_EQ(verdict.column, 3);
 
     // Coding conventions need not apply anything; an empty naming condition passes all three.
-    EXPECT_TRUE(
-        CheckCondition(script({"Sub Main", "  Call Quorin.RaiseViolation()", "End Sub"}), Coding)
-            .passed);
+    EXPECT_TRUE(CheckCondition(code("  Call Quorin.RaiseViolation()"), Coding).passed);
     EXPECT_TRUE(CheckCondition(QString(), Naming).passed);
     EXPECT_TRUE(ValidNamingConvention(u"' quorin.applyconvention"_s)); // found in any case
     // Warnings don't stop a condition.
     EXPECT_TRUE(
-        CheckCondition(
-            script({"Sub Main", "  x = Quorin.GetObjectProperty(\"File\", \"Nope\")", "End Sub"}),
-            Coding)
-            .passed);
-    EXPECT_FALSE(
-        CheckCondition(script({"Sub Main", "  Call Quorin.Raise()", "End Sub"}), Coding).passed);
+        CheckCondition(code("  x = Quorin.GetObjectProperty(\"File\", \"Nope\")"), Coding).passed);
+    EXPECT_FALSE(CheckCondition(code("  Call Quorin.Raise()"), Coding).passed);
 }

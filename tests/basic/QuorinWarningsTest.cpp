@@ -14,11 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString inMain(const QStringList &body)
-{
-    return script(QStringList{"Sub Main"} + body + QStringList{"End Sub"});
-}
-
 struct SampleCondition
 {
     qint32 ruleType;
@@ -59,36 +54,35 @@ std::vector<SampleCondition> sampleConditions()
 // catalogue does not list for a known object may still be right: a warning. The rest is clean.
 TEST(QuorinWarnings, UnknownMembersAndObjectsAreErrorsOtherNamesWarn)
 {
-    const QString text = inMain({
-        "  Call Quorin.RaiseViolations()",
-        "  x = Quorin.Foo.Bar",
-        "  x = Quorin.GetObjectProperty(\"Source\")",
-        "  Quorin.ApplyConvention 1",
-        "  If Quorin.ParserEvent(1) = \"x\" Then Stop",
-        "  a = Quorin.GetObjectProperty(\"Procdure\", \"Name\")",
-        "  a = Quorin.GetObjectWorkField(\"Projct\", \"Anything\")",
-        "  a = Quorin.GetObjectProperty(\"Procedure\", \"CodLineCount\")",
-        "  a = Quorin.GetObjectProperty(\"Source\", \"Name\")",
-        "  a = Quorin.GetObjectWorkField(\"Source\", \"Anything\")",
-        // Known names, whatever their case, specialised objects, and the design-time
-        // properties of forms and controls, which no catalogue lists.
-        "  a = Quorin.GetObjectProperty(\"procedure\", \"codelinecount\")",
-        "  a = Quorin.GetObjectProperty(\"Variable (Local)\", \"Name\")",
-        "  a = Quorin.GetObjectProperty(\"ControlProperties\", \"Caption\")",
-        "  a = Quorin.GetObjectProperty(\"LayoutProperties\", \"StartUpPosition\")",
-        "  a = Quorin.GetObjectWorkField(\"Project\", \"Whatever\")",
-        // Only literal names can be checked.
-        "  a = Quorin.GetObjectProperty(sObject, \"Nope\")",
-        "  a = Quorin.GetObjectProperty(\"File\", sProperty)",
-        // The calls the editor inserts.
-        "  Call Quorin.RaiseViolation()",
-        "  Call Quorin.CancelPendingViolation",
-        "  quorin.applyconvention",
-        "  s = Quorin.GetObjectWorkField(\"Project\", \"SystemCode\")",
-        "  If Quorin.ParserEvent() = \"begin Procedure\" Then Exit Sub",
-        "  If Quorin.ParserEvent = \"Argument (Event)\" Then Exit Sub",
-        "  Quorin.GetObjectProperty \"Source\", \"Line\"",
-    });
+    const QString text
+        = code("  Call Quorin.RaiseViolations()|"
+               "  x = Quorin.Foo.Bar|"
+               "  x = Quorin.GetObjectProperty(\"Source\")|"
+               "  Quorin.ApplyConvention 1|"
+               "  If Quorin.ParserEvent(1) = \"x\" Then Stop|"
+               "  a = Quorin.GetObjectProperty(\"Procdure\", \"Name\")|"
+               "  a = Quorin.GetObjectWorkField(\"Projct\", \"Anything\")|"
+               "  a = Quorin.GetObjectProperty(\"Procedure\", \"CodLineCount\")|"
+               "  a = Quorin.GetObjectProperty(\"Source\", \"Name\")|"
+               "  a = Quorin.GetObjectWorkField(\"Source\", \"Anything\")|"
+               // Known names, whatever their case, specialised objects, and the design-time
+               // properties of forms and controls, which no catalogue lists.
+               "  a = Quorin.GetObjectProperty(\"procedure\", \"codelinecount\")|"
+               "  a = Quorin.GetObjectProperty(\"Variable (Local)\", \"Name\")|"
+               "  a = Quorin.GetObjectProperty(\"ControlProperties\", \"Caption\")|"
+               "  a = Quorin.GetObjectProperty(\"LayoutProperties\", \"StartUpPosition\")|"
+               "  a = Quorin.GetObjectWorkField(\"Project\", \"Whatever\")|"
+               // Only literal names can be checked.
+               "  a = Quorin.GetObjectProperty(sObject, \"Nope\")|"
+               "  a = Quorin.GetObjectProperty(\"File\", sProperty)|"
+               // The calls the editor inserts.
+               "  Call Quorin.RaiseViolation()|"
+               "  Call Quorin.CancelPendingViolation|"
+               "  quorin.applyconvention|"
+               "  s = Quorin.GetObjectWorkField(\"Project\", \"SystemCode\")|"
+               "  If Quorin.ParserEvent() = \"begin Procedure\" Then Exit Sub|"
+               "  If Quorin.ParserEvent = \"Argument (Event)\" Then Exit Sub|"
+               "  Quorin.GetObjectProperty \"Source\", \"Line\"");
     EXPECT_EQ(errorsOf(text),
               (QStringList{"2:15 Unknown Quorin member: \"RaiseViolations\"",
                            "3:14 Unknown Quorin member: \"Foo\"",
@@ -105,17 +99,17 @@ TEST(QuorinWarnings, UnknownMembersAndObjectsAreErrorsOtherNamesWarn)
 
 TEST(QuorinWarnings, ParserEventComparisonsNameKnownEvents)
 {
-    const QString text = inMain({"  If Quorin.ParserEvent() = \"begin Prject\" Then Stop",
-                                 "  If \"Nope\" <> (Quorin.ParserEvent) Then Stop",
-                                 "  If Quorin.ParserEvent() = \"end Project\" Then Stop",
-                                 "  If Quorin.ParserEvent() & \"x\" = \"Nope\" Then Stop",
-                                 "  Select Case Quorin.ParserEvent()",
-                                 "    Case \"Variable\", \"Variabel\"",
-                                 "    Case Is = \"Nope\", \"a\" To \"z\"",
-                                 "  End Select",
-                                 "  Select Case sOther",
-                                 "    Case \"Nope\"",
-                                 "  End Select"});
+    const QString text = code("  If Quorin.ParserEvent() = \"begin Prject\" Then Stop|"
+                              "  If \"Nope\" <> (Quorin.ParserEvent) Then Stop|"
+                              "  If Quorin.ParserEvent() = \"end Project\" Then Stop|"
+                              "  If Quorin.ParserEvent() & \"x\" = \"Nope\" Then Stop|"
+                              "  Select Case Quorin.ParserEvent()|"
+                              "    Case \"Variable\", \"Variabel\"|"
+                              "    Case Is = \"Nope\", \"a\" To \"z\"|"
+                              "  End Select|"
+                              "  Select Case sOther|"
+                              "    Case \"Nope\"|"
+                              "  End Select");
     EXPECT_EQ(errorsOf(text), QStringList());
     EXPECT_EQ(warningsOf(text),
               (QStringList{"2:29 Unknown parser event: \"begin Prject\"",

@@ -3,18 +3,9 @@
 #include "basic/ScriptEditing.h"
 
 #include <functional>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// Lines written as one string, "|" between them.
-QStringList lines(const char *text)
-{
-    return QString::fromUtf8(text).split(QLatin1Char('|'));
-}
-
-} // namespace
 
 TEST(ScriptEditing, BlocksIndentOutdentAndCommentLineByLine)
 {
@@ -25,12 +16,7 @@ TEST(ScriptEditing, BlocksIndentOutdentAndCommentLineByLine)
     const Edit outdentTwo
         = [](const QStringList &l) { return ScriptEditing::outdentLines(l, "  "); };
     const Edit comment = ScriptEditing::toggleComment;
-    const struct
-    {
-        Edit edit;
-        const char *in;
-        const char *out;
-    } cases[] = {
+    const std::tuple<Edit, const char *, const char *> cases[] = {
         {indentTab, "a|  |\tb", "\ta|  |\t\tb"}, // blank lines stay blank
         {outdentTab, "\ta|    b|  c|d|\t\te", "a|b|c|d|\te"},
         {outdentTwo, "    a|\t b| c", "  a| b|c"},
@@ -42,8 +28,8 @@ TEST(ScriptEditing, BlocksIndentOutdentAndCommentLineByLine)
         {comment, "' a|b", "' ' a|' b"},
         {comment, "|  ", "|  "},
     };
-    for (const auto &c : cases)
-        EXPECT_EQ(c.edit(lines(c.in)), lines(c.out)) << c.in;
+    for (const auto &[edit, in, out] : cases)
+        EXPECT_EQ(edit(lines(in)), lines(out)) << in;
 
     // The unit is the text's own: its first indented line.
     EXPECT_EQ(ScriptEditing::indentUnit(u"Sub Main\n\tx\n  y"), u"\t"_s);
@@ -53,11 +39,7 @@ TEST(ScriptEditing, BlocksIndentOutdentAndCommentLineByLine)
 
 TEST(ScriptEditing, NewAndClosingLinesTakeTheIndentationOfTheirBlock)
 {
-    const struct
-    {
-        const char *line;
-        const char *indent;
-    } newLines[] = {
+    const std::pair<const char *, const char *> newLines[] = {
         {"\tIf x Then", "\t\t"},
         {"\tIf x Then y = 1", "\t"},
         {"If x Then ' why", "\t"},
@@ -71,17 +53,13 @@ TEST(ScriptEditing, NewAndClosingLinesTakeTheIndentationOfTheirBlock)
         {"x = \"If a Then\"", ""},
         {"' If x Then", ""},
     };
-    for (const auto &c : newLines)
-        EXPECT_EQ(ScriptEditing::newLineIndent(QString::fromUtf8(c.line), "\t"),
-                  QString::fromUtf8(c.indent))
-            << c.line;
+    for (const auto &[line, indent] : newLines)
+        EXPECT_EQ(ScriptEditing::newLineIndent(QString::fromUtf8(line), "\t"),
+                  QString::fromUtf8(indent))
+            << line;
 
-    const struct
-    {
-        const char *before;
-        const char *line;
-        const char *result; // nullptr: the line stays as it is
-    } closing[] = {
+    // The lines before, the line typed, and what it becomes (nullptr: it stays as it is).
+    const std::tuple<const char *, const char *, const char *> closing[] = {
         {"Sub Main|\tIf a Then|\t\tx = 1", "\t\tEnd If", "\tEnd If"},
         {"Sub Main|\tIf a Then|\t\tx = 1", "\t\tElse", "\tElse"},
         {"Sub Main|\tIf a Then|\t\tIf b Then|\t\tEnd If|\t\tx = 1", "\t\tend  if", "\tend  if"},
@@ -99,23 +77,18 @@ TEST(ScriptEditing, NewAndClosingLinesTakeTheIndentationOfTheirBlock)
         {"Sub Main", "\tNext", nullptr},                                        // nothing to close
         {"Sub Main|\tIf a Then|\t\tIf b Then x = 1", "\t\tEnd If", "\tEnd If"}, // one-line If
     };
-    for (const auto &c : closing) {
+    for (const auto &[before, line, outdented] : closing) {
         const std::optional<QString> result
-            = ScriptEditing::outdentedAsTyped(lines(c.before), QString::fromUtf8(c.line), "\t");
+            = ScriptEditing::outdentedAsTyped(lines(before), QString::fromUtf8(line), "\t");
         EXPECT_EQ(result.value_or(u"(unchanged)"_s),
-                  c.result ? QString::fromUtf8(c.result) : u"(unchanged)"_s)
-            << c.before << " / " << c.line;
+                  outdented ? QString::fromUtf8(outdented) : u"(unchanged)"_s)
+            << before << " / " << line;
     }
 }
 
 TEST(ScriptEditing, BracketsPairUpOutsideStringsAndComments)
 {
-    const struct
-    {
-        const char *line;
-        int index;
-        int partner;
-    } cases[] = {
+    const std::tuple<const char *, int, int> cases[] = {
         {"If F(a, (b)) Then", 4, 11},
         {"If F(a, (b)) Then", 11, 4},
         {"If F(a, (b)) Then", 8, 10},
@@ -125,9 +98,9 @@ TEST(ScriptEditing, BracketsPairUpOutsideStringsAndComments)
         {"x = \"(\" & (a", 10, -1},   // never closed
         {"y ' (a)", 4, -1},
     };
-    for (const auto &c : cases)
-        EXPECT_EQ(ScriptEditing::matchingBracket(QString::fromUtf8(c.line), c.index), c.partner)
-            << c.line << " @" << c.index;
+    for (const auto &[line, index, partner] : cases)
+        EXPECT_EQ(ScriptEditing::matchingBracket(QString::fromUtf8(line), index), partner)
+            << line << " @" << index;
 
     // An error marks its word, or one character; behind the line's end, the last one.
     const auto span = [](const char *line, int column) {

@@ -16,10 +16,6 @@
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 
-#include <QDirIterator>
-#include <QFile>
-#include <QFileInfo>
-
 #include <functional>
 
 using namespace Qt::StringLiterals;
@@ -50,15 +46,6 @@ public:
     int runs = 0;
 };
 
-// The three libraries every project is taken to reference, known at their version.
-void authoriseDefaultReferences(Rulebase &rulebase)
-{
-    for (const char *guid : {"{000204EF-0000-0000-C000-000000000046}",
-                             "{EA544A21-C82D-11D1-A3E4-00A0C90AEA82}",
-                             "{FCFB3D2E-A0FA-1068-A738-08002B3371B5}"})
-        rulebase.AuthorisedReferences()->Add(QLatin1String(guid), {}, {}, u"6.0"_s, {});
-}
-
 QByteArray project(const char *comctlVersion)
 {
     return crlf("Type=Exe\n"
@@ -75,7 +62,11 @@ protected:
     {
         ProjectTest::SetUp();
         rulebase = std::make_shared<Rulebase>();
-        authoriseDefaultReferences(*rulebase);
+        // The three libraries every project is taken to reference, known at their version.
+        for (const char *guid : {"{000204EF-0000-0000-C000-000000000046}",
+                                 "{EA544A21-C82D-11D1-A3E4-00A0C90AEA82}",
+                                 "{FCFB3D2E-A0FA-1068-A738-08002B3371B5}"})
+            rulebase->AuthorisedReferences()->Add(QLatin1String(guid), {}, {}, u"6.0"_s, {});
         rulebase->AuthorisedReferences()->Add(
             stdole, u"OLE Automation"_s, u"stdole2.tlb"_s, u"2.0"_s, {});
         importer.setRulebase(rulebase);
@@ -96,66 +87,52 @@ protected:
 
 TEST(AddFromProjectMessages, CountsVerbsAndTheProjectName)
 {
-    EXPECT_EQ(AddFromProject::NewItemsMessage(0, 0, u"a.vbp"_s),
-              u"No new components or references were found for the project 'a.vbp'."_s);
-    // The missing blank before "was" belongs to the message.
-    EXPECT_EQ(AddFromProject::NewItemsMessage(1, 0, u"a.vbp"_s),
-              u"1 new componentwas found for the project 'a.vbp'."_s);
-    EXPECT_EQ(AddFromProject::NewItemsMessage(3, 0, QString()),
-              u"3 new componentswere found for the selected projects."_s);
-    EXPECT_EQ(AddFromProject::NewItemsMessage(0, 1, QString()),
-              u"1 new reference was found for the selected projects."_s);
-    EXPECT_EQ(AddFromProject::NewItemsMessage(2, 1, QString()),
-              u"2 new components and 1 new reference was found for the selected projects."_s);
-    EXPECT_EQ(AddFromProject::NewItemsMessage(1, 2, u"b.vbg"_s),
-              u"1 new component and 2 new references were found for the project 'b.vbg'."_s);
+    const std::tuple<int, int, const char *, const char *> cases[] = {
+        {0, 0, "a.vbp", "No new components or references were found for the project 'a.vbp'."},
+        // The missing blank before "was" belongs to the message.
+        {1, 0, "a.vbp", "1 new componentwas found for the project 'a.vbp'."},
+        {3, 0, "", "3 new componentswere found for the selected projects."},
+        {0, 1, "", "1 new reference was found for the selected projects."},
+        {2, 1, "", "2 new components and 1 new reference was found for the selected projects."},
+        {1, 2, "b.vbg", "1 new component and 2 new references were found for the project 'b.vbg'."},
+    };
+    for (const auto &[components, references, project, text] : cases)
+        EXPECT_EQ(AddFromProject::NewItemsMessage(components, references, QLatin1String(project)),
+                  QLatin1String(text));
     // The reference text keeps its verb whatever it is told.
     EXPECT_EQ(AddFromProject::NewReferencesMessage(1, true), u"1 new reference was found"_s);
     EXPECT_EQ(AddFromProject::NewComponentsMessage(1, true), u"1 new component"_s);
 }
 
-TEST_F(AddFromProjectTest, AProjectWhollyAuthorisedAddsNothingAndSaysSo)
+// A known version is found by a plain substring search of the list; an empty list holds none.
+TEST_F(AddFromProjectTest, AKnownLibraryAtAVersionItLacksIsACandidateOfThatVersionAlone)
 {
-    rulebase->AuthorisedComponents()->Add(comctl, u"MSCOMCTL.OCX"_s, u"2.0; 2.1"_s, {});
-    importer.ParseSingleFile(writeFile(u"a.vbp"_s, project("2.1")));
-
-    EXPECT_EQ(importer.ComponentList()->Count(), 0);
-    EXPECT_EQ(importer.ReferenceList()->Count(), 0);
-    ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_EQ(ui.messages[0].text,
-              u"No new components or references were found for the project 'a.vbp'."_s);
+    rulebase->AuthorisedComponents()->Add(comctl, u"MSCOMCTL.OCX"_s, QString(), {});
+    const std::tuple<const char *, const char *, int> cases[]
+        = {{"2.0; 2.1", "2.1", 0}, {"11.1; 2.0", "1.1", 0}, {"", "3.0", 1}, {"2.1", "2.0", 1}};
+    for (const auto &[known, used, candidates] : cases) {
+        rulebase->AuthorisedComponents()->Item(comctl)->setVersionList(QLatin1String(known));
+        AddFromProject fresh;
+        fresh.setRulebase(rulebase);
+        fresh.ParseSingleFile(writeFile(u"a.vbp"_s, project(used)));
+        EXPECT_EQ(fresh.ComponentList()->Count(), candidates) << known;
+        EXPECT_EQ(fresh.ReferenceList()->Count(), 0) << known;
+        // Nothing of the rulebase itself changes while gathering.
+        EXPECT_EQ(rulebase->AuthorisedComponents()->Item(comctl)->VersionList(), known);
+        if (candidates == 0)
+            continue;
+        const auto candidate = fresh.ComponentList()->Item(1);
+        EXPECT_EQ(candidate->LibID(), comctl);
+        EXPECT_EQ(candidate->VersionList(), QLatin1String(used));
+        EXPECT_EQ(candidate->Filename(), u"MSCOMCTL.OCX"_s);
+        EXPECT_TRUE(candidate->Selected());
+    }
+    ASSERT_EQ(ui.messages.size(), 4u);
+    EXPECT_EQ(ui.messages[0].text, AddFromProject::NewItemsMessage(0, 0, u"a.vbp"_s));
     EXPECT_EQ(ui.messages[0].icon, MessageIcon::Information);
     EXPECT_EQ(ui.messages[0].buttons, MessageButtons::OK);
-    EXPECT_EQ(ui.messages[0].title, u"Quorin Administrator"_s);
-}
-
-TEST_F(AddFromProjectTest, AKnownLibraryAtANewVersionIsACandidateOfThatVersionAlone)
-{
-    rulebase->AuthorisedComponents()->Add(comctl, u"MSCOMCTL.OCX"_s, u"2.1"_s, {});
-    importer.ParseSingleFile(writeFile(u"a.vbp"_s, project("2.0")));
-
-    ASSERT_EQ(importer.ComponentList()->Count(), 1);
-    const auto candidate = importer.ComponentList()->Item(1);
-    EXPECT_EQ(candidate->LibID(), comctl);
-    EXPECT_EQ(candidate->VersionList(), u"2.0"_s);
-    EXPECT_EQ(candidate->Filename(), u"MSCOMCTL.OCX"_s);
-    EXPECT_TRUE(candidate->Selected());
-    EXPECT_EQ(lastMessage(), u"1 new componentwas found for the project 'a.vbp'."_s);
-    // Nothing of the rulebase itself changes while gathering.
-    EXPECT_EQ(rulebase->AuthorisedComponents()->Item(comctl)->VersionList(), u"2.1"_s);
+    EXPECT_EQ(lastMessage(), AddFromProject::NewItemsMessage(1, 0, u"a.vbp"_s));
     EXPECT_EQ(dialog.runs, 0);
-}
-
-TEST_F(AddFromProjectTest, VersionsAreHeldByAPlainSubstringSearch)
-{
-    rulebase->AuthorisedComponents()->Add(comctl, u"MSCOMCTL.OCX"_s, u"11.1; 2.0"_s, {});
-    importer.ParseSingleFile(writeFile(u"a.vbp"_s, project("1.1")));
-    EXPECT_EQ(importer.ComponentList()->Count(), 0);
-
-    // A known library at an empty version list still holds nothing of "3.0".
-    rulebase->AuthorisedComponents()->Item(comctl)->setVersionList(QString());
-    importer.ParseSingleFile(writeFile(u"b.vbp"_s, project("3.0")));
-    EXPECT_EQ(importer.ComponentList()->Count(), 1);
 }
 
 TEST_F(AddFromProjectTest, CandidatesKeepTheFirstVersionFoundAndTheDialogFollows)
@@ -166,7 +143,7 @@ TEST_F(AddFromProjectTest, CandidatesKeepTheFirstVersionFoundAndTheDialogFollows
 
     ASSERT_EQ(importer.ComponentList()->Count(), 1);
     EXPECT_EQ(importer.ComponentList()->Item(1)->VersionList(), u"2.0"_s);
-    EXPECT_EQ(lastMessage(), u"1 new componentwas found for the selected projects."_s);
+    EXPECT_EQ(lastMessage(), AddFromProject::NewItemsMessage(1, 0, QString()));
     EXPECT_EQ(dialog.runs, 1);
     EXPECT_FALSE(importer.Cancelled());
 
@@ -190,23 +167,19 @@ TEST_F(AddFromProjectTest, ReferencesTakeDescriptionFilenameAndVersionFromThePro
     EXPECT_EQ(ole->Filename(), u"C:\\WINDOWS\\System32\\stdole2.tlb"_s);
     EXPECT_EQ(ole->VersionList(), u"2.0"_s);
     EXPECT_EQ(importer.ReferenceList()->Item(1)->Filename(), u"MSVBVM60.DLL"_s);
-    EXPECT_EQ(lastMessage(),
-              u"1 new component and 4 new references were found for the project 'a.vbp'."_s);
+    EXPECT_EQ(lastMessage(), AddFromProject::NewItemsMessage(1, 4, u"a.vbp"_s));
 
     // The same file again finds nothing new among the candidates.
     importer.ParseSingleFile(path(u"a.vbp"_s));
-    EXPECT_EQ(lastMessage(),
-              u"No new components or references were found for the project 'a.vbp'."_s);
+    EXPECT_EQ(lastMessage(), AddFromProject::NewItemsMessage(0, 0, u"a.vbp"_s));
 }
 
 TEST_F(AddFromProjectTest, UnreadableAndForeignFilesAddNothingButStillGetTheBox)
 {
     importer.ParseSingleFile(path(u"missing.vbp"_s));
-    EXPECT_EQ(lastMessage(),
-              u"No new components or references were found for the project 'missing.vbp'."_s);
+    EXPECT_EQ(lastMessage(), AddFromProject::NewItemsMessage(0, 0, u"missing.vbp"_s));
     importer.ParseSingleFile(writeFile(u"notes.txt"_s, "Reference=*\\G{1}#1.0#0#x#y\r\n"));
-    EXPECT_EQ(lastMessage(),
-              u"No new components or references were found for the project 'notes.txt'."_s);
+    EXPECT_EQ(lastMessage(), AddFromProject::NewItemsMessage(0, 0, u"notes.txt"_s));
     EXPECT_EQ(importer.ComponentList()->Count() + importer.ReferenceList()->Count(), 0);
 
     // No list at all: no box and no dialog; an empty list: the box alone.
@@ -216,8 +189,7 @@ TEST_F(AddFromProjectTest, UnreadableAndForeignFilesAddNothingButStillGetTheBox)
     EXPECT_EQ(ui.messages.size(), shown);
     EXPECT_FALSE(none.Cancelled());
     none.ParseFileList(QStringList{}, rulebase);
-    EXPECT_EQ(lastMessage(),
-              u"No new components or references were found for the selected projects."_s);
+    EXPECT_EQ(lastMessage(), AddFromProject::NewItemsMessage(0, 0, QString()));
     EXPECT_EQ(dialog.runs, 0);
 }
 

@@ -13,7 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString gridGuid = u"{6B1A3F20-5C2D-4E8F-9A10-1B2C3D4E5F60}"_s;
 const QString reportGuid = u"{0F9E8D7C-6B5A-4938-2716-05F4E3D2C1B0}"_s;
 
 QString typelibFile(const char *name)
@@ -86,7 +85,7 @@ TEST_F(AuthorisedItemsMergerTest, ActiveXFilesTakeOnlyTheVersionsTheRulebaseLack
 
     ASSERT_EQ(merger.Changes().size(), 2u);
     EXPECT_EQ(merger.Changes()[0].component->Filename(), u"GridCtl.ocx"_s);
-    EXPECT_EQ(merger.Changes()[0].component->LibID(), gridGuid);
+    EXPECT_EQ(merger.Changes()[0].component->LibID(), u"{6B1A3F20-5C2D-4E8F-9A10-1B2C3D4E5F60}"_s);
     EXPECT_EQ(merger.Changes()[0].component->VersionList(), u"1.0"_s);
     // The GridCtl library as a .tlb is a reference, not the component.
     EXPECT_EQ(merger.Changes()[1].reference->LibID(), reportGuid);

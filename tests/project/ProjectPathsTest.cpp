@@ -13,9 +13,7 @@ namespace {
 using modQuorinUtils::ParentFolderFromPath;
 using modQuorinUtils::RelativeToAbsolutePath;
 
-class ProjectPaths : public ProjectTest
-{
-};
+using ProjectPaths = ProjectTest;
 
 TEST_F(ProjectPaths, WindowsPathsResolveAsText)
 {

@@ -4,7 +4,6 @@
 #include "platform/LogFile.h"
 #include "support/TestEnvironment.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 

@@ -13,9 +13,7 @@ namespace {
 
 constexpr qint32 Max = std::numeric_limits<qint32>::max();
 
-class ReviewRecords : public ProjectTest
-{
-};
+using ReviewRecords = ProjectTest;
 
 TEST_F(ReviewRecords, ObjectPartsAreMadeOnceAndMemberCountsRiseOrAreReplaced)
 {

@@ -15,11 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class SourceFileReader : public ProjectTest
-{
-protected:
-    QString folder() const { return m_dir + QLatin1Char('/'); }
-};
+using SourceFileReader = ProjectTest;
 
 struct LogicalLine
 {
@@ -47,14 +43,8 @@ TEST_F(SourceFileReader, NameAndTypeComeFromTheLineOrTheFile)
               crlf("VERSION 5.00\nAttribute VB_Name = \"frmNamed\"\n"
                    "Begin VB.Label x\n"));
     writeFile(u"d.dsr"_s, crlf("Begin {C0E45035-5775-11D0-B388-00A0C9055D8E} deMain \nEnd\n"));
-    struct Case
-    {
-        const char *line;
-        qint32 result;
-        qint32 type;
-        const char *name;
-    };
-    const Case cases[] = {
+    // The project line, the result of reading it, and the type and name found.
+    const std::tuple<const char *, qint32, qint32, const char *> cases[] = {
         {"Form=m.frm", 0, SourceFileType::MDIForm, "mdiMain"}, // the file's type word wins
         {"Form=n.frm", 0, SourceFileType::Form, "frmNamed"},   // the attribute gives no type
         {"Designer=D.DSR", 0, SourceFileType::Designer, "deMain"},
@@ -62,18 +52,18 @@ TEST_F(SourceFileReader, NameAndTypeComeFromTheLineOrTheFile)
         {"Thing=x; y.cls", 3, 0, ""},
         {"Module", 3, 0, ""},
     };
-    for (const Case &c : cases) {
+    for (const auto &[line, result, type, name] : cases) {
         VirtualSourceFile file;
-        EXPECT_EQ(file.InitFileFromVBProjectFileLine(QLatin1String(c.line), folder()), c.result)
-            << c.line;
-        EXPECT_EQ(file.FileType(), c.type) << c.line;
-        EXPECT_EQ(file.Name(), QLatin1String(c.name)) << c.line;
+        EXPECT_EQ(file.InitFileFromVBProjectFileLine(QLatin1String(line), path({})), result)
+            << line;
+        EXPECT_EQ(file.FileType(), type) << line;
+        EXPECT_EQ(file.Name(), QLatin1String(name)) << line;
     }
     EXPECT_TRUE(logRecords().isEmpty());
 
     VirtualSourceFile named;
-    named.InitFileFromVBProjectFileLine(u"Class=CFoo; sub\\foo.cls"_s, folder());
-    EXPECT_EQ(named.Filename(), folder() + u"sub\\foo.cls"_s);
+    named.InitFileFromVBProjectFileLine(u"Class=CFoo; sub\\foo.cls"_s, path({}));
+    EXPECT_EQ(named.Filename(), path({}) + u"sub\\foo.cls"_s);
     QStringList properties;
     for (qint32 i = 1; i <= named.Properties()->Count(); ++i)
         properties << named.Properties()->Key(i) + QLatin1Char('=')
@@ -87,21 +77,21 @@ TEST_F(SourceFileReader, FilesThatNameNothingKeepTheirPathAsName)
 {
     // No ";": the whole rest is a path, and the file doesn't exist.
     VirtualSourceFile missing;
-    EXPECT_EQ(missing.InitFileFromVBProjectFileLine(u"Class=CFoo"_s, folder()), 2);
+    EXPECT_EQ(missing.InitFileFromVBProjectFileLine(u"Class=CFoo"_s, path({})), 2);
     EXPECT_EQ(missing.FileType(), 0);
-    EXPECT_EQ(missing.Name(), folder() + u"CFoo"_s);
+    EXPECT_EQ(missing.Name(), path({}) + u"CFoo"_s);
     EXPECT_EQ(missing.Properties()->Item(u"Type"_s).toString(), u"Class"_s);
     ASSERT_EQ(logRecords().size(), 1);
     EXPECT_TRUE(logRecords().first().contains(u"53 - File not found"_s));
 
     writeFile(u"plain.bas"_s, crlf("Option Explicit\nSub A()\nEnd Sub\n"));
     VirtualSourceFile anonymous;
-    EXPECT_EQ(anonymous.InitFileFromVBProjectFileLine(u"Module=plain.bas"_s, folder()), 2);
+    EXPECT_EQ(anonymous.InitFileFromVBProjectFileLine(u"Module=plain.bas"_s, path({})), 2);
     EXPECT_EQ(anonymous.Name(), path(u"plain.bas"_s));
     // An empty file fails in its first read.
     writeFile(u"empty.bas"_s, QByteArray());
     VirtualSourceFile empty;
-    EXPECT_EQ(empty.InitFileFromVBProjectFileLine(u"Module=empty.bas"_s, folder()), 2);
+    EXPECT_EQ(empty.InitFileFromVBProjectFileLine(u"Module=empty.bas"_s, path({})), 2);
     EXPECT_TRUE(logRecords().last().contains(u"62 - Input past end of file"_s));
 }
 
@@ -239,31 +229,16 @@ TEST_F(SourceFileReader, ConnectingToAMissingFileIsLogged)
     EXPECT_TRUE(records[0].contains(u"53 - File not found#VirtualSourceFile::ConnectFile"_s));
     EXPECT_EQ(records[1],
               u"Failed to open file "_s + path(u"gone.bas"_s) + u" - Error 53 File not found"_s);
-    QString raw, logical;
-    qint32 physical = 0, length = 0;
-    EXPECT_FALSE(file.GetNextSourceLine(raw, logical, physical, length));
+    EXPECT_TRUE(readAll(file).empty());
 }
 
 // ---- Line statistics ----
 
-// Blank, comment-only, in-line comment, code and total lines.
-using Counts = std::array<int, 5>;
-
-Counts countedByReader(VirtualSourceFile &file)
-{
-    EXPECT_EQ(file.CountSourceLines(), 0);
-    EXPECT_TRUE(file.FileStats()->HasLSTATS());
-    const auto s = file.FileStats()->LineStats();
-    return {s->BlankLines(),
-            s->CommentOnlyLines(),
-            s->InLineCommentLines(),
-            s->CodeLines(),
-            s->TotalLines()};
-}
-
 TEST_F(SourceFileReader, LineStatisticsOfKnownFiles)
 {
     QUORIN_REQUIRE_VB6_DATA(dir);
+    // Blank, comment-only, in-line comment, code and total lines.
+    using Counts = std::array<int, 5>;
     const std::pair<const char *, Counts> files[] = {
         {"/Suite/App/modMain.bas", {9, 3, 2, 44, 56}},
         {"/Suite/Core/cInvoice.cls", {5, 0, 0, 23, 28}}, // a member attribute inside the code
@@ -273,7 +248,16 @@ TEST_F(SourceFileReader, LineStatisticsOfKnownFiles)
     for (const auto &[name, counts] : files) {
         VirtualSourceFile file;
         file.setFilename(dir + QLatin1String(name));
-        EXPECT_EQ(countedByReader(file), counts) << name;
+        EXPECT_EQ(file.CountSourceLines(), 0);
+        ASSERT_TRUE(file.FileStats()->HasLSTATS());
+        const auto s = file.FileStats()->LineStats();
+        EXPECT_EQ((Counts{s->BlankLines(),
+                          s->CommentOnlyLines(),
+                          s->InLineCommentLines(),
+                          s->CodeLines(),
+                          s->TotalLines()}),
+                  counts)
+            << name;
     }
 }
 

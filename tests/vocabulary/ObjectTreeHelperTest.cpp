@@ -19,7 +19,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
 #include <stdexcept>
 #include <vector>
 
@@ -34,18 +33,16 @@ struct Walked
 };
 
 // Every node in the order shown, with its depth below the top level.
-void walk(const RuleTree &tree, const std::vector<int> &nodes, int depth, std::vector<Walked> &out)
-{
-    for (const int index : nodes) {
-        out.push_back({index, depth});
-        walk(tree, tree.node(index).children, depth + 1, out);
-    }
-}
-
 std::vector<Walked> walk(const RuleTree &tree)
 {
     std::vector<Walked> out;
-    walk(tree, tree.topLevel(), 0, out);
+    const auto visit = [&](const auto &self, const std::vector<int> &nodes, int depth) -> void {
+        for (const int index : nodes) {
+            out.push_back({index, depth});
+            self(self, tree.node(index).children, depth + 1);
+        }
+    };
+    visit(visit, tree.topLevel(), 0);
     return out;
 }
 
