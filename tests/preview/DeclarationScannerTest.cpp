@@ -80,12 +80,10 @@ TEST(DeclarationScanner, FindsEveryKindOfObjectAndEveryLineItsParserEvents)
         }
         ASSERT_TRUE(read) << recorder.file.toStdString() << ": " << problem.toStdString();
         // Counted as the project reader counts the same file.
-        const qint32 total = scanner.lines().TotalLines();
-        const qint32 code = scanner.lines().CodeLines();
+        const std::pair counted{scanner.lines().TotalLines(), scanner.lines().CodeLines()};
         ASSERT_EQ(source->CountSourceLines(), 0);
-        EXPECT_EQ(total, source->FileStats()->LineStats()->TotalLines())
-            << recorder.file.toStdString();
-        EXPECT_EQ(code, source->FileStats()->LineStats()->CodeLines())
+        const auto stats = source->FileStats()->LineStats();
+        EXPECT_EQ(counted, std::pair(stats->TotalLines(), stats->CodeLines()))
             << recorder.file.toStdString();
     }
 

@@ -10,11 +10,9 @@
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
 #include "rulebase/UnauthorisedKeyword.h"
-#include "tools/ProjectLineCounter.h"
 
 #include "support/TestEnvironment.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 #include <gtest/gtest.h>

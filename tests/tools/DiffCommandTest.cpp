@@ -1,33 +1,10 @@
 #include "ToolTestSupport.h"
 
-#include "support/TestEnvironment.h"
-
 #include <QJsonArray>
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// The three lines of one rule: its element, its violation and its end tag.
-QByteArray ruleLines(const QByteArray &text, const QByteArray &ruleID)
-{
-    const qsizetype at = text.indexOf("RuleID=\"" + ruleID + "\"");
-    const qsizetype start = text.lastIndexOf('\n', at) + 1;
-    const qsizetype end
-        = text.indexOf("</CodingConvention>", at) + int(sizeof("</CodingConvention>"));
-    return text.mid(start, end - start);
-}
-
-QByteArray removed(QByteArray text, const QByteArray &part)
-{
-    const qsizetype at = text.indexOf(part);
-    EXPECT_GE(at, 0) << part.toStdString();
-    return at < 0 ? text : text.remove(at, part.size());
-}
-
-} // namespace
 
 TEST(DiffCommand, ARulebaseEqualsItselfAndAnUnreadableSideIsAnError)
 {
@@ -81,8 +58,12 @@ TEST(DiffCommand, ChangesComeBySectionAndKeyFieldByFieldWithConditionsAsUnifiedD
                   "%TAB%%TAB%Call Quorin.CancelPendingViolation()",
                   "%TAB%%TAB%Quorin.CancelPendingViolation");
     replaceOnLine(edited, "RuleID=\"5024\"", "SeverityLevel=\"1\"", "SeverityLevel=\"2\"", 1);
-    const QByteArray typedArguments = ruleLines(edited, "5030");
-    edited = removed(edited, typedArguments);
+    // Rule 5030 taken out (its element, violation and end tag) and put back as 5200.
+    const qsizetype rule = edited.lastIndexOf('\n', edited.indexOf("RuleID=\"5030\"")) + 1;
+    const QByteArray end = "</CodingConvention>\n";
+    const QByteArray typedArguments
+        = edited.mid(rule, edited.indexOf(end, rule) + end.size() - rule);
+    edited.remove(edited.indexOf(typedArguments), typedArguments.size());
     QByteArray copy = typedArguments;
     copy.replace("RuleID=\"5030\"", "RuleID=\"5200\"")
         .replace("Title=\"Typed arguments\"", "Title=\"Typed arguments, again\"");

@@ -2,7 +2,6 @@
 
 #include "rulebase/RuleLists.h"
 #include "rulebase/Rulebase.h"
-#include "support/TestEnvironment.h"
 
 #include <QDir>
 #include <QFileInfo>

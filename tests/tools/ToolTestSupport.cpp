@@ -7,9 +7,6 @@
 #include "tools/QrbTool.h"
 #include "tools/ToolContext.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonDocument>
 #include <QRegularExpression>
 #include <QTextStream>
@@ -111,10 +108,4 @@ std::shared_ptr<Rulebase> loadQuietly(const QString &filename)
     auto rulebase = RulebaseManager().LoadRulebase(filename);
     EXPECT_TRUE(ui.messages.empty()) << ui.messageTexts().join(QLatin1Char('\n')).toStdString();
     return rulebase;
-}
-
-QString vb6DataDir()
-{
-    const QString dir = TestEnvironment::sharedDataDir() + u"/vb6"_s;
-    return QFileInfo(dir).isDir() ? QDir(dir).absolutePath() : QString();
 }

@@ -45,6 +45,3 @@ QByteArray sampleInOldSchema(const QString &version);
 
 // Loads as the administrator; a message shown while loading fails the test.
 std::shared_ptr<Rulebase> loadQuietly(const QString &filename);
-
-// The shared VB6 projects, or empty when they are not there.
-QString vb6DataDir();
