@@ -1,5 +1,4 @@
 #include "PreviewTestSupport.h"
-#include "support/QtPrinters.h"
 
 #include "preview/CatalogueObject.h"
 #include "preview/ParserEvent.h"

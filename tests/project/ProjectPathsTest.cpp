@@ -4,6 +4,8 @@
 #include "project/FolderListingCache.h"
 #include "project/modQuorinUtils.h"
 
+#include <QDir>
+
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -80,6 +82,12 @@ TEST_F(ProjectPaths, ResolvingTakesEverySpellingAndGivesBackWhatItCannotWalk)
     };
     for (const QString &spelling : found)
         EXPECT_EQ(CaseInsensitivePath::resolve(spelling), real) << spelling.toStdString();
+    // Relative to the current folder, where a two-letter folder is no drive.
+    writeFile(u"Ab/Two.frm"_s, "x");
+    const QString current = QDir::currentPath();
+    QDir::setCurrent(m_dir);
+    EXPECT_EQ(CaseInsensitivePath::resolve(u"aB\\two.FRM"_s), u"Ab/Two.frm"_s);
+    QDir::setCurrent(current);
     const QString unchanged[] = {
         QString(),
         u"/"_s,

@@ -50,6 +50,7 @@ TEST(DiffCommand, ChangesComeBySectionAndKeyFieldByFieldWithConditionsAsUnifiedD
                   "Title=\"Declarations\"",
                   "Title=\"Declarations and scope\"");
     replaceOnLine(edited, "TagName=\"VB.Form\"", "TagValue=\"frm\"", "TagValue=\"form\"");
+    replaceOnLine(edited, "Filename=\"MSCOMCT2.OCX\"", "DTPicker and UpDown", "DTPicker");
     const qsizetype grid
         = edited.lastIndexOf('\n', edited.indexOf("Filename=\"MSFLXGRD.OCX\"")) + 1;
     edited.remove(grid, edited.indexOf('\n', grid) + 1 - grid);
@@ -86,6 +87,10 @@ TEST(DiffCommand, ChangesComeBySectionAndKeyFieldByFieldWithConditionsAsUnifiedD
           u"    TagValue: \"frm\" -> \"form\"\n"
           u"removed authorised component {5E9E78A0-531B-11CF-91F6-C2863C385E30} "
           u"\"MSFLXGRD.OCX\"\n"
+          u"changed authorised component {86CF1D34-0C5F-11D2-A9FC-0000F8754DA1} "
+          u"\"MSCOMCT2.OCX\"\n"
+          u"    Advice: \"DTPicker and UpDown only. Any version may be used.\" -> "
+          u"\"DTPicker only. Any version may be used.\"\n"
           u"changed rule 5024 coding convention \"Option Explicit\"\n"
           u"    Condition:\n"
           u"        @@ -1,5 +1,5 @@\n"
@@ -123,10 +128,11 @@ TEST(DiffCommand, ChangesComeBySectionAndKeyFieldByFieldWithConditionsAsUnifiedD
                            u"changed category 4"_s,
                            u"changed control-tag VB.Form"_s,
                            u"removed authorised-component {5E9E78A0-531B-11CF-91F6-C2863C385E30}"_s,
+                           u"changed authorised-component {86CF1D34-0C5F-11D2-A9FC-0000F8754DA1}"_s,
                            u"changed rule 5024"_s,
                            u"removed rule 5030"_s,
                            u"added rule 5200"_s}));
-    const QJsonArray fields = changes.at(4).toObject().value(u"fields"_s).toArray();
+    const QJsonArray fields = changes.at(5).toObject().value(u"fields"_s).toArray();
     ASSERT_EQ(fields.size(), 2);
     const QJsonObject condition = fields.at(0).toObject();
     EXPECT_EQ(condition.value(u"field"_s).toString(), u"Condition"_s);
@@ -135,9 +141,9 @@ TEST(DiffCommand, ChangesComeBySectionAndKeyFieldByFieldWithConditionsAsUnifiedD
     EXPECT_EQ(fields.at(1).toObject().value(u"new"_s).toString(), u"2"_s);
     // An added rule carries its new values only, a removed one its old values only.
     const QJsonObject added
-        = changes.at(6).toObject().value(u"fields"_s).toArray().at(0).toObject();
+        = changes.at(7).toObject().value(u"fields"_s).toArray().at(0).toObject();
     EXPECT_FALSE(added.contains(u"old"_s));
     EXPECT_EQ(added.value(u"new"_s).toString(), u"coding convention"_s);
-    const QJsonObject gone = changes.at(5).toObject().value(u"fields"_s).toArray().at(0).toObject();
+    const QJsonObject gone = changes.at(6).toObject().value(u"fields"_s).toArray().at(0).toObject();
     EXPECT_FALSE(gone.contains(u"new"_s));
 }

@@ -7,6 +7,7 @@
 
 #include <memory>
 
+#include "support/QtPrinters.h"
 #include "support/TestEnvironment.h"
 
 class Rulebase;

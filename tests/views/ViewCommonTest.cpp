@@ -98,10 +98,12 @@ TEST(ViewCommon, RowsShowTheRuleAndUpdateRewritesThemInPlace)
 
     rule->setPendingViolation(false);
     rule->setRuleActive(false);
+    rule->ViolationDefinition()->setImpact(321);
     UpdateRuleInList(
         *rule, 1, list, *sample.rulebase->CategoryList(), *sample.rulebase->SeverityList());
     EXPECT_EQ(list.text(1), u"0012"_s);
     EXPECT_EQ(list.key(1), u"12Key"_s);
+    EXPECT_EQ(list.subItemText(1, 3), u"321"_s);
     EXPECT_EQ(list.foreColor(1), 255);
     EXPECT_EQ(list.subItemForeColor(1, 2), 255);
     EXPECT_EQ(list.subItemForeColor(1, 3), list.foreColor());
