@@ -145,7 +145,7 @@ TEST(BasicParser, GoesOnAtTheNextLineAndReportsEveryError)
 TEST(BasicParser, ConditionalCompilationFollowsTheConstants)
 {
     const QString text
-        = code("#Const B = 2|#Const C = B * 2 + 1|Sub Main|"
+        = code("#Const B = 1|#Const C = 4 / B + 1|Sub Main|"
                "#If C = 5 And Not Mac Then|  a = (|#ElseIf True Then|  b = (|#End If|"
                "#If Undefined Or Win64 Then|  c = (|"
                "#ElseIf \"1\" + 1 = 2 And &H10 = 16 Then|  d = (|#End If|"
