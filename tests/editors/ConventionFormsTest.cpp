@@ -346,6 +346,8 @@ TEST(NamingConventionForm, RowsOpenTopDownByKind)
     EXPECT_FALSE(rows[2].textEnabled);
     EXPECT_FALSE(rows[2].actionEnabled);
     EXPECT_TRUE(rows[3].kindEnabled);
+    o.prefixKind(3, 1); // the last row opens no row below it
+    EXPECT_TRUE(rows[3].textEnabled);
 
     // The blank kind in row 1 empties and closes rows 1 to 3.
     o.prefixKind(1, 0);

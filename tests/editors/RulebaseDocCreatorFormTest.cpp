@@ -147,6 +147,7 @@ TEST_F(DocCreatorForm, AStoredPlanFollowsTheRulebaseAcrossRuns)
         // Naming above Errors, Zeta handler to the bottom of Errors, and the scope table out;
         // rows and selection follow each move, and a move past an end does nothing.
         first.clickSection(0);
+        EXPECT_EQ(first.selectedRule(), 0); // a category opens on its first rule
         EXPECT_FALSE(first.moveSectionUpEnabled());
         first.moveSectionUp();
         first.moveSectionDown();
