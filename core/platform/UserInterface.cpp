@@ -4,7 +4,7 @@
 
 namespace {
 
-// Used when nothing else is installed: says what it would show and answers the default.
+// Used when nothing else is installed: says what it would show and changes nothing.
 class HeadlessUserInterface final : public UserInterface
 {
 public:
@@ -15,15 +15,7 @@ public:
                              MessageResult) override
     {
         QTextStream(stderr) << title << ": " << text << Qt::endl;
-        switch (buttons) {
-        case MessageButtons::OK:
-        case MessageButtons::OKCancel:
-            return MessageResult::OK;
-        case MessageButtons::YesNo:
-        case MessageButtons::YesNoCancel:
-            return MessageResult::No;
-        }
-        return MessageResult::OK;
+        return cautiousAnswer(buttons);
     }
     bool getOpenFilename(FileDialogRequest &) override { return false; }
     bool getSaveFilename(FileDialogRequest &) override { return false; }
@@ -58,6 +50,20 @@ void UserInterface::install(UserInterface *ui)
 QString programTitle()
 {
     return QStringLiteral("Quorin Administrator");
+}
+
+MessageResult cautiousAnswer(MessageButtons buttons)
+{
+    switch (buttons) {
+    case MessageButtons::OK:
+        return MessageResult::OK;
+    case MessageButtons::YesNo:
+        return MessageResult::No;
+    case MessageButtons::OKCancel:
+    case MessageButtons::YesNoCancel:
+        break;
+    }
+    return MessageResult::Cancel;
 }
 
 void showWarning(const QString &text, const QString &title)

@@ -42,7 +42,7 @@ public:
     // the person declined (and always here, where nobody can be asked).
     virtual bool getText(const QString &prompt, const QString &title, QString &value);
 
-    // The process-wide interface; a headless one (stderr, default answers) until one is installed.
+    // The process-wide interface; a headless one (stderr, cautious answers) until one is installed.
     static UserInterface &current();
     // Not owned; pass nullptr to go back to the headless one.
     static void install(UserInterface *ui);
@@ -50,6 +50,10 @@ public:
 
 // The program's title, carried by every message box that is given none.
 QString programTitle();
+
+// What a box of these buttons gets where nobody can be asked: the answer that changes nothing
+// (Cancel, else No), whatever the box's own default.
+MessageResult cautiousAnswer(MessageButtons buttons);
 
 // The box shapes the logic uses, each on UserInterface::current(). Every question names its
 // default answer: No where Yes would delete or discard something.

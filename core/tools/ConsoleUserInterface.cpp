@@ -37,20 +37,6 @@ ConsoleUserInterface::~ConsoleUserInterface()
         gobjLogFile.reset();
 }
 
-MessageResult ConsoleUserInterface::defaultAnswer(MessageButtons buttons)
-{
-    switch (buttons) {
-    case MessageButtons::OK:
-        return MessageResult::OK;
-    case MessageButtons::OKCancel:
-    case MessageButtons::YesNoCancel:
-        return MessageResult::Cancel;
-    case MessageButtons::YesNo:
-        return MessageResult::No;
-    }
-    return MessageResult::Cancel;
-}
-
 MessageResult ConsoleUserInterface::messageBox(
     const QString &text, MessageButtons buttons, MessageIcon, const QString &title, MessageResult)
 {
@@ -61,7 +47,7 @@ MessageResult ConsoleUserInterface::messageBox(
         *m_echo << "qrbtool: " << message << '\n';
         m_echo->flush();
     }
-    return defaultAnswer(buttons);
+    return cautiousAnswer(buttons);
 }
 
 bool ConsoleUserInterface::getOpenFilename(FileDialogRequest &)

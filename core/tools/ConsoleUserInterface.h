@@ -40,9 +40,6 @@ public:
     QStringList messages() const { return m_messages; }
     QStringList takeMessages();
 
-    // The answer a console gives to a box of these buttons.
-    static MessageResult defaultAnswer(MessageButtons buttons);
-
 private:
     QTextStream *m_echo = nullptr;
     QStringList m_messages;
