@@ -32,6 +32,7 @@ TEST(KeywordChecker, FindsTheLiteralsEveryMatchOfAPatternHolds)
         {"\u00c4BC", {"\u00e4bc"}},
         {"[a-z]+", {}},
         {"a|[0-9]", {}},
+        {R"([\]|x]y)", {"y"}}, // a bar inside a class, behind an escaped bracket, splits nothing
         {"(?x) g o", {}},
         {R"(\QGo\E)", {}},
     };

@@ -205,7 +205,10 @@ TEST(AuthorisedItemsView, DeleteAsksThenRemovesFromTheRulebaseAndTheList)
     EXPECT_TRUE(s.rulebase->Dirty());
 
     list.click(1);
-    list.select(2, true);
+    s.ui.answers = {MessageResult::Yes};
+    s.view->DeleteItems();
+    EXPECT_EQ(s.form.statusText, u"1 Item"_s);
+    list.click(1);
     s.ui.answers = {MessageResult::Yes};
     s.view->DeleteItems();
     EXPECT_EQ(list.count(), 0);
@@ -216,7 +219,7 @@ TEST(AuthorisedItemsView, DeleteAsksThenRemovesFromTheRulebaseAndTheList)
     EXPECT_FALSE(s.tool("tlOpenRule"));
     // With no row selected nothing is asked.
     s.view->DeleteItems();
-    EXPECT_EQ(s.ui.messages.size(), 3u);
+    EXPECT_EQ(s.ui.messages.size(), 4u);
 
     s.click("UK");
     const QString keyword = list.key(1);
