@@ -2,6 +2,7 @@
 
 #include "collections/ObjectKeyedArrayList.h"
 #include "preview/CatalogueObject.h"
+#include "preview/DeclarationParser.h"
 #include "preview/DeclarationScanner.h"
 #include "preview/DeclaredObject.h"
 #include "preview/ParserEvent.h"
@@ -205,4 +206,30 @@ TEST(DeclarationScanner, FindsEveryKindOfObjectAndEveryLineItsParserEvents)
     EXPECT_EQ(recorder.texts.value(u"modKinds.bas:6"_s), u"Const PRIVATE_NAME = \"\""_s);
     EXPECT_FALSE(recorder.texts.contains(u"modKinds.bas:3"_s));
     EXPECT_FALSE(recorder.events.contains(u"cKinds.cls:13"_s)); // a member attribute
+}
+
+// An untyped constant takes the smallest type its value fits, as the compiler gives it.
+TEST(DeclarationParser, AnUntypedConstantTakesTheTypeItsValueFits)
+{
+    const std::pair<const char *, const char *> values[] = {
+        {"32767", "Integer"},
+        {"-32768", "Integer"},
+        {"32768", "Long"},
+        {"-32769", "Long"},
+        {"2147483647", "Long"},
+        {"-2147483648", "Long"},
+        {"2147483648", "Double"},
+        {"1.5", "Double"},
+        {"5&", "Long"},
+        {"&HFFFF", "Integer"},
+        {"&H10000", "Long"},
+        {"\"\"", "String"},
+        {"#1/2/2003#", "Date"},
+        {"true", "Boolean"},
+    };
+    for (const auto &[value, type] : values) {
+        const auto statement = DeclarationParser::parse(u"Const C = "_s + QLatin1String(value));
+        ASSERT_EQ(statement.items.size(), 1u) << value;
+        EXPECT_EQ(statement.items[0].dataType, QLatin1String(type)) << value;
+    }
 }
