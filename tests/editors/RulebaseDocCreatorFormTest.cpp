@@ -214,10 +214,12 @@ TEST_F(DocCreatorForm, AnUncheckedTableComesBackLastWithItsText)
     form.setRulebase(rulebase);
     form.Load();
     form.clickSection(2);
+    form.moveSectionUp();
+    form.moveSectionUp(); // the table stands first, still selected
     form.clickTable(0);
     form.editTableTitle(u"Controls"_s);
     form.editTableDescription(u"Prefixes of controls."_s);
-    EXPECT_EQ(form.sectionRows()[2].text, u"Controls"_s);
+    EXPECT_EQ(form.sectionRows()[0].text, u"Controls"_s);
     EXPECT_EQ(form.sectionDescription(), u"Prefixes of controls."_s);
     EXPECT_TRUE(rulebase->Report()->Dirty());
 
