@@ -11,9 +11,9 @@
 #include "views/IViewController.h"
 #include "views/ViewFactory.h"
 
-#include "../editors/RulebaseFormScripts.h"
 #include "support/MemoryMainForm.h"
 #include "support/RecordingView.h"
+#include "support/RulebaseFormScripts.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 

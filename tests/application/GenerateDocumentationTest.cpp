@@ -7,8 +7,8 @@
 #include "rulebase/Rulebase.h"
 #include "views/IMainForm.h"
 
-#include "../editors/RulebaseFormScripts.h"
 #include "support/MemoryMainForm.h"
+#include "support/RulebaseFormScripts.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 

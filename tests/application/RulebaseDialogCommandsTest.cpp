@@ -10,9 +10,9 @@
 #include "rulebase/Rulebase.h"
 #include "rulebase/ViolationDefinition.h"
 
-#include "../editors/RulebaseFormScripts.h"
 #include "support/MemoryMainForm.h"
 #include "support/RecordingView.h"
+#include "support/RulebaseFormScripts.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 

@@ -8,8 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-
 // Lines joined as the editor hands them over, with CR LF.
 inline QString script(const QStringList &lines)
 {

@@ -12,7 +12,7 @@
 #include "rulebase/SeverityItem.h"
 #include "rulebase/ViolationDefinition.h"
 
-#include "RulebaseFormScripts.h"
+#include "support/RulebaseFormScripts.h"
 #include "support/ScriptedUserInterface.h"
 #include "support/TestEnvironment.h"
 

@@ -12,8 +12,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-
 // Installs a quiet log in a fresh folder for each test, so tests can read what was logged.
 class XmlTest : public ::testing::Test
 {
